@@ -1,0 +1,65 @@
+#include "Smatrix.h"
+
+#include "frame/companions.h"
+#include "frame/numbers.h"
+
+#include <algorithm>
+#include <cstdint>
+
+using vecmat::elementCount;
+
+namespace {
+
+/// A pattern that debug builds of the callers leave in an unset pointer; such a receiver is never read.
+constexpr std::uintptr_t unsetPattern = 0xcccccccc;
+
+} // namespace
+
+// Every public constructor delegates to this one, so that the destructor releases what was allocated before a failure.
+Smatrix::Smatrix(Shape shape)
+    : nElems(elementCount(shape.rows, shape.cols)), nRows(shape.rows), nCols(shape.cols), X(new std::wstring[nElems])
+{
+}
+
+Smatrix::Smatrix(int rows, int cols) : Smatrix(Shape{rows, cols}) {}
+
+Smatrix::Smatrix(int rows, int cols, wchar_t** src, int srcRows, int srcCols) : Smatrix(Shape{rows, cols})
+{
+    const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
+    const unsigned read = std::min(given, nElems);
+    for (unsigned k = 0; k < read; ++k)
+        if (src[k] != nullptr)
+            X[k] = CW162W32(src[k]);
+}
+
+Smatrix::Smatrix(Smatrix& src) : Smatrix(Shape{src.nRows, src.nCols})
+{
+    std::copy_n(src.X, nElems, X);
+}
+
+Smatrix::~Smatrix()
+{
+    delete[] X;
+}
+
+void Smatrix::matCheck(Smatrix*& ref, int rows, int cols)
+{
+    const bool exact = ref != nullptr && reinterpret_cast<std::uintptr_t>(ref) != unsetPattern && ref->nRows == rows &&
+                       ref->nCols == cols;
+    if (!exact)
+        ref = new Smatrix(rows, cols);
+}
+
+void Smatrix::copyMatTo(Smatrix* dst)
+{
+    dst->nRows = nRows;
+    dst->nCols = nCols;
+    dst->nElems = nElems;
+    if (dst->X != X)
+        std::copy_n(X, nElems, dst->X);
+}
+
+void Smatrix::copyMatTo(wchar_t** dst)
+{
+    std::transform(X, X + nElems, dst, [](const std::wstring& text) { return SysAllocString2(text.c_str()); });
+}

@@ -1,0 +1,39 @@
+// What the library asks of its three companion libraries. It holds none of their code and links them dynamically, so
+// that another build of a companion can take the place of the one in this repository.
+#pragma once
+
+#include <string>
+
+extern "C" {
+
+/// CompanionRandom: opens a series. Called once before the first draw.
+void GetSeed(int* seed, int seedFlag);
+/// The next uniform number of the series, at least 0 and below 1.
+double Random01(void);
+/// Closes a series, also one without draws, and stores the seed with which a later one goes on.
+void GetSeedUpdate(int* seedOut);
+
+/// CompanionRuntime: the text of a 16-bit BSTR in 32-bit characters; valid up to the thread's next call.
+const wchar_t* CW162W32(const void* bstr);
+/// A new BSTR that the caller owns, also for an empty text.
+wchar_t* SysAllocString2(const wchar_t* text);
+/// The number that the text spells, 0.0 where no number leads.
+double _wtof(const wchar_t* text);
+
+/// CompanionBasics: the square root, not the square.
+double sqr(double x);
+/// The magnitude of a with the sign of b; a zero b counts as positive.
+double FSign(double a, double b);
+/// -1 if x has no fractional part, else 0.
+short IsLong(double x);
+double Log10(double x);
+int Mod(int a, int b);
+
+} // extern "C"
+
+/// How many times c occurs in s, without overlap.
+int cChrCount(const std::wstring& s, const std::wstring& c);
+/// The part of s between two delimiters.
+std::wstring cStrBetweenChrAndChr(const std::wstring& s, const std::wstring& left, const std::wstring& right);
+/// The library's string for a caller's BSTR.
+std::wstring convToWstring(const void* text);

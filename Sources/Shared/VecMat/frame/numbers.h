@@ -1,0 +1,33 @@
+// Conversions and products of dimensions with defined results for every input.
+#pragma once
+
+#include <limits>
+
+namespace vecmat {
+
+/// Truncation towards zero. A NaN and a value outside the range of int give the lowest int, as the processor does.
+constexpr int truncated(double x)
+{
+    return x > -2147483649.0 && x < 2147483648.0 ? static_cast<int>(x) : std::numeric_limits<int>::min();
+}
+
+/// Number of cells of a rows by cols table: a 32-bit product that wraps without a test. A negative dimension has no
+/// cells, so that no table claims cells that nobody allocated.
+constexpr unsigned elementCount(int rows, int cols)
+{
+    return rows < 0 || cols < 0 ? 0u : static_cast<unsigned>(rows) * static_cast<unsigned>(cols);
+}
+
+/// A count that drives an allocation or a copy: none where it is negative.
+constexpr unsigned countOf(int n)
+{
+    return n < 0 ? 0u : static_cast<unsigned>(n);
+}
+
+/// Position in the block of the cell (i, j), both from 0. Wraps, so that a negative position fails every bound check.
+constexpr unsigned linearIndex(int i, int j, int nRows)
+{
+    return static_cast<unsigned>(i) + static_cast<unsigned>(j) * static_cast<unsigned>(nRows);
+}
+
+} // namespace vecmat

@@ -1,0 +1,276 @@
+#include "matrix.h"
+
+#include "frame/missing_value.h"
+#include "frame/numbers.h"
+#include "matrixInt.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+using vecmat::countOf;
+using vecmat::elementCount;
+using vecmat::linearIndex;
+using vecmat::outOfRangeValue;
+using vecmat::truncated;
+
+namespace {
+
+// The inline accessors are part of the binary interface too: taking their addresses emits them out of line.
+[[gnu::used]] double (matrix::*const emittedGet)(int, int) = &matrix::vbget;
+[[gnu::used]] void (matrix::*const emittedSet)(int, int, double) = &matrix::vbset;
+
+/// A pattern that debug builds of the callers leave in an unset pointer; such a receiver is never read.
+constexpr std::uintptr_t unsetPattern = 0xcccccccc;
+
+double* copyOf(const double* src, unsigned n)
+{
+    return std::copy_n(src, n, new double[n]) - n;
+}
+
+bool canHold(const matrix* table, int rows, int cols)
+{
+    return table != nullptr && reinterpret_cast<std::uintptr_t>(table) != unsetPattern && table->nRows >= rows &&
+           table->nCols >= cols;
+}
+
+/// Cells of one table in linear order with the checks of the accessors.
+double readLinear(const matrix& table, unsigned k)
+{
+    return k < table.nElems ? table.X[k] : outOfRangeValue;
+}
+
+void writeLinear(matrix& table, unsigned k, double value)
+{
+    if (k < table.nElems)
+        table.X[k] = value;
+}
+
+} // namespace
+
+// Every public constructor delegates to this one, so that the destructor releases what was allocated before a failure.
+matrix::matrix(Shape shape) : nRows(shape.rows), nCols(shape.cols), nElems(elementCount(shape.rows, shape.cols)) {}
+
+matrix::matrix(int rows, int cols, int value) : matrix(rows, cols, static_cast<double>(value)) {}
+
+matrix::matrix(int rows, int cols, double value) : matrix(Shape{rows, cols})
+{
+    X = new double[nElems];
+    std::fill_n(X, nElems, value);
+}
+
+matrix::matrix(int rows, int cols, double* src, bool view) : matrix(Shape{rows, cols})
+{
+    ownsX = view ? 0 : 1;
+    X = view ? src : copyOf(src, nElems);
+}
+
+matrix::matrix(int rows, int cols, double* src, int srcRows, int srcCols) : matrix(Shape{rows, cols})
+{
+    const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
+    const unsigned copied = std::min(given, nElems);
+    X = new double[nElems];
+    std::copy_n(src, copied, X);
+    std::fill(X + copied, X + nElems, 0.0);
+    allocateClearedCounts();
+}
+
+matrix::matrix(int rows, int cols, short* src) : matrix(Shape{rows, cols})
+{
+    X = new double[nElems];
+    std::copy_n(src, nElems, X);
+    allocateClearedCounts();
+}
+
+matrix::matrix(int rows, matrix* src) : matrix(Shape{rows, src->nCols})
+{
+    const unsigned columns = countOf(nCols);
+    X = new double[nElems];
+    const unsigned cells = std::min(nElems, src->nElems);
+    std::fill(std::copy_n(src->X, cells, X), X + nElems, outOfRangeValue);
+    if (src->weightcorr != nullptr)
+        weightcorr = copyOf(src->weightcorr, columns);
+    if (src->nCol != nullptr) {
+        nCol = new int[columns];
+        std::copy_n(src->nCol, columns, nCol);
+    }
+    if (src->weights != nullptr) {
+        weights = new double[countOf(rows)];
+        const unsigned known = std::min(countOf(rows), countOf(src->nRows));
+        std::fill(std::copy_n(src->weights, known, weights), weights + countOf(rows), outOfRangeValue);
+    }
+    if (src->normalized == 1) {
+        norMu = copyOf(src->norMu, columns);
+        norSigma = copyOf(src->norSigma, columns);
+        normalized = 1;
+    }
+}
+
+matrix::matrix(matrix& src) : matrix(src.nRows, &src) {}
+
+matrix::~matrix()
+{
+    if (ownsX == 1)
+        delete[] X;
+    delete[] weights;
+    delete[] nCol;
+    delete[] weightcorr;
+    delete[] descMu;
+    delete[] descSigma;
+    delete[] norMu;
+    delete[] norSigma;
+}
+
+// Both pointers must exist on such tables, so that InitnCol and InitWeightcorr leave them alone; nothing reads the
+// entries before it has stored them.
+void matrix::allocateClearedCounts()
+{
+    nCol = new int[countOf(nCols)]();
+    weightcorr = new double[countOf(nCols)]();
+}
+
+double* matrix::GetX()
+{
+    return X;
+}
+
+void matrix::copyMatTo(double* dst)
+{
+    std::copy_n(X, nElems, dst);
+}
+
+void matrix::copyMatTo(double* dst, int* rows, int* cols)
+{
+    *rows = nRows;
+    *cols = nCols;
+    copyMatTo(dst);
+}
+
+void matrix::copyMatTo(short* dst)
+{
+    std::transform(X, X + nElems, dst, [](double x) { return static_cast<short>(x == 0.0 ? 0 : -1); });
+}
+
+void matrix::copyMatTo(matrix* dst)
+{
+    dst->nRows = nRows;
+    dst->nCols = nCols;
+    dst->nElems = nElems;
+    copyMatTo(dst->X);
+}
+
+void matrix::copyMatTo(matrixInt* dst)
+{
+    dst->nRows = nRows;
+    dst->nCols = nCols;
+    dst->nElems = nElems;
+    std::transform(X, X + nElems, dst->X, truncated);
+}
+
+void matrix::vectorizeTo(matrix* dst)
+{
+    dst->nRows = static_cast<int>(static_cast<unsigned>(nRows) * static_cast<unsigned>(nCols));
+    dst->nCols = 1;
+    dst->nElems = nElems;
+    copyMatTo(dst->X);
+}
+
+void matrix::condenseTo(matrix* dst)
+{
+    for (unsigned k = 0; k < dst->nElems; ++k)
+        dst->X[k] = readLinear(*this, k);
+}
+
+void matrix::transposeTo(matrix* dst)
+{
+    dst->nRows = nCols;
+    dst->nCols = nRows;
+    dst->nElems = nElems;
+    for (int i = 0; i < nRows; ++i)
+        for (int j = 0; j < nCols; ++j)
+            writeLinear(*dst, linearIndex(j, i, nCols), readLinear(*this, linearIndex(i, j, nRows)));
+}
+
+void matrix::copyCol(matrix* src, int srcCol, int dstCol)
+{
+    if (srcCol < 0 || dstCol < 0 || srcCol >= src->nCols || dstCol >= nCols)
+        return;
+    for (int i = 0; i < src->nRows; ++i)
+        writeLinear(*this, linearIndex(i, dstCol, nRows), readLinear(*src, linearIndex(i, srcCol, src->nRows)));
+}
+
+void matrix::copyCol(matrixInt* src, int srcCol, int dstCol)
+{
+    if (srcCol < 0 || dstCol < 0 || srcCol >= src->nCols || dstCol >= nCols)
+        return;
+    for (int i = 0; i < src->nRows; ++i)
+        writeLinear(*this, linearIndex(i, dstCol, nRows), src->vbget(i + 1, srcCol + 1));
+}
+
+void matrix::copyLine(matrix* src, int srcRow, int dstRow)
+{
+    if (srcRow < 0 || dstRow < 0 || srcRow >= src->nRows || dstRow >= nRows)
+        return;
+    for (int j = 0; j < src->nCols; ++j)
+        writeLinear(*this, linearIndex(dstRow, j, nRows), readLinear(*src, linearIndex(srcRow, j, src->nRows)));
+}
+
+void matrix::transferLineFrom(matrix* src, int srcRow, int dstRow)
+{
+    if (srcRow < 0 || dstRow < 0 || srcRow >= src->nRows || dstRow >= nRows)
+        return;
+    for (int j = 0; j < src->nCols; ++j) {
+        const unsigned here = linearIndex(dstRow, j, nRows);
+        const unsigned there = linearIndex(srcRow, j, src->nRows);
+        const double kept = readLinear(*this, here);
+        writeLinear(*this, here, readLinear(*src, there));
+        writeLinear(*src, there, kept);
+    }
+}
+
+void matrix::matCheck(matrix*& ref, int rows, int cols, double value)
+{
+    if (canHold(ref, rows, cols)) {
+        std::fill_n(ref->X, std::min(elementCount(rows, cols), ref->nElems), value);
+        return;
+    }
+    delete std::exchange(ref, nullptr);
+    ref = new matrix(rows, cols, value);
+}
+
+void matrix::InitWeights()
+{
+    if (weights != nullptr)
+        return;
+    weights = new double[countOf(nRows)];
+    std::fill_n(weights, countOf(nRows), 1.0);
+}
+
+void matrix::InitWeightcorr()
+{
+    if (weightcorr != nullptr)
+        return;
+    weightcorr = new double[countOf(nCols)];
+    std::fill_n(weightcorr, countOf(nCols), static_cast<double>(nRows) - 1.0);
+}
+
+void matrix::InitnCol()
+{
+    if (nCol != nullptr)
+        return;
+    nCol = new int[countOf(nCols)];
+    std::fill_n(nCol, countOf(nCols), nRows);
+}
+
+void matrix::weighting(double* w)
+{
+    InitWeights();
+    std::copy_n(w, countOf(nRows), weights);
+}
+
+void matrix::weighting(matrix* w)
+{
+    InitWeights();
+    for (unsigned i = 0; i < countOf(nRows); ++i)
+        weights[i] = readLinear(*w, i);
+}

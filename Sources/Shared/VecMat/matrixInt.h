@@ -1,0 +1,75 @@
+// The table of 32-bit integers: category codes, positions, arrays of Longs.
+#pragma once
+
+#include "frame/api.h"
+
+/// The integer twin of `matrix`: column-major, public fields, the same checked access. It has no missing value of its
+/// own and computes nothing in the per-column caches, which it keeps for the sake of the copying constructor.
+class VECMAT_API matrixInt
+{
+public:
+    double* norMu = nullptr;
+    double* norSigma = nullptr;
+    double* descMu = nullptr;
+    double* descSigma = nullptr;
+    double* weights = nullptr;    ///< per row, or null
+    double* weightcorr = nullptr; ///< per column, or null
+    int nRows = 0;
+    int nCols = 0;
+    int normalized = 0;
+    int descDone = 0;
+    unsigned nElems = 0;     ///< nRows * nCols as a 32-bit product
+    int* X = nullptr;        ///< the cells: (i, j), from 0, at `X[i + nRows*j]`
+    int* nCol = nullptr;     ///< per column, or null
+    unsigned char ownsX = 1; ///< 1: the destructor frees X
+    short descMode = 0;
+
+    /// A new block in which every cell is `value`.
+    matrixInt(int rows, int cols, int value);
+
+    /// With `view` the caller's array is used in place; without, its first rows*cols ints are copied. Either way `nCol`
+    /// is filled with `rows` and `weightcorr` with rows - 1, unlike in the twin.
+    matrixInt(int rows, int cols, int* src, bool view);
+
+    /// `rows` rows and the columns of `src`, in linear order; cells beyond the source are -1. Weights, counts and the
+    /// saved means and divisors of a normalized table come along.
+    matrixInt(int rows, matrixInt* src);
+
+    ~matrixInt();
+
+    matrixInt(const matrixInt&) = delete;
+    matrixInt& operator=(const matrixInt&) = delete;
+
+    /// Checked access, 1-based, on the linear index alone: out of range a read gives -1 and a write is dropped.
+    VECMAT_API int vbget(int i, int j)
+    {
+        const unsigned k = position(i, j);
+        return k < nElems ? X[k] : -1;
+    }
+    VECMAT_API void vbset(int i, int j, int v)
+    {
+        const unsigned k = position(i, j);
+        if (k < nElems)
+            X[k] = v;
+    }
+
+    /// All cells in linear order; the form towards a table sets its dimensions and needs a block that is large enough.
+    void copyMatTo(int* dst);
+    void copyMatTo(matrixInt* dst);
+
+    /// Prepares a result as `matrix::matCheck` does, with `value` truncated first; a pointer is tested for null only.
+    static void matCheck(matrixInt*& ref, int rows, int cols, double value);
+
+private:
+    struct Shape
+    {
+        int rows;
+        int cols;
+    };
+    VECMAT_LOCAL explicit matrixInt(Shape shape);
+
+    VECMAT_LOCAL unsigned position(int i, int j) const
+    {
+        return static_cast<unsigned>(i) - 1u + (static_cast<unsigned>(j) - 1u) * static_cast<unsigned>(nRows);
+    }
+};
