@@ -1,0 +1,55 @@
+# The library and the three companion libraries that it imports.
+
+# A shared library with the rules that all of the project's libraries follow.
+function(vecmat_shared_library name)
+    if(NOT ARGN)
+        message(STATUS "No sources yet for the library ${name}: it is built empty")
+        set(ARGN ${PROJECT_BINARY_DIR}/${name}_empty.cpp)
+        file(TOUCH ${ARGN})
+    endif()
+    add_library(${name} SHARED ${ARGN})
+    add_library(VecMat::${name} ALIAS ${name})
+    set_target_properties(${name} PROPERTIES
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vecmat_options>)
+    # The linker script keeps instantiations of the standard library's templates out of the exports: they carry
+    # default visibility of their own and would otherwise appear under the library's name.
+    set(script ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    target_link_options(${name} PRIVATE -Wl,--version-script=${script})
+    set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${script})
+    if(NOT VECMAT_SANITIZE) # the sanitizers' run time is found in the program, not in the library
+        target_link_options(${name} PRIVATE -Wl,--no-undefined)
+    endif()
+endfunction()
+
+set(VECMAT_COMPANIONS CompanionRandom CompanionRuntime CompanionBasics)
+set(companions_source ${PROJECT_SOURCE_DIR}/Sources/Shared/Companions)
+foreach(companion IN LISTS VECMAT_COMPANIONS)
+    if(VECMAT_COMPANIONS_DIR)
+        find_library(VECMAT_${companion}_LIBRARY ${companion} PATHS ${VECMAT_COMPANIONS_DIR} NO_DEFAULT_PATH REQUIRED)
+        add_library(VecMat::${companion} SHARED IMPORTED)
+        set_target_properties(VecMat::${companion} PROPERTIES
+            IMPORTED_LOCATION ${VECMAT_${companion}_LIBRARY}
+            INTERFACE_INCLUDE_DIRECTORIES ${companions_source})
+    else()
+        file(GLOB companion_sources CONFIGURE_DEPENDS ${companions_source}/${companion}/*.cpp)
+        vecmat_shared_library(${companion} ${companion_sources})
+        target_include_directories(${companion} PUBLIC
+            $<BUILD_INTERFACE:${companions_source}>
+            $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat/Companions>)
+    endif()
+    list(APPEND companion_targets VecMat::${companion})
+endforeach()
+
+set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
+file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
+vecmat_shared_library(VecMat ${vecmat_sources})
+target_compile_definitions(VecMat PRIVATE VECMAT_BUILDING)
+target_include_directories(VecMat PUBLIC
+    $<BUILD_INTERFACE:${vecmat_source}>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
+target_link_libraries(VecMat PRIVATE ${companion_targets})
+# Calls inside the library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded;
+# calls to the companions go through the loader and can be taken over by another build.
+target_link_options(VecMat PRIVATE -Wl,-Bsymbolic-functions)
