@@ -115,22 +115,35 @@ public:
     void weighting(double* w);
     void weighting(matrix* w);
 
-    // The members below compute. A `double` member returns -1.0 for a shape or column it cannot work with, else 0.0 or
-    // its value. Cells are read and written with the checks above. "Missing" is the equality test.
+    // The members below compute. A `double` member returns -1.0 for a shape or column it cannot work with, and changes
+    // nothing then; otherwise it returns 0.0 or its value. Cells are read and written with the checks above, so that a
+    // number out of range takes part as -1.0. "Missing" is the equality test: an infinity or a NaN is a cell like any
+    // other. Where weights are read and there are none, `InitWeights` makes them. No member may be given this very
+    // table as a factor of the result that it writes here.
 
-    /// Weighted mean and standard deviation of each column into `descMu`, `descSigma`; missing cells are left out.
-    /// `mode` -1 corrects the sum of weights W to W - W/c, c counting the rows present, those of weight 0 too. Both
-    /// results are missing where no row counts, and sigma where the divisor is not above 0. Runs again only for another
-    /// `mode`.
+    /// Weighted mean and standard deviation of each column into `descMu`, `descSigma`, and the divisor into
+    /// `weightcorr`; the cells stay. Missing cells are left out. `mode` exactly -1 corrects the sum of weights W to
+    /// W - W/c, c counting the rows present, those of weight 0 too, which add nothing else; any other `mode` divides by
+    /// W. Sigma is missing where the divisor is not above 0.0, both results where no row is present or the table has no
+    /// rows. Runs again only for another `mode`, whatever has happened to the cells.
+    ///
+    /// The moments come from running updates in the manner of West, D. H. D. (1979), Updating mean and variance
+    /// estimates: an improved method, Comm. ACM 22 (9), 532-535.
     void calcDescStat(short mode);
+
+    /// The mean and deviation of a column, computed first where they stand for another `mode` or not at all; -1.0 for a
+    /// column out of range.
     double getDescMu(int col, short mode);
     double getDescSigma(int col, short mode);
 
-    /// Centres and reduces in place by the corrected deviation (0.0 divides as 1.0); missing cells stay. A column
-    /// without rows has mean and sigma 0.0. Returns 0, or -1 with nothing changed on a normalized table.
+    /// Centres and reduces each column in place by the moments of `calcDescStat(-1)`, kept in `norMu` and `norSigma`; a
+    /// sigma of 0.0 divides as 1.0, a missing one divides as the number it is. Missing cells stay. A column without a
+    /// present row has mean and sigma 0.0, not the missing value. Returns 0, or -1 with nothing changed on a normalized
+    /// table.
     int Normalize();
 
-    /// Subtracts the weighted mean of each column in place. Returns as `Normalize()`.
+    /// Subtracts the weighted mean of each column in place, kept in `norMu` (0.0 without a present row), with
+    /// `norSigma` 1.0. Missing cells stay. Returns as `Normalize()`.
     int Center();
 
     /// The saved mean and divisor of a column; -1.0 unless `normalized` is 1 and `col` is in range.
@@ -138,74 +151,89 @@ public:
     double getNorSigma(int col);
 
     /// Sum of the present cells divided by `nCol[col]`, which is not their count unless the caller set it so; 0.0 on a
-    /// normalized table.
+    /// normalized table, -1.0 for a column out of range.
     double calcMu(int col);
 
-    /// Divides the column by the root of its sum of squares, untested against 0.0; missing cells stay. Returns 0.0.
+    /// Divides the column by the root of its sum of squares, untested against 0.0; missing cells stay. Has nothing to
+    /// do with `normalized`. Returns 0.0.
     double Normalize(int col);
 
-    /// Sum of squares of the present cells of a column; with `m` over rows i whose cell (other, i) of `m` (`flag`) or
-    /// (i, other) is present too; the weighted form multiplies each square by `weights[i]`.
+    /// Sum of squares of the present cells of a column, 0.0 without rows. With `m`, over the rows i whose cell
+    /// (other, i) of `m` (`flag` true) or (i, other) (false) is present too; the weighted form multiplies each square
+    /// by `weights[i]`, whatever its sign.
     double VInnerProd(int col);
     double VInnerProd(int col, bool flag, int other, matrix* m);
     double VInnerProdWeighted(int col, bool flag, int other, matrix* m);
 
-    /// Weighted sum of products of two columns, where both cells are present and the weight is above 0; -1.0 for other
-    /// rows.
+    /// Sum of x y w over the rows of two columns where both cells are present and the weight of this table is above
+    /// 0.0; -1.0 where the row counts differ.
     double VSProd(int col, matrix* m, int mCol);
 
-    /// Sum of products of two rows, where both cells are present; -1.0 for another column count.
+    /// Sum of products of two rows, where both cells are present, without weights; -1.0 where the column counts differ.
     double transVSProd(int row, matrix* m, int mRow);
 
-    /// Sum of squares of the present cells of a row.
+    /// Sum of squares of the present cells of a row; -1.0 for a row out of range.
     double lineSqrSum(int row);
 
     /// Sum of squared differences of two columns over this table's rows; no missing test.
     double VDiff(matrix* m, int col, int mCol);
 
-    /// Multiplies a row by `f`, missing cells too.
+    /// Multiplies a row by `f`, missing cells too: they stop being missing unless `f` is 1.0.
     void SProd(int row, double f);
 
-    /// Multiplies row r by `w[r]` for r below `n`, missing cells too. Does not touch `weights`.
+    /// `SProd(r, w[r])` for each row r below `n`. Despite its name it does not touch `weights`.
     void weighting(double* w, int n);
 
-    /// Subtracts `m`, which must be at least as large; no missing test.
+    /// Subtracts `m`, each table with its own stride, no missing test; -1.0 where this table has more rows or columns.
     double MDiff(matrix* m);
 
-    /// This table becomes a b, or a' b; the shapes must agree exactly.
+    /// This table becomes a b, or a' b, without a missing test; -1.0 unless all three shapes agree exactly.
     double matProd(matrix* a, matrix* b);
     double transMatProd(matrix* a, matrix* b);
 
-    /// Cell (i, j) becomes a(i, col) b(j, bCol).
+    /// Cell (i, j) becomes a(i, col) b(j, bCol) over all of this table; -1.0 unless `a` has as many rows. Neither the
+    /// rows of `b` nor the missing value are tested.
     double vecProd(matrix* a, int col, matrix* b, int bCol);
 
-    /// Adds one weighted term of a scatter table: f (a(row, i) - b(bRow, i)) (a(row, j) - b(bRow, j)), f the cell `row`
-    /// of v.
+    /// Adds one weighted term of a scatter table: cell (i, j) grows by
+    /// f (a(row, i) - b(bRow, i)) (a(row, j) - b(bRow, j)), f the cell `row` of `v`; -1.0 unless this table has as many
+    /// rows as `a` has columns. No missing test.
     double trans1vecProd(matrix* a, int row, matrix* v, matrix* b, int bRow);
 
-    /// Column `dst` becomes a times column `col` of b; the sums run over this table's column count.
+    /// Column `dst` becomes `a` times column `col` of `b`; -1.0 unless the columns of `a` match the rows of `b`, and
+    /// its rows this table's. The sums run to this table's column count, which must be that of `a` for the full product
+    /// and is not tested.
     double matVecProd(matrix* a, matrix* b, int col, int dst);
 
-    /// The identity minus this table.
+    /// The identity minus this table; no missing test.
     void oneMinus();
 
-    /// Each cell (i, j) loses t(i, k) p(j, k); nothing happens where one of the three is missing.
+    /// Deflation: each cell (i, j) loses t(i, k) p(j, k); it stays where one of the three is missing.
     void subtractResidual(matrix* t, int k, matrix* p);
 
-    /// Sum over k below n and all columns j of t(tRow, k) p(j, k) this(row, j), without terms that have a missing
-    /// factor.
+    /// Sum over k below n and all columns j of t(tRow, k) p(j, k) this(row, j), without the terms that have a missing
+    /// factor; 0.0 for `n` below 1.
     double predictLine(matrix* t, matrix* p, int row, int n, int tRow);
 
-    /// Projection steps: column `col` of `out` takes, for each row (`trans`: column) i of this table, the ratio of the
-    /// sum of products with column `col` of `x` to the sum of squares of `x` over the cells present here; a zero
-    /// divisor is 1.0.
+    /// Projection steps of an iteration in the presence of missing cells. Each cell i of column `col` of `out`, over
+    /// the rows of `out`, takes the ratio of a sum of products with column `col` of `x` to a sum of squares of that
+    /// column; a zero divisor is 1.0. Row i of this table goes into the sums, in the `trans` forms column i; where its
+    /// cell is missing the term is left out of both. The forms differ on purpose:
+    ///
+    /// - A missing cell of `x` is left out of the divisor by all, of the products by `transGaussProdWeighted` only.
+    /// - `GaussProdWeighted` multiplies each product by the one weight of target row i, and adds nothing unless it is
+    ///   above 0.0 (as for a row beyond this table); its divisor has no weights.
+    /// - `transGaussProdWeighted` multiplies each product by the weight of its row where that is above 0.0, and each
+    ///   square of the divisor by the weights of `x`, not of this table.
     void GaussProd(matrix* x, int col, matrix* out);
     void transGaussProd(matrix* x, int col, matrix* out);
     void GaussProdWeighted(matrix* x, int col, matrix* out);
     void transGaussProdWeighted(matrix* x, int col, matrix* out);
 
-    /// Which columns and rows of the block at (row0, col0) are all zero, and in a square block which are zero off the
-    /// diagonal. A NaN is not zero. `diag` is false throughout where `rows` differs from `cols`. Reads are not checked.
+    /// Which of the `cols` columns and `rows` rows of the block at (row0, col0) are zero throughout, and for which i of
+    /// a square block row i and column i are zero off the diagonal, whatever stands on it. A NaN is not zero. `diag`
+    /// has max(rows, cols) entries and is false throughout where `rows` differs from `cols`. Reads are not checked: the
+    /// block must lie inside the table.
     void calcStrucInfo(int rows, int cols, bool* colZero, bool* rowZero, bool* diag, int row0, int col0);
 
     /// Inverse of the leading square block of order `nRows` into `out`, by LU with implicit pivoting on a private copy.
@@ -227,5 +255,5 @@ private:
     }
 };
 
-/// Square root, or the missing value below 0.0.
+/// Square root, or the missing value for `x` below 0.0. A NaN stays one.
 extern "C" VECMAT_API double sqr2(double x);
