@@ -1,0 +1,54 @@
+// Conversion from 16-bit to wide characters, shared by the companions that read a BSTR. Not installed.
+#ifndef COMPANIONS_UTF16_H
+#define COMPANIONS_UTF16_H
+
+#include <cstddef>
+#include <cstring>
+#include <string>
+
+namespace companions {
+
+static_assert(sizeof(wchar_t) == 4, "wide characters hold a whole code point here");
+
+inline bool isHighSurrogate(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+inline bool isLowSurrogate(char16_t unit)
+{
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+// Reads bytes, not units: the text comes from another language, whose type for a unit is its own affair.
+inline char16_t unitAt(const void* text, std::size_t position)
+{
+    char16_t unit;
+    std::memcpy(&unit, static_cast<const char*>(text) + position * sizeof unit, sizeof unit);
+    return unit;
+}
+
+// Appends the text up to its NUL to `wide`. A surrogate pair becomes one character; a surrogate without its partner
+// stays as it is, so that no text is lost on the way there and back. A null pointer is the empty text.
+inline void appendUtf16(const void* text, std::wstring& wide)
+{
+    if (text == nullptr)
+        return;
+    for (std::size_t position = 0;; ++position) {
+        const char16_t unit = unitAt(text, position);
+        if (unit == 0)
+            return;
+        // Behind a high surrogate stands at least the NUL, so the next unit may be read.
+        const char16_t next = isHighSurrogate(unit) ? unitAt(text, position + 1) : char16_t(0);
+        if (isLowSurrogate(next)) {
+            wide.push_back(static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00)));
+            ++position;
+        } else {
+            wide.push_back(static_cast<wchar_t>(unit));
+        }
+    }
+}
+
+} // namespace companions
+
+#endif
