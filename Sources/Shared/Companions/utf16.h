@@ -1,6 +1,5 @@
 // Conversion from 16-bit to wide characters, shared by the companions that read a BSTR. Not installed.
-#ifndef COMPANIONS_UTF16_H
-#define COMPANIONS_UTF16_H
+#pragma once
 
 #include <cstddef>
 #include <cstring>
@@ -20,7 +19,7 @@ inline bool isLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-// Reads bytes, not units: the text comes from another language, whose type for a unit is its own affair.
+/// Reads bytes, not units: the text comes from another language, whose type for a unit is its own affair.
 inline char16_t unitAt(const void* text, std::size_t position)
 {
     char16_t unit;
@@ -28,8 +27,8 @@ inline char16_t unitAt(const void* text, std::size_t position)
     return unit;
 }
 
-// Appends the text up to its NUL to `wide`. A surrogate pair becomes one character; a surrogate without its partner
-// stays as it is, so that no text is lost on the way there and back. A null pointer is the empty text.
+/// Appends the text up to its NUL to `wide`. A surrogate pair becomes one character; a surrogate without its partner
+/// stays as it is, so that no text is lost on the way there and back. A null pointer is the empty text.
 inline void appendUtf16(const void* text, std::wstring& wide)
 {
     if (text == nullptr)
@@ -50,5 +49,3 @@ inline void appendUtf16(const void* text, std::wstring& wide)
 }
 
 } // namespace companions
-
-#endif

@@ -7,26 +7,23 @@
 // the same series on every platform.
 //
 // Every library with these three functions can take this one's place.
-#ifndef COMPANION_RANDOM_H
-#define COMPANION_RANDOM_H
+#pragma once
 
 #define COMPANION_RANDOM_API __attribute__((visibility("default")))
 
 extern "C" {
 
-// Starts a series in this thread. With `seedFlag` exactly -1 it starts from the value in `*seed`, any value, 0 and
-// negative ones included. With any other flag a new seed is drawn from the system's source of randomness, stored in
-// `*seed`, so that the series can be repeated, and the series starts from it. `seed` must not be null.
+/// Starts a series in this thread. With `seedFlag` exactly -1 it starts from the value in `*seed`, any value, 0 and
+/// negative ones included. With any other flag a new seed is drawn from the system's source of randomness, stored in
+/// `*seed`, so that the series can be repeated, and the series starts from it. `seed` must not be null.
 COMPANION_RANDOM_API void GetSeed(int* seed, int seedFlag);
 
-// The next number of the series: uniform over the multiples of 2^-53 from 0 to below 1, never 1.
-// In a thread that has started no series the numbers are those of the twister's default seed, 5489.
+/// The next number of the series: uniform over the multiples of 2^-53 from 0 to below 1, never 1.
+/// In a thread that has started no series the numbers are those of the twister's default seed, 5489.
 COMPANION_RANDOM_API double Random01(void);
 
-// Closes the series: stores in `*seedOut` the value with which a later series goes on (`GetSeed` with flag -1). It
-// depends on the series' seed and on how many numbers were drawn, none included, so that a chain of series is
-// reproducible as a whole. `seedOut` must not be null.
+/// Closes the series: stores in `*seedOut` the value with which a later series goes on (`GetSeed` with flag -1). It
+/// depends on the series' seed and on how many numbers were drawn, none included, so that a chain of series is
+/// reproducible as a whole. `seedOut` must not be null.
 COMPANION_RANDOM_API void GetSeedUpdate(int* seedOut);
 }
-
-#endif

@@ -5,32 +5,29 @@
 // strings have characters of 32 bits.
 //
 // Every library with these functions can take this one's place; `SysFreeString2` is needed only by native callers.
-#ifndef COMPANION_RUNTIME_H
-#define COMPANION_RUNTIME_H
+#pragma once
 
 #define COMPANION_RUNTIME_API __attribute__((visibility("default")))
 
 extern "C" {
 
-// The text of a BSTR, up to its first NUL, in wide characters. A surrogate pair becomes one character; a surrogate
-// without its partner stays as it is. A null pointer gives the empty text. The result belongs to this library and is
-// valid up to the same thread's next call.
+/// The text of a BSTR, up to its first NUL, in wide characters. A surrogate pair becomes one character; a surrogate
+/// without its partner stays as it is. A null pointer gives the empty text. The result belongs to this library and is
+/// valid up to the same thread's next call.
 COMPANION_RUNTIME_API const wchar_t* CW162W32(const void* bstr);
 
-// A new BSTR with the text, which the caller owns. Characters above 0xFFFF become surrogate pairs, numbers that are no
-// character (above 0x10FFFF) the replacement character 0xFFFD. An empty text gives a BSTR of length 0, a null pointer
-// gives null. Exhausted memory is the exception std::bad_alloc.
+/// A new BSTR with the text, which the caller owns. Characters above 0xFFFF become surrogate pairs, numbers that are no
+/// character (above 0x10FFFF) the replacement character 0xFFFD. An empty text gives a BSTR of length 0, a null pointer
+/// gives null. Exhausted memory is the exception std::bad_alloc.
 COMPANION_RUNTIME_API wchar_t* SysAllocString2(const wchar_t* text);
 
-// Frees a BSTR made by `SysAllocString2`; null is allowed.
+/// Frees a BSTR made by `SysAllocString2`; null is allowed.
 COMPANION_RUNTIME_API void SysFreeString2(wchar_t* bstr);
 
-// The number with which the text begins, whatever the locale: blanks (space, tab, line and page breaks), a sign,
-// decimal digits with at most one point among, before or behind them, and an exponent (e or E, a sign, digits). What
-// follows is ignored, and so is an exponent without digits: "1e" is 1. The result is the nearest double; beyond the
-// range it is an infinity, and too near to 0 it is a zero, both with the sign of the text. Where no number leads it is
-// 0.0: a text without a digit in that place, the words for infinity and NaN, an empty text, null. "0x10" is 0.
+/// The number with which the text begins, whatever the locale: blanks (space, tab, line and page breaks), a sign,
+/// decimal digits with at most one point among, before or behind them, and an exponent (e or E, a sign, digits). What
+/// follows is ignored, and so is an exponent without digits: "1e" is 1. The result is the nearest double; beyond the
+/// range it is an infinity, and too near to 0 it is a zero, both with the sign of the text. Where no number leads it is
+/// 0.0: a text without a digit in that place, the words for infinity and NaN, an empty text, null. "0x10" is 0.
 COMPANION_RUNTIME_API double _wtof(const wchar_t* text);
 }
-
-#endif
