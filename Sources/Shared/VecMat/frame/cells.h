@@ -204,7 +204,8 @@ private:
 };
 
 /// Checked cells of an array of column tables. The check is that of the one table: a row never slides into the next
-/// column. Which columns exist is the caller's word; a null column must not be reached.
+/// column. A negative column number is out of range; up to where columns exist is the caller's word, and a null column
+/// must not be reached.
 template <class Table>
 class ColumnCells
 {
@@ -214,11 +215,15 @@ public:
 
     explicit ColumnCells(Table** columns) : columns_(columns) {}
 
-    Read get(int i, int j) const { return detail::readAt(*columns_[j], static_cast<unsigned>(i)); }
+    Read get(int i, int j) const
+    {
+        return j < 0 ? CellOf<Table>::outside() : detail::readAt(*columns_[j], static_cast<unsigned>(i));
+    }
     template <class V>
     void set(int i, int j, V&& value) const
     {
-        detail::writeAt(*columns_[j], static_cast<unsigned>(i), std::forward<V>(value));
+        if (j >= 0)
+            detail::writeAt(*columns_[j], static_cast<unsigned>(i), std::forward<V>(value));
     }
 
     bool covers(int rows, int cols) const
@@ -259,7 +264,8 @@ private:
     Table** columns_;
 };
 
-/// Checked cells of such a triangle: cell (i, j) is cell |i - j| of column min(i, j).
+/// Checked cells of such a triangle: cell (i, j) is cell |i - j| of column min(i, j), which is out of range where it is
+/// negative.
 template <class Table>
 class TriangleCells
 {
@@ -269,11 +275,17 @@ public:
 
     explicit TriangleCells(Table** columns) : columns_(columns) {}
 
-    Read get(int i, int j) const { return detail::readAt(*columns_[i < j ? i : j], distance(i, j)); }
+    Read get(int i, int j) const
+    {
+        const int column = i < j ? i : j;
+        return column < 0 ? CellOf<Table>::outside() : detail::readAt(*columns_[column], distance(i, j));
+    }
     template <class V>
     void set(int i, int j, V&& value) const
     {
-        detail::writeAt(*columns_[i < j ? i : j], distance(i, j), std::forward<V>(value));
+        const int column = i < j ? i : j;
+        if (column >= 0)
+            detail::writeAt(*columns_[column], distance(i, j), std::forward<V>(value));
     }
 
     bool covers(int rows, int cols) const
@@ -288,7 +300,11 @@ public:
     PlainTriangle<Table> plain() const { return PlainTriangle<Table>(columns_); }
 
 private:
-    static unsigned distance(int i, int j) { return static_cast<unsigned>(i < j ? j - i : i - j); }
+    static unsigned distance(int i, int j)
+    {
+        const unsigned difference = static_cast<unsigned>(i) - static_cast<unsigned>(j);
+        return i < j ? 0u - difference : difference;
+    }
 
     Table** columns_;
 };
