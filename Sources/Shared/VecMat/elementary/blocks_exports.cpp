@@ -1,0 +1,107 @@
+#include "../frame/handles.h"
+#include "block_copy.h"
+#include "blocks.h"
+
+using vecmat::columns;
+using vecmat::copied;
+using vecmat::countFromTo;
+using vecmat::fresh;
+using vecmat::freshStrings;
+using vecmat::handBack;
+using vecmat::stringColumns;
+using vecmat::TableHandle;
+using vecmat::triangleColumns;
+using vecmat::viewed;
+
+void VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst)
+{
+    const TableHandle result = fresh(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyPasteBlock(viewed(src, rows, cols), r1, r2, c1, c2, result, 1, 1);
+    handBack(result, dst);
+}
+
+void VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst)
+{
+    const auto result = freshStrings(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyPasteBlockStr(copied(src, rows, cols), r1, r2, c1, c2, result, 1, 1);
+    handBack(result, dst);
+}
+
+void VB_M_CopyBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst)
+{
+    const TableHandle result = fresh(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyBlock(columns(src, c2, r2), r1, r2, c1, c2, result);
+    handBack(result, dst);
+}
+
+void Cpp_M_CopyBlockSPV2(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst)
+{
+    M_CopyBlock(columns(src, c2, r2), r1, r2, c1, c2, columns(dst, countFromTo(c1, c2), countFromTo(r1, r2)));
+}
+
+void Cpp_M_CopyBlockSPV2_T(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst)
+{
+    M_CopyBlockSPV2_T(columns(src, c2, r2), r1, r2, c1, c2, triangleColumns(dst, countFromTo(c1, c2)));
+}
+
+void Cpp_M_DuplicateDblSPV(SAFEARRAY** src, int rows, int cols, double* dst)
+{
+    M_DuplicateSPV(columns(src, cols, rows), rows, cols, viewed(dst, rows, cols), 1, 1, 1, 1);
+}
+
+void Cpp_M_DuplicateDblSPV2(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
+{
+    M_DuplicateSPV3(columns(src, cols, rows), rows, cols, columns(dst, cols, rows), 1, 1, 1, 1);
+}
+
+void Cpp_M_DuplicateDblSPV2_T(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
+{
+    M_DuplicateSPV3_T(columns(src, cols, rows), rows, cols, triangleColumns(dst, cols), 1, 1, 1, 1);
+}
+
+void Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, SAFEARRAY** dst)
+{
+    M_DuplicateSPV2(viewed(src, rows, cols), rows, cols, columns(dst, cols, rows), 1, 1, 1, 1);
+}
+
+void VB_M_DuplicateStrSPV(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
+{
+    const auto result = stringColumns(dst, cols, rows);
+    M_DuplicateStrSPV(stringColumns(src, cols, rows), rows, cols, result);
+    SaveSAFEARRAY(result, cols, rows, dst);
+}
+
+void Cpp_M_CopyPasteBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst, int dstRows,
+                          int dstCols, int row, int col)
+{
+    M_CopyPasteBlock(copied(src, rows, cols), r1, r2, c1, c2, viewed(dst, dstRows, dstCols), row, col);
+}
+
+void Cpp_M_CopyPasteBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst, int dstRows, int dstCols,
+                             int row, int col)
+{
+    M_CopyPasteBlockSPV(columns(src, c2, r2), r1, r2, c1, c2, viewed(dst, dstRows, dstCols), row, col);
+}
+
+void Cpp_M_CopyPasteBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst,
+                             int dstRows, int dstCols, int row, int col)
+{
+    const auto result = copied(dst, dstRows, dstCols);
+    M_CopyPasteBlockStr(copied(src, rows, cols), r1, r2, c1, c2, result, row, col);
+    handBack(result, dst);
+}
+
+void VB_M_PasteBlock(double* src, int rows, int cols, double* dst, int dstRows, int dstCols, int row, int col)
+{
+    M_PasteBlock(copied(src, rows, cols), rows, cols, viewed(dst, dstRows, dstCols), row, col);
+}
+
+void VB_M_PasteBlockLng(int* src, int rows, int cols, int* dst, int dstRows, int dstCols, int row, int col)
+{
+    M_PasteBlock(copied(src, rows, cols), rows, cols, viewed(dst, dstRows, dstCols), row, col);
+}
+
+void VB_M_CopyToBigger(double* src, int rows, int cols, double* dst, int dstRows, int dstCols)
+{
+    M_CopyToBigger(copied(src, rows, cols), rows, cols, viewed(dst, dstRows, dstCols));
+}
