@@ -30,4 +30,10 @@ constexpr unsigned linearIndex(int i, int j, int nRows)
     return static_cast<unsigned>(i) + static_cast<unsigned>(j) * static_cast<unsigned>(nRows);
 }
 
+/// The Boolean of the callers: -1 for true, 0 for false, never 1.
+constexpr short booleanOf(bool answer)
+{
+    return answer ? -1 : 0;
+}
+
 } // namespace vecmat
