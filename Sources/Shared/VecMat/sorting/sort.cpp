@@ -1,0 +1,205 @@
+#include "sort.h"
+
+#include "stable_order.h"
+
+#include <string>
+#include <type_traits>
+
+namespace {
+
+using namespace vecmat;
+
+/// In the string forms no columns means one: the strings in linear order.
+constexpr int stringColumnCount(int nCols)
+{
+    return nCols == 0 ? 1 : nCols;
+}
+
+template <class Data, class Key, class Companion>
+int sortRows(Data data, int nCols, RowRange range, Key* key, Companion companion, int nCompanionCols, short descending,
+             short writeKeys)
+{
+    sortByKey(range, directionOf(descending), linear(key), sortedKeysOf(writeKeys), MovedRows(data, range, nCols),
+              MovedRows(companion, range, nCompanionCols));
+    return 0;
+}
+
+template <class Data>
+int sortByIndicator(Data data, int n, int nCols, matrix* key)
+{
+    const RowRange all{1, n};
+    sortByKey(all, Direction::ascending, linear(key), SortedKeys::written, MovedRows(data, all, nCols));
+    return 0;
+}
+
+/// A column compares as doubles, or as strings.
+template <class Table>
+using ColumnKey = std::conditional_t<std::is_same_v<Table, Smatrix>, std::wstring, double>;
+
+template <class Table>
+int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short descending)
+{
+    using Record = KeyedPosition<ColumnKey<Table>>;
+    const auto rows = cells(table);
+    MovedRows moved(rows, range, nCols);
+    // The key column is written from the record: it may be one that does not move.
+    placeInStableOrder(
+        range, directionOf(descending),
+        [&](int row) {
+            return Record{row, ColumnKey<Table>(rows.get(zeroBased(row), zeroBased(col)))};
+        },
+        [&](int row, Record& record) {
+            using Value = typename CellOf<Table>::Value;
+            rows.set(zeroBased(row), zeroBased(col), static_cast<Value>(std::move(record.key)));
+            moved.place(row, record.position);
+        });
+    return 0;
+}
+
+/// The stability of each sort makes the whole lexicographic: the column sorted last is the major key.
+template <class Table>
+int sortByColumnsInTurn(Table* table, int nRows, int nCols, RowRange cols, short lastToFirst)
+{
+    const bool backwards = lastToFirst == -1;
+    const long long count = cols.count();
+    for (long long k = 0; k < count; ++k)
+        sortByOwnColumn(table, nCols, cols.at(backwards ? count - 1 - k : k), {1, nRows}, 0);
+    return 0;
+}
+
+template <class Table>
+int sortVector(Table* x, RowRange range, Direction direction)
+{
+    sortElements(range, direction, linear(x));
+    return 0;
+}
+
+} // namespace
+
+int SortQ(matrix*& data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), nCols, {first, last}, key, cells(companion), nCompanionCols, descending, writeKeys);
+}
+
+int SortQ(matrixInt*& data, int /*nRows*/, int nCols, int first, int last, matrixInt*& key, matrixInt*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), nCols, {first, last}, key, cells(companion), nCompanionCols, descending, writeKeys);
+}
+
+int SortQ(matrix*& data, int /*nRows*/, int nCols, int first, int last, matrixInt*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), nCols, {first, last}, key, cells(companion), nCompanionCols, descending, writeKeys);
+}
+
+int SortQ(matrixInt*& data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), nCols, {first, last}, key, cells(companion), nCompanionCols, descending, writeKeys);
+}
+
+int SortQ(matrix** data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), nCols, {first, last}, key, cells(companion), nCompanionCols, descending, writeKeys);
+}
+
+int SortQ(Smatrix*& data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), stringColumnCount(nCols), {first, last}, key, cells(companion), nCompanionCols,
+                    descending, writeKeys);
+}
+
+int SortQ(Smatrix** data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+          int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), stringColumnCount(nCols), {first, last}, key, cells(companion), nCompanionCols,
+                    descending, writeKeys);
+}
+
+int SortDataBy01(matrix*& data, int n, int nCols, matrix*& key)
+{
+    return sortByIndicator(cells(data), n, nCols, key);
+}
+
+int SortDataBy01(matrix** data, int n, int nCols, matrix*& key)
+{
+    return sortByIndicator(cells(data), n, nCols, key);
+}
+
+int SortDataBy01(Smatrix*& data, int n, int nCols, matrix*& key)
+{
+    return sortByIndicator(cells(data), n, stringColumnCount(nCols), key);
+}
+
+int SortQByCol(matrix*& data, int nRows, int /*nCols*/, int first, int last, matrix*& key, matrix*& companion,
+               int nCompanionRows, short descending, short writeKeys)
+{
+    return sortRows(Transposed(cells(data)), nRows, {first, last}, key, Transposed(cells(companion)), nCompanionRows,
+                    descending, writeKeys);
+}
+
+int SortQMatrixCol(matrix*& table, int /*nRows*/, int nCols, int col, int first, int last, short descending)
+{
+    return sortByOwnColumn(table, nCols, col, {first, last}, descending);
+}
+
+int SortQMatrixCol(matrixInt*& table, int /*nRows*/, int nCols, int col, int first, int last, short descending)
+{
+    return sortByOwnColumn(table, nCols, col, {first, last}, descending);
+}
+
+int SortQMatrixCol(Smatrix*& table, int /*nRows*/, int nCols, int col, int first, int last, short descending)
+{
+    return sortByOwnColumn(table, nCols, col, {first, last}, descending);
+}
+
+int SortMatrixSeqQ(matrix*& table, int nRows, int nCols, short lastToFirst)
+{
+    return sortByColumnsInTurn(table, nRows, nCols, {1, nCols}, lastToFirst);
+}
+
+int SortMatrixSeqQ(matrixInt*& table, int nRows, int nCols, short lastToFirst)
+{
+    return sortByColumnsInTurn(table, nRows, nCols, {1, nCols}, lastToFirst);
+}
+
+int SortMatrixSeqQP1toP2(matrix* table, int nRows, int nCols, int firstCol, int lastCol, short lastToFirst)
+{
+    return sortByColumnsInTurn(table, nRows, nCols, {firstCol, lastCol}, lastToFirst);
+}
+
+int SortMatrixSeqQP1toP2(matrixInt* table, int nRows, int nCols, int firstCol, int lastCol, short lastToFirst)
+{
+    return sortByColumnsInTurn(table, nRows, nCols, {firstCol, lastCol}, lastToFirst);
+}
+
+int SortQVector(double*& x, int n, int first, int last, short descending)
+{
+    matrix view(n, 1, x, true);
+    return sortVector(&view, {first, last}, directionOf(descending));
+}
+
+int SortQVector(int*& x, int n, int first, int last, short descending)
+{
+    matrixInt view(n, 1, x, true);
+    return sortVector(&view, {first, last}, directionOf(descending));
+}
+
+int SortQVector(matrix*& x, int /*n*/, int first, int last, short descending)
+{
+    return sortVector(x, {first, last}, directionOf(descending));
+}
+
+int SortQVector(matrixInt*& x, int /*n*/, int first, int last, short descending)
+{
+    return sortVector(x, {first, last}, directionOf(descending));
+}
+
+int SortQVector(Smatrix* x, int first, int last, short descending)
+{
+    return sortVector(x, {first, last}, descending != 0 ? Direction::descending : Direction::ascending);
+}

@@ -1,0 +1,177 @@
+// The one order under every sort of the library: records of (key, position) over a range of rows are loaded, sorted
+// ascending by a stable sort, and placed row by row from a working copy.
+//
+// Descending is no second comparison: the records are loaded backwards and placed backwards, so that rows with equal
+// keys keep the order of the input in both directions. Everything that sorts in steps, groups, ranks or removes
+// duplicates rests on that.
+//
+// Keys are compared with the plain less-than. Zeros of both signs tie; the missing value is below every other number,
+// the empty string below every other string. A NaN is not ordered against anything: with such keys the rows of the
+// range end up in an order that nothing promises, each of them still exactly once, and nothing outside is touched.
+//
+// The sort asks for its buffer without throwing and does without one where memory is short, with the same result.
+#pragma once
+
+#include "../frame/cells.h"
+#include "../frame/numbers.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <new>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace vecmat {
+
+enum class Direction { ascending, descending };
+
+/// How an option of the sorts is read: exactly -1 is descending, also 1 is ascending.
+constexpr Direction directionOf(short descending)
+{
+    return descending == -1 ? Direction::descending : Direction::ascending;
+}
+
+/// What becomes of the vector of keys: rearranged like the rows, or left as it was, out of step with them.
+enum class SortedKeys { written, discarded };
+
+/// Exactly -1 writes the keys back.
+constexpr SortedKeys sortedKeysOf(short writeKeys)
+{
+    return writeKeys == -1 ? SortedKeys::written : SortedKeys::discarded;
+}
+
+/// Rows from `first` to `last`, 1-based, both included. A `last` below `first` is an empty range.
+struct RowRange
+{
+    int first;
+    int last;
+
+    long long count() const { return last < first ? 0 : static_cast<long long>(last) - first + 1; }
+    int at(long long k) const { return static_cast<int>(first + k); }
+};
+
+/// The 0-based number; wraps below the lowest int, which no table holds either way.
+constexpr int zeroBased(int number)
+{
+    return static_cast<int>(static_cast<unsigned>(number) - 1u);
+}
+
+/// The record of a sort, ordered by its key alone: the 1-based position never takes part in the comparison.
+template <class Key>
+struct KeyedPosition
+{
+    int position;
+    Key key;
+
+    friend bool operator<(const KeyedPosition& left, const KeyedPosition& right) { return left.key < right.key; }
+};
+
+/// Integer keys are widened to double, which is exact.
+using pairToSort = KeyedPosition<double>;
+
+/// Calls `place(row, record)` for the rows of the range from its first to its last, with the records that
+/// `load(row)` makes of these rows in their sorted order. All records are loaded before the first is placed.
+template <class Load, class Place>
+void placeInStableOrder(RowRange range, Direction direction, Load load, Place place)
+{
+    const bool backwards = direction == Direction::descending;
+    const long long count = range.count();
+    std::vector<std::decay_t<std::invoke_result_t<Load&, int>>> records;
+    records.reserve(static_cast<std::size_t>(count));
+    for (long long k = 0; k < count; ++k)
+        records.push_back(load(range.at(backwards ? count - 1 - k : k)));
+    std::stable_sort(records.begin(), records.end());
+    for (long long k = 0; k < count; ++k)
+        place(range.at(k), records[static_cast<std::size_t>(backwards ? count - 1 - k : k)]);
+}
+
+/// The rows of one table that follow a sort. Keeps a working copy of the range, row after row, so that a row that is
+/// fetched from anywhere costs one stretch of memory however many columns there are.
+///
+/// Reads and writes are those of the accessor: beyond a table a cell is -1.0 (-1, empty), and is not written. With no
+/// columns the table is never looked at and may be absent.
+template <class Cells>
+class MovedRows
+{
+public:
+    MovedRows(Cells cells, RowRange range, int nCols)
+        : cells_(cells), first_(range.first), nCols_(std::max(nCols, 0)), before_(cellCount(range.count(), nCols_))
+    {
+        for (int j = 0; j < nCols_; ++j)
+            for (long long k = 0; k < range.count(); ++k)
+                before_[position(k) + static_cast<std::size_t>(j)] = cells_.get(zeroBased(range.at(k)), j);
+    }
+
+    /// Row `target` takes what row `source` held at the start. Each source may be fetched once: strings are moved.
+    void place(int target, int source)
+    {
+        auto* const row = before_.data() + position(static_cast<long long>(source) - first_);
+        for (int j = 0; j < nCols_; ++j)
+            cells_.set(zeroBased(target), j, std::move(row[j]));
+    }
+
+private:
+    static std::size_t cellCount(long long rows, int cols)
+    {
+        const unsigned long long count = static_cast<unsigned long long>(rows) * static_cast<unsigned>(cols);
+        if (count > static_cast<std::size_t>(-1))
+            throw std::bad_array_new_length();
+        return static_cast<std::size_t>(count);
+    }
+    std::size_t position(long long k) const { return static_cast<std::size_t>(k) * static_cast<std::size_t>(nCols_); }
+
+    Cells cells_;
+    int first_;
+    int nCols_;
+    std::vector<typename Cells::Value> before_;
+};
+
+/// The columns of a table as rows of its transpose.
+template <class Cells>
+class Transposed
+{
+public:
+    using Value = typename Cells::Value;
+
+    explicit Transposed(Cells cells) : cells_(cells) {}
+
+    decltype(auto) get(int i, int j) const { return cells_.get(j, i); }
+    template <class V>
+    void set(int i, int j, V&& value) const
+    {
+        cells_.set(j, i, std::forward<V>(value));
+    }
+
+private:
+    Cells cells_;
+};
+
+/// Sorts the rows of the range by the elements of `key` with the same numbers. Row after row takes its key, then its
+/// cells in each table of `moved` in turn: the order of these writes shows where a row lies beyond its table.
+template <class KeyCells, class... Moved>
+void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
+{
+    using KeyValue = typename KeyCells::Value;
+    placeInStableOrder(
+        range, direction,
+        [&](int row) {
+            return pairToSort{row, static_cast<double>(key.get(zeroBased(row)))};
+        },
+        [&](int row, const pairToSort& record) {
+            if (keys == SortedKeys::written)
+                key.set(zeroBased(row), static_cast<KeyValue>(record.key));
+            (moved.place(row, record.position), ...);
+        });
+}
+
+/// Sorts the elements of the range themselves.
+template <class Vector>
+void sortElements(RowRange range, Direction direction, Vector x)
+{
+    placeInStableOrder(
+        range, direction, [&](int number) { return typename Vector::Value(x.get(zeroBased(number))); },
+        [&](int number, auto& element) { x.set(zeroBased(number), std::move(element)); });
+}
+
+} // namespace vecmat
