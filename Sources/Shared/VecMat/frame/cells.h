@@ -125,7 +125,11 @@ public:
         const long long last = (cols - 1LL) * table_->nRows + rows;
         return table_->nRows >= 0 && last <= static_cast<long long>(table_->nElems);
     }
-    PlainCells<Table> plain() const { return {table_->X, table_->nRows}; }
+    /// A table may be null where no cell is visited.
+    PlainCells<Table> plain() const
+    {
+        return table_ != nullptr ? PlainCells<Table>(table_->X, table_->nRows) : PlainCells<Table>(nullptr, 0);
+    }
 
 private:
     Table* table_;
@@ -173,7 +177,8 @@ public:
     }
 
     bool covers(int n) const { return n < 1 || static_cast<unsigned>(n) <= table_->nElems; }
-    PlainVector<Table> plain() const { return PlainVector<Table>(table_->X); }
+    /// A table may be null where no cell is visited.
+    PlainVector<Table> plain() const { return PlainVector<Table>(table_ != nullptr ? table_->X : nullptr); }
 
 private:
     Table* table_;
