@@ -1,0 +1,31 @@
+# cmake --install: headers, libraries, a CMake package (find_package(VecMat), target VecMat::VecMat) and vecmat.pc.
+
+include(CMakePackageConfigHelpers)
+
+install(DIRECTORY ${vecmat_source}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat FILES_MATCHING PATTERN "*.h")
+install(TARGETS VecMat EXPORT VecMatTargets)
+
+if(VECMAT_COMPANIONS_DIR)
+    # The companions stay where they are, and the installed library finds them there.
+    set_property(TARGET VecMat APPEND PROPERTY INSTALL_RPATH ${VECMAT_COMPANIONS_DIR})
+else()
+    foreach(companion IN LISTS VECMAT_COMPANIONS)
+        install(DIRECTORY ${companions_source}/${companion}
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/Companions FILES_MATCHING PATTERN "*.h")
+        install(TARGETS ${companion} EXPORT VecMatTargets)
+    endforeach()
+endif()
+
+set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/VecMat)
+install(EXPORT VecMatTargets NAMESPACE VecMat:: DESTINATION ${package_directory})
+configure_package_config_file(cmake/VecMatConfig.cmake.in ${PROJECT_BINARY_DIR}/VecMatConfig.cmake
+    INSTALL_DESTINATION ${package_directory})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/VecMatConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/VecMatConfig.cmake ${PROJECT_BINARY_DIR}/VecMatConfigVersion.cmake
+    DESTINATION ${package_directory})
+
+# The prefix is told relative to the file, so that an installed tree can be moved as a whole.
+file(RELATIVE_PATH pkgconfig_to_prefix
+    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+configure_file(cmake/vecmat.pc.in ${PROJECT_BINARY_DIR}/vecmat.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/vecmat.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -2,11 +2,6 @@
 
 # A shared library with the rules that all of the project's libraries follow.
 function(vecmat_shared_library name)
-    if(NOT ARGN)
-        message(STATUS "No sources yet for the library ${name}: it is built empty")
-        set(ARGN ${PROJECT_BINARY_DIR}/${name}_empty.cpp)
-        file(TOUCH ${ARGN})
-    endif()
     add_library(${name} SHARED ${ARGN})
     add_library(VecMat::${name} ALIAS ${name})
     set_target_properties(${name} PROPERTIES

@@ -1,0 +1,40 @@
+#!/usr/bin/env python3
+"""check_interface.py [--complete] LIST HEADERS LIBRARY: does the library export what the list and the headers say?
+
+Exit status 1 where anything that is there is wrong, with --complete also where anything is missing.
+"""
+
+import argparse
+import sys
+from pathlib import Path
+
+import interface
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--complete", action="store_true", help="fail on what is missing, too")
+    parser.add_argument("list", help="the interface list, exports.tsv")
+    parser.add_argument("headers", help="the folder of the library's headers")
+    parser.add_argument("library", help="the shared library")
+    arguments = parser.parse_args()
+
+    rows, wrong = interface.read_rows(Path(arguments.list).read_text(encoding="utf-8"))
+    declarations, unreadable = interface.read_headers(arguments.headers)
+    wrong += unreadable
+    disagreements, missing = interface.compare(rows, declarations, interface.read_symbols(arguments.library))
+    wrong += disagreements
+    umbrella = interface.check_umbrella(arguments.headers, declarations)
+    if arguments.complete:
+        wrong += umbrella + [f"missing: {row.signature()}" for row in missing]
+
+    print("\n".join(interface.summary(rows, missing)))
+    if not arguments.complete:
+        print("\n".join(umbrella))
+    print("\n".join(f"WRONG: {line}" for line in wrong))
+    print(f"{len(wrong)} wrong, {len(missing)} missing")
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
