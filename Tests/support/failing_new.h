@@ -78,38 +78,50 @@ inline void release(void* block) noexcept
 /// What becomes of a failure: it passes out of the body as std::bad_alloc, or the body may catch it.
 enum class Failure { passesOut, mayBeCaught };
 
+/// How one run of a body ended.
+enum class Ending { ranThrough, badAlloc, otherException };
+
+inline Ending runWithFailure(const std::function<void()>& body, int failingAllocation)
+{
+    AllocationState& state = allocationState();
+    state.threw = state.returnedNull = false;
+    state.countdown = failingAllocation;
+    Ending ending = Ending::ranThrough;
+    try {
+        body();
+    } catch (const std::bad_alloc&) {
+        ending = Ending::badAlloc;
+    } catch (...) {
+        ending = Ending::otherException;
+    }
+    state.countdown = 0;
+    return ending;
+}
+
 /// Runs `body` with its first, second, ... allocation failing, until it runs through because it makes no more. Checks
 /// each time that the exception came out as it was thrown (a request by the form of new that returns null needs no
 /// exception) and that the body released all it had made. Returns the number of failures tried, for the test to see
-/// that there were some. The body should consist of the calls under test, release what they hand over, and assert
-/// nothing while an allocation may fail.
+/// that there were some; stops at the first check that fails. The body should consist of the calls under test, release
+/// what they hand over, and assert nothing while an allocation may fail.
 inline int forEachFailingAllocation(const std::function<void()>& body, Failure failure = Failure::passesOut)
 {
     body(); // buffers that are kept from call to call are made here
-    AllocationState& state = allocationState();
+    const AllocationState& state = allocationState();
     for (int n = 1;; ++n) {
         const long before = state.live;
-        state.threw = state.returnedNull = false;
-        bool isBadAlloc = false;
-        bool isOther = false;
-        state.countdown = n;
-        try {
-            body();
-        } catch (const std::bad_alloc&) {
-            isBadAlloc = true;
-        } catch (...) {
-            isOther = true;
-        }
-        state.countdown = 0;
-        const long after = state.live;
-        EXPECT_EQ(after, before) << "allocations left over, or released twice, when allocation " << n << " failed";
-        EXPECT_FALSE(isOther) << "another exception than std::bad_alloc when allocation " << n << " failed";
-        if (failure == Failure::passesOut)
-            EXPECT_EQ(isBadAlloc, state.threw) << "what became of allocation " << n;
-        if (!state.threw && !state.returnedNull)
-            return n - 1;
-        if (testing::Test::HasFailure())
-            return n;
+        const Ending ending = runWithFailure(body, n);
+        const long leftOver = state.live - before;
+        const bool passedOut = (ending == Ending::badAlloc) == state.threw;
+        if (leftOver != 0)
+            ADD_FAILURE() << leftOver << " allocations left over (below 0: released twice) when number " << n
+                          << " failed";
+        else if (ending == Ending::otherException)
+            ADD_FAILURE() << "another exception than std::bad_alloc when allocation " << n << " failed";
+        else if (!passedOut && failure == Failure::passesOut)
+            ADD_FAILURE() << "the failure of allocation " << n << " did not pass out";
+        else if (state.threw || state.returnedNull)
+            continue;
+        return n - 1;
     }
 }
 
