@@ -1,18 +1,14 @@
 // The stable sorts: of a vector, of rows by a separate key or by a column of their own, of columns by a key.
 //
 // Common to all of them, unless the comment of a function says otherwise:
-//   - The range `first` to `last` is 1-based with both ends included, and need not be the whole table: what lies
-//   outside
+//   - The range `first` to `last` is 1-based with both ends included, and need not be the whole table: what lies outside
 //     stays as it was, in the data, the companion and the key. A `last` below `first` changes nothing.
-//   - `descending` is exactly -1 for a descending sort; every other value, 1 too, is ascending. Rows with equal keys
-//   keep
+//   - `descending` is exactly -1 for a descending sort; every other value, 1 too, is ascending. Rows with equal keys keep
 //     the order of the input in both directions.
-//   - The order is the plain less-than: 0.0 and -0.0 tie. Missing keys are the smallest, so they come first ascending
-//   and
+//   - The order is the plain less-than: 0.0 and -0.0 tie. Missing keys are the smallest, so they come first ascending and
 //     last descending, and so do empty strings; strings go by the numbers of their characters, without a locale. With
 //     NaN keys the rows come in an order that nothing promises, each of them once.
-//   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty)
-//   and
+//   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty) and
 //     takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
 //     raised before anything is written; the sort itself does without its buffer where memory is short.
 #pragma once
