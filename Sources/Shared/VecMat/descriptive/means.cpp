@@ -1,0 +1,175 @@
+#include "means.h"
+
+#include "../frame/cells.h"
+#include "running_moments.h"
+
+#include <cmath>
+
+using namespace vecmat;
+
+namespace {
+
+/// Sum of w times `value(x)` over the sum of w. Weights of 0 are left out, so that an infinite cell of no weight does
+/// not turn the sum into a NaN.
+template <class Value>
+double weightedMean(matrix* v, int n, const short* mask, matrix* w, Value value)
+{
+    return onBlocks(
+        [&](auto x, auto weight) {
+            double weights = 0.0;
+            double sum = 0.0;
+            for (int i = 0; i < n; ++i) {
+                if (mask[i] != 0 || !isPresent(x.get(i)) || weight.get(i) == 0.0)
+                    continue;
+                weights += weight.get(i);
+                sum += weight.get(i) * value(x.get(i));
+            }
+            return weights == 0.0 ? missingValue : sum / weights;
+        },
+        block(linear(v), n), block(linear(w), n));
+}
+
+/// Running mean of each column; `resultOf` makes the result of the moments.
+template <class Moments, MissingTest test, class X, class Weights, class ResultOf>
+void columnMeans(X x, int n, int p, Weights w, matrix* mean, ResultOf resultOf)
+{
+    accumulate<Moments>(
+        p, n,
+        [=](Moments& moments, int j, int i) {
+            if (isPresent<test>(x.get(i, j)))
+                moments.add(x.get(i, j), w.get(i));
+        },
+        [&](int j, const Moments& moments) { linear(mean).set(j, resultOf(moments)); });
+}
+
+/// `M_Mean` over either storage: a column without rows keeps the 0.0 at which the running mean starts.
+template <class Storage>
+int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
+{
+    using Moments = RunningMean<update::Weighted, ZeroWeight::counted>;
+    matrix::matCheck(mean, p, 1, 0.0);
+    onBlocks(
+        [&](auto x, auto weight) {
+            columnMeans<Moments, MissingTest::equality>(x, n, p, weight, mean,
+                                                        [](const Moments& moments) { return moments.mean; });
+        },
+        block(X, n, p), block(linear(w), n));
+    return 0;
+}
+
+template <class Moments>
+double meanOrMissing(const Moments& moments)
+{
+    return moments.rows > 0 ? moments.mean : missingValue;
+}
+
+/// Stands where a storage of weights is expected.
+struct UnitWeights
+{
+    static double get(int) { return 1.0; }
+};
+
+} // namespace
+
+double V_Mean(matrix* v, int n, short* mask, matrix* w)
+{
+    return weightedMean(v, n, mask, w, [](double x) { return x; });
+}
+
+double V_MeanAbs(matrix* v, int n, short* mask, matrix* w)
+{
+    return weightedMean(v, n, mask, w, [](double x) { return std::fabs(x); });
+}
+
+double V_Mean2(matrix* v, int n)
+{
+    return onBlocks(
+        [n](auto x) {
+            double sum = 0.0;
+            int rows = 0;
+            for (int i = 0; i < n; ++i)
+                if (isPresent(x.get(i))) {
+                    sum += x.get(i);
+                    ++rows;
+                }
+            return rows > 0 ? sum / rows : missingValue;
+        },
+        block(linear(v), n));
+}
+
+double V_HarmonicMean(matrix* v, int n, short* mask, matrix* w)
+{
+    double weights = 0.0;
+    double reciprocals = 0.0;
+    for (int i = 0; i < n; ++i) {
+        const double x = linear(v).get(i);
+        if (mask[i] != 0 || !isPresent(x))
+            continue;
+        if (x == 0.0)
+            return missingValue;
+        weights += linear(w).get(i);
+        reciprocals += linear(w).get(i) / x;
+    }
+    // No rows, or n below 1, leave the sum at 0.0 as well.
+    return reciprocals == 0.0 ? missingValue : weights / reciprocals;
+}
+
+void V_GMeanGSD(matrix* v, int n, short* mask, matrix* w, double* gmean, double* gsd)
+{
+    RunningVariance<update::Fractional, ZeroWeight::counted> moments;
+    *gmean = missingValue;
+    *gsd = missingValue;
+    for (int i = 0; i < n; ++i) {
+        const double x = linear(v).get(i);
+        if (mask[i] != 0 || !isPresent(x))
+            continue;
+        if (x <= 0.0)
+            return;
+        moments.add(std::log(x), linear(w).get(i));
+    }
+    if (moments.rows == 0)
+        return;
+    *gmean = std::exp(moments.mean);
+    const double divisor = moments.weights - moments.weights / moments.rows;
+    if (divisor != 0.0)
+        *gsd = std::exp(sqr(moments.squares / divisor));
+}
+
+int M_Mean(matrix* X, int n, int p, matrix*& mean, matrix* w)
+{
+    return meansOrZero(cells(X), n, p, mean, w);
+}
+
+int M_MeanSPV(matrix** X, int n, int p, matrix*& mean, matrix* w)
+{
+    return meansOrZero(cells(X), n, p, mean, w);
+}
+
+int M_Mean2(matrix* X, int n, int p, matrix* w, matrix* mean)
+{
+    using Moments = RunningMean<update::Weighted, ZeroWeight::updated>;
+    onBlocks(
+        [&](auto x, auto weight) {
+            columnMeans<Moments, MissingTest::order>(x, n, p, weight, mean, meanOrMissing<Moments>);
+        },
+        block(cells(X), n, p), block(linear(w), n));
+    return 0;
+}
+
+int M_Mean3(matrix* X, int n, int p, matrix* mean)
+{
+    using Moments = RunningMean<update::Counted, ZeroWeight::updated>;
+    onBlocks(
+        [&](auto x) { columnMeans<Moments, MissingTest::order>(x, n, p, UnitWeights(), mean, meanOrMissing<Moments>); },
+        block(cells(X), n, p));
+    return 0;
+}
+
+double M_ColSum2(matrix* X, int n, int col)
+{
+    double sum = 0.0;
+    for (int i = 0; i < n; ++i)
+        if (const double x = X->vbget(i + 1, col); isPresent(x))
+            sum += x;
+    return sum;
+}

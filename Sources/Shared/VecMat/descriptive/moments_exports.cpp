@@ -1,0 +1,76 @@
+#include "moments.h"
+
+#include "../frame/companions.h"
+#include "../frame/handles.h"
+#include "../frame/numbers.h"
+
+#include <vector>
+
+using vecmat::countOf;
+using vecmat::TableHandle;
+using vecmat::viewed;
+
+// The observations and the weights are only read, so that views of the caller's arrays serve; results are written
+// through views as well. A null result array gives a null table, which the callee leaves out or makes for itself.
+
+double VB_V_Var(double* v, int n, short* mask, double* w, short sample, short freqWeights)
+{
+    return V_Var(viewed(v, n, 1), n, mask, viewed(w, n, 1), sample, freqWeights);
+}
+
+double Cpp_V_Var2(double* v, int n, short sample, short freqWeights)
+{
+    std::vector<double> units(countOf(n), 1.0);
+    std::vector<short> mask(countOf(n), 0);
+    matrix weights(n, 1, units.data(), true);
+    return V_Var(viewed(v, n, 1), n, mask.data(), &weights, sample, freqWeights);
+}
+
+double VB_V_Stdev(double* v, int n, short* mask, double* w, short sample, short freqWeights)
+{
+    const double variance = V_Var(viewed(v, n, 1), n, mask, viewed(w, n, 1), sample, freqWeights);
+    return variance == 0.0 ? 0.0 : sqr(variance);
+}
+
+void VB_V_MeanVar(double* v, int n, double* mean, double* var, short* mask, double* w, short sample, short freqWeights)
+{
+    V_MeanVar(viewed(v, n, 1), n, mean, var, mask, viewed(w, n, 1), sample, freqWeights);
+}
+
+void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, short* mask, double* w, short sample,
+                    short freqWeights)
+{
+    double variance = 0.0;
+    V_MeanVar(viewed(v, n, 1), n, mean, &variance, mask, viewed(w, n, 1), sample, freqWeights);
+    *stdev = sqr(variance);
+}
+
+int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w, short sample,
+                   short freqWeights, short ignoreMask)
+{
+    TableHandle means = viewed(mean, p, 1);
+    TableHandle deviations = viewed(stdev, p, 1);
+    return M_MeanStDev(viewed(X, n, p), n, p, means.reference(), deviations.reference(), mask, viewed(w, n, 1), sample,
+                       freqWeights, ignoreMask);
+}
+
+int VB_M_MeanStDevVar(double* X, int n, int p, double* mean, double* stdev, double* var, short* mask, double* w,
+                      short sample, short freqWeights)
+{
+    TableHandle means = viewed(mean, p, 1);
+    TableHandle deviations = viewed(stdev, p, 1);
+    TableHandle variances = viewed(var, p, 1);
+    return M_MeanStDevVar(viewed(X, n, p), n, p, means.reference(), deviations.reference(), variances.reference(), mask,
+                          viewed(w, n, 1), sample, freqWeights);
+}
+
+int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, double* w, short sample,
+                        short freqWeights)
+{
+    // Both results are opened with a cell for each row. Where the callee asks for more it puts a table of its own in
+    // place of the view, and the caller's array stays as it was.
+    TableHandle means = viewed(mean, n, 1);
+    TableHandle deviations = viewed(stdev, n, 1);
+    return M_MeanStDevByRow(viewed(X, n, p), n, p, means.reference(), deviations.reference(), viewed(w, p, 1), sample,
+                            freqWeights);
+}

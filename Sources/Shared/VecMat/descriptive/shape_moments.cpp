@@ -1,0 +1,84 @@
+#include "shape_moments.h"
+
+#include "../frame/cells.h"
+#include "running_moments.h"
+
+#include <cmath>
+
+using namespace vecmat;
+
+namespace {
+
+/// Sums of the second to fourth powers of the deviations from the running mean. Each higher sum takes up the older
+/// lower ones, so they are updated from the highest down.
+struct RunningShape
+{
+    double weights = 0.0;
+    double mean = 0.0;
+    double m2 = 0.0;
+    double m3 = 0.0;
+    double m4 = 0.0;
+    int rows = 0;
+
+    void add(double x, double w)
+    {
+        weights += w;
+        ++rows;
+        if (w == 0.0)
+            return;
+        const double f = w / weights;
+        const double d = x - mean;
+        const double d4 = std::pow(d, 4.0);
+        const double d3 = std::pow(d, 3.0);
+        const double t = f * 3.0 * d * m2;
+        m4 += (f + f) * d * (t - (m3 + m3)) + (((f * 6.0 + -4.0) - f * f * 3.0) * f + 1.0) * d4 * w;
+        m3 = (m3 - t) + (f * f + f * f + (1.0 - f * 3.0)) * d3 * w;
+        m2 += update::Fractional::squares(d, w, weights);
+        mean += update::Fractional::mean(d, w, weights);
+    }
+};
+
+} // namespace
+
+void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* skewP, double* kurtP, double* skewS,
+                         double* kurtS, double* seSkew, double* seKurt, short* mask, matrix* w, short sample,
+                         short freqWeights)
+{
+    RunningShape moments;
+    for (int i = 0; i < n; ++i)
+        if (const double x = linear(v).get(i); mask[i] == 0 && isPresent(x))
+            moments.add(x, linear(w).get(i));
+
+    const double W = moments.weights;
+    const double wbar = moments.rows > 0 ? W / moments.rows : 0.0;
+    const double c = freqWeights == -1 ? 1.0 : wbar;
+    const double D = W - c;
+    *mean = moments.mean;
+
+    const bool undivided = (sample == -1 && D == 0.0) || (sample == 0 && W == 0.0);
+    const double variance = undivided ? missingValue : moments.m2 / (sample == -1 ? D : W);
+    *var = variance;
+    if (undivided || variance == 0.0) {
+        *skewP = *kurtP = *skewS = *kurtS = missingValue;
+        return;
+    }
+
+    const double skewness = (moments.m3 / W) / std::pow(variance, 1.5);
+    *skewP = skewness;
+    // The guard subtracts the mean weight even where the formulas subtract 1.
+    const bool hasSampleSkewness = W - 2.0 * wbar > 0.0;
+    const double errorOfSkewness =
+        hasSampleSkewness ? sqr((W * 6.0 * D) / ((c * 3.0 + W) * (W + c) * (W - 2.0 * c))) : missingValue;
+    *skewS = hasSampleSkewness ? sqr(W * D) * skewness / (W - 2.0 * c) : missingValue;
+    *seSkew = errorOfSkewness;
+
+    const double kurtosis = (moments.m4 / W) / (variance * variance) + -3.0;
+    *kurtP = kurtosis;
+    if (W - 2.0 * c > 0.0 && W - 3.0 * c > 0.0) {
+        *kurtS = (((W + c) * (kurtosis + 3.0) - D * 3.0) * D) / ((W - 2.0 * c) * (W - 3.0 * c));
+        // The error of a skewness that is missing takes part like any other number.
+        *seKurt = sqr((errorOfSkewness * errorOfSkewness * (W * W - c) * 4.0) / ((c * 5.0 + W) * (W - 3.0 * c)));
+    } else {
+        *kurtS = *seKurt = missingValue;
+    }
+}

@@ -1,0 +1,36 @@
+// Skewness and kurtosis of a vector.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// Mean, variance, skewness and excess kurtosis of the first n cells of v, in the population form (P) and the sample
+/// form (S), with the standard errors of the sample forms.
+///
+/// Masked rows (mask not 0) and cells with exactly the missing value are left out; a row of weight 0 counts in the
+/// number of rows m and in W, the sum of weights, and moves nothing else. Mask and weights must be given.
+///
+/// With `wbar` = W/m (0 without rows), c = 1 for `freqWeights` -1 and wbar otherwise, and D = W - c, the variance is
+/// divided by D for `sample` -1 and by W otherwise, and both population forms are divided by powers of that variance.
+/// They are
+///     skewP = (M3 / W) / var^1.5             kurtP = (M4 / W) / var^2 - 3
+/// and the sample forms, which for unit weights are the G1 and G2 of Joanes and Gill (1998),
+///     skewS = sqrt(W D) skewP / (W - 2c)     kurtS = D ((W + c)(kurtP + 3) - 3 D) / ((W - 2c)(W - 3c))
+/// The central moments come from the one-pass updates of Terriberry (2007) and Pebay (2008), weighted.
+///
+/// The mean is always written, 0.0 without rows. Missing values stand in
+///     the five others                   where D is 0 with `sample` -1, or W is 0 with `sample` 0
+///     the four shape results            where the variance is 0
+///     `skewS` and `seSkew`              unless W - 2 wbar is above 0 (wbar also where c is 1)
+///     `kurtS` and `seKurt`              unless W - 2c and W - 3c are above 0
+/// In the first two cases `seSkew` and `seKurt` are left as the caller had them.
+VECMAT_API void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* skewP, double* kurtP,
+                                    double* skewS, double* kurtS, double* seSkew, double* seKurt, short* mask,
+                                    matrix* w, short sample, short freqWeights);
+VECMAT_API void VB_V_MeanVarSkewPKurtP(double* v, int n, double* mean, double* var, double* skewP, double* kurtP,
+                                       double* skewS, double* kurtS, double* seSkew, double* seKurt, short* mask,
+                                       double* w, short sample, short freqWeights);
+
+} // extern "C"
