@@ -24,12 +24,6 @@ constexpr int shifted(int number, int by)
     return static_cast<int>(static_cast<unsigned>(number) + static_cast<unsigned>(by));
 }
 
-/// A row or column number that the caller counts from 1.
-constexpr int zeroBased(int number)
-{
-    return shifted(number, -1);
-}
-
 /// How many numbers the range holds, both ends included; none where it ends before it starts.
 constexpr int countFromTo(int from, int to)
 {

@@ -36,4 +36,10 @@ constexpr short booleanOf(bool answer)
     return answer ? -1 : 0;
 }
 
+/// The number, from 0, of a row or column that the caller counts from 1. Wraps likewise.
+constexpr int zeroBased(int number)
+{
+    return static_cast<int>(static_cast<unsigned>(number) - 1u);
+}
+
 } // namespace vecmat

@@ -51,12 +51,6 @@ struct RowRange
     int at(long long k) const { return static_cast<int>(first + k); }
 };
 
-/// The 0-based number; wraps below the lowest int, which no table holds either way.
-constexpr int zeroBased(int number)
-{
-    return static_cast<int>(static_cast<unsigned>(number) - 1u);
-}
-
 /// The record of a sort, ordered by its key alone: the 1-based position never takes part in the comparison.
 template <class Key>
 struct KeyedPosition
