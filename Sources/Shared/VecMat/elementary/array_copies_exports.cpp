@@ -1,0 +1,111 @@
+#include "array_copies.h"
+
+#include "../frame/cells.h"
+#include "../frame/handles.h"
+
+#include <algorithm>
+
+using vecmat::copied;
+using vecmat::countOf;
+using vecmat::fresh;
+using vecmat::freshStrings;
+using vecmat::handBack;
+using vecmat::TableHandle;
+using vecmat::viewed;
+
+namespace {
+
+/// Cell (i, j) of `result` takes the cell of `source` at i + j*r: the result's own numbers with the source's stride.
+template <class Table>
+void resize(Table* source, int r, Table* result)
+{
+    const auto from = vecmat::linear(source);
+    const auto to = vecmat::cells(result);
+    for (int j = 0; j < result->nCols; ++j)
+        for (int i = 0; i < result->nRows; ++i)
+            to.set(i, j, from.get(static_cast<int>(vecmat::linearIndex(i, j, r))));
+}
+
+/// The columns of the source and of the result, where 0 of the one means a vector on both sides.
+struct ResizedColumns
+{
+    ResizedColumns(int c, int newC) : source(c == 0 ? 1 : c), result(c == 0 ? 1 : newC) {}
+
+    int source;
+    int result;
+};
+
+} // namespace
+
+void VB_V_DuplicateDbl(double* src, int n, double* dst)
+{
+    std::copy_n(src, countOf(n), dst);
+}
+
+void VB_V_DuplicateLng(int* src, int n, int* dst)
+{
+    std::copy_n(src, countOf(n), dst);
+}
+
+void Cpp_V_DuplicateBool(short* src, int n, short* dst)
+{
+    std::copy_n(src, countOf(n), dst);
+}
+
+void VB_V_DuplicateStr(wchar_t** src, int n, wchar_t** dst)
+{
+    handBack(copied(src, n, 1), dst);
+}
+
+void VB_M_DuplicateDbl(double* src, int r, int c, double* dst)
+{
+    handBack(viewed(src, r, c), dst);
+}
+
+void VB_M_DuplicateLng(int* src, int r, int c, int* dst)
+{
+    handBack(viewed(src, r, c), dst);
+}
+
+void VB_M_DuplicateStr(wchar_t** src, int r, int c, wchar_t** dst)
+{
+    handBack(copied(src, r, c), dst);
+}
+
+void VB_V_DuplicateDblToLng(double* src, int n, int* dst)
+{
+    std::transform(src, src + countOf(n), dst, vecmat::truncated);
+}
+
+void VB_V_DuplicateLngToDbl(int* src, int n, double* dst)
+{
+    std::copy_n(src, countOf(n), dst);
+}
+
+void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC)
+{
+    const ResizedColumns cols(c, newC);
+    const TableHandle result = fresh(newR, cols.result);
+    resize<matrix>(viewed(src, r, cols.source), r, result);
+    handBack(result, dst);
+}
+
+void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, int newC)
+{
+    const ResizedColumns cols(c, newC);
+    const auto result = freshStrings(newR, cols.result);
+    resize<Smatrix>(copied(src, r, cols.source), r, result);
+    handBack(result, dst);
+}
+
+void VB_V_ReverseDbl(double* x, int n, double* out)
+{
+    const TableHandle result = fresh(n, 1);
+    V_Reverse(viewed(x, n, 1), n, result);
+    handBack(result, out);
+}
+
+void VB_V_ReverseBool(short* x, int n, short* out)
+{
+    V_ReverseBool(x, n, out);
+}

@@ -1,0 +1,48 @@
+#include "../frame/handles.h"
+#include "block_copy.h"
+#include "columns_and_rows.h"
+
+#include <algorithm>
+
+using vecmat::copied;
+using vecmat::fresh;
+using vecmat::freshStrings;
+using vecmat::handBack;
+using vecmat::TableHandle;
+using vecmat::viewed;
+using vecmat::zeroBased;
+
+void VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol, short prepare)
+{
+    TableHandle target = viewed(dst, n, dstCol);
+    CopyMatrixColToMatrixCol(viewed(src, n, col), n, col, target.reference(), dstCol, prepare);
+}
+
+void VB_CopyMatrixColToVector(double* src, int n, int col, double* v)
+{
+    TableHandle result = fresh(n, 1);
+    CopyMatrixColToVector(viewed(src, n, col), n, col, result.reference());
+    handBack(result, v);
+}
+
+void VB_CopyMatrixRowToMatrixRow(double* src, int rows, int cols, int row, double* dst, int dstRows, int dstRow,
+                                 short prepare)
+{
+    TableHandle target = viewed(dst, dstRows, cols);
+    CopyMatrixRowToMatrixRow(viewed(src, rows, cols), cols, zeroBased(row), target.reference(), dstRows,
+                             zeroBased(dstRow), prepare);
+}
+
+void VB_CopyMatrixColToOneColMatStr(wchar_t** src, int n, int col, wchar_t** out)
+{
+    const auto result = freshStrings(n, 1);
+    CopyMatrixColToOneColMatStr(copied(src, n, col), n, col, result);
+    handBack(result, out);
+}
+
+void Cpp_Extractij(double* a, int n, int i, int j, double* out)
+{
+    const TableHandle result = fresh(n, 2);
+    Extractij(viewed(a, n, std::max(i, j)), n, i, j, result);
+    handBack(result, out);
+}

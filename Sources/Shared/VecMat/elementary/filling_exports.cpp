@@ -1,0 +1,45 @@
+#include "../frame/handles.h"
+#include "../frame/numbers.h"
+#include "filling.h"
+
+#include <algorithm>
+#include <numeric>
+
+using vecmat::countOf;
+
+void VB_InitVectorToFalse(short* v, int n)
+{
+    std::fill_n(v, countOf(n), short{0});
+}
+
+void VB_InitVectorToTrue(short* v, int n)
+{
+    std::fill_n(v, countOf(n), short{-1});
+}
+
+void VB_V_SetToValue(double* v, int n, double value)
+{
+    std::fill_n(v, countOf(n), value);
+}
+
+void VB_V_SetToValueLng(int* v, int n, int value)
+{
+    std::fill_n(v, countOf(n), value);
+}
+
+void VB_V_SetToValueStr(wchar_t** v, int n, const wchar_t* value)
+{
+    const auto strings = vecmat::freshStrings(n, 1);
+    V_SetToValueStr(strings, n, value);
+    vecmat::handBack(strings, v);
+}
+
+void VB_V_Set1toNDbl(double* v, int n)
+{
+    std::iota(v, v + countOf(n), 1);
+}
+
+void VB_V_Set1toNLng(int* v, int n)
+{
+    std::iota(v, v + countOf(n), 1);
+}

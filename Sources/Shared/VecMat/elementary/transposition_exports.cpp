@@ -1,0 +1,60 @@
+#include "../frame/handles.h"
+#include "transposition.h"
+
+using vecmat::columns;
+using vecmat::copied;
+using vecmat::fresh;
+using vecmat::freshInt;
+using vecmat::freshStrings;
+using vecmat::handBack;
+using vecmat::IntTableHandle;
+using vecmat::StringTableHandle;
+using vecmat::TableHandle;
+using vecmat::viewed;
+
+void VB_M_Transpose(double* a, int r, int c, double* out)
+{
+    TableHandle table = viewed(a, r, c);
+    TableHandle result = fresh(c, r);
+    M_Transpose(table.reference(), r, c, result.reference());
+    handBack(result, out);
+}
+
+void VB_M_TransposeLng(int* a, int r, int c, int* out)
+{
+    IntTableHandle table = viewed(a, r, c);
+    IntTableHandle result = freshInt(c, r);
+    M_Transpose(table.reference(), r, c, result.reference());
+    handBack(result, out);
+}
+
+void VB_M_TransposeStr(wchar_t** a, int r, int c, wchar_t** out)
+{
+    StringTableHandle table = copied(a, r, c);
+    StringTableHandle result = freshStrings(c, r);
+    M_Transpose(table.reference(), r, c, result.reference());
+    handBack(result, out);
+}
+
+void VB_M_Transpose2(double* a, int r, int c)
+{
+    TableHandle table = viewed(a, r, c);
+    M_Transpose2(table.reference(), r, c);
+}
+
+void VB_M_Transpose2Lng(int* a, int r, int c)
+{
+    VB_M_TransposeLng(a, r, c, a);
+}
+
+void VB_M_Transpose2Str(wchar_t** a, int r, int c)
+{
+    StringTableHandle table = copied(a, r, c);
+    M_Transpose2(table.reference(), r, c);
+    handBack(table, a);
+}
+
+void VB_M_TransposeSPV(SAFEARRAY** a, int r, int c, SAFEARRAY** out)
+{
+    M_TransposeSPV(columns(a, c, r), r, c, columns(out, r, c));
+}
