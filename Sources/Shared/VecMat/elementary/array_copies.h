@@ -25,9 +25,9 @@ VECMAT_API void VB_V_DuplicateLngToDbl(int* src, int n, double* dst);
 
 // ---- resized --------------------------------------------------------------------------------------------------------
 
-/// Reads `src` as `r` by `c` and writes newR by newC cells: cell (i, j), from 0, is the cell at i + j*r of `src`. So rows
-/// beyond `r` run into the next column, and past the end of `src` -1.0 (an empty string) is stored. A `c` of 0 means
-/// one column on both sides, whatever newC is.
+/// Reads `src` as `r` by `c` and writes newR by newC cells: cell (i, j), from 0, is the cell at i + j*r of `src`. So
+/// rows beyond `r` run into the next column, and past the end of `src` -1.0 (an empty string) is stored. A `c` of 0
+/// means one column on both sides, whatever newC is.
 VECMAT_API void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC);
 VECMAT_API void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, int newC);
 

@@ -1,4 +1,5 @@
 #include "../frame/handles.h"
+#include "../sorting/copy_block.h"
 #include "block_copy.h"
 #include "blocks.h"
 
@@ -9,21 +10,22 @@ using vecmat::fresh;
 using vecmat::freshStrings;
 using vecmat::handBack;
 using vecmat::stringColumns;
+using vecmat::StringTableHandle;
 using vecmat::TableHandle;
 using vecmat::triangleColumns;
 using vecmat::viewed;
 
 void VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst)
 {
-    const TableHandle result = fresh(countFromTo(r1, r2), countFromTo(c1, c2));
-    M_CopyPasteBlock(viewed(src, rows, cols), r1, r2, c1, c2, result, 1, 1);
+    TableHandle result = fresh(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyBlock(viewed(src, rows, cols), r1, r2, c1, c2, result.reference());
     handBack(result, dst);
 }
 
 void VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst)
 {
-    const auto result = freshStrings(countFromTo(r1, r2), countFromTo(c1, c2));
-    M_CopyPasteBlockStr(copied(src, rows, cols), r1, r2, c1, c2, result, 1, 1);
+    StringTableHandle result = freshStrings(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyBlock(copied(src, rows, cols), r1, r2, c1, c2, result.reference());
     handBack(result, dst);
 }
 

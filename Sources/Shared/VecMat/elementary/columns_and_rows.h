@@ -27,8 +27,8 @@ VECMAT_API void CopyMatrixRowToMatrixRow(matrix* src, int cols, int row, matrix*
 /// Copies column `col` into the first `n` cells of `out`, which is not prepared.
 VECMAT_API void CopyMatrixColToOneColMatStr(Smatrix* src, int n, int col, Smatrix* out);
 
-/// Copies all cells of table `srcCol` of the `nTables` into column `dstCol` of `dst`. Both numbers count from 0; nothing
-/// happens for one out of range.
+/// Copies all cells of table `srcCol` of the `nTables` into column `dstCol` of `dst`. Both numbers count from 0;
+/// nothing happens for one out of range.
 VECMAT_API void CopyCol(matrix** src, int nTables, int srcCol, int dstCol, matrix* dst);
 
 /// Copies `n` cells of the columns `i` and `j` into columns 1 and 2 of `out`, which is not prepared.

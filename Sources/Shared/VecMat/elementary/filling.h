@@ -1,7 +1,7 @@
 // Arrays and vectors filled with one value, or with 1, 2, ..., n.
 //
-// A count below 1 fills nothing. The forms that take a `matrix*&` (`matrixInt*&`) prepare it as an n by 1 table: a table
-// that is larger is kept, and the first n cells of its block are filled.
+// A count below 1 fills nothing. The forms that take a `matrix*&` (`matrixInt*&`) prepare it as an n by 1 table: a
+// table that is larger is kept, and the first n cells of its block are filled.
 #pragma once
 
 #include "../Smatrix.h"

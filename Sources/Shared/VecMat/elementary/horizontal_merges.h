@@ -46,8 +46,8 @@ VECMAT_API void HMergeTables(matrix* a, int r1, int c1, matrix* b, int r2, int c
 VECMAT_API void HMergeTables(matrixInt* a, int r1, int c1, matrixInt* b, int r2, int c2, matrixInt*& out);
 VECMAT_API void HMergeTables(Smatrix* a, int r1, int c1, Smatrix* b, int r2, int c2, Smatrix*& out);
 
-/// Writes the columns of `b` into the tables c1 to c1 + c2 - 1, from 0, of `a`, which must exist. Leaves the others, and
-/// cells below `r2`, as they are; drops rows that the columns of `a` do not have.
+/// Writes the columns of `b` into the tables c1 to c1 + c2 - 1, from 0, of `a`, which must exist. Leaves the others,
+/// and cells below `r2`, as they are; drops rows that the columns of `a` do not have.
 VECMAT_API void HMergeTables(matrix** a, int r1, int c1, matrix* b, int r2, int c2);
 VECMAT_API void HMergeTables(matrix** a, int r1, int c1, matrix** b, int r2, int c2);
 
@@ -72,9 +72,9 @@ VECMAT_API void VB_HMergeTablesLng2(int* a, int r1, int c1, int* b, int r2, int 
 VECMAT_API void VB_HMergeTablesBool2(short* a, int r1, int c1, short* b, int r2, int c2);
 VECMAT_API void VB_HMergeTablesStr2(wchar_t** a, int r1, int c1, wchar_t** b, int r2, int c2);
 
-/// Opens `t` at max(r, n) by c + 1 over its r by c cells and writes `v` into the last column. The cells of `t` are taken
-/// in linear order, not moved to the new stride: with n above r and more than one column, the columns of `t` come back
-/// shifted. Cells beyond those of `t` become 0.0.
+/// Opens `t` at max(r, n) by c + 1 over its r by c cells and writes `v` into the last column. The cells of `t` are
+/// taken in linear order, not moved to the new stride: with n above r and more than one column, the columns of `t` come
+/// back shifted. Cells beyond those of `t` become 0.0.
 VECMAT_API void VB_HMergeTableVect2(double* t, int r, int c, double* v, int n);
 
 /// Columns c1 + 1 to c1 + c2 of `a`, of `r1` rows each, take the columns of `b`, as far as they have rows.

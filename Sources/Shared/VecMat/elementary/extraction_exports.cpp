@@ -1,0 +1,83 @@
+#include "../frame/handles.h"
+#include "block_copy.h"
+#include "extraction.h"
+
+using vecmat::columns;
+using vecmat::copied;
+using vecmat::copyCells;
+using vecmat::countFromTo;
+using vecmat::fresh;
+using vecmat::freshStrings;
+using vecmat::handBack;
+using vecmat::stringColumns;
+using vecmat::StringTableHandle;
+using vecmat::TableHandle;
+using vecmat::viewed;
+using vecmat::window;
+using vecmat::zeroBased;
+
+namespace {
+
+/// A caller passes 0 columns for a vector.
+int atLeastAVector(int cols)
+{
+    return cols == 0 ? 1 : cols;
+}
+
+/// Rows `from` to `to` of the strings, which have no computing function of their own, to the caller's array.
+template <class Source>
+void extractStrings(Source source, int cols, int from, int to, wchar_t** out)
+{
+    const int rows = countFromTo(from, to);
+    const StringTableHandle result = freshStrings(rows, cols);
+    copyCells(source, window<Smatrix>(result, 0, 0), rows, cols);
+    handBack(result, out);
+}
+
+} // namespace
+
+void VB_M_ExtractMatToMatDbl(double* src, int rows, int cols, int from, int to, double* out)
+{
+    const int width = atLeastAVector(cols);
+    const TableHandle result = fresh(countFromTo(from, to), width);
+    M_ExtractMatToMat(viewed(src, rows, width), width, from, to, result);
+    handBack(result, out);
+}
+
+void VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to, double* out)
+{
+    const int width = atLeastAVector(cols);
+    const TableHandle result = fresh(countFromTo(from, to), width);
+    M_ExtractMatToMatSPV(columns(src, width, to), width, from, to, result);
+    handBack(result, out);
+}
+
+void VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, int from, int to, wchar_t** out)
+{
+    const int width = atLeastAVector(cols);
+    const StringTableHandle table = copied(src, rows, width);
+    extractStrings(window<Smatrix>(table, zeroBased(from), 0), width, from, to, out);
+}
+
+void VB_M_ExtractMatToMatStrSPV(SAFEARRAY** src, int cols, int from, int to, wchar_t** out)
+{
+    const int width = atLeastAVector(cols);
+    const auto tables = stringColumns(src, width, to);
+    extractStrings(window<Smatrix>(static_cast<Smatrix**>(tables), zeroBased(from), 0), width, from, to, out);
+}
+
+void VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, int to, double* out)
+{
+    TableHandle result = fresh(rows, countFromTo(from, to));
+    M_ExtractMatToMatByColDbl(viewed(src, rows, to), rows, from, to, result.reference());
+    handBack(result, out);
+}
+
+void Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip, int start,
+                                 SAFEARRAY** dst, double* positions)
+{
+    const auto result = stringColumns(dst, cols, nOut);
+    M_ExtractMatNeverySKSPV(stringColumns(src, cols, n), n, cols, nOut, keep, skip, start, result,
+                            viewed(positions, nOut, 1));
+    SaveSAFEARRAY(result, cols, nOut, dst);
+}

@@ -1,0 +1,51 @@
+#include "../frame/handles.h"
+#include "../frame/numbers.h"
+#include "packing.h"
+
+using vecmat::fresh;
+using vecmat::handBack;
+using vecmat::TableHandle;
+using vecmat::viewed;
+
+namespace {
+
+/// Rows of a one-column table with a cell for each of rows by cols.
+int stackedLength(int rows, int cols)
+{
+    return static_cast<int>(vecmat::elementCount(rows, cols));
+}
+
+/// n(n+1)/2; the even one of the two factors is halved before they are multiplied.
+int packedLength(int n)
+{
+    return n % 2 == 0 ? stackedLength(n / 2, n + 1) : stackedLength(n, n / 2 + 1);
+}
+
+} // namespace
+
+void Cpp_MatToVect(double* a, int rows, int cols, double* v)
+{
+    MatToVect(viewed(a, rows, cols), rows, cols, viewed(v, stackedLength(rows, cols), 1));
+}
+
+void Cpp_VectToMat(double* v, double* counts, int rows, int cols, double* out)
+{
+    const TableHandle result = fresh(rows, cols);
+    // At most one value for each cell is read, and none that the counts do not ask for.
+    VectToMat(viewed(v, stackedLength(rows, cols), 1), viewed(counts, cols, 1), rows, cols, result);
+    handBack(result, out);
+}
+
+void Cpp_M_CopySymMatToVector(double* a, int n, double* v)
+{
+    const TableHandle result = fresh(packedLength(n), 1);
+    M_CopySymMatToVector(viewed(a, n, n), n, result);
+    handBack(result, v);
+}
+
+void Cpp_M_CopyVectorToSymMat(double* v, int n, double* a)
+{
+    const TableHandle result = fresh(n, n);
+    M_CopyVectorToSymMat(viewed(v, packedLength(n), 1), n, result);
+    handBack(result, a);
+}
