@@ -1,0 +1,26 @@
+// Counting the true elements of Boolean arrays, and finding an integer.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrixInt.h"
+
+extern "C" {
+
+/// Number of elements that are exactly -1; another non-zero value does not count. 0 for `n` below 1. The two names are
+/// one function.
+VECMAT_API int V_NbTrue(short* x, int n);
+VECMAT_API int VB_V_NbTrue(short* x, int n);
+
+/// The same over the 1-based elements `from` to `to`; 0 where `from` is above `to`. A `from` below 1 starts at the
+/// first element. `n` is not used: the caller provides `to` elements.
+VECMAT_API int V_NbTrueFromTo(short* x, int from, int to);
+VECMAT_API int VB_V_NbTrueFromTo(short* x, int n, int from, int to);
+
+/// -1 where one of the first `n` cells, in linear order, equals `val`, else 0. A cell beyond the table reads as -1, so
+/// -1 is found there.
+VECMAT_API short V_FindLng(matrixInt* x, int n, int val);
+
+/// The same over an array of n elements.
+VECMAT_API short Cpp_V_FindLng(int* x, int n, int val);
+
+} // extern "C"
