@@ -120,14 +120,21 @@ TEST(MIsPositive, SmallerDimensionsKeepTheStride)
 
 // ---- intervals ------------------------------------------------------------------------------------------------------
 
-short tableIsIn01(int rows, int cols, const std::vector<double>& cells)
+/// The answer of a table form, which the flat form must give too.
+template <class Form, class FlatForm>
+short answerOf(Form form, FlatForm flatForm, int rows, int cols, const std::vector<double>& cells)
 {
     auto a = table(rows, cols, cells);
     Guarded<double> flat(cells);
-    const short answer = M_IsIn01(a, rows, cols);
-    EXPECT_EQ(VB_M_IsIn01(flat, rows, cols), answer);
+    const short answer = form(a, rows, cols);
+    EXPECT_EQ(flatForm(flat, rows, cols), answer);
     EXPECT_TRUE(flat.untouched());
     return answer;
+}
+
+short tableIsIn01(int rows, int cols, const std::vector<double>& cells)
+{
+    return answerOf(M_IsIn01, VB_M_IsIn01, rows, cols, cells);
 }
 
 TEST(MIsIn01, EndsIncluded)
@@ -147,12 +154,7 @@ TEST(MIsIn01, EndsIncluded)
 
 short tableIsLong(int rows, int cols, const std::vector<double>& cells)
 {
-    auto a = table(rows, cols, cells);
-    Guarded<double> flat(cells);
-    const short answer = M_IsLong(a, rows, cols);
-    EXPECT_EQ(VB_M_IsLong(flat, rows, cols), answer);
-    EXPECT_TRUE(flat.untouched());
-    return answer;
+    return answerOf(M_IsLong, VB_M_IsLong, rows, cols, cells);
 }
 
 TEST(MIsLong, AsksEveryCell)

@@ -38,7 +38,7 @@ void V_GetPositionInMatNNm1o2(int k, int n, int* i, int* j)
         lastOfRow += n - row;
         if (lastOfRow >= k) {
             *i = row;
-            *j = static_cast<int>(n + k - lastOfRow);
+            *j = static_cast<int>(n + (k - lastOfRow));
             return;
         }
     }
