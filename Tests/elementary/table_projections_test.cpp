@@ -107,6 +107,17 @@ TEST(GaussProdWeighted, MissingCellOfTheFactorIsMultiplied)
     EXPECT_THAT(out->X[0], SameBits((1e-300 * M * 1.0 + 2.0) / 4.0));
 }
 
+TEST(GaussProdWeighted, WeightComesLast)
+{
+    auto t = table(1, 1, {1e200});
+    double w[] = {1e-200};
+    t->weighting(w);
+    auto x = table(1, 1, {1e150});
+    auto out = table(1, 1, {9});
+    t->GaussProdWeighted(x, 0, out);
+    EXPECT_THAT(out->X[0], SameBits(std::numeric_limits<double>::infinity()));
+}
+
 TEST(TransGaussProdWeighted, WeightsOfBothTables)
 {
     auto t = table(4, 1, {1, 2, 3, 4});
