@@ -31,4 +31,6 @@
 #include "matrix.h"
 #include "matrixInt.h"
 #include "sorting/copy_block.h"
+#include "sorting/ranks.h"
 #include "sorting/sort.h"
+#include "sorting/sort_apply.h"
