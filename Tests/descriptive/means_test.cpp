@@ -82,6 +82,16 @@ TEST(V_Mean, ReadsMinusOneBehindTheEndOfTheTables)
     EXPECT_THAT(V_Mean(column({5, 7, 6}), 2, mask.data(), column({1, 1, 9})), SameBits(6.0));
 }
 
+TEST(Means, ANullMaskKeepsEveryRow)
+{
+    double gmean = 0.0, gsd = 0.0;
+    EXPECT_THAT(V_Mean(column({5, 7}), 2, nullptr, column({1, 1})), SameBits(6.0));
+    EXPECT_THAT(V_MeanAbs(column({-5, 7}), 2, nullptr, column({1, 1})), SameBits(6.0));
+    EXPECT_THAT(V_HarmonicMean(column({2, 2}), 2, nullptr, column({1, 1})), SameBits(2.0));
+    V_GMeanGSD(column({1, 1}), 2, nullptr, column({1, 1}), &gmean, &gsd);
+    EXPECT_THAT((std::array{gmean, gsd}), SameBits({1.0, 1.0}));
+}
+
 TEST(V_Mean2, IsThePlainMeanOfWhatIsPresent)
 {
     EXPECT_THAT(V_Mean2(column({1, M, 6}), 3), SameBits(3.5));
@@ -122,18 +132,21 @@ TEST(V_HarmonicMean, IsMissingWithoutRowsOrWhereTheReciprocalsCancelOut)
 
 TEST(V_GMeanGSD, UpdatesWithTheShareOfTheWeight)
 {
-    const std::vector<double> x{1.3, 2.9, 0.7, 5.1};
-    const std::vector<double> w{0.3, 1.7, 0.9, 0.2};
-    double W = 0.0, running = 0.0, Q = 0.0;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-        W += w[i];
-        const double f = w[i] / W;
-        const double d = std::log(x[i]) - running;
-        Q += (1.0 - f) * d * d * w[i];
-        running += d * f;
+    RandomData data(60);
+    SCOPED_TRACE(data);
+    for (int k = 0; k < 20; ++k) {
+        const auto x = data.uniforms(9, 0.5, 9.0), w = data.weights(9);
+        double W = 0.0, running = 0.0, Q = 0.0;
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            W += w[i];
+            const double f = w[i] / W;
+            const double d = std::log(x[i]) - running;
+            Q += (1.0 - f) * d * d * w[i];
+            running += d * f;
+        }
+        EXPECT_THAT(geometric(x, std::vector<short>(9, 0), w),
+                    SameBits({std::exp(running), std::exp(std::sqrt(Q / (W - W / 9)))}));
     }
-    const std::array<double, 2> expected{std::exp(running), std::exp(std::sqrt(Q / (W - W / 4)))};
-    EXPECT_THAT(geometric(x, {0, 0, 0, 0}, w), SameBits({expected[0], expected[1]}));
 }
 
 TEST(V_GMeanGSD, LeavesOutMaskedRowsAndMissingCells)

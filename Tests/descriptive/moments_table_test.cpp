@@ -189,10 +189,12 @@ TEST(M_MeanStDev, TheMaskIsAppliedIgnoredOrDropsEveryRow)
     EXPECT_THAT(meanStDev(d, {0, 0, 1}), SameBits({M, M}));
     EXPECT_THAT(meanStDevColumns(d, {0, 0, 1}), SameBits({M, M}));
     EXPECT_THAT(meanStDevColumns(d, {0, 0, -1}), SameBits(meanStDev(d, {0, 0, -1})));
-    // Ignored, it may be null; so may it where every row is dropped.
+    // A null one keeps every row where it is applied.
     Owned<matrix> mean, stdev = filled(1, 1, 0.0);
-    M_MeanStDev(column({1, 3}), 2, 1, mean, stdev, nullptr, column({1, 1}), 0, 0, -1);
-    EXPECT_THAT(joined(cellsOf(mean), cellsOf(stdev)), SameBits({2.0, 1.0}));
+    for (const short ignoreMask : {short{0}, short{-1}}) {
+        M_MeanStDev(column({1, 3}), 2, 1, mean, stdev, nullptr, column({1, 1}), 0, 0, ignoreMask);
+        EXPECT_THAT(joined(cellsOf(mean), cellsOf(stdev)), SameBits({2.0, 1.0}));
+    }
     M_MeanStDev(column({1, 3}), 2, 1, mean, stdev, nullptr, column({1, 1}), 0, 0, 2);
     EXPECT_THAT(joined(cellsOf(mean), cellsOf(stdev)), SameBits({M, M}));
 }

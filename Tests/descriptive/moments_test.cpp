@@ -184,6 +184,11 @@ TEST(V_MeanVar, GuardsWhatTheVarianceAloneDoesNot)
     EXPECT_THAT(meanStdev(unweighted({}), -1, 0), SameBits({0.0, 0.0}));
 }
 
+TEST(V_Var, ANullMaskKeepsEveryRow)
+{
+    EXPECT_THAT(V_Var(column({1, 3}), 2, nullptr, column({1, 1}), 0, 0), SameBits(1.0));
+}
+
 TEST(V_Var, ReadsMinusOneBehindTheEndOfTheTables)
 {
     std::vector<short> mask(2, 0);

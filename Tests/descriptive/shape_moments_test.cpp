@@ -90,37 +90,39 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
     RandomData data(65);
     SCOPED_TRACE(data);
     const std::size_t n = 12;
-    const auto x = data.normals(n), w = data.weights(n, 0.2);
-    double W = 0, mean = 0, M2 = 0, M3 = 0, M4 = 0;
-    for (std::size_t i = 0; i < n; ++i) {
-        W += w[i];
-        if (w[i] == 0.0)
-            continue;
-        const double f = w[i] / W, d = x[i] - mean;
-        const double d4 = std::pow(d, 4.0), d3 = std::pow(d, 3.0);
-        const double t = ((f * 3.0) * d) * M2;
-        const double lower = ((f + f) * d) * (t - (M3 + M3));
-        const double own = (((((f * 6.0 + -4.0) - (f * f) * 3.0) * f) + 1.0) * d4) * w[i];
-        M4 = M4 + (lower + own);
-        M3 = (M3 - t) + (((f * f + f * f) + (1.0 - f * 3.0)) * d3) * w[i];
-        M2 += (((1.0 - f) * d) * d) * w[i];
-        mean += d * f;
-    }
-    for (const short sample : {short{0}, short{-1}})
-        for (const short freqWeights : {short{0}, short{-1}}) {
-            const double c = freqWeights == -1 ? 1.0 : W / static_cast<int>(n);
-            const double D = W - c;
-            Shape e;
-            e.mean = mean;
-            e.var = M2 / (sample == -1 ? D : W);
-            e.skewP = (M3 / W) / std::pow(e.var, 1.5);
-            e.kurtP = (M4 / W) / (e.var * e.var) + -3.0;
-            e.skewS = (std::sqrt(W * D) * e.skewP) / (W - 2 * c);
-            e.seSkew = std::sqrt(((W * 6.0) * D) / (((c * 3.0 + W) * (W + c)) * (W - 2 * c)));
-            e.kurtS = (((W + c) * (e.kurtP + 3.0) - D * 3.0) * D) / ((W - 2 * c) * (W - 3 * c));
-            e.seKurt = std::sqrt((((e.seSkew * e.seSkew) * (W * W - c)) * 4.0) / ((c * 5.0 + W) * (W - 3 * c)));
-            EXPECT_THAT(shape(x, std::vector<short>(n, 0), w, sample, freqWeights).all(), SameBits(e.all()));
+    for (int draw = 0; draw < 20; ++draw) {
+        const auto x = data.normals(n), w = data.weights(n, 0.2);
+        double W = 0, mean = 0, M2 = 0, M3 = 0, M4 = 0;
+        for (std::size_t i = 0; i < n; ++i) {
+            W += w[i];
+            if (w[i] == 0.0)
+                continue;
+            const double f = w[i] / W, d = x[i] - mean;
+            const double d4 = std::pow(d, 4.0), d3 = std::pow(d, 3.0);
+            const double t = ((f * 3.0) * d) * M2;
+            const double lower = ((f + f) * d) * (t - (M3 + M3));
+            const double own = (((((f * 6.0 + -4.0) - (f * f) * 3.0) * f) + 1.0) * d4) * w[i];
+            M4 = M4 + (lower + own);
+            M3 = (M3 - t) + (((f * f + f * f) + (1.0 - f * 3.0)) * d3) * w[i];
+            M2 += (((1.0 - f) * d) * d) * w[i];
+            mean += d * f;
         }
+        for (const short sample : {short{0}, short{-1}})
+            for (const short freqWeights : {short{0}, short{-1}}) {
+                const double c = freqWeights == -1 ? 1.0 : W / static_cast<int>(n);
+                const double D = W - c;
+                Shape e;
+                e.mean = mean;
+                e.var = M2 / (sample == -1 ? D : W);
+                e.skewP = (M3 / W) / std::pow(e.var, 1.5);
+                e.kurtP = (M4 / W) / (e.var * e.var) + -3.0;
+                e.skewS = (std::sqrt(W * D) * e.skewP) / (W - 2 * c);
+                e.seSkew = std::sqrt(((W * 6.0) * D) / (((c * 3.0 + W) * (W + c)) * (W - 2 * c)));
+                e.kurtS = (((W + c) * (e.kurtP + 3.0) - D * 3.0) * D) / ((W - 2 * c) * (W - 3 * c));
+                e.seKurt = std::sqrt((((e.seSkew * e.seSkew) * (W * W - c)) * 4.0) / ((c * 5.0 + W) * (W - 3 * c)));
+                EXPECT_THAT(shape(x, std::vector<short>(n, 0), w, sample, freqWeights).all(), SameBits(e.all()));
+            }
+    }
 }
 
 TEST(ShapeMoments, LeaveOutMaskedRowsAndMissingCells)

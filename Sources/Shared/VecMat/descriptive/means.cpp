@@ -1,6 +1,7 @@
 #include "means.h"
 
 #include "../frame/cells.h"
+#include "../frame/masks.h"
 #include "running_moments.h"
 
 #include <cmath>
@@ -19,7 +20,7 @@ double weightedMean(matrix* v, int n, const short* mask, matrix* w, Value value)
             double weights = 0.0;
             double sum = 0.0;
             for (int i = 0; i < n; ++i) {
-                if (mask[i] != 0 || !isPresent(x.get(i)) || weight.get(i) == 0.0)
+                if (!Mask(mask).keeps(i) || !isPresent(x.get(i)) || weight.get(i) == 0.0)
                     continue;
                 weights += weight.get(i);
                 sum += weight.get(i) * value(x.get(i));
@@ -103,7 +104,7 @@ double V_HarmonicMean(matrix* v, int n, short* mask, matrix* w)
     double reciprocals = 0.0;
     for (int i = 0; i < n; ++i) {
         const double x = linear(v).get(i);
-        if (mask[i] != 0 || !isPresent(x))
+        if (!Mask(mask).keeps(i) || !isPresent(x))
             continue;
         if (x == 0.0)
             return missingValue;
@@ -121,7 +122,7 @@ void V_GMeanGSD(matrix* v, int n, short* mask, matrix* w, double* gmean, double*
     *gsd = missingValue;
     for (int i = 0; i < n; ++i) {
         const double x = linear(v).get(i);
-        if (mask[i] != 0 || !isPresent(x))
+        if (!Mask(mask).keeps(i) || !isPresent(x))
             continue;
         if (x <= 0.0)
             return;

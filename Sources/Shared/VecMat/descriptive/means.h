@@ -1,10 +1,10 @@
 // Means: arithmetic, absolute, harmonic and geometric, of a vector and of the columns of a table.
 //
-// Only the first n rows (and p columns) are read. A mask holds n entries: 0 keeps the row, anything else drops it. The
-// weights w have one cell for each row and are used as they are, without normalisation. Masks and weights must be given
-// where they stand among the arguments. "Missing" is the test for exactly the missing value, so that a NaN enters; the
-// two functions that let in only what is above the missing value, and thus leave out a NaN, say so. Nothing reports an
-// error but the missing value in a result.
+// Only the first n rows (and p columns) are read. A mask holds n entries: 0 keeps the row, anything else drops it; a
+// null mask keeps every row. The weights w have one cell for each row and are used as they are, without normalisation;
+// they must be given where they stand among the arguments. "Missing" is the test for exactly the missing value, so that
+// a NaN enters; the two functions that let in only what is above the missing value, and thus leave out a NaN, say so.
+// Nothing reports an error but the missing value in a result.
 #pragma once
 
 #include "../frame/api.h"

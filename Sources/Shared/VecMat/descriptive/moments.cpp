@@ -1,6 +1,7 @@
 #include "moments.h"
 
 #include "../frame/cells.h"
+#include "../frame/masks.h"
 #include "running_moments.h"
 
 #include <memory>
@@ -21,7 +22,7 @@ CountingVariance vectorMoments(matrix* v, int n, const short* mask, matrix* w)
         [&](auto x, auto weight) {
             CountingVariance moments;
             for (int i = 0; i < n; ++i)
-                if (mask[i] == 0 && isPresent(x.get(i)))
+                if (Mask(mask).keeps(i) && isPresent(x.get(i)))
                     moments.add(x.get(i), weight.get(i));
             return moments;
         },
@@ -70,7 +71,7 @@ int meanStDev(Storage X, int n, int p, matrix*& mean, matrix*& stdev, const shor
         matrix::matCheck(stdev, p, 1, 0.0);
     const WeightsOrUnits weights(w, n);
     columnMoments<SkippingVariance>(
-        X, n, p, weights.get(), [=](int i) { return ignoreMask == 0 ? mask[i] == 0 : ignoreMask == -1; },
+        X, n, p, weights.get(), [=](int i) { return ignoreMask == 0 ? Mask(mask).keeps(i) : ignoreMask == -1; },
         [&](int j, const SkippingVariance& moments) {
             const bool empty = moments.rows == 0;
             linear(mean).set(j, empty ? missingValue : moments.mean);
@@ -90,7 +91,7 @@ int meanStDevVar(Storage X, int n, int p, matrix*& mean, matrix*& stdev, matrix*
         matrix::matCheck(stdev, p, 1, 0.0);
     matrix::matCheck(var, p, 1, 0.0);
     columnMoments<CountingVariance>(
-        X, n, p, w, [=](int i) { return mask == nullptr || mask[i] == 0; },
+        X, n, p, w, [=](int i) { return Mask(mask).keeps(i); },
         [&](int j, const CountingVariance& moments) {
             const double variance = testedVariance(moments, sample, freqWeights);
             linear(mean).set(j, moments.mean);

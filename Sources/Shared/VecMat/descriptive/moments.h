@@ -1,8 +1,9 @@
 // Means, variances and standard deviations of a vector, and of the columns or rows of a table.
 //
-// Only the first n rows (and p columns) are read. A mask holds n entries: 0 keeps the row, anything else drops it. The
-// weights w are used as they are, without normalisation. Both must be given, except where a function says what a null
-// one means. A missing cell is left out; the test is for exactly the missing value, so that a NaN enters.
+// Only the first n rows (and p columns) are read. A mask holds n entries: 0 keeps the row, anything else drops it; a
+// null mask keeps every row. The weights w are used as they are, without normalisation; they must be given, except
+// where a function says what a null table means. A missing cell is left out; the test is for exactly the missing value,
+// so that a NaN enters.
 //
 // Variances come from one pass of running updates: W += w, d = x - mean, Q += d d (w - w w / W), mean += d w / W
 // (Welford 1962; West 1979). With W the sum of weights and m the count of rows, the divisor of Q is
@@ -53,8 +54,8 @@ VECMAT_API void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, sh
 // missing standard deviation; the mean is written all the same. The `SPV` forms read an array of column tables. All
 // return 0. In the flat forms each result has p cells and `stdev` may be null.
 
-/// A row of weight 0 does not enter and is not counted in m. `ignoreMask` 0 applies the mask; -1 keeps every row, and
-/// the mask may be null; any other value drops every row. A null w is a weight of 1 for each row. A column without rows
+/// A row of weight 0 does not enter and is not counted in m. `ignoreMask` 0 applies the mask; -1 keeps every row
+/// whatever the mask; any other value drops every row. A null w is a weight of 1 for each row. A column without rows
 /// has a missing mean and standard deviation.
 VECMAT_API int M_MeanStDev(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, short* mask, matrix* w, short sample,
                            short freqWeights, short ignoreMask);
@@ -63,8 +64,8 @@ VECMAT_API int M_MeanStDevSPV(matrix** X, int n, int p, matrix*& mean, matrix*& 
 VECMAT_API int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w,
                               short sample, short freqWeights, short ignoreMask);
 
-/// A row of weight 0 counts in m and moves nothing, unlike above. A null mask keeps every row; w must be given. A
-/// column without rows has mean 0.0 and a missing variance.
+/// A row of weight 0 counts in m and moves nothing, unlike above, and w must be given. A column without rows has mean
+/// 0.0 and a missing variance.
 VECMAT_API int M_MeanStDevVar(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix*& var, short* mask,
                               matrix* w, short sample, short freqWeights);
 VECMAT_API int M_MeanStDevVarSPV(matrix** X, int n, int p, matrix*& mean, matrix*& stdev, matrix*& var, short* mask,

@@ -58,46 +58,51 @@ bool isPresent(double x)
     return test == MissingTest::equality ? !isMissing(x) : x > missingValue;
 }
 
-/// Mean of the rows added so far, 0.0 before the first.
-template <class Rule, ZeroWeight zero>
-struct RunningMean
+/// The sum of weights W and the count m of the rows added so far.
+template <ZeroWeight zero>
+struct RunningWeights
 {
     double weights = 0.0;
-    double mean = 0.0;
     int rows = 0;
+
+    /// Takes up a row; answers whether it also moves the moments.
+    bool take(double w)
+    {
+        if (zero == ZeroWeight::skipped && w == 0.0)
+            return false;
+        weights += w;
+        ++rows;
+        return zero != ZeroWeight::counted || w != 0.0;
+    }
+};
+
+/// Mean of the rows added so far, 0.0 before the first.
+template <class Rule, ZeroWeight zero>
+struct RunningMean : RunningWeights<zero>
+{
+    double mean = 0.0;
 
     void add(double x, double w)
     {
-        if (zero == ZeroWeight::skipped && w == 0.0)
-            return;
-        weights += w;
-        ++rows;
-        if (zero == ZeroWeight::counted && w == 0.0)
-            return;
-        mean += Rule::mean(x - mean, w, weights);
+        if (this->take(w))
+            mean += Rule::mean(x - mean, w, this->weights);
     }
 };
 
 /// Mean and sum of squared deviations of the rows added so far.
 template <class Rule, ZeroWeight zero>
-struct RunningVariance
+struct RunningVariance : RunningWeights<zero>
 {
-    double weights = 0.0;
     double mean = 0.0;
     double squares = 0.0;
-    int rows = 0;
 
     void add(double x, double w)
     {
-        if (zero == ZeroWeight::skipped && w == 0.0)
-            return;
-        weights += w;
-        ++rows;
-        if (zero == ZeroWeight::counted && w == 0.0)
+        if (!this->take(w))
             return;
         const double d = x - mean;
-        squares += Rule::squares(d, w, weights);
-        mean += Rule::mean(d, w, weights);
+        squares += Rule::squares(d, w, this->weights);
+        mean += Rule::mean(d, w, this->weights);
     }
 };
 

@@ -1,6 +1,7 @@
 #include "shape_moments.h"
 
 #include "../frame/cells.h"
+#include "../frame/masks.h"
 #include "running_moments.h"
 
 #include <cmath>
@@ -11,20 +12,16 @@ namespace {
 
 /// Sums of the second to fourth powers of the deviations from the running mean. Each higher sum takes up the older
 /// lower ones, so they are updated from the highest down.
-struct RunningShape
+struct RunningShape : RunningWeights<ZeroWeight::counted>
 {
-    double weights = 0.0;
     double mean = 0.0;
     double m2 = 0.0;
     double m3 = 0.0;
     double m4 = 0.0;
-    int rows = 0;
 
     void add(double x, double w)
     {
-        weights += w;
-        ++rows;
-        if (w == 0.0)
+        if (!take(w))
             return;
         const double f = w / weights;
         const double d = x - mean;
@@ -46,7 +43,7 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
 {
     RunningShape moments;
     for (int i = 0; i < n; ++i)
-        if (const double x = linear(v).get(i); mask[i] == 0 && isPresent(x))
+        if (const double x = linear(v).get(i); Mask(mask).keeps(i) && isPresent(x))
             moments.add(x, linear(w).get(i));
 
     const double W = moments.weights;

@@ -10,7 +10,8 @@ extern "C" {
 /// form (S), with the standard errors of the sample forms.
 ///
 /// Masked rows (mask not 0) and cells with exactly the missing value are left out; a row of weight 0 counts in the
-/// number of rows m and in W, the sum of weights, and moves nothing else. Mask and weights must be given.
+/// number of rows m and in W, the sum of weights, and moves nothing else. A null mask keeps every row; weights must be
+/// given.
 ///
 /// With `wbar` = W/m (0 without rows), c = 1 for `freqWeights` -1 and wbar otherwise, and D = W - c, the variance is
 /// divided by D for `sample` -1 and by W otherwise, and both population forms are divided by powers of that variance.

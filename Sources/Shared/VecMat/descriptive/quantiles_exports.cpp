@@ -1,0 +1,34 @@
+#include "quantiles.h"
+
+#include "../frame/handles.h"
+
+using vecmat::copied;
+using vecmat::handBack;
+using vecmat::TableHandle;
+
+double VB_V_Quantile(double* x, int n, double p)
+{
+    return V_Quantile(copied(x, n, 1), n, p);
+}
+
+double VB_V_QuantileW(double* v, int n, double* w, double p)
+{
+    return V_QuantileW(copied(v, n, 1), n, copied(w, n, 1), p);
+}
+
+double VB_V_QuantileM(double* v, int n, short* mask, double p)
+{
+    return V_QuantileM(copied(v, n, 1), n, mask, p);
+}
+
+double VB_V_QuantileMW(double* v, int n, short* mask, double* w, double p)
+{
+    return V_QuantileMW(copied(v, n, 1), n, mask, copied(w, n, 1), p);
+}
+
+void Cpp_V_Quantiles13(double* x, int n, double* out)
+{
+    TableHandle quantiles = copied(out, 13, 1);
+    V_Quantiles13(copied(x, n, 1), n, quantiles);
+    handBack(quantiles, out);
+}
