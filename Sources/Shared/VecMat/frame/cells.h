@@ -24,6 +24,10 @@
 
 namespace vecmat {
 
+/// What a checked read outside a table of strings refers to. A constant, made before any call: a static of the function
+/// would bring a guard, and with it an atomic operation, into every such read.
+inline const std::wstring emptyText;
+
 /// The cell type of a table, and what a checked read outside it yields.
 template <class Table>
 struct CellOf;
@@ -49,11 +53,7 @@ struct CellOf<Smatrix>
 {
     using Value = std::wstring;
     using Read = const std::wstring&;
-    static const std::wstring& outside()
-    {
-        static const std::wstring empty;
-        return empty;
-    }
+    static const std::wstring& outside() { return emptyText; }
 };
 
 namespace detail {

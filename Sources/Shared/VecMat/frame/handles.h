@@ -15,6 +15,7 @@
 #include "../matrixInt.h"
 #include "super_matrices.h"
 
+#include <type_traits>
 #include <utility>
 
 namespace vecmat {
@@ -152,19 +153,19 @@ private:
 /// Columns of `nRows` cells, views of the caller's: a result is in them when the call ends.
 inline ColumnsHandle<matrix> columns(SAFEARRAY** x, int nCols, int nRows)
 {
-    return {LoadSAFEARRAY(x, nCols, nRows, 1), nCols};
+    return {x != nullptr ? LoadSAFEARRAY(x, nCols, nRows, 1) : nullptr, nCols};
 }
 
 /// Columns of n, n - 1, ... cells: the lower triangle of a symmetric table of order n.
 inline ColumnsHandle<matrix> triangleColumns(SAFEARRAY** x, int n)
 {
-    return {LoadSAFEARRAY(x, n, n, 0), n};
+    return {x != nullptr ? LoadSAFEARRAY(x, n, n, 0) : nullptr, n};
 }
 
 /// String columns: copies, which `SaveSAFEARRAY` hands back.
 inline ColumnsHandle<Smatrix> stringColumns(SAFEARRAY** x, int nCols, int nRows)
 {
-    return {LoadSAFEARRAYStr(x, nCols, nRows, 1), nCols};
+    return {x != nullptr ? LoadSAFEARRAYStr(x, nCols, nRows, 1) : nullptr, nCols};
 }
 
 } // namespace vecmat

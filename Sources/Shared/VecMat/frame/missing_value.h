@@ -3,7 +3,8 @@
 
 namespace vecmat {
 
-/// A cell without a value holds exactly this double, bits ffefffffffffffe2. It is thirty steps above the lowest double.
+/// A cell without a value holds exactly this double, bits ffefffffffffffe2. It is twenty-nine steps above the lowest
+/// double.
 inline constexpr double missingValue = -0x1.fffffffffffe2p+1023;
 
 /// The same magnitude with a positive sign, bits 7fefffffffffffe2: where a search for a minimum starts.

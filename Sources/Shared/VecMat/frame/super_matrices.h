@@ -67,7 +67,8 @@ VECMAT_API int MySafeArrayAccessData(SAFEARRAY* sa, void** data);
 /// `pvData` of `*sa`, or null where `*sa` is null.
 VECMAT_API void* ExtractBSTR(SAFEARRAY** sa);
 
-/// Makes the `n` tables of a stack, all 0.0, in an array that the caller has room for.
+/// Makes the `n` tables of a stack, all 0.0, in an array that the caller has room for. Should an allocation fail, the
+/// tables made so far are in `sm` and the others are null; the forms of `loadSuperMat` leave the same.
 VECMAT_API void iniSuperMat(matrix** sm, int n, int rows, int cols);
 
 /// `matCheck` of each table.
