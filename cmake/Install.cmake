@@ -2,7 +2,14 @@
 
 include(CMakePackageConfigHelpers)
 
-install(DIRECTORY ${vecmat_source}/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat FILES_MATCHING PATTERN "*.h")
+# The public headers are those that the umbrella names, in its order, and the marks that they all use.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${vecmat_source}/VecMat.h)
+file(STRINGS ${vecmat_source}/VecMat.h public_headers REGEX "^#include \"")
+list(TRANSFORM public_headers REPLACE "^#include \"([^\"]+)\".*" "\\1")
+foreach(header IN ITEMS VecMat.h frame/api.h LISTS public_headers)
+    get_filename_component(folder ${header} DIRECTORY)
+    install(FILES ${vecmat_source}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/${folder})
+endforeach()
 install(TARGETS VecMat EXPORT VecMatTargets)
 
 if(VECMAT_COMPANIONS_DIR)

@@ -8,11 +8,17 @@ function(vecmat_shared_library name)
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vecmat_options>)
+    if(APPLE) # whose linker binds calls inside a library, and calls to others to the library that has them
+        return()
+    endif()
     # The linker script keeps instantiations of the standard library's templates out of the exports: they carry
     # default visibility of their own and would otherwise appear under the library's name.
     set(script ${PROJECT_SOURCE_DIR}/cmake/exports.map)
     target_link_options(${name} PRIVATE -Wl,--version-script=${script})
     set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${script})
+    # Calls inside a library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded; calls
+    # to the companions go through the loader and can be taken over by another build.
+    target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions)
     if(NOT VECMAT_SANITIZE) # the sanitizers' run time is found in the program, not in the library
         target_link_options(${name} PRIVATE -Wl,--no-undefined)
     endif()
@@ -40,11 +46,7 @@ endforeach()
 set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
 file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
 vecmat_shared_library(VecMat ${vecmat_sources})
-target_compile_definitions(VecMat PRIVATE VECMAT_BUILDING)
 target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMat PRIVATE ${companion_targets})
-# Calls inside the library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded;
-# calls to the companions go through the loader and can be taken over by another build.
-target_link_options(VecMat PRIVATE -Wl,-Bsymbolic-functions)

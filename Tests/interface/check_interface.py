@@ -24,14 +24,13 @@ def main():
     wrong += unreadable
     disagreements, missing = interface.compare(rows, declarations, interface.read_symbols(arguments.library))
     wrong += disagreements
+    wrong += [f"the library calls its own {name} through the loader" for name in interface.open_calls(arguments.library)]
     umbrella = interface.check_umbrella(arguments.headers, declarations)
     if arguments.complete:
         wrong += umbrella + [f"missing: {row.signature()}" for row in missing]
 
-    print("\n".join(interface.summary(rows, missing)))
-    if not arguments.complete:
-        print("\n".join(umbrella))
-    print("\n".join(f"WRONG: {line}" for line in wrong))
+    notes = interface.summary(rows, missing) + ([] if arguments.complete else umbrella)
+    print("\n".join(notes + [f"WRONG: {line}" for line in wrong]))
     print(f"{len(wrong)} wrong, {len(missing)} missing")
     return 1 if wrong else 0
 

@@ -93,6 +93,18 @@ def read_symbols(library, nm="nm", demangler="c++filt"):
     return {one_symbol_spelling(symbol) for symbol in demangled}
 
 
+def open_calls(library, readelf="readelf", demangler="c++filt"):
+    """Names that the library defines and nevertheless looks up when it is loaded.
+
+    Another library in the process that has the same name (`ddot`, `dscal`) would be called in its place.
+    """
+    out = subprocess.run([readelf, "--relocs", "--wide", library], check=True, capture_output=True, text=True).stdout
+    wanted = set(re.findall(r"^[0-9a-f]+ +[0-9a-f]+ +R_\w+ +[0-9a-f]+ +([A-Za-z_]\w*)", out, flags=re.M))
+    names = subprocess.run([demangler], input="\n".join(sorted(wanted)), check=True, capture_output=True,
+                           text=True).stdout.splitlines()
+    return sorted({one_symbol_spelling(name) for name in names} & read_symbols(library))
+
+
 def compare(rows, declarations, symbols):
     """What is wrong, and which rows are not in the library yet, be they declared already or not."""
     wrong = []

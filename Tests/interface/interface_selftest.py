@@ -220,15 +220,27 @@ class Symbols(unittest.TestCase):
         self.folder = tempfile.mkdtemp()
         self.addCleanup(shutil.rmtree, self.folder)
 
-    def compile(self, source):
+    def compile(self, source, *options):
         path, library = Path(self.folder, "a.cpp"), Path(self.folder, "liba.so")
         path.write_text(source, encoding="utf-8")
         subprocess.run([os.environ.get("CXX", "c++"), "-shared", "-fPIC", "-fvisibility=hidden",
-                        "-DVECMAT_API=__attribute__((visibility(\"default\")))", path, "-o", library], check=True)
-        return interface.read_symbols(library)
+                        "-DVECMAT_API=__attribute__((visibility(\"default\")))", *options, path, "-o", library],
+                       check=True)
+        return library
+
+    def test_calls_of_own_functions_that_others_can_take_over(self):
+        source = """
+            #include <cmath>
+            extern "C" VECMAT_API double ddot(double x);
+            VECMAT_API double V_Norm(double x, int) { return std::cos(x) + 1.0; }
+            extern "C" VECMAT_API double dnrm2(double x) { return V_Norm(ddot(x), 1) + ddot(x + 1.0); }
+            double ddot(double x) { return std::sin(x); }
+            """
+        self.assertEqual(interface.open_calls(self.compile(source, "-O0")), ["V_Norm(double, int)", "ddot"])
+        self.assertEqual(interface.open_calls(self.compile(source, "-O0", "-Wl,-Bsymbolic-functions")), [])
 
     def test_names_as_the_list_has_them(self):
-        self.assertEqual(self.compile("""
+        self.assertEqual(interface.read_symbols(self.compile("""
             #include <string>
             #include <vector>
             struct matrix;
@@ -241,7 +253,7 @@ class Symbols(unittest.TestCase):
             extern "C" VECMAT_API double VB_V_Sum(double*, int) { return 0.0; }
             extern "C" VECMAT_API int data; int data = 3;
             double hidden(int) { return 0.0; }
-            """), {"table::table(int)", "table::~table()", "table::get(int, unsigned int)",
+            """)), {"table::table(int)", "table::~table()", "table::get(int, unsigned int)",
                    "V_Sum(matrix*&, const wchar_t*, short&, std::vector<void*>&)",
                    "V_Set(matrix**, std::wstring, const void*)", "VB_V_Sum", "data"})
 

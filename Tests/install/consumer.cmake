@@ -1,5 +1,5 @@
 cmake_minimum_required(VERSION 3.25)
 project(consumer LANGUAGES CXX)
 find_package(VecMat 1.0 REQUIRED)
-add_executable(consumer consumer.cpp)
-target_link_libraries(consumer PRIVATE VecMat::VecMat)
+add_executable(first_call first_call.cpp)
+target_link_libraries(first_call PRIVATE VecMat::VecMat)

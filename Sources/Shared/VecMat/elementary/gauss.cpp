@@ -1,0 +1,135 @@
+#include "gauss.h"
+
+#include "../frame/cells.h"
+#include "../frame/missing_value.h"
+#include "../frame/numbers.h"
+
+#include <cmath>
+#include <optional>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+constexpr int singular = -2;
+
+enum class Pivoting {
+    full,       ///< the largest cell, brought to the diagonal by exchanging rows
+    stayInRows, ///< the column of the largest cell, but no rows are exchanged
+    onDiagonal  ///< each diagonal cell in its turn
+};
+
+struct Cell
+{
+    int row;
+    int col;
+};
+
+/// The largest cell of the rows and columns that have not had a pivot yet.
+template <class Cells>
+std::optional<Cell> largestFreeCell(Cells a, int n, const std::vector<bool>& used)
+{
+    std::optional<Cell> found;
+    double largest = 0.0;
+    for (int i = 0; i < n; ++i) {
+        if (used[i])
+            continue;
+        for (int j = 0; j < n; ++j) {
+            if (used[j])
+                continue;
+            const double magnitude = std::abs(a.get(i, j));
+            if (magnitude - largest > zeroTolerance) {
+                largest = magnitude;
+                found = Cell{i, j};
+            }
+        }
+    }
+    return found;
+}
+
+template <class Cells>
+void swapRows(Cells a, int row1, int row2, int cols)
+{
+    for (int j = 0; j < cols; ++j) {
+        const double cell = a.get(row1, j);
+        a.set(row1, j, a.get(row2, j));
+        a.set(row2, j, cell);
+    }
+}
+
+template <class Cells>
+void swapColumns(Cells a, int col1, int col2, int rows)
+{
+    for (int i = 0; i < rows; ++i) {
+        const double cell = a.get(i, col1);
+        a.set(i, col1, a.get(i, col2));
+        a.set(i, col2, cell);
+    }
+}
+
+template <class Cells>
+void scaleRow(Cells a, int row, int cols, double factor)
+{
+    for (int j = 0; j < cols; ++j)
+        a.set(row, j, a.get(row, j) * factor);
+}
+
+template <class Cells>
+void subtractRow(Cells a, int row, int pivotRow, int cols, double multiple)
+{
+    for (int j = 0; j < cols; ++j)
+        a.set(row, j, a.get(row, j) - a.get(pivotRow, j) * multiple);
+}
+
+/// Clears column `p` by the diagonal cell (p, p), and puts a column of the inverse in its place.
+template <class Left, class Right>
+void eliminate(Left a, Right b, int n, int m, int p)
+{
+    const double reciprocal = 1.0 / a.get(p, p);
+    a.set(p, p, 1.0);
+    scaleRow(a, p, n, reciprocal);
+    scaleRow(b, p, m, reciprocal);
+    for (int i = 0; i < n; ++i) {
+        if (i == p)
+            continue;
+        const double multiple = a.get(i, p);
+        a.set(i, p, 0.0);
+        subtractRow(a, i, p, n, multiple);
+        subtractRow(b, i, p, m, multiple);
+    }
+}
+
+template <class Left, class Right>
+int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
+{
+    std::vector<bool> used(countOf(n));
+    std::vector<Cell> exchanges;
+    for (int step = 0; step < n; ++step) {
+        const std::optional<Cell> pivot =
+            pivoting == Pivoting::onDiagonal ? Cell{step, step} : largestFreeCell(a, n, used);
+        if (!pivot)
+            return singular;
+        used[pivot->col] = true;
+        if (pivoting == Pivoting::full && pivot->row != pivot->col) {
+            swapRows(a, pivot->row, pivot->col, n);
+            swapRows(b, pivot->row, pivot->col, m);
+            exchanges.push_back(*pivot);
+        }
+        if (a.get(pivot->col, pivot->col) == 0.0)
+            return singular;
+        eliminate(a, b, n, m, pivot->col);
+    }
+    for (auto exchange = exchanges.rbegin(); exchange != exchanges.rend(); ++exchange)
+        swapColumns(a, exchange->row, exchange->col, n);
+    return 0;
+}
+
+} // namespace
+
+int M_Gauss(matrix* a, int n, int m, matrix* b, bool noSwap, bool noPivot)
+{
+    const Pivoting pivoting = noPivot ? Pivoting::onDiagonal : noSwap ? Pivoting::stayInRows : Pivoting::full;
+    return onBlocks([=](auto left, auto right) { return gaussJordan(left, right, n, m, pivoting); },
+                    block(cells(a), n, n), block(cells(b), n, m));
+}

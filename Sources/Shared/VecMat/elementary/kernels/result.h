@@ -1,0 +1,34 @@
+// How a result table is prepared.
+#pragma once
+
+#include <memory>
+#include <utility>
+
+namespace vecmat {
+
+/// Would `matCheck` keep this table?
+template <class Table>
+bool holds(const Table* table, int rows, int cols)
+{
+    return table->nRows >= rows && table->nCols >= cols;
+}
+
+/// `matCheck` with 0.0, which deletes a table that is too small. That table may be an operand at the same time: it is
+/// handed to the caller, to live as long as the operands are read.
+template <class Table>
+[[nodiscard]] std::unique_ptr<Table> prepare(Table*& out, int rows, int cols)
+{
+    std::unique_ptr<Table> replaced;
+    if (out != nullptr && !holds(out, rows, cols))
+        replaced.reset(std::exchange(out, nullptr));
+    Table::matCheck(out, rows, cols, 0.0);
+    return replaced;
+}
+
+/// The product of two counts in wrapping arithmetic.
+constexpr int timesCount(int a, int b)
+{
+    return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+}
+
+} // namespace vecmat

@@ -1,0 +1,67 @@
+// Ranks in three flavours, and two questions to a series: is it sorted, and are its steps even.
+//
+// The three rank rules on the sorted values 10, 20, 20, 30:
+//
+//     V_GetRanks         1, 2, 2, 3      tied values share a rank, the next rank is one higher; a tie is plain equality
+//     V_GetRanksTies     1, 2.5, 2.5, 4  a weighted mean of the places; a tie is a difference below 1e-15
+//     V_GetRanksTiesInt  1, 2, 2, 4      the lowest of the places; a tie is plain equality
+//
+// Vectors are read in linear order; an element beyond its table reads -1.0 and takes part. No error is reported. With
+// NaN among the values the sort promises no order (see sort.h), and a NaN ties with nothing.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+#include "../matrixInt.h"
+
+/// The rank of each of the `n` elements of `x`, in the order of `x`. A missing value is an ordinary value here, the
+/// smallest: missing elements share rank 1. `ranks` is prepared with `matCheck`.
+VECMAT_API void V_GetRanks(matrix* x, int n, matrix*& ranks);
+VECMAT_API void V_GetRanks(matrix* x, int n, matrixInt*& ranks);
+
+extern "C" {
+
+/// Ranks with tied values at a weighted mean of their places. Missing elements (equality test) get the missing value
+/// and count as no places; only those that lead the sorted values are recognised, so not behind a value below the
+/// missing one.
+///
+/// A run of ties begins where an element differs from its sorted predecessor by less than 1e-15, and goes on while the
+/// next differs from the run's first by less than that. Its rank is the sum of place times weight over the sum of
+/// weights, but the first element of every run enters with the weight of the smallest element of all (in input order
+/// the first of its ties, missing ones included) and not with its own. With equal weights that is the mean of the
+/// places. The element behind a run is compared with the run's last; where the two differ by less than 1e-15 they begin
+/// a run of their own, which starts from the rank that the last has by then.
+///
+/// `ranks` must hold `n` rows and is not prepared. `*nTies` is the number of runs and `tieSizes`, prepared with
+/// `matCheck` to `n` rows, holds their lengths from the lowest value up, then 0.0. A weight of 0 is a weight like any
+/// other; a run without weight divides by 0.
+VECMAT_API void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix*& tieSizes);
+
+/// Ranks with tied values at the lowest of their places; missing elements as above. A run is one of equal values,
+/// without a tolerance. The weights enter into nothing. `ranks` and `tieSizes` must exist and are not prepared: what
+/// `tieSizes` holds behind the `*nTies` lengths stays.
+VECMAT_API void V_GetRanksTiesInt(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix* tieSizes);
+
+/// `V_GetRanksTies` of `n` cells of column `col`, 1-based, into the same column of `out`, which must exist; its other
+/// columns stay.
+VECMAT_API void M_GetRanksTies(matrix* table, int n, int col, matrix* weights, matrix*& out, int* nTies,
+                               matrix*& tieSizes);
+
+/// -1 if the `n` elements ascend, else 0. `strict` exactly -1 forbids equal neighbours; any other value allows them. A
+/// NaN passes either test, and so do fewer than two elements. Missing values are compared as the numbers they are.
+VECMAT_API short V_IsSorted(matrix* x, int n, short strict);
+
+/// The step of an evenly spaced series of `n` times: the second minus the first, or the missing value if any later step
+/// differs from that one by more than 1e-6. `sorted` exactly -1 sorts a private copy first; any other value takes the
+/// order given. With fewer than two cells those that lack read -1.0. Missing times are numbers like any other.
+VECMAT_API double V_TimeIntervalSize(matrix* t, int n, short sorted);
+
+/// Flat forms over vectors of `n`. The results stand in `ranks` and `tieSizes`, all other arrays stay as they were.
+VECMAT_API void VB_V_GetRanksDbl(double* x, int n, double* ranks);
+VECMAT_API void VB_V_GetRanksLng(double* x, int n, int* ranks);
+VECMAT_API void VB_V_GetRanksTiesDbl(double* x, int n, double* weights, double* ranks, int* nTies, double* tieSizes);
+VECMAT_API void VB_V_GetRanksTiesIntDbl(double* x, int n, double* weights, double* ranks, int* nTies, double* tieSizes);
+VECMAT_API short VB_V_IsSorted(double* x, int n, short strict);
+VECMAT_API double VB_V_TimeIntervalSize(double* t, int n, short sorted);
+
+} // extern "C"
