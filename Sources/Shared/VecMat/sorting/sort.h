@@ -10,7 +10,8 @@
 //     NaN keys the rows come in an order that nothing promises, each of them once.
 //   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty) and
 //     takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
-//     raised before anything is written; the sort itself does without its buffer where memory is short.
+//     raised before a sort writes anything (a sort by several columns in turn may have finished some of them); the sort
+//     itself does without its buffer where memory is short.
 #pragma once
 
 #include "../Smatrix.h"
