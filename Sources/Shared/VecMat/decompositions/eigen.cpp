@@ -1,0 +1,155 @@
+#include "eigen.h"
+
+#include "../elementary/products.h"
+#include "../elementary/vectors.h"
+#include "../frame/cells.h"
+#include "../frame/companions.h"
+#include "../frame/handles.h"
+#include "../sorting/sort.h"
+#include "symmetric_ql.h"
+
+#include <algorithm>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+/// Column after column, so that the answer comes at the first missing cell.
+template <class Cells>
+bool hasMissing(Cells a, int n)
+{
+    for (int j = 0; j < n; ++j)
+        for (int i = 0; i < n; ++i)
+            if (isMissing(a.get(i, j)))
+                return true;
+    return false;
+}
+
+template <class From, class To>
+void copySquare(From from, To to, int n)
+{
+    for (int j = 0; j < n; ++j)
+        for (int i = 0; i < n; ++i)
+            to.set(i, j, from.get(i, j));
+}
+
+/// Brings the eigenvalues into descending order, equal ones in the order found, and the columns of `vectors` with them.
+template <class Cells>
+void sortDescending(matrix*& values, Cells vectors, int n)
+{
+    TableHandle order = fresh(n, 1);
+    for (int j = 0; j < n; ++j)
+        order->X[j] = j;
+    TableHandle companion = fresh(n, 1);
+    SortQ(order.reference(), n, 1, 1, n, values, companion.reference(), 1, -1, -1);
+    TableHandle found = fresh(n, n);
+    copySquare(vectors, cells<matrix>(found), n);
+    for (int j = 0; j < n; ++j) {
+        const double* column = found->X + static_cast<std::ptrdiff_t>(n) * truncated(order->X[j]);
+        for (int i = 0; i < n; ++i)
+            vectors.set(i, j, column[i]);
+    }
+}
+
+/// What all forms do once `vectors` holds the input.
+template <class Cells>
+int decompose(Cells vectors, matrix*& values, int n, short sort)
+{
+    std::vector<double> offDiagonal(countOf(n));
+    const PlainVector<matrix> e(offDiagonal.data());
+    const bool converged = onBlocks([&](auto a, auto d) { return eigenInPlace(a, d, e, n); }, block(vectors, n, n),
+                                    block(linear(values), n));
+    if (!converged)
+        return -1;
+    if (sort == -1)
+        sortDescending(values, vectors, n);
+    return 0;
+}
+
+} // namespace
+
+int M_Eigen(matrix* a, matrix*& values, matrix*& vectors, int n, short sort)
+{
+    try {
+        if (hasMissing(cells(a), n))
+            return -1;
+        matrix::matCheck(values, n, 1, 0.0);
+        matrix::matCheck(vectors, n, n, 0.0);
+        copySquare(cells(a), cells(vectors), n);
+        return decompose(cells(vectors), values, n, sort);
+    } catch (...) {
+        return -1;
+    }
+}
+
+int M_EigenSPV(matrix** a, matrix*& values, matrix** vectors, int n, short sort)
+{
+    try {
+        if (hasMissing(cells(a), n))
+            return -1;
+        matrix::matCheck(values, n, 1, 0.0);
+        copySquare(cells(a), cells(vectors), n);
+        return decompose(cells(vectors), values, n, sort);
+    } catch (...) {
+        return -1;
+    }
+}
+
+int M_EigenDestroySPV(matrix** a, matrix*& values, int n, short sort)
+{
+    try {
+        if (hasMissing(cells(a), n))
+            return -1;
+        matrix::matCheck(values, n, 1, 0.0);
+        return decompose(cells(a), values, n, sort);
+    } catch (...) {
+        return -1;
+    }
+}
+
+// The one form without a handler: what strikes here passes to the caller.
+int M_EigenSPV_T(matrix** a, matrix*& values, matrix** vectors, int n, short sort)
+{
+    if (hasMissing(triangle(a), n))
+        return -1;
+    matrix::matCheck(values, n, 1, 0.0);
+    copySquare(triangle(a), cells(vectors), n);
+    return decompose(cells(vectors), values, n, sort);
+}
+
+int M_VonMises(matrix* a, matrix*& v, int n)
+{
+    constexpr int limit = 1000;
+    TableHandle product = fresh(n, 1);
+    TableHandle scaled(new matrix(n, 1, 1.0));
+    matrix::matCheck(v, n, 1, 1.0);
+    for (int turn = 0; turn < limit; ++turn) {
+        M_ProductBV(a, n, n, v, product.reference());
+        const double rayleigh = V_ProductTrV1V2(v, n, product);
+        M_ScalarsA(v, n, 1, rayleigh, scaled.reference());
+        M_ScalarsA(product, n, 1, 1.0 / rayleigh, v);
+        const double error = sqr(V_DiffSq(product, n, scaled)) / sqr(V_Sq(scaled, n));
+        if (error <= convergenceTolerance || error != error)
+            break;
+    }
+    return 0;
+}
+
+double getNorm2(matrix* a)
+{
+    if (a->nCols < 2) {
+        double sum = 0.0;
+        for (unsigned i = 0; i < std::min(countOf(a->nRows), a->nElems); ++i)
+            sum += a->X[i] * a->X[i];
+        return sqr(sum);
+    }
+    TableHandle transposed = fresh(a->nCols, a->nRows);
+    a->transposeTo(transposed);
+    TableHandle square;
+    M_ProductAB(a, a->nRows, a->nCols, transposed, a->nRows, square.reference());
+    TableHandle values;
+    TableHandle vectors;
+    M_Eigen(square, values.reference(), vectors.reference(), a->nRows, -1);
+    return values != nullptr ? sqr(values->vbget(1, 1)) : missingValue;
+}
