@@ -2,6 +2,10 @@
 #pragma once
 
 #include "Smatrix.h"
+#include "decompositions/axis_selection.h"
+#include "decompositions/eigen.h"
+#include "decompositions/level1_kernels.h"
+#include "decompositions/singular_values.h"
 #include "descriptive/conditional_moments.h"
 #include "descriptive/means.h"
 #include "descriptive/moments.h"

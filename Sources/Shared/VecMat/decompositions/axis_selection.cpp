@@ -1,6 +1,6 @@
 #include "axis_selection.h"
 
-#include "../elementary/vectors.h"
+#include "../elementary/vector_sums.h"
 #include "../frame/cells.h"
 
 #include <algorithm>

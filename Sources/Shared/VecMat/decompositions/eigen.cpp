@@ -1,7 +1,9 @@
 #include "eigen.h"
 
-#include "../elementary/products.h"
-#include "../elementary/vectors.h"
+#include "../elementary/matrix_products.h"
+#include "../elementary/scalar_arithmetic.h"
+#include "../elementary/vector_products.h"
+#include "../elementary/vector_sums.h"
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 #include "../frame/handles.h"
