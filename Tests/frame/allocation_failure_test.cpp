@@ -1,0 +1,233 @@
+// An allocation that fails passes through an exported call as the exception, whichever allocation it is: nothing is
+// left over, nothing is released twice, and what the call was not yet to write is as it was.
+#include "CompanionRuntime/CompanionRuntime.h"
+#include "elementary/blocks.h"
+#include "elementary/transposition.h"
+#include "elementary/vector_sums.h"
+#include "frame/handles.h"
+#include "sorting/sort.h"
+#include "support/bits.h"
+#include "support/failing_new.h"
+#include "support/guarded.h"
+#include "support/safearrays.h"
+#include "support/strings.h"
+#include "support/tables.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace vecmat::test {
+namespace {
+
+// Longer than any string keeps in itself, so that converting it allocates.
+const std::wstring longText = L"a text that does not fit into the string itself";
+const std::wstring otherText = L"another text that does not fit either";
+
+/// A caller's places for strings, and what the library has stored in them by the end. It allocates nothing, so that the
+/// failure under test never strikes here.
+template <std::size_t count>
+struct StringPlaces
+{
+    wchar_t* cells[count] = {};
+    ~StringPlaces()
+    {
+        for (wchar_t* text : cells)
+            SysFreeString2(text);
+    }
+};
+
+// ---- constructors ---------------------------------------------------------------------------------------------------
+
+TEST(AllocationFailure, OfATableUnderConstructionReleasesIt)
+{
+    matrix source(2, 2, 1.0);
+    source.InitWeights();
+    source.InitWeightcorr();
+    source.InitnCol();
+    source.Normalize();
+    double cells[4] = {1, 2, 3, 4};
+    short flags[4] = {-1, 0, 0, -1};
+    const int failures = forEachFailingAllocation([&] {
+        const matrix filledTable(2, 2, 0.0);
+        const matrix copy(2, 2, cells, false);
+        const matrix sized(2, 2, cells, 0, 0);
+        const matrix boolean(2, 2, flags);
+        const matrix taller(3, &source);
+        const matrix same(source);
+    });
+    // one block each; three for the forms with counts; cells, counts, weights and two moments for the copies
+    EXPECT_EQ(failures, 1 + 1 + 3 + 3 + 6 + 6);
+}
+
+TEST(AllocationFailure, OfATableOfIntsUnderConstructionReleasesIt)
+{
+    int cells[2] = {1, 2};
+    matrixInt source(2, 1, cells, false);
+    source.weights = new double[2]{1, 1};
+    const int failures = forEachFailingAllocation([&] {
+        const matrixInt filledTable(2, 1, 0);
+        const matrixInt view(2, 1, cells, true);
+        const matrixInt copy(2, 1, cells, false);
+        const matrixInt taller(3, &source);
+    });
+    EXPECT_EQ(failures, 1 + 2 + 3 + 4);
+}
+
+TEST(AllocationFailure, OfATableOfStringsUnderConstructionReleasesIt)
+{
+    BstrArray texts({longText, L"", otherText});
+    const int failures = forEachFailingAllocation([&] {
+        Smatrix t(3, 1, texts, 0, 0);
+        const Smatrix copy(t);
+    });
+    EXPECT_EQ(failures, 3 + 3);
+}
+
+TEST(AllocationFailure, InMatCheckLeavesNothingBehind)
+{
+    const int failures = forEachFailingAllocation([] {
+        Owned<matrix> t(new matrix(1, 1, 0.0));
+        matrix::matCheck(t.reference(), 2, 2, 0.0);
+        Owned<matrixInt> v(new matrixInt(1, 1, 0));
+        matrixInt::matCheck(v.reference(), 2, 2, 0.0);
+        Owned<Smatrix> s(new Smatrix(1, 1));
+        Smatrix::matCheck(s.reference(), 2, 2);
+    });
+    EXPECT_EQ(failures, 12);
+}
+
+// ---- stacks and arrays of columns -----------------------------------------------------------------------------------
+
+TEST(AllocationFailure, InLoadingColumnsReleasesThoseMadeBefore)
+{
+    ArrayOfColumns numbers = numberColumns(2, 3, {1, 2, 3, 4, 5, 6});
+    ArrayOfColumns strings = test::stringColumns(2, 2, {longText, otherText, L"", longText});
+    const int failures = forEachFailingAllocation([&] {
+        DeleteSAFEARRAY(LoadSAFEARRAY(numbers, 3, 2, 1), 3);
+        DeleteSAFEARRAYStr(LoadSAFEARRAYStr(strings, 2, 2, 1), 2);
+    });
+    EXPECT_EQ(failures, (1 + 3) + (1 + 2 + 2 + 3));
+}
+
+TEST(AllocationFailure, InLoadingAStackLeavesItToItsOwner)
+{
+    double numbers[4] = {1, 2, 3, 4};
+    BstrArray texts({longText, otherText});
+    const int failures = forEachFailingAllocation([&] {
+        struct Stack
+        {
+            matrix* tables[2] = {nullptr, nullptr};
+            Smatrix* strings[2] = {nullptr, nullptr};
+            ~Stack()
+            {
+                deletecascade(tables, 2);
+                deletecascade(strings, 2);
+            }
+        } stack;
+        loadSuperMat(stack.tables, numbers, 2, 2, 1);
+        loadSuperMat(stack.strings, texts.get(), 2, 1, 1);
+    });
+    EXPECT_GE(failures, 4 + 4 + 2);
+}
+
+// ---- one export of each frame ---------------------------------------------------------------------------------------
+
+TEST(AllocationFailure, PassesThroughCopyInScalarOut)
+{
+    Guarded<double> x = {1, M, 3};
+    Guarded<double> w = {1, 2, 3};
+    const int failures = forEachFailingAllocation([&] { VB_V_Sum(x, 3, nullptr, w); });
+    EXPECT_EQ(failures, 4); // two tables and their cells
+    EXPECT_TRUE(x.untouched());
+    EXPECT_TRUE(w.untouched());
+}
+
+TEST(AllocationFailure, PassesThroughViews)
+{
+    Guarded<double> table = {3, 1, 2, 30, 10, 20};
+    const int failures = forEachFailingAllocation([&] { VB_SortMatrixSeqQP1toP2Dbl(table, 3, 2, 1, 2, 0); });
+    EXPECT_GE(failures, 2);
+    Guarded<double> again = {1, 2, 3, 4};
+    EXPECT_GE(forEachFailingAllocation([&] { VB_M_Transpose2(again, 2, 2); }), 1);
+}
+
+TEST(AllocationFailure, PassesThroughCopyInCopyBack)
+{
+    Guarded<double> data = {3, 1, 2};
+    Guarded<double> key = {3, 1, 2};
+    Guarded<double> companion = {30, 10, 20};
+    const int failures = forEachFailingAllocation([&] { VB_SortQDbl(data, 3, 1, 1, 3, key, companion, 1, 0, -1); });
+    EXPECT_GE(failures, 6);
+}
+
+TEST(AllocationFailure, WritesNothingBackBeforeTheWholeCallHasSucceeded)
+{
+    // A run that fails at any place leaves all three arrays as they were; the first that ends has sorted all three.
+    for (int n = 1;; ++n) {
+        Guarded<double> data = {3, 1, 2};
+        Guarded<double> key = {3, 1, 2};
+        Guarded<double> companion = {30, 10, 20};
+        const Ending ending = runWithFailure([&] { VB_SortQDbl(data, 3, 1, 1, 3, key, companion, 1, 0, -1); }, n);
+        if (ending == Ending::ranThrough) {
+            EXPECT_THAT(data.values(), SameBits({1, 2, 3}));
+            EXPECT_THAT(key.values(), SameBits({1, 2, 3}));
+            EXPECT_THAT(companion.values(), SameBits({10, 20, 30}));
+            if (!allocationState().threw && !allocationState().returnedNull)
+                break;
+            continue; // a buffer that may be refused
+        }
+        EXPECT_EQ(ending, Ending::badAlloc);
+        EXPECT_TRUE(data.untouched() && key.untouched() && companion.untouched()) << "failure " << n;
+    }
+}
+
+TEST(AllocationFailure, PassesThroughAFreshResult)
+{
+    Guarded<int> a = {1, 2, 3, 4};
+    Guarded<int> out(4, 9);
+    const int failures = forEachFailingAllocation([&] { VB_M_TransposeLng(a, 2, 2, out); });
+    EXPECT_GE(failures, 4);
+    EXPECT_TRUE(a.untouched());
+}
+
+TEST(AllocationFailure, PassesThroughStrings)
+{
+    BstrArray a({longText, otherText, L"", longText});
+    const int failures = forEachFailingAllocation([&] {
+        StringPlaces<4> out;
+        VB_M_TransposeStr(a, 2, 2, out.cells);
+    });
+    EXPECT_GE(failures, 12);
+    EXPECT_EQ(a.countNew(), 0u);
+}
+
+TEST(AllocationFailure, PassesThroughSuperMatrices)
+{
+    ArrayOfColumns a = numberColumns(2, 2, {1, 2, 3, 4});
+    ArrayOfColumns out = numberColumns(2, 2, {9, 9, 9, 9});
+    const int failures = forEachFailingAllocation([&] { VB_M_TransposeSPV(a, 2, 2, out); });
+    EXPECT_GE(failures, 6);
+    EXPECT_TRUE(a.untouched());
+}
+
+TEST(AllocationFailure, PassesThroughSuperMatricesOfStrings)
+{
+    ArrayOfColumns a = test::stringColumns(2, 2, {longText, otherText, L"", longText});
+    const int failures = forEachFailingAllocation([&] {
+        StringPlaces<2> places[2];
+        SAFEARRAY inner[2] = {};
+        SAFEARRAYColumn elements[2] = {};
+        for (int j = 0; j < 2; ++j) {
+            inner[j].pvData = places[j].cells;
+            elements[j].strings = &inner[j];
+        }
+        SAFEARRAY outer{};
+        outer.pvData = elements;
+        SAFEARRAY* out = &outer;
+        VB_M_DuplicateStrSPV(a, 2, 2, &out);
+    });
+    EXPECT_GE(failures, 16);
+}
+
+} // namespace
+} // namespace vecmat::test
