@@ -1,7 +1,9 @@
 // An allocation that fails passes through an exported call as the exception, whichever allocation it is: nothing is
 // left over, nothing is released twice, and what the call was not yet to write is as it was.
 #include "CompanionRuntime/CompanionRuntime.h"
+#include "descriptive/quantiles.h"
 #include "elementary/blocks.h"
+#include "elementary/matrix_products.h"
 #include "elementary/transposition.h"
 #include "elementary/vector_sums.h"
 #include "frame/handles.h"
@@ -136,19 +138,22 @@ TEST(AllocationFailure, PassesThroughCopyInScalarOut)
 {
     Guarded<double> x = {1, M, 3};
     Guarded<double> w = {1, 2, 3};
-    const int failures = forEachFailingAllocation([&] { VB_V_Sum(x, 3, nullptr, w); });
-    EXPECT_EQ(failures, 4); // two tables and their cells
+    EXPECT_EQ(forEachFailingAllocation([&] { VB_V_Sum(x, 3, nullptr, w); }), 4); // two tables and their cells
+    EXPECT_GE(forEachFailingAllocation([&] { VB_V_Quantile(x, 3, 0.5); }), 4);   // a work vector and a sort, too
     EXPECT_TRUE(x.untouched());
     EXPECT_TRUE(w.untouched());
 }
 
 TEST(AllocationFailure, PassesThroughViews)
 {
+    Guarded<double> a = {1, 2, 3, 4};
+    Guarded<double> product(4, 9.0);
+    EXPECT_EQ(forEachFailingAllocation([&] { VB_M_ProductAB(a, 2, 2, a, 2, product); }), 3); // three views
+    EXPECT_TRUE(a.untouched());
+    EXPECT_THAT(product.values(), SameBits({7, 10, 15, 22}));
     Guarded<double> table = {3, 1, 2, 30, 10, 20};
     const int failures = forEachFailingAllocation([&] { VB_SortMatrixSeqQP1toP2Dbl(table, 3, 2, 1, 2, 0); });
     EXPECT_GE(failures, 2);
-    Guarded<double> again = {1, 2, 3, 4};
-    EXPECT_GE(forEachFailingAllocation([&] { VB_M_Transpose2(again, 2, 2); }), 1);
 }
 
 TEST(AllocationFailure, PassesThroughCopyInCopyBack)
@@ -158,6 +163,10 @@ TEST(AllocationFailure, PassesThroughCopyInCopyBack)
     Guarded<double> companion = {30, 10, 20};
     const int failures = forEachFailingAllocation([&] { VB_SortQDbl(data, 3, 1, 1, 3, key, companion, 1, 0, -1); });
     EXPECT_GE(failures, 6);
+    Guarded<double> x = {3, M, 1};
+    Guarded<double> quantiles(13, 9.0);
+    EXPECT_GE(forEachFailingAllocation([&] { Cpp_V_Quantiles13(x, 3, quantiles); }), 4);
+    EXPECT_TRUE(x.untouched());
 }
 
 TEST(AllocationFailure, WritesNothingBackBeforeTheWholeCallHasSucceeded)

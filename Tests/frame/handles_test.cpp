@@ -1,5 +1,7 @@
 // The call frame itself, and the exported calls that show each of its patterns.
+#include "descriptive/quantiles.h"
 #include "elementary/blocks.h"
+#include "elementary/matrix_products.h"
 #include "elementary/transposition.h"
 #include "elementary/vector_sums.h"
 #include "frame/handles.h"
@@ -197,12 +199,24 @@ TEST(ExportedCall, CopyInScalarOutLeavesTheArraysWithTheirMissingValues)
     Guarded<double> w = {2, 5, M, 1};
     VB_V_Sum(x, 4, mask, w);
     EXPECT_THAT(VB_V_SumSq(x, 1), SameBits(1));
+    EXPECT_THAT(VB_V_Quantile(x, 3, 1.0), SameBits(4)) << "a sort has been over a copy";
     EXPECT_TRUE(x.untouched());
     EXPECT_TRUE(mask.untouched());
     EXPECT_TRUE(w.untouched());
 }
 
-TEST(ExportedCall, ViewHasTheResultInItAndCopiesAreUntouched)
+TEST(ExportedCall, ViewsHaveTheResultInThem)
+{
+    Guarded<double> a = {1, 3, 2, 4};
+    Guarded<double> b = {5, 6};
+    Guarded<double> out = {9, 9, 9};
+    EXPECT_EQ(VB_M_ProductAB(a, 2, 2, b, 1, out), 0);
+    EXPECT_TRUE(a.untouched());
+    EXPECT_TRUE(b.untouched());
+    EXPECT_THAT(out.values(), SameBits({17, 39, 9}));
+}
+
+TEST(ExportedCall, ViewOfAResultStandsBesideCopies)
 {
     Guarded<double> source = {1, M, 3, 4};
     Guarded<double> target(6, 9.0);
@@ -219,6 +233,11 @@ TEST(ExportedCall, CopyInCopyBackStartsFromTheCallersContent)
     Guarded<double> x = {9, 3, 1, 2, 8};
     EXPECT_EQ(VB_SortQVectorDbl(x, 5, 2, 4, 0), 0);
     EXPECT_THAT(x.values(), SameBits({9, 1, 2, 3, 8}));
+    Guarded<double> v = {4, 2, M, 3, 1};
+    Guarded<double> quantiles(13, 9.0);
+    Cpp_V_Quantiles13(v, 5, quantiles);
+    EXPECT_TRUE(v.untouched());
+    EXPECT_FALSE(quantiles.untouched());
 }
 
 TEST(ExportedCall, FreshResultReplacesTheCallersContent)
