@@ -1,0 +1,77 @@
+// The tests for a missing value, and counts of missing cells.
+//
+// A missing cell of a `matrix` holds the missing value, one of an `Smatrix` the empty string. Two tests tell a missing
+// double: "equality" takes the missing value alone, "order" also what is below it and minus infinity; a NaN is missing
+// under neither. Each function says which it uses.
+//
+// What is scanned is the block that the caller names, `nRows` by `nCols` or the first `n` cells in linear order. A cell
+// of it that lies outside the table counts as present, in a table of strings too. Counts by column or row are written
+// over what stood there, as 0 where the column or row has no cells. Nothing fails or reports.
+#pragma once
+
+#include "../Smatrix.h"
+#include "../frame/api.h"
+#include "../frame/super_matrices.h"
+#include "../matrix.h"
+
+#include <string>
+
+extern "C" {
+
+/// -1 where the value is missing (order), else 0. The two names are one function.
+VECMAT_API short IsMissingValueDbl(double x);
+VECMAT_API short VB_IsMissingValueDbl(double x);
+
+/// -1 where the string has no characters, else 0. The flat form reads 32-bit characters up to a NUL.
+VECMAT_API short IsMissingValueStr(std::wstring s);
+VECMAT_API short VB_IsMissingValueStr(const wchar_t* s);
+
+/// `n` less the missing cells of a vector (equality); for `n` below 1 it is `n` itself, also a negative one.
+VECMAT_API int V_NbNonMissing(matrix* x, int n);
+
+/// The missing cells of each row (equality), in `nRows` counts.
+VECMAT_API void M_NbMissingPerRow(matrix* a, int nRows, int nCols, int* counts);
+
+/// The cells of each column that are not missing (equality), in `nCols` counts.
+VECMAT_API void M_NbNonMissing(matrix* a, int nRows, int nCols, int* counts);
+
+/// The missing cells (equality) off the diagonal of a symmetric table of order `n`, held as a triangle of columns: each
+/// cell below the diagonal stands for two. The diagonal is not looked at.
+VECMAT_API int M_NbMissingSPV_T(matrix** a, int n, int unused);
+
+} // extern "C"
+
+/// The missing cells of a vector: by the equality test, or the empty strings. 0 for `n` below 1.
+VECMAT_API int V_NbMissing(matrix* x, int n);
+VECMAT_API int V_NbMissing(Smatrix* x, int n);
+
+/// The missing cells of each column, in `nCols` counts: by the equality test, or the empty strings.
+VECMAT_API void M_NbMissing(matrix* a, int nRows, int nCols, int* counts);
+VECMAT_API void M_NbMissing(Smatrix* a, int nRows, int nCols, int* counts);
+
+/// The missing cells of an array of columns, by the order test, unlike all other counts. 0 for `nRows` below 1.
+VECMAT_API int M_NbMissing(matrix** a, int nRows, int nCols);
+
+/// All missing cells: by the equality test, also in an array of columns, or the empty strings.
+VECMAT_API int M_NbMissing2(matrix* a, int nRows, int nCols);
+VECMAT_API int M_NbMissing2(matrix** a, int nRows, int nCols);
+VECMAT_API int M_NbMissing2(Smatrix* a, int nRows, int nCols);
+
+// ---- flat forms: `nRows` by `nCols` or n elements, never written ----------------------------------------------------
+
+extern "C" {
+
+VECMAT_API int VB_V_NbMissing(double* x, int n);
+VECMAT_API int VB_V_NbMissingStr(wchar_t** x, int n);
+VECMAT_API int VB_V_NbNonMissing(double* x, int n);
+VECMAT_API void VB_M_NbMissing(double* a, int nRows, int nCols, int* counts);
+VECMAT_API void VB_M_NbMissingStr(wchar_t** a, int nRows, int nCols, int* counts);
+VECMAT_API int VB_M_NbMissing2(double* a, int nRows, int nCols);
+VECMAT_API int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols);
+VECMAT_API void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);
+
+/// `M_NbMissing` of an array of columns: the order test.
+VECMAT_API int Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols);
+VECMAT_API int VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused);
+
+} // extern "C"

@@ -1,0 +1,62 @@
+// Masks and indicators of missing cells.
+//
+// A flag is a 16-bit -1 or 0. A flag that comes in counts as set only where it is exactly -1. Flags and indicators that
+// a function is not told to write keep what they held: the caller clears them. "Equality" takes the missing value alone
+// as missing, "order" also what is below it and minus infinity; a NaN is missing under neither. A missing string is an
+// empty one, and so reads a place outside a table of strings; a place outside a table of doubles reads as -1.0.
+#pragma once
+
+#include "../Smatrix.h"
+#include "../frame/api.h"
+#include "../frame/super_matrices.h"
+#include "../matrix.h"
+#include "../matrixInt.h"
+
+extern "C" {
+
+/// out[i] becomes -1 where a[i] or b[i] is -1, or c[i] where `c` is not null; no flag is cleared. `total` becomes the
+/// number of those rows, whatever `out` held before.
+VECMAT_API void SummarizeMissing(int n, int*& total, short*& out, short*& a, short*& b, short*& c);
+VECMAT_API void VB_SummarizeMissing(int n, int* total, short* out, short* a, short* b, short* c);
+
+/// The same where a[i] and b[i] both are -1. The arguments stand in another order.
+VECMAT_API void VB_SummarizeAllMissing(int n, short* a, short* b, int* total, short* out);
+
+/// out[i] becomes -1 for a row with filter[i] -1 whose cells all are missing (equality, or empty strings). No other
+/// flag is written, and none without columns.
+VECMAT_API void VB_M_AllMissingRows(double* x, int nRows, int nCols, short* filter, short* out);
+VECMAT_API void VB_M_AllMissingRowsStr(wchar_t** x, int nRows, int nCols, short* filter, short* out);
+
+/// out[i] becomes -1 where a[i] is -1 or the element is missing (order), and 0 everywhere else.
+VECMAT_API void VB_V_GetMissingDbl(double* x, int n, short* a, short* out);
+
+/// Unlike the form for doubles, and on purpose: out[i] becomes -1 where a[i] is -1 and the string is empty; nothing
+/// else is written.
+VECMAT_API void V_GetMissingStr(Smatrix* x, int n, short* a, short* out);
+VECMAT_API void VB_V_GetMissingStr(wchar_t** x, int n, short* a, short* out);
+
+/// out[i] becomes -1 where filter[i] is -1 or the cell of row i in the last column is missing (order), else 0. The last
+/// of the `nCols` columns alone decides; without columns nothing is written. `filter` and `out` may be one array. The
+/// other form reads an array of columns.
+VECMAT_API void M_GetMissing(matrix* a, int nRows, int nCols, short* filter, short* out);
+VECMAT_API void M_GetMissingSPV(matrix** a, int nRows, int nCols, short* filter, short* out);
+VECMAT_API void Cpp_M_GetMissingDbl(double* a, int nRows, int nCols, short* filter, short* out);
+VECMAT_API void Cpp_M_GetMissingDblSPV(SAFEARRAY** a, int nRows, int nCols, short* filter, short* out);
+
+/// Writes 1 into `out` at each missing cell (equality) of the block, and nothing elsewhere. In a flat form `out` is
+/// `nRows` by `nCols`.
+VECMAT_API void M_IdentifyMissingInMat(matrix* a, int nRows, int nCols, matrixInt* out);
+VECMAT_API void M_IdentifyMissingInMatSPV(matrix** a, int nRows, int nCols, matrixInt* out);
+VECMAT_API void Cpp_M_IdentifyMissingInMat(double* a, int nRows, int nCols, int* out);
+VECMAT_API void Cpp_M_IdentifyMissingInMatSPV(SAFEARRAY** a, int nRows, int nCols, int* out);
+
+/// Is a cell of a symmetric table of order `n` missing that both its diagonal cells vouch for? -1 where some cell
+/// (i, j) above the diagonal is missing (equality) while (i, i) and (j, j) are both above the missing value, or outside
+/// the table; 0 otherwise and for `n` below 2. A NaN on the diagonal is not above. The cells below the diagonal are not
+/// read. The other form reads a triangle of columns.
+VECMAT_API short M_IsMissingOutOfDiagonalAndNotOnDiags(matrix* a, int n);
+VECMAT_API short M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(matrix** a, int n);
+VECMAT_API short Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags(double* a, int n);
+VECMAT_API short Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(SAFEARRAY** a, int n);
+
+} // extern "C"
