@@ -1,0 +1,53 @@
+#include "complete_rows.h"
+
+#include "../elementary/array_copies.h"
+#include "../elementary/block_copy.h"
+#include "../frame/handles.h"
+
+using vecmat::copied;
+using vecmat::viewed;
+
+namespace {
+
+/// It wraps where the numbers are senseless.
+int rowsLeft(int rows, int removed)
+{
+    return static_cast<int>(static_cast<unsigned>(rows) - static_cast<unsigned>(removed));
+}
+
+} // namespace
+
+void VB_RemoveRowsWithMissing(double* data, int nRows, int nCols, int nRemoved, short* mask, double* out)
+{
+    const int cols = nCols == 0 ? 1 : nCols;
+    auto table = viewed(data, nRows, cols);
+    RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
+    VB_M_CopyResize(data, nRows, cols, out, rowsLeft(nRows, nRemoved), cols);
+}
+
+void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemoved, short* mask, wchar_t** out)
+{
+    const int cols = nCols == 0 ? 1 : nCols;
+    auto table = copied(data, nRows, cols);
+    RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
+    vecmat::handBack(table, data);
+    VB_M_CopyResizeStr(data, nRows, cols, out, rowsLeft(nRows, nRemoved), cols);
+}
+
+void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out)
+{
+    M_InsertMissing(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
+                    viewed(out, vecmat::shifted(nRows, nInsert), nCols));
+}
+
+void Cpp_M_InsertMissingLng(int* data, int nRows, int nCols, short* mask, int nInsert, int* out)
+{
+    M_InsertMissingLng(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
+                       viewed(out, vecmat::shifted(nRows, nInsert), nCols));
+}
+
+void Cpp_MatToVect_NoMissing(double* data, int nRows, int nCols, double* counts, double* emptyCols, double* out)
+{
+    MatToVect_NoMissing(viewed(data, nRows, nCols), nRows, nCols, copied(counts, nCols, 1), emptyCols,
+                        viewed(out, nRows, nCols));
+}
