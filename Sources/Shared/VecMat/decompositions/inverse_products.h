@@ -1,0 +1,29 @@
+// Products through the inverse of a square table, named by their formula: Tr is a transpose, inv an inverse.
+//
+// The inverse is that of `matrix::inverse1` with a positive tolerance, so that a pivot up to 1e-8 is singular; its order
+// is the row count of `b`. Nothing reports a singular `b`: its inverse then counts as 0.0 throughout, and the product
+// goes on with that. Access, sums and missing cells are those of the products of tables. The operands survive.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// (a' inv(b)) a, `b` of order `rows`; out goes through `matCheck`, `cols` by `cols`.
+VECMAT_API void M_ProductTrAinvBA(matrix* a, int rows, int cols, matrix* b, matrix*& out);
+
+/// (v' inv(b)) v.
+VECMAT_API double M_ProductTrVinvBV(matrix* v, int n, matrix* b);
+
+/// (a inv(b)) a', `b` of order `cols`; out goes through `matCheck`, `rows` by `rows`. The second form writes to columns
+/// that exist.
+VECMAT_API void M_ProductAinvBTrA(matrix* a, int rows, int cols, matrix* b, matrix*& out);
+VECMAT_API void M_ProductAinvBTrASPV(matrix* a, int rows, int cols, matrix* b, matrix** out);
+
+/// Flat forms: arrays with just the dimensions of their role, the result in place.
+VECMAT_API void VB_M_ProductTrAinvBA(double* a, int rows, int cols, double* b, double* out);
+VECMAT_API double VB_M_ProductTrVinvBV(double* v, int n, double* b);
+VECMAT_API void VB_M_ProductAinvBTrA(double* a, int rows, int cols, double* b, double* out);
+
+} // extern "C"

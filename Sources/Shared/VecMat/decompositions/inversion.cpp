@@ -1,0 +1,197 @@
+#include "inversion.h"
+
+#include "../frame/missing_value.h"
+#include "crout.h"
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+// ---- the square table -----------------------------------------------------------------------------------------------
+
+constexpr double ordinaryThreshold = 1e-08;
+
+/// Only the sign of the tolerance counts.
+SmallPivotRefused ruleFor(double tol)
+{
+    return {tol <= 0.0 ? negligible : ordinaryThreshold};
+}
+
+/// A square table of doubles, row after row: both substitutions run along rows.
+class RowMajor
+{
+public:
+    explicit RowMajor(int n) : n_(countOf(n)), cells_(n_ * n_) {}
+
+    double* row(int i) { return cells_.data() + n_ * countOf(i); }
+    const double* row(int i) const { return cells_.data() + n_ * countOf(i); }
+
+private:
+    std::size_t n_;
+    std::vector<double> cells_;
+};
+
+template <class Cells>
+RowMajor rowMajor(Cells cells, int n)
+{
+    RowMajor rows(n);
+    for (int j = 0; j < n; ++j)
+        for (int i = 0; i < n; ++i)
+            rows.row(i)[j] = cells.get(i, j);
+    return rows;
+}
+
+/// Solves L y = P b in place of b, from the first element of P b that is not 0 on.
+void substituteForward(const RowMajor& factors, const std::vector<int>& partner, int n, double* b)
+{
+    int first = n;
+    for (int r = 0; r < n; ++r) {
+        const int other = partner[countOf(r)];
+        double reduced = b[other];
+        b[other] = b[r];
+        const double* const row = factors.row(r);
+        if (first == n && reduced != 0.0)
+            first = r;
+        for (int q = first; q < r; ++q)
+            reduced -= row[q] * b[q];
+        b[r] = reduced;
+    }
+}
+
+/// Solves U x = y for all right-hand sides, the columns of `solutions`, side by side.
+void substituteBack(const RowMajor& factors, int n, RowMajor& solutions)
+{
+    for (int r = n - 1; r >= 0; --r) {
+        const double* const row = factors.row(r);
+        double* const target = solutions.row(r);
+        for (int q = r + 1; q < n; ++q) {
+            const double* const known = solutions.row(q);
+            for (int c = 0; c < n; ++c)
+                target[c] -= row[q] * known[c];
+        }
+        for (int c = 0; c < n; ++c)
+            target[c] /= row[r];
+    }
+}
+
+/// The inverse from the factors that `workspace` holds.
+template <class Cells>
+void solveForUnitVectors(Cells workspace, const std::vector<int>& partner, int n, matrix* out)
+{
+    const RowMajor factors = rowMajor(workspace, n);
+    RowMajor solutions(n);
+    for (int c = 0; c < n; ++c) {
+        std::vector<double> unit(countOf(n), 0.0);
+        unit[countOf(c)] = 1.0;
+        substituteForward(factors, partner, n, unit.data());
+        for (int r = 0; r < n; ++r)
+            solutions.row(r)[c] = unit[countOf(r)];
+    }
+    substituteBack(factors, n, solutions);
+    const TableCells<matrix> result = cells(out);
+    for (int c = 0; c < n; ++c)
+        for (int r = 0; r < n; ++r)
+            result.set(r, c, solutions.row(r)[c]);
+}
+
+/// `workspace` holds a copy of the table.
+template <class Checked>
+int invert(Block<Checked> workspace, int n, matrix* out, double tol)
+{
+    RowExchanges exchanges;
+    const CroutOutcome outcome =
+        onBlocks([&](auto a) { return factorCrout(a, n, ruleFor(tol), exchanges); }, workspace);
+    if (outcome != CroutOutcome::factored)
+        return -1;
+    solveForUnitVectors(workspace.checked, exchanges.partner, n, out);
+    return 0;
+}
+
+/// Private copies of column tables. A column beyond the array is one without cells, so that all of its cells are out
+/// of range.
+class ColumnCopies
+{
+public:
+    ColumnCopies(matrix** columns, int count, int n)
+    {
+        for (int j = 0; j < n; ++j) {
+            const bool there = j < count && columns[j] != nullptr;
+            tables_.push_back(there ? std::make_unique<matrix>(*columns[j]) : std::make_unique<matrix>(0, 1, 0.0));
+            pointers_.push_back(tables_.back().get());
+        }
+    }
+
+    matrix** pointers() { return pointers_.data(); }
+
+private:
+    std::vector<std::unique_ptr<matrix>> tables_;
+    std::vector<matrix*> pointers_;
+};
+
+// ---- the triangular table -------------------------------------------------------------------------------------------
+
+enum class Triangle { lower, upper };
+
+template <class Cells, class Out>
+double sumOfProducts(Cells a, int i, Out out, int j, int first, int last)
+{
+    double sum = 0.0;
+    for (int k = first; k <= last; ++k)
+        sum += a.get(i, k) * out.get(k, j);
+    return sum;
+}
+
+template <class Cells, class Out>
+int invertTriangle(Cells a, Out out, int n, Triangle triangle, double tol)
+{
+    for (int i = 0; i < n; ++i) {
+        if (std::fabs(a.get(i, i)) < tol)
+            return -1;
+        out.set(i, i, 1.0 / a.get(i, i));
+    }
+    const auto solve = [&](int i, int j, int first, int last) {
+        out.set(i, j, -sumOfProducts(a, i, out, j, first, last) * out.get(i, i));
+    };
+    if (triangle == Triangle::lower) {
+        for (int i = 1; i < n; ++i)
+            for (int j = 0; j < i; ++j)
+                solve(i, j, j, i - 1);
+    } else {
+        for (int i = n - 2; i >= 0; --i)
+            for (int j = i + 1; j < n; ++j)
+                solve(i, j, i + 1, j);
+    }
+    return 0;
+}
+
+} // namespace
+
+int matrix::inverse1(matrix* out, short& status, double tol)
+{
+    matrix workspace(*this);
+    if (invert(squareBlock(cells(&workspace), nRows, nRows), nRows, out, tol) == 0)
+        return 0;
+    status = -1;
+    return -1;
+}
+
+int Inverse1SPV(matrix** a, matrix* out, int n, int count, int /*ignored*/, double tol)
+{
+    ColumnCopies workspace(a, count, n);
+    // A row of a column table never runs over.
+    constexpr int rowsOfAnyTable = std::numeric_limits<int>::max();
+    return invert(squareBlock(cells(workspace.pointers()), n, rowsOfAnyTable), n, out, tol);
+}
+
+int M_InverseTriang(matrix* a, int n, short lower, matrix*& out, double tol)
+{
+    const Triangle triangle = lower != 0 ? Triangle::lower : Triangle::upper;
+    return onBlocks([=](auto x, auto y) { return invertTriangle(x, y, n, triangle, tol); }, block(cells(a), n, n),
+                    block(cells(out), n, n));
+}

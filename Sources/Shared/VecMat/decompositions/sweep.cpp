@@ -1,0 +1,71 @@
+#include "sweep.h"
+
+#include "../elementary/kernels/operands.h"
+#include "../frame/cells.h"
+#include "../frame/missing_value.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+/// Up to this order all positions are ints.
+constexpr int largestPlainOrder = 65535;
+
+/// Position of cell (i, j), all from 0, for an accessor in linear order. A number out of range wraps.
+int at(int i, int j)
+{
+    return static_cast<int>(static_cast<unsigned>(packedPosition(i, j)));
+}
+
+/// Adds `c` times the pivot's column to cells `first` to `end` - 1 of row i, and clears what is negligible.
+template <class Cells>
+void addToRow(Cells a, int i, int first, int end, const double* pivotColumn, double c)
+{
+    const auto start = static_cast<unsigned>(at(i, 0));
+    for (int j = first; j < end; ++j) {
+        const int cell = static_cast<int>(start + static_cast<unsigned>(j));
+        const double swept = a.get(cell) + pivotColumn[j] * c;
+        a.set(cell, std::fabs(swept) < zeroTolerance ? 0.0 : swept);
+    }
+}
+
+template <class Cells>
+void sweep(Cells a, int n, int k)
+{
+    a.set(at(k, k), -1.0 / a.get(at(k, k)));
+    // Read back: a pivot outside the table is -1.0 here and so counts as one that was positive.
+    const double d = a.get(at(k, k));
+    const double scale = std::fabs(d);
+    // The pivot's column as scaled in this sweep, which no later step changes.
+    std::vector<double> pivotColumn(countOf(n));
+    for (int i = 0; i < n; ++i) {
+        if (i == k)
+            continue;
+        const int cell = at(i, k);
+        const double c = d < 0.0 ? -a.get(cell) : a.get(cell);
+        a.set(cell, a.get(cell) * scale);
+        pivotColumn[countOf(i)] = a.get(cell);
+        if (i < k) {
+            addToRow(a, i, 0, i + 1, pivotColumn.data(), c);
+        } else {
+            addToRow(a, i, 0, std::max(k, 0), pivotColumn.data(), c);
+            addToRow(a, i, std::max(k + 1, 0), i + 1, pivotColumn.data(), c);
+        }
+    }
+}
+
+} // namespace
+
+int M_Sweep(matrix* a, int n, int k)
+{
+    const int pivot = zeroBased(k);
+    const VectorCells<matrix> checked = linear(a);
+    const int order = std::max(n, k);
+    const bool inside = pivot >= 0 && order <= largestPlainOrder && checked.covers(at(order - 1, order - 1) + 1);
+    onBlocks([=](auto packed) { sweep(packed, n, pivot); }, Block<VectorCells<matrix>>{checked, inside});
+    return 0;
+}
