@@ -1,0 +1,12 @@
+#include "new_variables.h"
+
+#include "../frame/handles.h"
+
+using vecmat::viewed;
+
+void VB_ComputeNewVar(double* Q, int nRows, int nCols, double* C, double* variances, double* covariances)
+{
+    auto result = viewed(covariances, nRows, nRows);
+    ComputeNewVar(viewed(Q, nRows, nCols), nRows, nCols, viewed(C, nCols, nCols), viewed(variances, nRows, 1),
+                  result.reference());
+}
