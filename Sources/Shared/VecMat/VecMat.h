@@ -12,6 +12,8 @@
 #include "descriptive/conditional_moments.h"
 #include "descriptive/means.h"
 #include "descriptive/moments.h"
+#include "descriptive/quantiles.h"
+#include "descriptive/robust_statistics.h"
 #include "descriptive/shape_moments.h"
 #include "elementary/array_copies.h"
 #include "elementary/block_products.h"
