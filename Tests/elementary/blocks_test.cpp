@@ -138,6 +138,14 @@ TEST(MDuplicate, SenselessNumbersAreDropped)
     EXPECT_THAT(cellsOf(dst), SameBits({7, 7, 7, 7}));
 }
 
+TEST(MDuplicate, NothingIsCopiedFromOrToATableThatIsNotThere)
+{
+    auto dst = filled(2, 2, 7.0);
+    M_Duplicate(static_cast<matrix*>(nullptr), 2, 2, dst, 1, 1, 1, 1);
+    M_Duplicate(dst, 2, 2, static_cast<matrix*>(nullptr), 1, 1, 1, 1);
+    EXPECT_THAT(cellsOf(dst), SameBits({7, 7, 7, 7}));
+}
+
 // ---- arrays of columns ----------------------------------------------------------------------------------------------
 
 TEST(MDuplicateSPV, AllFormsGiveWhatThePlainOneGives)

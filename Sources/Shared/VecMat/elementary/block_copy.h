@@ -84,7 +84,6 @@ private:
     int height_;
 };
 
-/// A null table is one without cells: an empty block of it may be copied.
 template <class Table>
 Window<TableCells<Table>> window(Table* table, int row, int col)
 {
@@ -137,11 +136,12 @@ bool mayRunDownColumns(const Source& source, const Target& target, int rows, int
         return false;
 }
 
-/// Copies a block of `rows` by `cols` cells, converted to the target's type.
+/// Copies a block of `rows` by `cols` cells, converted to the target's type. Nothing is copied from or to a storage that
+/// is not there.
 template <class Source, class Target>
 void copyCells(Source source, Target target, int rows, int cols)
 {
-    if (rows < 1 || cols < 1)
+    if (rows < 1 || cols < 1 || source.storage() == nullptr || target.storage() == nullptr)
         return;
     const bool downColumns = mayRunDownColumns(source, target, rows, cols);
     const bool apart = source.storage() != target.storage();
