@@ -50,6 +50,8 @@
 #include "frame/super_matrices.h"
 #include "matrix.h"
 #include "matrixInt.h"
+#include "qualitative/categories.h"
+#include "qualitative/column_moments.h"
 #include "sorting/copy_block.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"

@@ -1,0 +1,114 @@
+// Lists of categories, and finding a text in one without a walk over it. Internal to the library.
+//
+// In a table of categories row j is the list of variable j, its places being the columns. Places are 0-based here.
+#pragma once
+
+#include "../frame/cells.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace vecmat {
+
+/// Which place counts of a text that a list holds more than once.
+enum class Repeated { firstCounts, lastCounts };
+
+/// The place of each text of a list. The texts stay where they are: only views of them are kept.
+class TextPlaces
+{
+public:
+    static constexpr int none = -1;
+
+    int find(std::wstring_view text) const
+    {
+        const auto entry = places_.find(text);
+        return entry == places_.end() ? none : entry->second;
+    }
+    void add(std::wstring_view text, int place, Repeated repeated)
+    {
+        const auto [entry, isNew] = places_.try_emplace(text, place);
+        if (!isNew && repeated == Repeated::lastCounts)
+            entry->second = place;
+    }
+    void clear() { places_.clear(); }
+
+private:
+    std::unordered_map<std::wstring_view, int> places_;
+};
+
+/// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so that the first
+/// of them speaks for the rest. A table may be null where there is no place.
+template <class Table>
+int placesToVisit(const Table* table, int count)
+{
+    return count < 1 ? 0 : std::min(count, std::max(table->nCols, 0) + 1);
+}
+
+/// The places of the first `count` categories of a variable, as the checked reads give them.
+inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeated repeated)
+{
+    TextPlaces places;
+    const int visited = placesToVisit(categories, count);
+    for (int place = 0; place < visited; ++place)
+        places.add(cells(categories).get(variable, place), place, repeated);
+    return places;
+}
+
+/// Categories in the order of their first appearance, each with the sum of its weights. Views the texts it is given.
+class WeightedCategories
+{
+public:
+    static constexpr int unlimited = std::numeric_limits<int>::max();
+
+    /// A text met when the list has reached its capacity is appended each time anew, since nobody finds it there again.
+    explicit WeightedCategories(int capacity) : capacity_(capacity) {}
+
+    void add(std::wstring_view text, double weight)
+    {
+        const int known = places_.find(text);
+        if (known != TextPlaces::none) {
+            entries_[static_cast<std::size_t>(known)].weight += weight;
+            return;
+        }
+        if (size() < capacity_)
+            places_.add(text, size(), Repeated::firstCounts);
+        entries_.push_back({text, weight});
+    }
+    void clear()
+    {
+        entries_.clear();
+        places_.clear();
+    }
+
+    int size() const { return static_cast<int>(entries_.size()); }
+    std::wstring_view text(int place) const { return entries_[static_cast<std::size_t>(place)].text; }
+    double weight(int place) const { return entries_[static_cast<std::size_t>(place)].weight; }
+
+private:
+    struct Entry
+    {
+        std::wstring_view text;
+        double weight;
+    };
+
+    int capacity_;
+    std::vector<Entry> entries_;
+    TextPlaces places_;
+};
+
+/// The place of the largest weight. A later one must exceed it, so that the first of equals stays, and so does a NaN
+/// that comes first.
+template <class WeightAt>
+int heaviest(int count, WeightAt weightAt)
+{
+    int best = 0;
+    for (int place = 1; place < count; ++place)
+        if (weightAt(place) > weightAt(best))
+            best = place;
+    return best;
+}
+
+} // namespace vecmat
