@@ -1,6 +1,7 @@
 // An allocation that fails passes through an exported call as the exception, whichever allocation it is: nothing is
 // left over, nothing is released twice, and what the call was not yet to write is as it was.
 #include "CompanionRuntime/CompanionRuntime.h"
+#include "decompositions/eigen.h"
 #include "descriptive/quantiles.h"
 #include "elementary/blocks.h"
 #include "elementary/matrix_products.h"
@@ -16,6 +17,7 @@
 #include "support/tables.h"
 
 #include <cstddef>
+#include <new>
 #include <vector>
 
 namespace vecmat::test {
@@ -196,6 +198,29 @@ TEST(AllocationFailure, PassesThroughAFreshResult)
     Guarded<int> out(4, 9);
     const int failures = forEachFailingAllocation([&] { VB_M_TransposeLng(a, 2, 2, out); });
     EXPECT_GE(failures, 4);
+    EXPECT_TRUE(a.untouched());
+}
+
+TEST(AllocationFailure, IsReleasedWhereTheCalleeMakesTheResultAndCatchesItsOwn)
+{
+    Guarded<double> a = {2, 1, 1, 2};
+    bool passedOut = false;
+    bool caught = false;
+    const int failures = forEachFailingAllocation(
+        [&] {
+            double values[2] = {9, 9};
+            double vectors[4] = {9, 9, 9, 9};
+            try {
+                caught = VB_M_Eigen(a, values, vectors, 2, -1) != 0 || caught;
+            } catch (const std::bad_alloc&) {
+                passedOut = values[0] == 9 && vectors[3] == 9;
+                throw;
+            }
+        },
+        Failure::mayBeCaught);
+    EXPECT_GE(failures, 6);
+    EXPECT_TRUE(passedOut) << "the copy of the argument is made outside of the callee";
+    EXPECT_TRUE(caught);
     EXPECT_TRUE(a.untouched());
 }
 

@@ -1,10 +1,12 @@
 // The call frame itself, and the exported calls that show each of its patterns.
+#include "decompositions/eigen.h"
 #include "descriptive/quantiles.h"
 #include "elementary/blocks.h"
 #include "elementary/matrix_products.h"
 #include "elementary/transposition.h"
 #include "elementary/vector_sums.h"
 #include "frame/handles.h"
+#include "missing/missing_counts.h"
 #include "sorting/sort.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
@@ -13,6 +15,8 @@
 #include "support/strings.h"
 #include "support/tables.h"
 
+#include <cstdint>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -247,6 +251,28 @@ TEST(ExportedCall, FreshResultReplacesTheCallersContent)
     VB_M_TransposeLng(a, 3, 2, out);
     EXPECT_TRUE(a.untouched());
     EXPECT_THAT(out.values(), ElementsAre(1, 4, 2, 5, 3, 6));
+}
+
+TEST(ExportedCall, ResultMadeByTheCalleeReplacesTheCallersContent)
+{
+    Guarded<double> a = {3, 0, 0, 5};
+    Guarded<double> values(2, 9.0);
+    Guarded<double> vectors(4, 9.0);
+    EXPECT_EQ(VB_M_Eigen(a, values, vectors, 2, -1), 0);
+    EXPECT_TRUE(a.untouched());
+    EXPECT_THAT(values.values(), SameBits({5, 3}));
+    EXPECT_THAT(std::vector<double>({vectors[0], vectors[3]}), SameBits({0, 0}));
+}
+
+TEST(ExportedCall, OneStringIsReadAsItStandsUpToA32BitNul)
+{
+    EXPECT_EQ(VB_IsMissingValueStr(L""), -1);
+    EXPECT_EQ(VB_IsMissingValueStr(L"a"), 0);
+    // To 16-bit eyes the first character is a NUL; converted as a BSTR, the text would be empty.
+    const std::uint16_t wide[] = {0, 1, 0, 0};
+    wchar_t text[2];
+    std::memcpy(text, wide, sizeof wide);
+    EXPECT_EQ(VB_IsMissingValueStr(text), 0);
 }
 
 TEST(ExportedCall, StringsComeBackAsNewOnes)

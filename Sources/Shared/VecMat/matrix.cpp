@@ -234,7 +234,9 @@ void matrix::matCheck(matrix*& ref, int rows, int cols, double value)
         std::fill_n(ref->X, std::min(elementCount(rows, cols), ref->nElems), value);
         return;
     }
-    delete std::exchange(ref, nullptr);
+    // Null first, so that a failing allocation leaves nothing to delete twice. The unset pattern is kept from being read
+    // above, not from being deleted here.
+    delete std::exchange(ref, nullptr); // NOLINT(clang-analyzer-cplusplus.NewDelete)
     ref = new matrix(rows, cols, value);
 }
 

@@ -122,6 +122,7 @@ public:
     {
         if (rows < 1 || cols < 1)
             return true;
+        // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): a table may be null only where there is no cell to visit
         const long long last = (cols - 1LL) * table_->nRows + rows;
         return table_->nRows >= 0 && last <= static_cast<long long>(table_->nElems);
     }
