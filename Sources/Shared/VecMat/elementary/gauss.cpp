@@ -3,9 +3,11 @@
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
+#include "kernels/operands.h"
 
 #include <cmath>
 #include <optional>
+#include <ranges>
 #include <vector>
 
 using namespace vecmat;
@@ -55,16 +57,6 @@ void swapRows(Cells a, int row1, int row2, int cols)
         const double cell = a.get(row1, j);
         a.set(row1, j, a.get(row2, j));
         a.set(row2, j, cell);
-    }
-}
-
-template <class Cells>
-void swapColumns(Cells a, int col1, int col2, int rows)
-{
-    for (int i = 0; i < rows; ++i) {
-        const double cell = a.get(i, col1);
-        a.set(i, col1, a.get(i, col2));
-        a.set(i, col2, cell);
     }
 }
 
@@ -120,8 +112,8 @@ int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
             return singular;
         eliminate(a, b, n, m, pivot->col);
     }
-    for (auto exchange = exchanges.rbegin(); exchange != exchanges.rend(); ++exchange)
-        swapColumns(a, exchange->row, exchange->col, n);
+    for (const Cell& exchange : exchanges | std::views::reverse)
+        swapRows(transposed(a), exchange.row, exchange.col, n); // the columns of a
     return 0;
 }
 

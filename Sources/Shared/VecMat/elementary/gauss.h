@@ -7,7 +7,7 @@
 extern "C" {
 
 /// Gauss-Jordan elimination with full pivoting: a, `n` by `n`, becomes its inverse and b, `n` by `m`, the solutions;
-/// see Golub and Van Loan, Matrix Computations, and any text on the method. The pivot of a step is the cell of largest
+/// for complete pivoting see Golub and Van Loan, Matrix Computations, section 3.4. The pivot of a step is the cell of largest
 /// magnitude among the rows and columns not yet used; a cell replaces the largest so far only where it is above it by
 /// more than 1e-12, so that the first of nearly equal cells stays. With `noPivot` the pivots are the diagonal cells in
 /// order; with `noSwap` they are searched, but the diagonal cell of the column found takes the pivot's place, and no
