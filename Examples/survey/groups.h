@@ -1,0 +1,27 @@
+// The rows of a table that belong together.
+#pragma once
+
+#include "table.h"
+
+#include <string>
+#include <vector>
+
+namespace survey {
+
+struct Group
+{
+    std::string name;
+    std::vector<int> rows; ///< from 0
+};
+
+/// The rows with the same text in the column, in the order in which the texts first appear; those without a text come
+/// last, as "(none)".
+std::vector<Group> groupsBy(const Column& column);
+
+/// All rows as one group, "all".
+Group allRows(const Table& table);
+
+/// The cells of a group in a numeric column, with the missing ones.
+std::vector<double> cellsOf(const Column& column, const Group& group);
+
+} // namespace survey

@@ -1,0 +1,181 @@
+#include "report.h"
+
+#include "number_format.h"
+#include "statistics.h"
+#include "text_table.h"
+
+#include <filesystem>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace survey {
+
+namespace {
+
+constexpr std::size_t lineWidth = 100;
+
+void printTitle(std::ostream& out, const std::string& title)
+{
+    out << title << "\n\n";
+}
+
+void printNote(std::ostream& out, const std::string& note)
+{
+    out << wrapped(note, lineWidth, 0) << "\n\n\n";
+}
+
+std::string counted(std::size_t count, const std::string& thing)
+{
+    return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
+}
+
+std::string groupingHeading(const Subject& subject)
+{
+    return subject.grouping == nullptr ? "rows" : subject.grouping->name;
+}
+
+/// A table of one line for each numeric column and group. The cells of a line come from the format of the column and
+/// the cells of the group.
+void printByGroup(std::ostream& out, const Subject& subject, const std::vector<TextTable::Column>& headings,
+                  const std::function<std::vector<std::string>(const NumberFormat&, std::vector<double>)>& line)
+{
+    std::vector<TextTable::Column> columns = {{"column", Align::left}, {groupingHeading(subject), Align::left}};
+    columns.insert(columns.end(), headings.begin(), headings.end());
+    TextTable text(std::move(columns), 2);
+    for (const Column* column : subject.table.ofKind(Kind::numeric)) {
+        if (column != subject.table.ofKind(Kind::numeric).front())
+            text.addGap();
+        std::string name = column->name;
+        for (const Group& group : subject.groups) {
+            std::vector<std::string> cells = {std::exchange(name, ""), group.name};
+            for (std::string& cell : line(NumberFormat(*column), cellsOf(*column, group)))
+                cells.push_back(std::move(cell));
+            text.addRow(std::move(cells));
+        }
+    }
+    text.print(out, lineWidth);
+}
+
+void printLabelled(std::ostream& out, const std::string& label, const std::string& text)
+{
+    if (!text.empty())
+        out << label << wrapped(text, lineWidth, widthOf(label)) << '\n';
+}
+
+std::string namesOf(const std::vector<const Column*>& columns)
+{
+    std::string names;
+    for (const Column* column : columns)
+        names += (names.empty() ? "" : ", ") + onOneLine(column->name);
+    return names;
+}
+
+} // namespace
+
+Subject subjectOf(const Table& table, const Column* grouping)
+{
+    Subject subject{table, grouping, {}};
+    if (grouping != nullptr)
+        subject.groups = groupsBy(*grouping);
+    subject.groups.push_back(allRows(table));
+    return subject;
+}
+
+void printSurvey(std::ostream& out, const Subject& subject)
+{
+    printOverview(out, subject);
+    printMoments(out, subject);
+    printQuartiles(out, subject);
+    printThirteenQuantiles(out, subject);
+}
+
+void printOverview(std::ostream& out, const Subject& subject)
+{
+    const Table& table = subject.table;
+    const std::string file = std::filesystem::path(table.file).filename().string();
+    out << file << ": " << counted(static_cast<std::size_t>(table.rows), "row") << ", "
+        << counted(table.columns.size(), "column") << "\n\n";
+    printLabelled(out, "  numeric     ", namesOf(table.ofKind(Kind::numeric)));
+    printLabelled(out, "  text        ", namesOf(table.ofKind(Kind::text)));
+    printLabelled(out, "  empty       ", namesOf(table.ofKind(Kind::empty)));
+    if (subject.grouping != nullptr) {
+        std::string sizes;
+        for (const Group& group : subject.groups)
+            if (&group != &subject.groups.back())
+                sizes += (sizes.empty() ? "" : ", ") + onOneLine(group.name) + ' ' + std::to_string(group.rows.size());
+        printLabelled(out, "  grouped by  ", onOneLine(subject.grouping->name) + ": " + sizes);
+    }
+    out << "\n\n";
+}
+
+void printMoments(std::ostream& out, const Subject& subject)
+{
+    constexpr int shapeDecimals = 3; // skewness and kurtosis have no unit
+    printTitle(out, "Moments");
+    printByGroup(out, subject,
+                 {{"count", Align::right},
+                  {"missing", Align::right},
+                  {"minimum", Align::point},
+                  {"maximum", Align::point},
+                  {"mean", Align::point},
+                  {"std dev", Align::point},
+                  {"skewness", Align::point},
+                  {"kurtosis", Align::point}},
+                 [](const NumberFormat& format, std::vector<double> cells) {
+                     const Moments moments = momentsOf(std::move(cells));
+                     return std::vector<std::string>{std::to_string(moments.count),
+                                                     std::to_string(moments.missing),
+                                                     format.cell(moments.minimum),
+                                                     format.cell(moments.maximum),
+                                                     format.statistic(moments.mean),
+                                                     format.statistic(moments.standardDeviation),
+                                                     withDecimals(moments.skewness, shapeDecimals),
+                                                     withDecimals(moments.kurtosis, shapeDecimals)};
+                 });
+    printNote(out, "Standard deviation with divisor n - 1. Skewness and excess kurtosis in the sample forms G1 and G2, "
+                   "0 for a normal distribution. A dash stands where the cells are too few or all equal.");
+}
+
+void printQuartiles(std::ostream& out, const Subject& subject)
+{
+    printTitle(out, "Median and quartiles");
+    printByGroup(
+        out, subject, {{"lower quartile", Align::point}, {"median", Align::point}, {"upper quartile", Align::point}},
+        [](const NumberFormat& format, std::vector<double> cells) {
+            const Quartiles quartiles = quartilesOf(std::move(cells));
+            return std::vector<std::string>{format.statistic(quartiles.lower), format.statistic(quartiles.median),
+                                            format.statistic(quartiles.upper)};
+        });
+    printNote(out, "Of the n cells that aren't missing, interpolated at position 1 + (n - 1)p.");
+}
+
+void printThirteenQuantiles(std::ostream& out, const Subject& subject)
+{
+    printTitle(out, "Thirteen quantiles");
+    std::vector<TextTable::Column> columns = {{"column", Align::left}, {"p", Align::right}};
+    for (const Group& group : subject.groups)
+        columns.push_back({group.name, Align::point});
+    TextTable text(std::move(columns), 2);
+    for (const Column* column : subject.table.ofKind(Kind::numeric)) {
+        if (column != subject.table.ofKind(Kind::numeric).front())
+            text.addGap();
+        const NumberFormat format(*column);
+        std::vector<std::array<double, 13>> quantiles;
+        for (const Group& group : subject.groups)
+            quantiles.push_back(thirteenQuantilesOf(cellsOf(*column, group)));
+        for (std::size_t k = 0; k < thirteenPercentages.size(); ++k) {
+            std::vector<std::string> cells = {k == 0 ? column->name : "",
+                                              std::to_string(thirteenPercentages[k]) + " %"};
+            for (const auto& ofGroup : quantiles)
+                cells.push_back(format.statistic(ofGroup[k]));
+            text.addRow(std::move(cells));
+        }
+    }
+    text.print(out, lineWidth);
+    printNote(out, "Interpolated at position 1/2 + (n - 1)p up to the median and 1 + (n - 1)p above it, so that the "
+                   "lower ones lie up to half a place below those of the other rule.");
+}
+
+} // namespace survey

@@ -1,0 +1,164 @@
+// The program as a user runs it: output, messages and exit statuses.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace {
+
+std::string content(const std::filesystem::path& path)
+{
+    std::ostringstream text;
+    text << std::ifstream(path).rdbuf();
+    return text.str();
+}
+
+/// Runs the program in a directory of its own.
+class SurveyProgram : public testing::Test
+{
+protected:
+    SurveyProgram()
+    {
+        std::string pattern = (std::filesystem::temp_directory_path() / "survey-test-XXXXXX").string();
+        directory_ = mkdtemp(pattern.data());
+    }
+    ~SurveyProgram() override { std::filesystem::remove_all(directory_); }
+
+    void write(const std::string& name, const std::string& text) const
+    {
+        std::ofstream(directory_ / name, std::ios::binary) << text;
+    }
+
+    /// `arguments` are words of the shell.
+    void run(const std::string& arguments, const std::string& outputFile = "output")
+    {
+        const std::string command = "cd '" + directory_.string() + "' && '" SURVEY_PROGRAM "' " + arguments + " >" +
+                                    outputFile + " 2>errors </dev/null";
+        const int result = std::system(command.c_str());
+        status = WIFEXITED(result) ? WEXITSTATUS(result) : -1;
+        output = content(directory_ / "output");
+        errors = content(directory_ / "errors");
+    }
+
+    void expectRefused(const std::string& arguments, const std::string& message)
+    {
+        run(arguments);
+        EXPECT_EQ(status, 1);
+        EXPECT_EQ(output, "");
+        EXPECT_EQ(errors, "survey: " + message + "\n");
+    }
+
+    int status = 0;
+    std::string output;
+    std::string errors;
+
+private:
+    std::filesystem::path directory_;
+};
+
+} // namespace
+
+TEST_F(SurveyProgram, PrintsThePenguinsBySpecies)
+{
+    run("'" SURVEY_DATA "/penguins.csv' species");
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(errors, "");
+    EXPECT_THAT(output, StartsWith("penguins.csv: 344 rows, 7 columns\n"));
+    EXPECT_THAT(output, HasSubstr("  grouped by  species: Adelie 152, Chinstrap 68, Gentoo 124\n"));
+    EXPECT_THAT(
+        output,
+        HasSubstr(
+            "bill_length_mm     Adelie       151        1     32.1     46.0    38.79     2.66     0.162    -0.157\n"
+            "                   Chinstrap     68        0     40.9     58.0    48.83     3.34    -0.091     0.036\n"
+            "                   Gentoo       123        1     40.9     59.6    47.50     3.08     0.651     1.297\n"
+            "                   all          342        2     32.1     59.6    43.92     5.46     0.053    -0.876\n"));
+    EXPECT_THAT(output, HasSubstr("body_mass_g        Adelie            3350.0   3700.0          4000.0\n"));
+    EXPECT_THAT(output, HasSubstr("                   95 %    43.00      53.26    52.19    51.99\n"));
+}
+
+TEST_F(SurveyProgram, WithoutGroupingColumnTakesAllRows)
+{
+    write("a.csv", "x\n1\n2\n\n");
+    run("a.csv");
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(output.find("grouped by"), std::string::npos);
+    EXPECT_THAT(output, StartsWith("a.csv: 3 rows, 1 column\n"));
+    EXPECT_THAT(output,
+                HasSubstr("x       all       2        1        1        2   1.5      0.7         -         -\n"));
+}
+
+TEST_F(SurveyProgram, CallWithoutFileOrWithTooManyArgumentsShowsTheUsage)
+{
+    for (const char* arguments : {"", "a.csv b c"}) {
+        run(arguments);
+        EXPECT_EQ(status, 2);
+        EXPECT_EQ(output, "");
+        EXPECT_EQ(errors, "usage: survey FILE.csv [GROUPING_COLUMN]\n");
+    }
+}
+
+TEST_F(SurveyProgram, FileThatCannotBeReadIsRefused)
+{
+    expectRefused("nowhere.csv", "nowhere.csv: No such file or directory");
+    expectRefused(".", ".: Is a directory");
+}
+
+TEST_F(SurveyProgram, EmptyFileIsRefused)
+{
+    write("a.csv", "");
+    expectRefused("a.csv", "a.csv, line 1, column 1: the file is empty");
+}
+
+TEST_F(SurveyProgram, FileWithoutRowsIsRefused)
+{
+    write("a.csv", "x,y\r\n");
+    expectRefused("a.csv", "a.csv, line 2, column 1 (x): no row of data follows the heading");
+}
+
+TEST_F(SurveyProgram, RaggedFileIsRefused)
+{
+    write("a.csv", "x,y\n1,2\n3\n");
+    expectRefused("a.csv", "a.csv, line 3, column 2 (y): the row has 1 field, the heading has 2");
+}
+
+TEST_F(SurveyProgram, OpenQuoteIsRefused)
+{
+    write("a.csv", "x,y\n1,\"2\n3,4\n");
+    expectRefused("a.csv", "a.csv, line 2, column 2: the quote that opens here is never closed");
+}
+
+TEST_F(SurveyProgram, TextInANumericColumnIsRefused)
+{
+    write("a.csv", "x,y\n1,2\n3,oops\n5,6\n");
+    expectRefused("a.csv", "a.csv, line 3, column 2 (y): 'oops' is not a number, as most of the column are (a missing "
+                           "cell is left empty)");
+}
+
+TEST_F(SurveyProgram, TextsAloneAreRefused)
+{
+    write("a.csv", "x,y\na,b\n");
+    expectRefused("a.csv", "a.csv, line 1, columns 1 to 2: none is numeric");
+}
+
+TEST_F(SurveyProgram, UnknownGroupingColumnIsRefused)
+{
+    write("a.csv", "x,y\n1,b\n");
+    expectRefused("a.csv z", "a.csv, line 1, columns 1 to 2: none is named 'z'; the names are x, y");
+}
+
+TEST_F(SurveyProgram, OutputThatCannotBeWrittenIsAFailure)
+{
+    write("a.csv", "x\n1\n");
+    run("a.csv", "/dev/full");
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(errors, "survey: the output can't be written\n");
+}
