@@ -10,8 +10,8 @@ using vecmat::cells;
 using vecmat::countOf;
 using vecmat::isMissing;
 using vecmat::isMissingOrBelow;
-using vecmat::linear;
 using vecmat::onBlocks;
+using vecmat::triangle;
 
 namespace {
 
@@ -140,12 +140,11 @@ void M_NbNonMissing(matrix* a, int nRows, int nCols, int* counts)
 
 int M_NbMissingSPV_T(matrix** a, int n, int /*unused*/)
 {
-    unsigned below = 0;
-    for (int k = 0; k < n - 1; ++k) // the last column has nothing but its diagonal cell
-        below += onBlocks(
-            [=](auto column) {
-                return missingInColumn([column](int i, int) { return isMissing(column.get(i + 1)); }, n - k - 1, 0);
-            },
-            block(linear(a[k]), n - k));
-    return static_cast<int>(2 * below);
+    return censusOf<isMissing>(triangle(a), n, n, [n](auto missing) {
+        unsigned below = 0;
+        for (int j = 0; j < n; ++j)
+            for (int i = j + 1; i < n; ++i)
+                below += missing(i, j) ? 1 : 0;
+        return static_cast<int>(2 * below);
+    });
 }
