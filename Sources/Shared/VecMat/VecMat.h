@@ -55,6 +55,7 @@
 #include "missing/missing_arithmetic.h"
 #include "missing/missing_counts.h"
 #include "missing/missing_masks.h"
+#include "missing/mode_imputation.h"
 #include "missing/new_variables.h"
 #include "missing/observation_labels.h"
 #include "missing/replacement.h"
