@@ -39,7 +39,7 @@ const wchar_t* CW162W32(const void* bstr)
     thread_local std::wstring text;
     text.clear();
     companions::appendUtf16(bstr, text);
-    return text.c_str();
+    return text.c_str(); // NOLINT(clang-analyzer-cplusplus.InnerPointer): valid until the next call, as told
 }
 
 wchar_t* SysAllocString2(const wchar_t* text)

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <optional>
-#include <ranges>
 #include <vector>
 
 using namespace vecmat;
@@ -112,8 +111,8 @@ int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
             return singular;
         eliminate(a, b, n, m, pivot->col);
     }
-    for (const Cell& exchange : exchanges | std::views::reverse)
-        swapRows(transposed(a), exchange.row, exchange.col, n); // the columns of a
+    for (auto exchange = exchanges.rbegin(); exchange != exchanges.rend(); ++exchange)
+        swapRows(transposed(a), exchange->row, exchange->col, n); // the columns of a
     return 0;
 }
 
