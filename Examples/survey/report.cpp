@@ -1,5 +1,6 @@
 #include "report.h"
 
+#include "input_error.h"
 #include "number_format.h"
 #include "statistics.h"
 #include "text_table.h"
@@ -7,6 +8,7 @@
 #include <filesystem>
 #include <functional>
 #include <ostream>
+#include <span>
 #include <string>
 #include <utility>
 
@@ -23,7 +25,7 @@ void printTitle(std::ostream& out, const std::string& title)
 
 void printNote(std::ostream& out, const std::string& note)
 {
-    out << wrapped(note, lineWidth, 0) << "\n\n\n";
+    out << wrapped(words(note), lineWidth, 0) << "\n\n\n";
 }
 
 std::string counted(std::size_t count, const std::string& thing)
@@ -45,12 +47,12 @@ void printByGroup(std::ostream& out, const Subject& subject, const std::vector<T
     columns.insert(columns.end(), headings.begin(), headings.end());
     TextTable text(std::move(columns), 2);
     for (const Column* column : subject.table.ofKind(Kind::numeric)) {
-        if (column != subject.table.ofKind(Kind::numeric).front())
-            text.addGap();
-        std::string name = column->name;
+        text.addGap();
+        const NumberFormat format(*column);
+        std::string name = column->name; // told once, on the first line
         for (const Group& group : subject.groups) {
             std::vector<std::string> cells = {std::exchange(name, ""), group.name};
-            for (std::string& cell : line(NumberFormat(*column), cellsOf(*column, group)))
+            for (std::string& cell : line(format, cellsOf(*column, group)))
                 cells.push_back(std::move(cell));
             text.addRow(std::move(cells));
         }
@@ -58,17 +60,38 @@ void printByGroup(std::ostream& out, const Subject& subject, const std::vector<T
     text.print(out, lineWidth);
 }
 
-void printLabelled(std::ostream& out, const std::string& label, const std::string& text)
+/// A name as it stands in a list.
+std::string listed(const std::string& name)
 {
-    if (!text.empty())
-        out << label << wrapped(text, lineWidth, widthOf(label)) << '\n';
+    return name.find(',') == std::string::npos ? onOneLine(name) : quoted(name);
 }
 
-std::string namesOf(const std::vector<const Column*>& columns)
+void printList(std::ostream& out, const std::string& label, std::vector<std::string> items)
 {
-    std::string names;
+    if (items.empty())
+        return;
+    for (std::size_t i = 0; i + 1 < items.size(); ++i)
+        items[i] += ',';
+    out << label << wrapped(items, lineWidth, widthOf(label)) << '\n';
+}
+
+std::vector<std::string> namesOf(const std::vector<const Column*>& columns)
+{
+    std::vector<std::string> names;
+    names.reserve(columns.size());
     for (const Column* column : columns)
-        names += (names.empty() ? "" : ", ") + onOneLine(column->name);
+        names.push_back(listed(column->name));
+    return names;
+}
+
+std::vector<std::string> namesAndSizesOf(std::span<const Group> groups)
+{
+    constexpr std::size_t most = 50;
+    if (groups.size() > most)
+        return {std::to_string(groups.size()) + " groups"};
+    std::vector<std::string> names;
+    for (const Group& group : groups)
+        names.push_back(listed(group.name) + " (" + std::to_string(group.rows.size()) + ")");
     return names;
 }
 
@@ -97,16 +120,12 @@ void printOverview(std::ostream& out, const Subject& subject)
     const std::string file = std::filesystem::path(table.file).filename().string();
     out << file << ": " << counted(static_cast<std::size_t>(table.rows), "row") << ", "
         << counted(table.columns.size(), "column") << "\n\n";
-    printLabelled(out, "  numeric     ", namesOf(table.ofKind(Kind::numeric)));
-    printLabelled(out, "  text        ", namesOf(table.ofKind(Kind::text)));
-    printLabelled(out, "  empty       ", namesOf(table.ofKind(Kind::empty)));
-    if (subject.grouping != nullptr) {
-        std::string sizes;
-        for (const Group& group : subject.groups)
-            if (&group != &subject.groups.back())
-                sizes += (sizes.empty() ? "" : ", ") + onOneLine(group.name) + ' ' + std::to_string(group.rows.size());
-        printLabelled(out, "  grouped by  ", onOneLine(subject.grouping->name) + ": " + sizes);
-    }
+    printList(out, "  numeric     ", namesOf(table.ofKind(Kind::numeric)));
+    printList(out, "  text        ", namesOf(table.ofKind(Kind::text)));
+    printList(out, "  empty       ", namesOf(table.ofKind(Kind::empty)));
+    if (subject.grouping != nullptr)
+        printList(out, "  grouped by  " + onOneLine(subject.grouping->name) + ": ",
+                  namesAndSizesOf(std::span(subject.groups).first(subject.groups.size() - 1)));
     out << "\n\n";
 }
 
@@ -159,8 +178,7 @@ void printThirteenQuantiles(std::ostream& out, const Subject& subject)
         columns.push_back({group.name, Align::point});
     TextTable text(std::move(columns), 2);
     for (const Column* column : subject.table.ofKind(Kind::numeric)) {
-        if (column != subject.table.ofKind(Kind::numeric).front())
-            text.addGap();
+        text.addGap();
         const NumberFormat format(*column);
         std::vector<std::array<double, 13>> quantiles;
         for (const Group& group : subject.groups)

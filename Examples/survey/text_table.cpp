@@ -74,12 +74,20 @@ std::string shortened(const std::string& text, std::size_t width)
     return std::string(text.begin(), cut) + "...";
 }
 
-std::string wrapped(const std::string& text, std::size_t width, std::size_t indent)
+std::vector<std::string> words(const std::string& text)
+{
+    std::istringstream rest(text);
+    std::vector<std::string> all;
+    for (std::string word; rest >> word;)
+        all.push_back(word);
+    return all;
+}
+
+std::string wrapped(const std::vector<std::string>& words, std::size_t width, std::size_t indent)
 {
     std::string lines;
     std::size_t used = indent;
-    std::istringstream words(text);
-    for (std::string word; words >> word; used += widthOf(word)) {
+    for (const std::string& word : words) {
         if (used > indent && used + 1 + widthOf(word) > width) {
             lines += "\n" + blanks(indent);
             used = indent;
@@ -88,6 +96,7 @@ std::string wrapped(const std::string& text, std::size_t width, std::size_t inde
             ++used;
         }
         lines += word;
+        used += widthOf(word);
     }
     return lines;
 }
@@ -107,7 +116,8 @@ void TextTable::addRow(std::vector<std::string> cells)
 
 void TextTable::addGap()
 {
-    rows_.emplace_back();
+    if (!rows_.empty())
+        rows_.emplace_back();
 }
 
 std::vector<std::string> TextTable::paddedColumn(std::size_t j) const

@@ -18,9 +18,12 @@ std::string onOneLine(std::string_view text);
 /// The text, or its beginning and "..." where it is wider than `width`.
 std::string shortened(const std::string& text, std::size_t width);
 
-/// The text in lines that end before `width`, broken at blanks. The first begins where `indent` places are used up; the
-/// others are indented so far.
-std::string wrapped(const std::string& text, std::size_t width, std::size_t indent);
+/// The parts of a text between its blanks.
+std::vector<std::string> words(const std::string& text);
+
+/// Words side by side, in lines of at most `width` places. The first line begins where `indent` places are used up; the
+/// others are indented so far. A word is never broken.
+std::string wrapped(const std::vector<std::string>& words, std::size_t width, std::size_t indent);
 
 enum class Align { left, right, point };
 
@@ -39,7 +42,7 @@ public:
     TextTable(std::vector<Column> columns, std::size_t keyColumns);
 
     void addRow(std::vector<std::string> cells); ///< one for each column
-    void addGap();                               ///< an empty line
+    void addGap();                               ///< an empty line, except ahead of the first row
 
     void print(std::ostream& out, std::size_t width) const;
 

@@ -73,7 +73,7 @@ TEST_F(SurveyProgram, PrintsThePenguinsBySpecies)
     EXPECT_EQ(status, 0);
     EXPECT_EQ(errors, "");
     EXPECT_THAT(output, StartsWith("penguins.csv: 344 rows, 7 columns\n"));
-    EXPECT_THAT(output, HasSubstr("  grouped by  species: Adelie 152, Chinstrap 68, Gentoo 124\n"));
+    EXPECT_THAT(output, HasSubstr("  grouped by  species: Adelie (152), Chinstrap (68), Gentoo (124)\n"));
     EXPECT_THAT(
         output,
         HasSubstr(
@@ -94,6 +94,27 @@ TEST_F(SurveyProgram, WithoutGroupingColumnTakesAllRows)
     EXPECT_THAT(output, StartsWith("a.csv: 3 rows, 1 column\n"));
     EXPECT_THAT(output,
                 HasSubstr("x       all       2        1        1        2   1.5      0.7         -         -\n"));
+}
+
+TEST_F(SurveyProgram, ListsTheColumnsByKindAndTheGroups)
+{
+    std::string heading = "\"dose, mg\",\xC3\xA9tat,none";
+    std::string row = "1,a,";
+    for (int i = 1; i <= 20; ++i) {
+        heading += ",measure " + std::to_string(i);
+        row += "," + std::to_string(i);
+    }
+    write("a.csv", "\xEF\xBB\xBF" + heading + "\r\n" + row + "\r\n" + row + "\r\n");
+    run("a.csv \xC3\xA9tat");
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(output.substr(0, output.find("\n\n\n")),
+              "a.csv: 2 rows, 23 columns\n\n"
+              "  numeric     'dose, mg', measure 1, measure 2, measure 3, measure 4, measure 5, measure 6,\n"
+              "              measure 7, measure 8, measure 9, measure 10, measure 11, measure 12, measure 13,\n"
+              "              measure 14, measure 15, measure 16, measure 17, measure 18, measure 19, measure 20\n"
+              "  text        \xC3\xA9tat\n"
+              "  empty       none\n"
+              "  grouped by  \xC3\xA9tat: a (2)");
 }
 
 TEST_F(SurveyProgram, CallWithoutFileOrWithTooManyArgumentsShowsTheUsage)

@@ -61,6 +61,7 @@ TEST(NumberFormat, NothingIsMinusZero)
 TEST(TextTable, AlignsTextNumbersAndPoints)
 {
     TextTable table({{"name", Align::left}, {"n", Align::right}, {"x", Align::point}}, 1);
+    table.addGap(); // none ahead of the first row
     table.addRow({"ada", "5", "1.25"});
     table.addGap();
     table.addRow({"bo", "10", "-"});
@@ -102,8 +103,9 @@ TEST(Text, IsShortenedByCharacters)
 
 TEST(Text, IsWrappedBehindItsIndent)
 {
-    EXPECT_EQ(wrapped("one two three", 7, 0), "one two\nthree");
-    EXPECT_EQ(wrapped("one two three", 9, 3), "one\n   two\n   three");
-    EXPECT_EQ(wrapped("verylongword two", 4, 0), "verylongword\ntwo");
-    EXPECT_EQ(wrapped("", 10, 2), "");
+    EXPECT_EQ(words("  one two\nthree "), (std::vector<std::string>{"one", "two", "three"}));
+    EXPECT_EQ(wrapped({"one", "two", "three"}, 7, 0), "one two\nthree");
+    EXPECT_EQ(wrapped({"one", "two", "three"}, 9, 3), "one\n   two\n   three");
+    EXPECT_EQ(wrapped({"not broken", "two"}, 4, 0), "not broken\ntwo");
+    EXPECT_EQ(wrapped({}, 10, 2), "");
 }
