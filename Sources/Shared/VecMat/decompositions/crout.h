@@ -7,6 +7,7 @@
 #pragma once
 
 #include "../frame/cells.h"
+#include "line_exchanges.h"
 
 #include <cmath>
 #include <vector>
@@ -56,10 +57,15 @@ struct RowExchanges
 
 /// A square block for the method. Where the rows of a table run over into its next column, two cells of the block are
 /// one and the order of all writes shows: such a block, too, is left to the checked accessor.
-template <class Checked>
-Block<Checked> squareBlock(Checked cells, int n, int nRows)
+inline Block<TableCells<matrix>> squareBlock(matrix* a, int n)
 {
-    return {cells, n <= nRows && cells.covers(n, n)};
+    return {cells(a), n < 1 || (n <= a->nRows && cells(a).covers(n, n))};
+}
+
+/// A row of an array of columns never runs over.
+inline Block<ColumnCells<matrix>> squareBlock(matrix** a, int n)
+{
+    return block(cells(a), n, n);
 }
 
 /// The reciprocal of the largest magnitude of each row, NaN passed over; false where a row has nothing but zeros.
@@ -112,16 +118,6 @@ void searchPivot(Cells a, int j, int n, const std::vector<double>& scales, int& 
             largest = candidate;
             pivotRow = i;
         }
-    }
-}
-
-template <class Cells>
-void exchangeRows(Cells a, int row, int other, int n)
-{
-    for (int j = 0; j < n; ++j) {
-        const double kept = a.get(other, j);
-        a.set(other, j, a.get(row, j));
-        a.set(row, j, kept);
     }
 }
 

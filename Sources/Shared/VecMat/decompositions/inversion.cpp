@@ -5,7 +5,6 @@
 
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <memory>
 #include <vector>
 
@@ -175,7 +174,7 @@ int invertTriangle(Cells a, Out out, int n, Triangle triangle, double tol)
 int matrix::inverse1(matrix* out, short& status, double tol)
 {
     matrix workspace(*this);
-    if (invert(squareBlock(cells(&workspace), nRows, nRows), nRows, out, tol) == 0)
+    if (invert(squareBlock(&workspace, nRows), nRows, out, tol) == 0)
         return 0;
     status = -1;
     return -1;
@@ -184,9 +183,7 @@ int matrix::inverse1(matrix* out, short& status, double tol)
 int Inverse1SPV(matrix** a, matrix* out, int n, int count, int /*ignored*/, double tol)
 {
     ColumnCopies workspace(a, count, n);
-    // A row of a column table never runs over.
-    constexpr int rowsOfAnyTable = std::numeric_limits<int>::max();
-    return invert(squareBlock(cells(workspace.pointers()), n, rowsOfAnyTable), n, out, tol);
+    return invert(squareBlock(workspace.pointers(), n), n, out, tol);
 }
 
 int M_InverseTriang(matrix* a, int n, short lower, matrix*& out, double tol)

@@ -1,0 +1,21 @@
+#include "cholesky.h"
+
+#include "../frame/handles.h"
+
+using namespace vecmat;
+
+int VB_M_CholDecomp(double* a, int n, double* l)
+{
+    TableHandle factor = viewed(l, n, n);
+    return M_CholDecomp(copied(a, n, n), n, factor.reference());
+}
+
+int VB_M_CholDecompPrinc(double* a, int n, double* l, int* perm, short keep)
+{
+    return M_CholDecompPrinc(viewed(a, n, n), n, viewed(l, n, n), viewed(perm, n, 1), keep);
+}
+
+int VB_M_CholDecompCleaned(double* a, int n, int* mask, double* l)
+{
+    return M_CholDecompCleaned(viewed(a, n, n), n, viewed(mask, n, 1), viewed(l, n, n));
+}

@@ -1,0 +1,117 @@
+#include "determinants.h"
+
+#include "../frame/companions.h"
+#include "../frame/handles.h"
+#include "../frame/missing_value.h"
+#include "lu.h"
+
+#include <cmath>
+#include <optional>
+
+using namespace vecmat;
+
+namespace {
+
+constexpr double smallestLogarithm = -708.0;
+constexpr double largestLogarithm = 709.0;
+
+/// The factors of a private copy.
+struct Factored
+{
+    TableHandle factors;
+    double parity = 1.0;
+    short status = 0;
+
+    Factored(matrix* a, int n) : factors(new matrix(*a))
+    {
+        IntTableHandle index;
+        M_LUDecomp(factors.reference(), n, index.reference(), &parity, &status);
+    }
+};
+
+/// The product of the diagonal, by logarithm of magnitude and count of negative cells.
+struct DiagonalProduct
+{
+    double logarithm = 0.0;
+    int negatives = 0;
+
+    bool isOdd() const { return negatives % 2 != 0; }
+};
+
+/// None where a cell is exactly 0.
+std::optional<DiagonalProduct> diagonalProduct(matrix* a, int n)
+{
+    DiagonalProduct product;
+    for (int i = 1; i <= n; ++i) {
+        double x = a->vbget(i, i);
+        if (x == 0.0)
+            return std::nullopt;
+        if (x < 0.0) {
+            x = -x;
+            ++product.negatives;
+        }
+        product.logarithm += std::log(x);
+    }
+    return product;
+}
+
+double negatedIf(bool odd, double value)
+{
+    return odd ? -value : value;
+}
+
+} // namespace
+
+double M_Determinant(matrix* a, int n, short* status, short logOnOverflow)
+{
+    try {
+        const Factored lu(a, n);
+        *status = lu.status;
+        if (lu.status != 0)
+            return 0.0;
+        const std::optional<DiagonalProduct> product = diagonalProduct(lu.factors, n);
+        if (!product || product->logarithm < smallestLogarithm)
+            return 0.0;
+        if (product->logarithm > largestLogarithm) {
+            if (logOnOverflow == -1)
+                return negatedIf(product->isOdd(), lu.parity * product->logarithm);
+            *status = -1;
+            return positiveTwin;
+        }
+        return negatedIf(product->isOdd(), lu.parity * std::exp(product->logarithm));
+    } catch (...) {
+        *status = -1;
+        return positiveTwin;
+    }
+}
+
+double M_LogDeterminant(matrix* a, int n)
+{
+    const Factored lu(a, n);
+    // Without a pivot in the first column it goes on all the same, on the table as it is.
+    if (lu.status == -1)
+        return missingValue;
+    const std::optional<DiagonalProduct> product = diagonalProduct(lu.factors, n);
+    if (!product)
+        return 0.0;
+    if (!product->isOdd() && lu.parity > 0.0)
+        return product->logarithm + std::log(lu.parity);
+    if (product->isOdd() && !(lu.parity > 0.0))
+        return product->logarithm + std::log(-lu.parity);
+    return missingValue;
+}
+
+double M_DeterminantTriang(matrix* a, int n, short* status)
+{
+    *status = 0;
+    const std::optional<DiagonalProduct> product = diagonalProduct(a, n);
+    if (!product)
+        return 0.0;
+    try {
+        const bool odd = Mod(product->negatives, 2) != 0;
+        return negatedIf(odd, std::exp(product->logarithm));
+    } catch (...) {
+        *status = -1;
+        return positiveTwin;
+    }
+}

@@ -1,0 +1,27 @@
+// Echelon forms of symmetric tables: what a set of estimable functions is read from.
+//
+// The result table exists and is not prepared. All access is checked: outside a table a read gives -1.0, which takes
+// part, and a write is dropped. Tolerances are 1e-12 in absolute terms. No test for the missing value, and no failure.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// Forward Doolittle reduction (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33,
+/// 149-158): the upper triangle of `a` becomes an upper echelon form in `out`, with pivots of 1 and rows of zeros where
+/// a pivot is up to 1e-12. `a` is read on and above the diagonal.
+///
+/// It departs from the publication: when a pivot is taken off, the row right below it is divided at once by what its own
+/// diagonal becomes (or zeroed where that is up to 1e-12), while the rows beyond it are reduced without a division.
+VECMAT_API void M_ForwardDoolittle(matrix* a, int n, matrix* out);
+
+/// Hermite canonical form: the reduction above, with the cells above each pivot of 1, within 1e-12, brought to 0.
+VECMAT_API void M_HermiteCanonical(matrix* a, int n, matrix* h);
+
+/// Flat forms: n by n arrays; the second one is the result, in place.
+VECMAT_API void Cpp_M_ForwardDoolittle(double* a, int n, double* out);
+VECMAT_API void Cpp_M_HermiteCanonical(double* a, int n, double* h);
+
+} // extern "C"

@@ -1,0 +1,11 @@
+#include "square_root.h"
+
+#include "../frame/handles.h"
+
+using namespace vecmat;
+
+int Cpp_M_SquareRoot(double* a, int n, double* out)
+{
+    TableHandle root = viewed(out, n, n);
+    return M_SquareRoot(viewed(a, n, n), n, root.reference());
+}
