@@ -65,9 +65,8 @@ TEST(ModeImputation, ModesAreWeightedAndTiesGoToTheFirstMet)
     EXPECT_THAT(filledByModes(2, 1, {L"b", L""}, {0, 0}), ElementsAre(L"b", L"b"));
 }
 
-TEST(ModeImputation, CategoriesAreNotSorted)
+TEST(ModeImputation, TieDoesNotGoByTheOrderOfTheTexts)
 {
-    // Sorted by number, 9 would come first and win the tie.
     EXPECT_THAT(filledByModes(3, 1, {L"10", L"9", L""}, {1, 1, 1}), ElementsAre(L"10", L"9", L"10"));
 }
 
