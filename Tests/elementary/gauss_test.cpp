@@ -99,8 +99,8 @@ TEST(Gauss, InvertsAndSolves)
 {
     RandomData data(7);
     for (const int n : {1, 2, 5, 20, 60}) {
-        const auto original = table(n, n, data.normals(static_cast<std::size_t>(n * n)));
-        auto inverse = copyOf(original), x = table(n, 2, data.normals(static_cast<std::size_t>(2 * n)));
+        const auto original = table(n, n, data.normals(vecmat::elementCount(n, n)));
+        auto inverse = copyOf(original), x = table(n, 2, data.normals(vecmat::elementCount(n, 2)));
         const auto right = copyOf(x);
         ASSERT_EQ(M_Gauss(inverse.get(), n, 2, x.get(), false, false), 0);
         double norm = 0.0, normOfInverse = 0.0, fromIdentity = 0.0, fromRight = 0.0;

@@ -5,6 +5,7 @@
 #include "../frame/numbers.h"
 #include "kernels/operands.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <vector>
@@ -111,8 +112,9 @@ int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
             return singular;
         eliminate(a, b, n, m, pivot->col);
     }
-    for (auto exchange = exchanges.rbegin(); exchange != exchanges.rend(); ++exchange)
-        swapRows(transposed(a), exchange->row, exchange->col, n); // the columns of a
+    std::reverse(exchanges.begin(), exchanges.end());
+    for (const Cell& exchange : exchanges)
+        swapRows(transposed(a), exchange.row, exchange.col, n); // the columns of a
     return 0;
 }
 
