@@ -1,0 +1,162 @@
+#include "disjunctive_tables.h"
+
+#include "../frame/cells.h"
+#include "../frame/masks.h"
+#include "category_lists.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+/// All places of each text in the list of a variable, lowest first: a list may hold a text more than once.
+class PlaceChains
+{
+public:
+    static constexpr int none = -1;
+
+    PlaceChains(Smatrix* categories, int variable, int count) : next_(static_cast<std::size_t>(count), none)
+    {
+        for (int place = count - 1; place >= 0; --place) {
+            const auto [entry, isNew] = first_.try_emplace(cells(categories).get(variable, place), place);
+            if (!isNew)
+                next_[static_cast<std::size_t>(place)] = std::exchange(entry->second, place);
+        }
+    }
+
+    int first(std::wstring_view text) const
+    {
+        const auto entry = first_.find(text);
+        return entry == first_.end() ? none : entry->second;
+    }
+    int after(int place) const { return next_[static_cast<std::size_t>(place)]; }
+
+private:
+    std::unordered_map<std::wstring_view, int> first_;
+    std::vector<int> next_;
+};
+
+/// What an observation of the baseline has in the columns of the other categories, from the second on. Empty where the
+/// coding has no value for them.
+std::vector<double> baselineRow(matrix* freq, int variable, int places, int coding)
+{
+    const std::size_t others = static_cast<std::size_t>(std::max(places, 1) - 1);
+    switch (coding) {
+    case 0:
+    case 1:
+        return std::vector<double>(others, 0.0);
+    case 2:
+        return std::vector<double>(others, -1.0);
+    case 3: {
+        std::vector<double> row;
+        const auto frequency = cells(freq);
+        for (int place = 1; place < places; ++place)
+            row.push_back(-frequency.get(variable, place) / frequency.get(variable, 0));
+        return row;
+    }
+    default:
+        return {};
+    }
+}
+
+bool showsBaseline(int variable, int coding, int keepBaseline)
+{
+    return coding == 0 || keepBaseline == 2 || (keepBaseline == 1 && variable == 0);
+}
+
+/// The first row, from the second on, whose flag is not exactly -1; the row behind the last where there is none.
+/// 0-based.
+int firstComparedRow(const short* mask, int nRows)
+{
+    int row = 1;
+    while (mask != nullptr && row < nRows && mask[row] == -1)
+        ++row;
+    return row;
+}
+
+} // namespace
+
+void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, matrixInt* nCats, Smatrix* categories,
+                           matrix* freq, matrix*& out, int coding, int keepBaseline)
+{
+    matrix::matCheck(out, nRows, totalCats, 0.0);
+    const auto target = cells(out);
+    int offset = 0;
+    for (int j = 0; j < nCols; ++j) {
+        const int count = linear(nCats).get(j);
+        // Behind the last column of the result nothing can be written.
+        const long long columnsLeft = std::max(0LL, static_cast<long long>(out->nCols) - offset);
+        const int places = static_cast<int>(std::clamp<long long>(count, 0, columnsLeft));
+        const PlaceChains chains(categories, j, std::min(places, placesToVisit(categories, count)));
+        const std::vector<double> contrasts = baselineRow(freq, j, places, coding);
+        const bool baselineShown = showsBaseline(j, coding, keepBaseline);
+
+        for (int i = 0; i < nRows; ++i) {
+            const std::wstring& text = cells(table).get(i, j);
+            if (text.empty()) {
+                for (int place = 0; place < places; ++place)
+                    target.set(i, offset + place, missingValue);
+                continue;
+            }
+            const int first = chains.first(text);
+            if (first == 0)
+                for (std::size_t other = 0; other < contrasts.size(); ++other)
+                    target.set(i, offset + 1 + static_cast<int>(other), contrasts[other]);
+            // A category equal to the baseline's takes its 1 before the contrast, so these come last.
+            for (int place = first; place != PlaceChains::none; place = chains.after(place))
+                if (place > 0 || baselineShown)
+                    target.set(i, offset + place, 1.0);
+        }
+        offset = static_cast<int>(static_cast<unsigned>(offset) + static_cast<unsigned>(count));
+    }
+}
+
+short M_IsDisjTable(matrix* table, int nRows, int nCols, short* mask, int* rowSum)
+{
+    const int start = firstComparedRow(mask, nRows);
+    const int reference = start - 1;
+    const Mask excluded(mask);
+    return onBlocks(
+        [=](auto x) {
+            const auto sumOf = [=](int row) {
+                double sum = 0.0;
+                for (int j = 0; j < nCols; ++j)
+                    sum += x.get(row, j);
+                return sum;
+            };
+            *rowSum = truncated(sumOf(reference));
+            for (int i = start; i < nRows; ++i)
+                if (excluded.keeps(i) && std::fabs(sumOf(i) - *rowSum) > zeroTolerance)
+                    return booleanOf(false);
+            if (nCols < 1)
+                return booleanOf(true);
+            // Constant columns before the last don't count.
+            const int last = nCols - 1;
+            for (int i = start; i < nRows; ++i)
+                if (excluded.keeps(i) && x.get(i, last) != x.get(reference, last))
+                    return booleanOf(true);
+            return booleanOf(false);
+        },
+        block(cells(table), std::max(nRows, start), nCols));
+}
+
+void M_ConvertBinarytoDisjTable(matrix* table, int nRows, int nCols, matrix* out)
+{
+    const int width = static_cast<int>(2u * static_cast<unsigned>(nCols));
+    onBlocks(
+        [=](auto x, auto pair) {
+            for (int j = 0; j < nCols; ++j) {
+                for (int i = 0; i < nRows; ++i) {
+                    pair.set(i, 2 * j, x.get(i, j));
+                    pair.set(i, 2 * j + 1, 1.0 - x.get(i, j));
+                }
+            }
+        },
+        block(cells(table), nRows, nCols), block(cells(out), nRows, width));
+}

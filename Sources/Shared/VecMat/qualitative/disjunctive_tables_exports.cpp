@@ -1,0 +1,25 @@
+#include "../frame/handles.h"
+#include "disjunctive_tables.h"
+
+using namespace vecmat;
+
+void VB_BuildDisjunctiveTable(wchar_t** table, int nRows, int nCols, int totalCats, int* nCats, wchar_t** categories,
+                              double* freq, int maxCats, double* out, int coding, int keepBaseline)
+{
+    TableHandle result;
+    BuildDisjunctiveTable(copied(table, nRows, nCols), nRows, nCols, totalCats, viewed(nCats, nCols, 1),
+                          copied(categories, nCols, maxCats), viewed(freq, nCols, maxCats), result.reference(), coding,
+                          keepBaseline);
+    handBack(result, out);
+}
+
+short VB_M_IsDisjTable(double* table, int nRows, int nCols, short* mask, int* rowSum)
+{
+    return M_IsDisjTable(viewed(table, nRows, nCols), nRows, nCols, mask, rowSum);
+}
+
+void Cpp_M_ConvertBinarytoDisjTable(double* table, int nRows, int nCols, double* out)
+{
+    M_ConvertBinarytoDisjTable(viewed(table, nRows, nCols), nRows, nCols,
+                               viewed(out, nRows, static_cast<int>(2u * static_cast<unsigned>(nCols))));
+}

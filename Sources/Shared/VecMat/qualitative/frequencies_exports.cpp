@@ -1,0 +1,23 @@
+#include "../frame/handles.h"
+#include "../frame/numbers.h"
+#include "frequencies.h"
+
+using vecmat::copied;
+using vecmat::truncated;
+using vecmat::viewed;
+
+double VB_V_Freq(double* x, int n, double* weights, double value, double tolerance)
+{
+    return V_Freq(viewed(x, n, 1), n, viewed(weights, n, 1), value, tolerance);
+}
+
+int VB_V_FreqLng(int* x, int n, double* weights, int value)
+{
+    constexpr double tolerance = 0.01; // any number below 1 finds the equal ints alone
+    return truncated(V_Freq(viewed(x, n, 1), n, viewed(weights, n, 1), value, tolerance));
+}
+
+double VB_V_FreqStr(wchar_t** x, int n, double* weights, const wchar_t* value)
+{
+    return V_FreqStr(copied(x, n, 1), n, viewed(weights, n, 1), value);
+}

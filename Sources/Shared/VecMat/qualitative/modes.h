@@ -1,0 +1,28 @@
+// The mode of a vector of strings or of codes.
+#pragma once
+
+#include "../Smatrix.h"
+#include "../frame/api.h"
+#include "../matrix.h"
+
+#include <string>
+
+extern "C" {
+
+/// The string with the largest sum of weights among the first n cells, in linear order; the first met of equals. Empty
+/// strings are left out: without any other the result is empty. A weight of zero or below counts as it is; `weights`
+/// must be given, and one beyond its table is -1.0.
+VECMAT_API std::wstring V_Mode(Smatrix* x, int n, matrix* weights);
+
+/// The same as a new BSTR, which the caller owns. x and weights have n elements and are never written.
+VECMAT_API wchar_t* VB_V_Mode(wchar_t** x, int n, int ignored, double* weights);
+
+/// The most frequent of the codes 0 to n - 1 among n cells, the lowest of equals; 0.0 for n below 2. A cell counts for
+/// the code x truncated towards zero, so that 2.7 is code 2. Cells with exactly the missing value, and codes outside
+/// 0 to n - 1, are left out: where nothing is left every count is 0 and the result 0.0.
+VECMAT_API double V_ModeCat(matrix* x, int n);
+
+/// The same over an array of n elements, which is never written.
+VECMAT_API double VB_V_ModeCatDbl(double* x, int n);
+
+} // extern "C"

@@ -1,0 +1,53 @@
+#include "../elementary/extremes.h"
+#include "../frame/handles.h"
+#include "recoding.h"
+
+using vecmat::columns;
+using vecmat::copied;
+using vecmat::TableHandle;
+using vecmat::viewed;
+
+namespace {
+
+int largestCount(int* nCats, int nCols)
+{
+    return VB_V_MaxInt(nCats, nCols, nullptr);
+}
+
+} // namespace
+
+void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
+{
+    // A view: what matches nothing keeps the caller's content.
+    TableHandle codes = viewed(out, nRows, nCols);
+    M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
+                        copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());
+}
+
+void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, short* mask,
+                            int firstCode, double* out)
+{
+    TableHandle codes = viewed(out, nRows, nCols);
+    M_ReplaceStrByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
+                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode, codes.reference());
+}
+
+void Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int /*ignored*/, double* out)
+{
+    V_RecodeToBinary(copied(x, n, 1), n, value, viewed(out, n, 1));
+}
+
+void VB_M_Binarize(double* table, int nRows, int nCols, double* out)
+{
+    M_Binarize(viewed(table, nRows, nCols), nRows, nCols, viewed(out, nRows, nCols));
+}
+
+void VB_M_Binarize2(double* table, int nRows, int nCols)
+{
+    M_Binarize2(viewed(table, nRows, nCols), nRows, nCols);
+}
+
+void VB_M_Binarize2SPV(SAFEARRAY** table, int nRows, int nCols)
+{
+    M_Binarize2SPV(columns(table, nCols, nRows), nRows, nCols);
+}
