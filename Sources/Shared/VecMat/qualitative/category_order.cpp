@@ -80,13 +80,14 @@ void sortCategories(Smatrix* categories, matrix* catWeights, int variable, int c
     const int visited = placesToVisit(categories, count);
 
     std::vector<std::wstring> texts;
+    texts.reserve(static_cast<std::size_t>(visited));
     for (int place = 0; place < visited; ++place)
         texts.push_back(text.get(variable, place));
 
     const auto exchange = [&](int left, int right) {
-        const std::wstring leftText = text.get(variable, left);
+        std::wstring leftText = text.get(variable, left);
         text.set(variable, left, text.get(variable, right));
-        text.set(variable, right, leftText);
+        text.set(variable, right, std::move(leftText));
         const double leftWeight = weight.get(variable, left);
         weight.set(variable, left, weight.get(variable, right));
         weight.set(variable, right, leftWeight);
