@@ -29,7 +29,10 @@ InputError::InputError(const Place& place, const std::string& message)
 
 std::string quoted(const std::string& text)
 {
-    return "'" + shortened(onOneLine(text), 40) + "'";
+    std::string result = "'";
+    result += shortened(onOneLine(text), 40);
+    result += "'";
+    return result;
 }
 
 } // namespace survey

@@ -89,7 +89,8 @@ std::string wrapped(const std::vector<std::string>& words, std::size_t width, st
     std::size_t used = indent;
     for (const std::string& word : words) {
         if (used > indent && used + 1 + widthOf(word) > width) {
-            lines += "\n" + blanks(indent);
+            lines += '\n';
+            lines += blanks(indent);
             used = indent;
         } else if (used > indent) {
             lines += ' ';
