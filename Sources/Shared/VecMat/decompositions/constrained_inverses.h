@@ -1,0 +1,36 @@
+// Inverses and determinants of what linear constraints leave of a square table of order `n`.
+//
+// `constraints` has n entries: one above 0 removes row and column i, one of exactly 0 keeps them; there are no others. An
+// inverse goes to the kept rows of `out`, each over all n columns, with 0.0 in the columns that were removed; rows that
+// were removed keep what they held. `out` exists and is not prepared. One kept row has an inverse of its own: the
+// reciprocal of the cell, which counts as 1e-12 where it is exactly 0. The input survives. No test for the missing value.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+#include "../matrixInt.h"
+
+/// Inverse of the block by `matrix::inverse1` with its larger threshold, 1e-8 for a pivot. Never fails: returns 0, or 1
+/// where that is singular and `out` has the g2 inverse instead, with a tolerance of 1e-12. Nothing kept is a success.
+VECMAT_API int cCleanConstraintsAndInvert(int n, matrix* constraints, matrix* a, matrix*& out);
+VECMAT_API int cCleanConstraintsAndInvert(int n, matrixInt* constraints, matrix* a, matrix*& out);
+
+/// Inverse of a triangular block by `M_InverseTriang` with a tolerance of 1e-12. Returns 0, or -1 with `out` untouched:
+/// there is no generalised inverse to fall back on.
+VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrix* constraints, matrix* a, short lower, matrix*& out);
+VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrixInt* constraints, matrix* a, short lower, matrix*& out);
+
+/// `M_Determinant` of the block without the logarithm on overflow. With one kept row it is the cell itself, without
+/// logarithms, and `*status` is not written.
+VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrix* constraints, short* status);
+VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints, short* status);
+
+// ---- flat forms: n by n arrays, n entries of `constraints`, results in place ----------------------------------------
+
+extern "C" {
+
+VECMAT_API int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out);
+VECMAT_API int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out);
+VECMAT_API double VB_M_DeterminantCleaned(double* a, int n, int* constraints, short* status);
+
+} // extern "C"
