@@ -167,6 +167,14 @@ TEST(M_HermiteCanonical, BringsTheCellsAboveThePivotsToZero)
     EXPECT_THAT(hermite(byRows({{4, 2, 4}, {2, 1, 2}, {4, 2, 8}}), 3), SameBits({1, 0, 0, 0.5, 0, 0, 0, 0, 1}));
 }
 
+TEST(M_HermiteCanonical, TakesAPivotNearOneForOne)
+{
+    // Row 3 is the next of no pivot, so that nothing divides it.
+    const double nearlyOne = 1 + 0x1p-41;
+    EXPECT_THAT(hermite(byRows({{1, 0, 0.5}, {0, 0, 0}, {0.5, 0, 0.25 + nearlyOne}}), 3),
+                SameBits({1, 0, 0, 0, 0, 0, 0, 0, nearlyOne}));
+}
+
 TEST(M_HermiteCanonical, IsIdempotentForAPositiveSemidefiniteTable)
 {
     // x'x of a design with a constant and two groups: rank 2 of 3.

@@ -83,9 +83,10 @@ TEST(M_LUDecomp, HasThoseBitsWhereTheOrderIsNotThatOfTheTable)
     RandomData data(742);
     SCOPED_TRACE(data);
     for (int round = 0; round < 300; ++round) {
-        // Too few rows: a row runs over into the next column. Too few columns: -1.0 is read.
+        // Too few rows: a row runs over into the next column, also where no cell is out of range. Too few columns: -1.0
+        // is read.
         const int rows = data.integer(1, 6);
-        const int cols = data.integer(1, 6);
+        const int cols = data.integer(1, 12);
         const int n = data.integer(1, 6);
         const std::vector<double> cells = data.normals(static_cast<std::size_t>(rows * cols));
         SCOPED_TRACE(testing::Message() << rows << " by " << cols << ", order " << n);
