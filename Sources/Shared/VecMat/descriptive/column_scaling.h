@@ -1,0 +1,81 @@
+// Centring, reduction and standardisation of the columns of a table.
+//
+// The members differ in three things, on purpose: where the result goes, what a missing cell does, and what becomes of a
+// column without spread, whose standard deviation s is not above 0 (a missing or NaN one is not). m is the column's mean.
+//
+//     name          cell                                             column without spread
+//     Center        x - m for every cell, missing ones too           not looked at
+//     Reduce        x / s for every cell, missing ones too           0.0 throughout
+//     Standardize   (x - m) / s; a missing cell stays missing        0.0 throughout, missing cells too
+//     Apply         (x - m) / s for every cell, missing ones too     the missing value throughout
+//
+// m and s come from `M_MeanStDev` over the first n rows, without a mask: missing cells (equality test) and rows of weight 0
+// do not enter, and a column without rows has a missing m and s. `sample` and `freqWeights` are its divisor options: -1
+// and -1 for `freqWeights` unless it is an argument; 0 and 0 in the members that only centre. A plain name gives its
+// result in a table Z (`matCheck`, n by p), one with a trailing digit changes X in place; 3 hands the statistics back too
+// (`matCheck`, p by 1). W takes row weights. The SPV forms take an array of column tables. Nothing is reported.
+#pragma once
+
+#include "../frame/api.h"
+#include "../frame/super_matrices.h"
+#include "../matrix.h"
+
+extern "C" {
+
+// ---- centring -------------------------------------------------------------------------------------------------------
+
+VECMAT_API void M_Center(matrix* X, int n, int p, matrix*& Z);
+VECMAT_API void M_CenterW(matrix* X, int n, int p, matrix* w, matrix*& Z);
+VECMAT_API void M_Center2(matrix*& X, int n, int p);
+VECMAT_API void M_Center2SPV(matrix** X, int n, int p);
+VECMAT_API void M_CenterW2(matrix*& X, int n, int p, matrix* w);
+VECMAT_API void M_CenterW2SPV(matrix** X, int n, int p, matrix* w);
+
+// ---- reduction ------------------------------------------------------------------------------------------------------
+
+VECMAT_API void M_Reduce(matrix* X, int n, int p, matrix*& Z, short sample, short freqWeights);
+VECMAT_API void M_ReduceW(matrix* X, int n, int p, matrix* w, matrix*& Z, short sample, short freqWeights);
+VECMAT_API void M_Reduce2(matrix*& X, int n, int p, short sample);
+VECMAT_API void M_ReduceW2(matrix*& X, int n, int p, matrix* w, short sample, short freqWeights);
+
+// ---- standardisation ------------------------------------------------------------------------------------------------
+
+VECMAT_API void M_Standardize2(matrix*& X, int n, int p, short sample);
+VECMAT_API void M_Standardize2SPV(matrix** X, int n, int p, short sample);
+VECMAT_API void M_Standardize3(matrix*& X, int n, int p, matrix*& mean, matrix*& stdev, short sample,
+                               short freqWeights);
+VECMAT_API void M_StandardizeW2(matrix*& X, int n, int p, matrix* w, short sample, short freqWeights);
+VECMAT_API void M_StandardizeW3(matrix*& X, int n, int p, matrix* w, matrix*& mean, matrix*& stdev, short sample,
+                                short freqWeights);
+VECMAT_API void M_StandardizeW3SPV(matrix** X, int n, int p, matrix* w, matrix*& mean, matrix*& stdev, short sample,
+                                   short freqWeights);
+
+/// Applies the means and deviations given, p cells each, in place.
+VECMAT_API void M_StandardizeApply2(matrix* X, int n, int p, matrix* mean, matrix* stdev);
+
+/// Centres (`M_Center2`) or, with `reduce` exactly -1, standardises (`M_Standardize2`) the rows of each group by themselves, in
+/// place. A row belongs to group k, from 1 to `nGroups`, where its cell of `g` equals k exactly; other rows stay.
+VECMAT_API void M_StandardizeByGroup(matrix* X, int n, int p, matrix* g, int nGroups, short reduce, short sample);
+
+// ---- flat forms: X and Z have n by p elements, w n, mean and stdev p ------------------------------------------------
+
+VECMAT_API void VB_M_Center(double* X, int n, int p, double* Z);
+VECMAT_API void VB_M_CenterW(double* X, int n, int p, double* w, double* Z);
+VECMAT_API void VB_M_Center2(double* X, int n, int p);
+VECMAT_API void VB_M_Center2SPV(SAFEARRAY** X, int n, int p);
+VECMAT_API void VB_M_CenterW2(double* X, int n, int p, double* w);
+VECMAT_API void VB_M_Reduce(double* X, int n, int p, double* Z, short sample, short freqWeights);
+VECMAT_API void VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample, short freqWeights);
+VECMAT_API void VB_M_Reduce2(double* X, int n, int p, short sample);
+VECMAT_API void VB_M_ReduceW2(double* X, int n, int p, double* w, short sample, short freqWeights);
+VECMAT_API void VB_M_Standardize2(double* X, int n, int p, short sample);
+VECMAT_API void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample);
+VECMAT_API void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, short sample,
+                                  short freqWeights);
+VECMAT_API void VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample, short freqWeights);
+VECMAT_API void VB_M_StandardizeW3(double* X, int n, int p, double* w, double* mean, double* stdev, short sample,
+                                   short freqWeights);
+VECMAT_API void Cpp_M_StandardizeApply2(double* X, int n, int p, double* mean, double* stdev);
+VECMAT_API void Cpp_M_StandardizeByGroup(double* X, int n, int p, double* g, int nGroups, short reduce, short sample);
+
+} // extern "C"

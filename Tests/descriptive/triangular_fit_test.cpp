@@ -1,0 +1,108 @@
+// End points of triangular distributions.
+#include "descriptive/triangular_fit.h"
+
+#include "support/bits.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+using namespace vecmat::test;
+
+namespace {
+
+/// Distribution function of the triangular distribution from a to b with mode m.
+double probability(double x, double a, double m, double b)
+{
+    return x <= m ? (x - a) * (x - a) / ((b - a) * (m - a)) : 1 - (b - x) * (b - x) / ((b - a) * (b - m));
+}
+
+void expectRecovered(double a, double m, double b, double x1, double x2, double tolerance)
+{
+    double foundA = 0, foundB = 0;
+    TriangularQFindAB(x1, m, x2, probability(x1, a, m, b), probability(x2, a, m, b), &foundA, &foundB);
+    EXPECT_NEAR(foundA, a, tolerance);
+    EXPECT_NEAR(foundB, b, tolerance);
+    double flatA = 0, flatB = 0;
+    Cpp_TriangularQFindAB(x1, m, x2, probability(x1, a, m, b), probability(x2, a, m, b), &flatA, &flatB);
+    EXPECT_THAT(flatA, SameBits(foundA));
+    EXPECT_THAT(flatB, SameBits(foundB));
+}
+
+TEST(TriangularQFindAB, RecoversTheEndsOnAllSidesOfTheMode)
+{
+    expectRecovered(0, 8, 10, 2, 6, 1e-9); // both left of the mode
+    expectRecovered(1, 3, 11, 5, 8, 1e-9); // both right of it
+    expectRecovered(0, 4, 10, 2, 7, 1e-8); // one on either side
+    expectRecovered(-3, 1, 4, -1, 2, 1e-8);
+    expectRecovered(2, 5, 9, 3, 5, 1e-8); // the mode at the second quantile
+    expectRecovered(2, 5, 9, 5, 8, 1e-8); // and at the first
+}
+
+TEST(TriangularQFindAB, UsesTheClosedFormOutsideTheMode)
+{
+    double a = 0, b = 0;
+    const double x1 = 2, m = 8, x2 = 6, p1 = 0.05, p2 = 0.45;
+    TriangularQFindAB(x1, m, x2, p1, p2, &a, &b);
+    const double s = std::sqrt(p1 / p2);
+    const double wantedA = (s * x2 - x1) / (s + -1.0);
+    EXPECT_THAT(a, SameBits(wantedA));
+    EXPECT_THAT(b, SameBits((x2 * x2 + (1.0 - p2) * wantedA * wantedA + (x2 * -2.0 + m * p2) * wantedA) /
+                            ((m - wantedA) * p2)));
+
+    const double y1 = 5, mode = 3, y2 = 8, q1 = 0.55, q2 = 0.9;
+    TriangularQFindAB(y1, mode, y2, q1, q2, &a, &b);
+    const double q = 1.0 - q1;
+    const double r = std::sqrt((1.0 - q2) / q);
+    const double wantedB = (r * y1 - y2) / (r + -1.0);
+    const double t = (y1 - mode) * q;
+    const double u = wantedB - y1;
+    EXPECT_THAT(b, SameBits(wantedB));
+    EXPECT_THAT(a, SameBits((u * y1 + (t - q1 * u) * wantedB) / (q * u + t)));
+}
+
+TEST(TriangularQFindAB, EndsWithinItsStepsWhereThereIsNoRoot)
+{
+    double a = 0, b = 0;
+    TriangularQFindAB(1, 2, 0, 0.5, 0.5, &a, &b);  // outside the contract, but it returns
+    TriangularQFindAB(-1, 0, 0, 0.3, 0.6, &a, &b); // every start is 0
+    TriangularQFindAB(1, 2, 3, std::nan(""), 0.5, &a, &b);
+    EXPECT_TRUE(std::isnan(b));
+}
+
+TEST(TriangularFunc, IsZeroAtTheUpperEnd)
+{
+    // a = 0, b = 10, mode 4: F(2) = 0.1, F(7) = 0.85.
+    EXPECT_NEAR(TriangularFunc(10, 2, 4, 7, 0.1, 0.85), 0, 1e-12);
+    EXPECT_NEAR(TriangularFunc2(0, 2, 4, 7, 0.1, 0.85), 0, 1e-12);
+    double a = 7, b = 7;
+    TriangularQFindAB(2, 4, 7, 0.1, 0.85, &a, &b);
+    EXPECT_NEAR(a, 0, 1e-10);
+    EXPECT_NEAR(b, 10, 1e-10);
+}
+
+TEST(TriangularFunc, FollowsItsFormula)
+{
+    const double b = 11.3, x1 = 2.1, m = 4.2, x2 = 7.7, p1 = 0.15, p2 = 0.8;
+    const double r = 1 - p2;
+    const double a = (b * b * p2 + (x2 * -2.0 + r * m) * b + x2 * x2) / ((m - b) * r);
+    EXPECT_THAT(TriangularFunc(b, x1, m, x2, p1, p2),
+                SameBits(b * p1 * (m - a) - (a * a * (1 - p1) + (m * p1 - (x1 + x1)) * a + x1 * x1)));
+    const double c = 0.4;
+    const double upper = (x1 * x1 + ((-2.0 * x1 + m * p1) * c + c * c * (1 - p1))) / ((m - c) * p1);
+    EXPECT_THAT(TriangularFunc2(c, x1, m, x2, p1, p2),
+                SameBits(c * p2 * (m - upper) - (x2 * x2 + ((1 - p2) * upper * upper + (m * p2 - (x2 + x2)) * upper))));
+}
+
+TEST(TriangularFuncDeriv, IsTheSlope)
+{
+    for (double b : {8.0, 10.0, 35.0}) {
+        const double h = 1e-5;
+        const double slope =
+            (TriangularFunc(b + h, 2, 4, 7, 0.1, 0.85) - TriangularFunc(b - h, 2, 4, 7, 0.1, 0.85)) / (2 * h);
+        EXPECT_NEAR(TriangularFuncDeriv(b, 2, 4, 7, 0.1, 0.85), slope, 1e-5 * (1 + std::fabs(slope)));
+    }
+}
+
+} // namespace
