@@ -75,7 +75,6 @@ TEST(TriangularFunc, IsZeroAtTheUpperEnd)
 {
     // a = 0, b = 10, mode 4: F(2) = 0.1, F(7) = 0.85.
     EXPECT_NEAR(TriangularFunc(10, 2, 4, 7, 0.1, 0.85), 0, 1e-12);
-    EXPECT_NEAR(TriangularFunc2(0, 2, 4, 7, 0.1, 0.85), 0, 1e-12);
     double a = 7, b = 7;
     TriangularQFindAB(2, 4, 7, 0.1, 0.85, &a, &b);
     EXPECT_NEAR(a, 0, 1e-10);

@@ -18,7 +18,8 @@ VECMAT_API void Cpp_TriangularQFindAB(double x1, double m, double x2, double pro
 VECMAT_API double TriangularFunc(double b, double x1, double m, double x2, double prob1, double prob2);
 VECMAT_API double TriangularFuncDeriv(double b, double x1, double m, double x2, double prob1, double prob2);
 
-/// The mirror of `TriangularFunc`: a function of a, with b chosen so that F(x1) = prob1.
+/// The mirror of `TriangularFunc`, a function of a with b chosen so that F(x1) = prob1. The search does not use it, and at the
+/// lower end it is not 0: its form is settled as it stands.
 VECMAT_API double TriangularFunc2(double a, double x1, double m, double x2, double prob1, double prob2);
 
 } // extern "C"
