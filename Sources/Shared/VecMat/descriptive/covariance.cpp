@@ -1,0 +1,115 @@
+#include "covariance.h"
+
+#include "../elementary/kernels/operands.h"
+#include "../frame/numbers.h"
+#include "pair_pass.h"
+
+#include <memory>
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+using Variances = std::vector<double>;
+
+/// Stores the covariance of each pair, column number not below row number; answers the variances.
+template <class Data, class Out>
+Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& options, double fallback)
+{
+    using Sums = RunningCovariance<RowFactor::signedValue>;
+    Variances variances(countOf(p));
+    onBlocks(
+        [&](auto x, auto weight) {
+            for (int j = 0; j < p; ++j)
+                passPairs<Sums>(x, j, x, j, p, weight, options, [&](int k, const Sums& sums) {
+                    const bool empty = sums.rows < 1;
+                    const double covariance = options.quotient(sums.products, sums);
+                    C.set(j, k, empty ? fallback : covariance);
+                    if (j == k)
+                        variances[countOf(j)] = empty ? missingValue : covariance;
+                });
+        },
+        block(X, options.n, p), block(linear(w), options.n));
+    return variances;
+}
+
+template <class Data>
+int covCorr(Data X, int p, matrix*& C, short corr, matrix* w, const PairOptions& options, short zeroForMissing)
+{
+    const double fallback = fallbackUnlessZero(zeroForMissing);
+    matrix::matCheck(C, p, p, 0.0);
+    const auto result = cells(C);
+    const Variances variances = covariances(X, p, result, w, options, fallback);
+    if (corr == 0) {
+        mirrorUpperTriangle(result, p);
+        return 0;
+    }
+    correlate<NoCorrelation::atZero>(
+        p, fallback, [&](int j) { return variances[countOf(j)]; }, [&](int j, int k) { return result.get(j, k); },
+        [&](int j, int k, double r) {
+            result.set(j, k, r);
+            result.set(k, j, r);
+        });
+    return 0;
+}
+
+/// A result by value: what the caller holds can't be replaced, so it is left alone where it will not do.
+template <class Data>
+int covCorrByValue(Data X, int p, matrix* C, short corr, matrix* w, const PairOptions& options, short zeroForMissing)
+{
+    std::unique_ptr<matrix> unseen;
+    if (C == nullptr || C->nRows < p || C->nCols < p) {
+        unseen = std::make_unique<matrix>(p, p, 0.0);
+        C = unseen.get();
+    }
+    return covCorr(X, p, C, corr, w, options, zeroForMissing);
+}
+
+template <class Data>
+int covCorrTriangle(Data X, int p, matrix** C, short corr, matrix* w, const PairOptions& options, short zeroForMissing)
+{
+    const double fallback = fallbackUnlessZero(zeroForMissing);
+    const auto result = triangle(C);
+    const Variances variances = covariances(X, p, result, w, options, fallback);
+    if (corr == 0)
+        return 0;
+    // The covariance is read at cell j of column k, not at cell k - j of column j where it was written: part of the
+    // contract.
+    correlate<NoCorrelation::atZeroOrNaN>(
+        p, fallback, [&](int j) { return variances[countOf(j)]; }, [&](int j, int k) { return cells(C).get(j, k); },
+        [&](int j, int k, double r) { result.set(j, k, r); });
+    return 0;
+}
+
+} // namespace
+
+int M_CovCorr(matrix*& X, int n, int p, matrix*& C, short corr, short* mask, matrix* w, short sample, short freqWeights,
+              short zeroForMissing)
+{
+    return covCorr(cells(X), p, C, corr, w, {n, mask, sample, freqWeights}, zeroForMissing);
+}
+
+int M_CovCorr3(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample, short freqWeights,
+               short zeroForMissing)
+{
+    return covCorrByValue(transposed(cells(X)), p, C, corr, w, {n, mask, sample, freqWeights}, zeroForMissing);
+}
+
+int M_CovCorr3SPV(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample,
+                  short freqWeights, short zeroForMissing)
+{
+    return covCorrByValue(cells(X), p, C, corr, w, {n, mask, sample, freqWeights}, zeroForMissing);
+}
+
+int M_CovCorrSPV(matrix*& X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
+                 short freqWeights, short zeroForMissing)
+{
+    return covCorrTriangle(cells(X), p, C, corr, w, {n, mask, sample, freqWeights}, zeroForMissing);
+}
+
+int M_CovCorrSPV_T(matrix** X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
+                   short freqWeights, short zeroForMissing)
+{
+    return covCorrTriangle(transposed(cells(X)), p, C, corr, w, {n, mask, sample, freqWeights}, zeroForMissing);
+}

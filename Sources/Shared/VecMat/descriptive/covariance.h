@@ -1,0 +1,60 @@
+// Covariances and correlations of the columns of a table, pair by pair.
+//
+// Common to this unit: n observations of p variables. A row enters the pair (j, k) where its mask entry is 0 (any other
+// value drops it) and neither of its two cells is missing, by the equality test, so that a NaN enters. There is no
+// listwise form: the covariance of a pair comes from the rows of that pair, each variance from the rows of its own
+// column, and correlations may pass beyond plus or minus 1 where cells are missing. A null mask keeps every row; the
+// weights w (n cells) must be given. A row of weight 0 counts in m, the number of rows, and moves nothing.
+//
+// With W the sum of weights of the pair's rows, the divisor of its cross products is
+//     W            for `sample` other than -1
+//     W - 1        for `sample` -1 and `freqWeights` -1: the weights are frequencies
+//     W - W/m      for `sample` -1 and any other `freqWeights`
+// and is not tested: one row with a corrected divisor gives 0/0, a NaN. `corr` 0 gives covariances, any other value
+// correlations, each covariance divided by the root of the product of the two variances, with 1.0 on the diagonal.
+//
+// A cell that can't be computed holds the missing value, or 0.0 where `zeroForMissing` is not 0: a covariance without a
+// row, which is then divided like any other, and a correlation whose product of variances is 0. The variance of a
+// column without a row is the missing value; its product with itself is infinite, so that this diagonal cell is 1.0.
+// Everything returns 0.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+// ---- a square result ------------------------------------------------------------------------------------------------
+//
+// C is p by p, prepared with `matCheck`. A product of variances that is a NaN is not 0: the correlation is computed.
+
+/// From one table.
+VECMAT_API int M_CovCorr(matrix*& X, int n, int p, matrix*& C, short corr, short* mask, matrix* w, short sample,
+                         short freqWeights, short zeroForMissing);
+
+/// From an array of observations, each a table of p cells, and from an array of columns of n cells. C is passed by
+/// value: where it is null or too small to be kept, the result is lost and C stays as it was.
+VECMAT_API int M_CovCorr3(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample,
+                          short freqWeights, short zeroForMissing);
+VECMAT_API int M_CovCorr3SPV(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample,
+                             short freqWeights, short zeroForMissing);
+
+/// Flat form: X n by p, never changed, C p by p, `zeroForMissing` 0.
+VECMAT_API int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, short* mask, double* w, short sample,
+                            short freqWeights);
+
+// ---- a triangular result --------------------------------------------------------------------------------------------
+//
+// C is an array of p columns that must exist: pair (j, k), from 0 and j at most k, is cell k - j of column j. Nothing
+// but these cells is written, and nothing is cleared. A product of variances that is a NaN has no correlation.
+//
+// Correlations do not read the covariance where it was written, but from cell j of column k: in a triangle that is the
+// covariance of k and k + j, or -1.0 beyond the end of the column; in a longer column whatever stood there.
+
+/// From one table, and from an array of observations, each a table of p cells.
+VECMAT_API int M_CovCorrSPV(matrix*& X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
+                            short freqWeights, short zeroForMissing);
+VECMAT_API int M_CovCorrSPV_T(matrix** X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
+                              short freqWeights, short zeroForMissing);
+
+} // extern "C"

@@ -1,0 +1,172 @@
+// The pair pass: running cross products of two columns over the rows that have both. Internal to the library.
+//
+// A row enters a pair where its mask entry is 0 and neither cell is missing (the equality test). With W the sum of the
+// weights up to this row, dx and dy the distances of its cells from the running means, and f = w - w w / W, the sums
+// grow by products with f and the means by w dx / W and w dy / W: the weighted updates of a variance (West, D. H. D.
+// 1979, Updating mean and variance estimates: an improved method, Comm. ACM 22 (9), 532-535) for two variables. A row
+// of weight 0 counts among the rows and moves nothing.
+#pragma once
+
+#include "../frame/cells.h"
+#include "../frame/companions.h"
+#include "../frame/masks.h"
+#include "running_moments.h"
+
+#include <cmath>
+
+namespace vecmat {
+
+// ---- the sums of a pair ---------------------------------------------------------------------------------------------
+
+/// The two forms of the factor f. They differ only where weights are negative.
+enum class RowFactor {
+    signedValue, ///< w - w w / W as it comes
+    magnitude,   ///< its absolute value
+};
+
+template <RowFactor form = RowFactor::signedValue>
+double rowFactor(double w, double W)
+{
+    const double factor = w - w * w / W;
+    return form == RowFactor::magnitude ? std::fabs(factor) : factor;
+}
+
+/// The running means of both variables.
+struct PairMeans : RunningWeights<ZeroWeight::counted>
+{
+    double meanX = 0.0;
+    double meanY = 0.0;
+};
+
+/// The cross products of a covariance.
+template <RowFactor form>
+struct CovarianceSums
+{
+    double products = 0.0;
+
+    void grow(double dx, double dy, double w, double W) { products += rowFactor<form>(w, W) * dx * dy; }
+};
+
+/// The cross products and the squares of both variables, over the same rows. The factor comes last here, so that the
+/// terms round differently from those of a covariance.
+struct CorrelationSums
+{
+    double products = 0.0;
+    double squaresX = 0.0;
+    double squaresY = 0.0;
+
+    void grow(double dx, double dy, double w, double W)
+    {
+        const double factor = rowFactor(w, W);
+        squaresX += dx * dx * factor;
+        squaresY += dy * dy * factor;
+        products += dx * dy * factor;
+    }
+};
+
+template <class Sums>
+struct RunningPair : PairMeans, Sums
+{
+    void add(double x, double y, double w)
+    {
+        if (!take(w))
+            return;
+        const double dx = x - meanX;
+        const double dy = y - meanY;
+        Sums::grow(dx, dy, w, weights);
+        meanX += update::Weighted::mean(dx, w, weights);
+        meanY += update::Weighted::mean(dy, w, weights);
+    }
+};
+
+template <RowFactor form>
+using RunningCovariance = RunningPair<CovarianceSums<form>>;
+using RunningCorrelation = RunningPair<CorrelationSums>;
+
+// ---- the pass -------------------------------------------------------------------------------------------------------
+
+/// Which rows a pass visits, and what its sums are divided by.
+struct PairOptions
+{
+    int n;
+    const short* mask;
+    short sample;
+    short freqWeights;
+
+    /// A sum over its divisor, whatever the divisor, by the rules of floating point.
+    double quotient(double sum, const PairMeans& pair) const
+    {
+        return sum / varianceDivisor(pair.weights, pair.rows, sample, freqWeights);
+    }
+};
+
+/// Pairs column j of `x` with the columns `first` to `last - 1` of `y`; `store(k, sums)` receives each in turn.
+template <class Sums, class X, class Y, class Weight, class Store>
+void passPairs(X x, int j, Y y, int first, int last, Weight weight, const PairOptions& options, Store store)
+{
+    const Mask rows(options.mask);
+    accumulate<Sums>(
+        last - first, options.n,
+        [=](Sums& sums, int pair, int i) {
+            if (rows.keeps(i) && isPresent(x.get(i, j)) && isPresent(y.get(i, first + pair)))
+                sums.add(x.get(i, j), y.get(i, first + pair), weight.get(i));
+        },
+        [&](int pair, const Sums& sums) { store(first + pair, sums); });
+}
+
+// ---- what follows the pass ------------------------------------------------------------------------------------------
+
+/// What stands in a cell that can't be computed: the missing value, or 0.0 where any value but 0 asks for it.
+inline double fallbackUnlessZero(short zeroForMissing)
+{
+    return zeroForMissing != 0 ? 0.0 : missingValue;
+}
+
+/// The same where only -1 asks for 0.0.
+inline double fallbackForMinusOne(short zeroForMissing)
+{
+    return zeroForMissing == -1 ? 0.0 : missingValue;
+}
+
+/// For which products of two variances there is no correlation.
+enum class NoCorrelation {
+    atZero,        ///< equal to 0
+    atZeroOrBelow, ///< 0 or below
+    atZeroOrNaN,   ///< neither below nor above 0
+};
+
+template <NoCorrelation rule>
+bool hasNoCorrelation(double product)
+{
+    if (rule == NoCorrelation::atZero)
+        return product == 0.0;
+    if (rule == NoCorrelation::atZeroOrBelow)
+        return product <= 0.0;
+    return !(product < 0.0) && !(product > 0.0);
+}
+
+/// Turns covariances into correlations, for j and k from j: `covariance(j, k)` is read only off the diagonal, and
+/// `store(j, k, r)` receives each result before the next is worked out.
+template <NoCorrelation rule, class Variance, class Covariance, class Store>
+void correlate(int p, double fallback, Variance variance, Covariance covariance, Store store)
+{
+    for (int j = 0; j < p; ++j)
+        for (int k = j; k < p; ++k) {
+            const double product = variance(j) * variance(k);
+            if (hasNoCorrelation<rule>(product))
+                store(j, k, fallback);
+            else
+                store(j, k, j == k ? 1.0 : covariance(j, k) / sqr(product));
+        }
+}
+
+/// Cell (k, j) of a square result becomes cell (j, k) of its upper triangle.
+template <class Cells>
+void mirrorUpperTriangle(Cells result, int p)
+{
+    for (int j = 0; j < p; ++j)
+        for (int k = j + 1; k < p; ++k)
+            result.set(k, j, result.get(j, k));
+}
+
+} // namespace vecmat
