@@ -1,0 +1,19 @@
+#include "correlation_order.h"
+
+#include "../frame/handles.h"
+
+using namespace vecmat;
+
+int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double* second, int* third)
+{
+    const TableHandle correlations = copied(R, n, n);
+    const StringTableHandle texts = copied(labels, n, 1);
+    const TableHandle companion = copied(second, n, n);
+    const IntTableHandle intCompanion = copied(third, n, n);
+    const int status = ReOrderCorrelations(correlations, n, mode, texts, companion, intCompanion);
+    handBack(correlations, R);
+    handBack(texts, labels);
+    handBack(companion, second);
+    handBack(intCompanion, third);
+    return status;
+}
