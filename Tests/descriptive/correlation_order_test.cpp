@@ -103,7 +103,10 @@ TEST(ReOrderCorrelations, ByTheLargestCellOfTheFirstRowPutsTheFirstVariableLast)
     SCOPED_TRACE(random);
     expectOrder(symmetricTable(random, 4), 1, {1, 2, 3, 0});
     // Another row that is larger changes nothing, a cell of 1.0 or more in the first makes all of them tie.
-    expectOrder({1, .1, .2, .1, 1, .9, .2, .9, 1}, 1, {1, 2, 0});
+    // The rows of variables 3 and 4 hold .9, that of variable 2 nothing above .3.
+    const std::vector<double> otherRows{1, .1, .2, .1, .1, 1, .3, .3, .2, .3, 1, .9, .1, .3, .9, 1};
+    expectOrder(otherRows, 1, {1, 2, 3, 0});
+    expectOrder(otherRows, 2, {1, 2, 3, 0});
     expectOrder({1, .1, 1.5, .1, 1, .9, 1.5, .9, 1}, 1, {0, 1, 2});
     // Whatever the diagonal held: it is missing, then 1.0.
     expectOrder({5, .1, .2, .1, 5, .9, .2, .9, 5}, 1, {1, 2, 0});
