@@ -75,6 +75,7 @@
 #include "missing/missing_counts.h"
 #include "missing/missing_masks.h"
 #include "missing/mode_imputation.h"
+#include "missing/nearest_neighbour.h"
 #include "missing/new_variables.h"
 #include "missing/observation_labels.h"
 #include "missing/replacement.h"

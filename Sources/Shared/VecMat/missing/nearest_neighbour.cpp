@@ -1,0 +1,137 @@
+#include "nearest_neighbour.h"
+
+#include "../descriptive/moments.h"
+#include "../frame/cells.h"
+#include "../frame/handles.h"
+#include "../qualitative/categories.h"
+#include "neighbour_search.h"
+
+#include <algorithm>
+
+using namespace vecmat;
+
+namespace {
+
+/// The variances of the primary block and of the second one have different divisors: weights taken as frequencies, and
+/// weights corrected by their mean.
+enum class Divisor : short { frequencies = -1, meanWeight = 0 };
+
+/// A block of numbers: where its cells are, and the statistics of its columns.
+template <class Storage>
+struct Numbers
+{
+    Storage table;
+    int cols;
+    TableHandle means;
+    TableHandle variances;
+
+    template <class Cells>
+    NumericBlock<Cells> over(Cells cells) const
+    {
+        return {cells, cols, cols > 0 ? means->X : nullptr, cols > 0 ? variances->X : nullptr};
+    }
+};
+
+/// A block of strings likewise.
+struct Texts
+{
+    Smatrix* table;
+    int cols;
+    StringTableHandle modes;
+
+    template <class Cells>
+    StringBlock<Cells> over(Cells cells) const
+    {
+        return {cells, cols, cols > 0 ? modes->X : nullptr};
+    }
+};
+
+template <class Storage>
+int columnsPresent(Storage table, int cols)
+{
+    return table != nullptr ? std::max(cols, 0) : 0;
+}
+
+void columnMoments(matrix* x, int n, int p, matrix*& mean, matrix*& variance, matrix* weights, Divisor divisor)
+{
+    matrix* noDeviations = nullptr;
+    M_MeanStDevVar(x, n, p, mean, noDeviations, variance, nullptr, weights, -1, static_cast<short>(divisor));
+}
+
+void columnMoments(matrix** x, int n, int p, matrix*& mean, matrix*& variance, matrix* weights, Divisor divisor)
+{
+    matrix* noDeviations = nullptr;
+    M_MeanStDevVarSPV(x, n, p, mean, noDeviations, variance, nullptr, weights, -1, static_cast<short>(divisor));
+}
+
+template <class Storage>
+Numbers<Storage> numbers(Storage statistics, int nStat, Storage target, int cols, matrix* weights, Divisor divisor)
+{
+    Numbers<Storage> block{target, columnsPresent(target, cols), {}, {}};
+    if (block.cols > 0)
+        columnMoments(statistics, nStat, block.cols, block.means.reference(), block.variances.reference(), weights,
+                      divisor);
+    return block;
+}
+
+Texts texts(Smatrix* statistics, int nStat, Smatrix* target, int cols, matrix* weights)
+{
+    Texts block{target, columnsPresent(target, cols), {}};
+    if (block.cols == 0)
+        return block;
+    TableHandle modeWeights;
+    IntTableHandle nCats;
+    StringTableHandle categories;
+    TableHandle catWeights;
+    int total = 0;
+    M_InfoQuali(statistics, nStat, block.cols, block.modes.reference(), modeWeights.reference(), nCats.reference(),
+                categories.reference(), catWeights.reference(), weights, &total, 0);
+    return block;
+}
+
+template <class Primary, class Second>
+void fillFromNeighbours(const Primary& primary, const Second& second, const Texts& strings, int nRows,
+                        const short* mask)
+{
+    onBlocks(
+        [&](auto p, auto y, auto s) {
+            NeighbourImputation(primary.over(p), second.over(y), strings.over(s), nRows, Mask(mask)).run();
+        },
+        block(cells(primary.table), nRows, primary.cols), block(cells(second.table), nRows, second.cols),
+        block(cells(strings.table), nRows, strings.cols));
+}
+
+} // namespace
+
+void EstimateRowsWithMissingNN(matrix* statX, int nStat, matrix*& X, int nRows, int nColsX, short* mask, matrix* statY,
+                               matrix*& Y, int nColsY, Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix*>(statX, nStat, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix*>(statY, nStat, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(statS, nStat, S, nColsS, weights), nRows, mask);
+}
+
+void EstimateRowsWithMissingNNStr(Smatrix* statX, int nStat, Smatrix*& X, int nRows, int nColsX, short* mask,
+                                  matrix* statY, matrix*& Y, int nColsY, Smatrix* statS, Smatrix*& S, int nColsS,
+                                  matrix* weights)
+{
+    fillFromNeighbours(texts(statX, nStat, X, nColsX, weights),
+                       numbers<matrix*>(statY, nStat, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(statS, nStat, S, nColsS, weights), nRows, mask);
+}
+
+void EstimateRowsWithMissingNNSPV(matrix** X, int nRows, int nColsX, short* mask, matrix* statY, matrix*& Y, int nColsY,
+                                  Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix**>(X, nRows, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix*>(statY, nRows, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(statS, nRows, S, nColsS, weights), nRows, mask);
+}
+
+void EstimateRowsWithMissingNNSPV2(matrix** X, int nRows, int nColsX, short* mask, matrix** statY, matrix** Y,
+                                   int nColsY, Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix**>(X, nRows, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix**>(statY, nRows, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(statS, nRows, S, nColsS, weights), nRows, mask);
+}
