@@ -86,6 +86,7 @@
 #include "qualitative/indicators.h"
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
+#include "randomisation/permutations.h"
 #include "sorting/copy_block.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"
