@@ -87,6 +87,7 @@
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
 #include "randomisation/permutations.h"
+#include "randomisation/ranges.h"
 #include "sorting/copy_block.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"
