@@ -86,6 +86,8 @@
 #include "qualitative/indicators.h"
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
+#include "randomisation/kronecker_product.h"
+#include "randomisation/marginal_sums.h"
 #include "randomisation/permutations.h"
 #include "randomisation/ranges.h"
 #include "sorting/copy_block.h"
