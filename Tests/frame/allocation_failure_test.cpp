@@ -8,6 +8,8 @@
 #include "elementary/transposition.h"
 #include "elementary/vector_sums.h"
 #include "frame/handles.h"
+#include "qualitative/modes.h"
+#include "randomisation/ranges.h"
 #include "sorting/sort.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
@@ -233,6 +235,34 @@ TEST(AllocationFailure, PassesThroughStrings)
     });
     EXPECT_GE(failures, 12);
     EXPECT_EQ(a.countNew(), 0u);
+}
+
+TEST(AllocationFailure, PassesThroughAStringResult)
+{
+    BstrArray x({longText, otherText, L"", otherText});
+    Guarded<double> w = {1, 1, 9, 1};
+    const int failures = forEachFailingAllocation([&] {
+        StringPlaces<1> result;
+        result.cells[0] = VB_V_Mode(x, 4, 0, w);
+    });
+    // two tables, the cells of one and three strings, the count, the result and its BSTR
+    EXPECT_GE(failures, 2 + 1 + 3 + 1 + 1 + 1);
+    EXPECT_EQ(x.countNew(), 0u);
+    EXPECT_TRUE(w.untouched());
+    EXPECT_EQ(takenText(VB_V_Mode(x, 4, 0, w)), otherText);
+
+    const CallersText list(L"'a sheet with a long name'!$D:$D,'S'!$A:$A,'S'!$B:$B");
+    EXPECT_GE(forEachFailingAllocation([&] {
+                  StringPlaces<1> result;
+                  result.cells[0] = SimplifyRange(list);
+              }),
+              9);
+    const CallersText letters(L"A");
+    EXPECT_GE(forEachFailingAllocation([&] {
+                  StringPlaces<1> result;
+                  result.cells[0] = Increase1Col(letters);
+              }),
+              1); // the BSTR
 }
 
 TEST(AllocationFailure, PassesThroughSuperMatrices)
