@@ -17,8 +17,10 @@ extern "C" {
 /// divided by D for `sample` -1 and by W otherwise, and both population forms are divided by powers of that variance.
 /// They are
 ///     skewP = (M3 / W) / var^1.5             kurtP = (M4 / W) / var^2 - 3
-/// and the sample forms, which for unit weights are the G1 and G2 of Joanes and Gill (1998),
+/// and the sample forms
 ///     skewS = sqrt(W D) skewP / (W - 2c)     kurtS = D ((W + c)(kurtP + 3) - 3 D) / ((W - 2c)(W - 3c))
+/// which for unit weights and a variance divided by W are the G1 and G2 of Joanes and Gill (1998). For `sample` -1 the
+/// powers of the other variance stay in them: skewS is then G1 ((n - 1)/n)^1.5.
 /// The central moments come from the one-pass updates of Terriberry (2007) and Pebay (2008), weighted.
 ///
 /// The mean is always written, 0.0 without rows. Missing values stand in

@@ -3,6 +3,7 @@
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
+#include "transposed.h"
 
 #include <algorithm>
 
@@ -89,20 +90,6 @@ void symmetrize(Checked table, int n, Merge merge)
 
 // ---- triangular -----------------------------------------------------------------------------------------------------
 
-/// The transposed table: its lower part is the upper part of the other.
-template <class Cells>
-class Transposed
-{
-public:
-    explicit Transposed(Cells cells) : cells_(cells) {}
-
-    double get(int i, int j) const { return cells_.get(j, i); }
-    void set(int i, int j, double value) const { cells_.set(j, i, value); }
-
-private:
-    Cells cells_;
-};
-
 template <class Cells>
 bool lowerIsEmpty(Cells x, int n)
 {
@@ -133,10 +120,11 @@ int triangularKind(Checked table, int n, short fill)
             // Upper comes first: a diagonal table is both.
             if (lowerIsEmpty(x, n)) {
                 if (fill == -1)
-                    copyLowerToUpper(Transposed(x), n);
+                    copyLowerToUpper(transposed(x), n);
                 return upperTriangular;
             }
-            if (lowerIsEmpty(Transposed(x), n)) {
+            // The lower part of the transpose is the upper part.
+            if (lowerIsEmpty(transposed(x), n)) {
                 if (fill == -1)
                     copyLowerToUpper(x, n);
                 return lowerTriangular;

@@ -1,5 +1,6 @@
 #include "sort.h"
 
+#include "../elementary/transposed.h"
 #include "stable_order.h"
 
 #include <string>
@@ -138,7 +139,7 @@ int SortDataBy01(Smatrix*& data, int n, int nCols, matrix*& key)
 int SortQByCol(matrix*& data, int nRows, int /*nCols*/, int first, int last, matrix*& key, matrix*& companion,
                int nCompanionRows, short descending, short writeKeys)
 {
-    return sortRows(Transposed(cells(data)), nRows, {first, last}, key, Transposed(cells(companion)), nCompanionRows,
+    return sortRows(transposed(cells(data)), nRows, {first, last}, key, transposed(cells(companion)), nCompanionRows,
                     descending, writeKeys);
 }
 

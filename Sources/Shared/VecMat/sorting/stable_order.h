@@ -121,26 +121,6 @@ private:
     std::vector<typename Cells::Value> before_;
 };
 
-/// The columns of a table as rows of its transpose.
-template <class Cells>
-class Transposed
-{
-public:
-    using Value = typename Cells::Value;
-
-    explicit Transposed(Cells cells) : cells_(cells) {}
-
-    decltype(auto) get(int i, int j) const { return cells_.get(j, i); }
-    template <class V>
-    void set(int i, int j, V&& value) const
-    {
-        cells_.set(j, i, std::forward<V>(value));
-    }
-
-private:
-    Cells cells_;
-};
-
 /// Sorts the rows of the range by the elements of `key` with the same numbers. Row after row takes its key, then its
 /// cells in each table of `moved` in turn: the order of these writes shows where a row lies beyond its table.
 template <class KeyCells, class... Moved>

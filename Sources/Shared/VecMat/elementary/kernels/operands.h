@@ -9,6 +9,7 @@
 
 #include "../../frame/cells.h"
 #include "../../frame/numbers.h"
+#include "../transposed.h"
 
 #include <algorithm>
 #include <limits>
@@ -17,35 +18,6 @@
 namespace vecmat {
 
 // ---- tables ---------------------------------------------------------------------------------------------------------
-
-/// Tr: cell (i, j) is cell (j, i) of what it holds.
-template <class Cells>
-class Transposed
-{
-public:
-    using Value = typename Cells::Value;
-
-    explicit Transposed(Cells cells) : cells_(cells) {}
-
-    auto get(int i, int j) const { return cells_.get(j, i); }
-    template <class V>
-    void set(int i, int j, V&& value) const
-    {
-        cells_.set(j, i, std::forward<V>(value));
-    }
-
-    bool covers(int rows, int cols) const { return cells_.covers(cols, rows); }
-    auto plain() const { return Transposed<decltype(cells_.plain())>(cells_.plain()); }
-
-private:
-    Cells cells_;
-};
-
-template <class Cells>
-Transposed<Cells> transposed(Cells cells)
-{
-    return Transposed<Cells>(cells);
-}
 
 /// The part of a table that starts at cell (row0, col0). A start before the table is out of range like one behind it.
 template <class Cells>
