@@ -64,6 +64,7 @@
 #include "elementary/vector_sums.h"
 #include "elementary/vector_updates.h"
 #include "elementary/vertical_merges.h"
+#include "fitting/tolerance_check.h"
 #include "frame/missing_value.h"
 #include "frame/services.h"
 #include "frame/super_matrices.h"
