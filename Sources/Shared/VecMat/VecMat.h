@@ -64,6 +64,8 @@
 #include "elementary/vector_sums.h"
 #include "elementary/vector_updates.h"
 #include "elementary/vertical_merges.h"
+#include "fitting/least_squares.h"
+#include "fitting/least_squares_blocks.h"
 #include "fitting/tolerance_check.h"
 #include "frame/missing_value.h"
 #include "frame/services.h"

@@ -1,0 +1,56 @@
+// Ordinary least squares with weights: the correlations of the model's columns and the response are swept on the
+// columns that enter (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33,
+// 149-158).
+//
+// n observations of p explanatory columns X and a response y; w holds their n weights, which are not normalised, and W
+// is their sum without missing ones. With `degree` 1 the columns of the model are those of X, whatever `interactions`
+// says. Otherwise they are the powers 1 to `degree` of all columns, power by power, and with `interactions` -1 behind
+// them the products of columns a and b, a below b, ordered by a: m columns in all. A `degree` below 1 makes no powers.
+//
+// The line has an intercept unless `noIntercept` is anything but 0: it then passes through the origin, and the cross
+// products are raw ones. A column enters where its tolerance, one minus its squared multiple correlation with the
+// columns before it that are in, is above `tol`; a NaN is not. So their order decides, and of two equal columns the
+// first enters. A column that stays out has coefficient and standard error 0.0, and still counts in the degrees of
+// freedom.
+//
+// Results, prepared with `matCheck` and cleared at the start:
+//     beta     m + 1 coefficients, the intercept last (0.0 through the origin)
+//     se       their standard errors, in the same order. Those of the slopes have n - m - 1 degrees of freedom,
+//              whatever the weights, through the origin too, and are 0.0 where that is 0; that of the intercept has
+//              W - m - 1 (0.0 through the origin)
+//     fitted   n values; a term whose cell of the model is missing is left out of its sum, the others stand
+// A missing cell (the equality test) is left out of the correlations pair by pair, and multiplied like any number where
+// the columns are widened and in the raw cross products. A row of weight 0 moves no coefficient, and still counts in n.
+// Without columns the fit is the weighted mean of y. Nothing reports a failure: where W is at most m + 1 the divisors
+// are 0 or negative, and the arithmetic goes through as it stands. X, y and w are not changed.
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+VECMAT_API void OLSBasic(int n, int p, matrix* X, matrix* y, matrix* w, int degree, short interactions,
+                         short noIntercept, double tol, matrix*& beta, matrix*& fitted);
+VECMAT_API void OLSBasic2(int n, int p, matrix* X, matrix* y, matrix* w, int degree, short interactions,
+                          short noIntercept, double tol, matrix*& beta, matrix*& se, matrix*& fitted);
+
+/// Also gives, into tables that exist and keep their strides, `swept`, the table of order m + 1 with the response last
+/// after the sweeps, and `mean` and `sd` of its m + 1 variables. An sd of 0.0 marks a column that stayed out.
+VECMAT_API void OLSBasic3(int n, int p, matrix* X, matrix* y, matrix* w, int degree, short interactions,
+                          short noIntercept, double tol, matrix*& beta, matrix*& se, matrix*& fitted, matrix* swept,
+                          matrix* mean, matrix* sd);
+
+// Flat forms. With c the size reserved for coefficients, degree p + 1, and p(p - 1)/2 more for `interactions` -1 at
+// every degree, beta, se, mean and sd have c cells, swept is c by c, fitted has n cells. All are written whole, with
+// 0.0 in the cells that are not used. Return 0.
+
+VECMAT_API int RunOLSBasic(int n, int p, double* X, double* y, double* w, int degree, short interactions,
+                           short noIntercept, double tol, double* beta, double* fitted);
+VECMAT_API int RunOLSBasic2(int n, int p, double* X, double* y, double* w, int degree, short interactions,
+                            short noIntercept, double tol, double* beta, double* se, double* fitted);
+VECMAT_API int RunOLSBasic3(int n, int p, double* X, double* y, double* w, int degree, short interactions,
+                            short noIntercept, double tol, double* beta, double* se, double* fitted, double* swept,
+                            double* mean, double* sd);
+
+} // extern "C"
