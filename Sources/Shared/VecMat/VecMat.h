@@ -66,6 +66,7 @@
 #include "elementary/vertical_merges.h"
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
+#include "fitting/newton_raphson.h"
 #include "fitting/tolerance_check.h"
 #include "frame/missing_value.h"
 #include "frame/services.h"
