@@ -14,6 +14,7 @@
 #include "decompositions/inversion.h"
 #include "decompositions/level1_kernels.h"
 #include "decompositions/lu.h"
+#include "decompositions/nearest_correlation.h"
 #include "decompositions/singular_values.h"
 #include "decompositions/square_root.h"
 #include "decompositions/sweep.h"

@@ -1,0 +1,45 @@
+// The correlation matrix nearest to a symmetric table, as pairwise estimation leaves it.
+#pragma once
+
+#include "../frame/api.h"
+#include "../frame/super_matrices.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// Replaces the symmetric table `a` of order `n` by the nearest correlation matrix: alternating projections on the
+/// positive semi-definite tables and on those with unit diagonal, with Dykstra's correction (Higham, IMA Journal of
+/// Numerical Analysis 22, 2002). It ends when the infinity norm of the difference of the two projections is at most
+/// 1e-6 of that of `a`, or not a number; a run of 100000 passes is given up where it stands. The result has a unit
+/// diagonal and is within the tolerance of the semi-definite tables, not exactly one of them.
+///
+/// Returns 0, or -1 with `a` unchanged where a cell is missing (equality test). The triangular form holds column k from
+/// its diagonal cell down. Scratch: six tables of n by n beyond what the eigenvalues take.
+VECMAT_API int M_CorrMatFromSymMat(matrix* a, int n);
+VECMAT_API int M_CorrMatFromSymMatSPV(matrix** a, int n);
+VECMAT_API int M_CorrMatFromSymMatSPV_T(matrix** a, int n);
+
+/// Flat forms: the caller's arrays are worked on in place.
+VECMAT_API int Cpp_M_CorrMatFromSymMat(double* a, int n);
+VECMAT_API int Cpp_M_CorrMatFromSymMatSPV(SAFEARRAY** a, int n);
+VECMAT_API int Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n);
+
+/// The semi-definite table nearest to `a` in the metric of the positive definite table `w`, both of order `n`, into the
+/// existing table `out`: eigenvalues below 0 of S a S become 0.0, S being a root of w. Failures on the way are not
+/// looked at.
+VECMAT_API void M_SProject(matrix* a, int n, matrix* w, matrix* out);
+
+/// `a` with 1.0 on the diagonal, into the existing `out`: a table, an array of columns, a triangle of columns.
+VECMAT_API void M_UProject(matrix* a, int n, matrix* out);
+VECMAT_API void M_UProjectSPV(matrix* a, int n, matrix** out);
+VECMAT_API void M_UProjectSPV_T(matrix* a, int n, matrix** out);
+
+/// Infinity norm: the largest row sum of absolute values, without the cells that are not above the missing value (so
+/// without NaN and minus infinity too). A cell outside the table counts as 1.0. 0.0 for `rows` below 1. In the
+/// triangular form a row runs over the whole symmetric row.
+VECMAT_API double M_RowSumNorm(matrix* a, int rows, int cols);
+VECMAT_API double M_RowSumNormSPV(matrix** a, int rows, int cols);
+VECMAT_API double M_RowSumNormSPV_T(matrix** a, int rows, int cols);
+VECMAT_API double Cpp_M_RowSumNorm(double* a, int rows, int cols);
+
+} // extern "C"
