@@ -44,9 +44,10 @@ void sortDescending(matrix*& values, Cells vectors, int n)
     for (int j = 0; j < n; ++j)
         order->X[j] = j;
     TableHandle companion = fresh(n, 1);
-    SortQ(order.reference(), n, 1, 1, n, values, companion.reference(), 1, -1, -1);
+    // All memory is had before the values move, so that values and vectors belong together where it runs out.
     TableHandle found = fresh(n, n);
     copySquare(vectors, cells<matrix>(found), n);
+    SortQ(order.reference(), n, 1, 1, n, values, companion.reference(), 1, -1, -1);
     for (int j = 0; j < n; ++j) {
         const double* column = found->X + static_cast<std::ptrdiff_t>(n) * truncated(order->X[j]);
         for (int i = 0; i < n; ++i)
@@ -54,11 +55,10 @@ void sortDescending(matrix*& values, Cells vectors, int n)
     }
 }
 
-/// What all forms do once `vectors` holds the input.
+/// What all forms do once `vectors` holds the input. The scratch is had before any result is prepared.
 template <class Cells>
-int decompose(Cells vectors, matrix*& values, int n, short sort)
+int decompose(Cells vectors, matrix*& values, std::vector<double>& offDiagonal, int n, short sort)
 {
-    std::vector<double> offDiagonal(countOf(n));
     const PlainVector<matrix> e(offDiagonal.data());
     const bool converged = onBlocks([&](auto a, auto d) { return eigenInPlace(a, d, e, n); }, block(vectors, n, n),
                                     block(linear(values), n));
@@ -76,10 +76,11 @@ int M_Eigen(matrix* a, matrix*& values, matrix*& vectors, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
+        std::vector<double> offDiagonal(countOf(n));
         matrix::matCheck(values, n, 1, 0.0);
         matrix::matCheck(vectors, n, n, 0.0);
         copySquare(cells(a), cells(vectors), n);
-        return decompose(cells(vectors), values, n, sort);
+        return decompose(cells(vectors), values, offDiagonal, n, sort);
     } catch (...) {
         return -1;
     }
@@ -90,9 +91,10 @@ int M_EigenSPV(matrix** a, matrix*& values, matrix** vectors, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
+        std::vector<double> offDiagonal(countOf(n));
         matrix::matCheck(values, n, 1, 0.0);
         copySquare(cells(a), cells(vectors), n);
-        return decompose(cells(vectors), values, n, sort);
+        return decompose(cells(vectors), values, offDiagonal, n, sort);
     } catch (...) {
         return -1;
     }
@@ -103,8 +105,9 @@ int M_EigenDestroySPV(matrix** a, matrix*& values, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
+        std::vector<double> offDiagonal(countOf(n));
         matrix::matCheck(values, n, 1, 0.0);
-        return decompose(cells(a), values, n, sort);
+        return decompose(cells(a), values, offDiagonal, n, sort);
     } catch (...) {
         return -1;
     }
@@ -115,9 +118,10 @@ int M_EigenSPV_T(matrix** a, matrix*& values, matrix** vectors, int n, short sor
 {
     if (hasMissing(triangle(a), n))
         return -1;
+    std::vector<double> offDiagonal(countOf(n));
     matrix::matCheck(values, n, 1, 0.0);
     copySquare(triangle(a), cells(vectors), n);
-    return decompose(cells(vectors), values, n, sort);
+    return decompose(cells(vectors), values, offDiagonal, n, sort);
 }
 
 int M_VonMises(matrix* a, matrix*& v, int n)
