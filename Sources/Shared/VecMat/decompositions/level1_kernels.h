@@ -1,9 +1,10 @@
 // Level-1 kernels over runs of table cells, in the manner of the BLAS, with the library's checked access.
 //
-// A vector of `count` elements begins at (row, col), 1-based, and goes on in linear order by `inc` elements at a time: past the
-// end of a column it continues in the next one. A negative increment starts the walk at (1 - count) * inc, as in the BLAS.
-// Reads outside the table give -1.0, writes outside it are dropped; a count below 1 touches nothing. There is no missing test.
-// In the SPV forms `col` selects the table of the array and the walk stays inside it; a column below 1 is outside.
+// A vector of `count` elements begins at (row, col), 1-based, and goes on in linear order by `inc` elements at a time:
+// past the end of a column it continues in the next one. A negative increment starts the walk at (1 - count) * inc, as
+// in the BLAS. Reads outside the table give -1.0, writes outside it are dropped; a count below 1 touches nothing. There
+// is no missing test. In the SPV forms `col` selects the table of the array and the walk stays inside it; a column
+// below 1 is outside.
 #pragma once
 
 #include "../frame/api.h"
@@ -19,8 +20,8 @@ VECMAT_API double DNRM2SPV(int count, matrix** x, int inc, int row, int col);
 VECMAT_API void dscal(int count, double a, matrix* x, int inc, int row, int col);
 VECMAT_API void dscalSPV(int count, double a, matrix** x, int inc, int row, int col);
 
-/// Builds the rotation that brings (a, b) to (r, 0): stores r in `*a`, the reconstruction number z in `*b`, the cosine and sine.
-/// For a and b both 0 the rotation is the identity and r and z are 0.
+/// Builds the rotation that brings (a, b) to (r, 0): stores r in `*a`, the reconstruction number z in `*b`, the cosine
+/// and sine. For a and b both 0 the rotation is the identity and r and z are 0.
 VECMAT_API void drotg(double* a, double* b, double* c, double* s);
 
 /// Inner product, added in element order.

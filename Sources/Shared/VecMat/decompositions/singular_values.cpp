@@ -19,11 +19,11 @@ void copyBlock(From from, To to, int rows, int cols)
 }
 
 template <class Store, class Cells>
-int decompose(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, int job)
+int decompose(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, SingularVectors wanted)
 {
     matrix saved(n, p, 0.0);
     copyBlock(xCells, cells(&saved), n, p);
-    const int info = SvdIteration<Store>(x, n, p, s, u, v, SingularVectors(job, n, p)).run();
+    const int info = SvdIteration<Store>(x, n, p, s, u, v, wanted).run();
     copyBlock(cells(&saved), xCells, n, p);
     return info;
 }
@@ -33,13 +33,17 @@ int decompose(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, 
 void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info)
 {
     *info = 0;
-    *info = decompose(TableStore(x), cells(x), n, p, s, TableStore(u), TableStore(v), job);
+    *info = decompose(TableStore(x), cells(x), n, p, s, TableStore(u), TableStore(v), SingularVectors(job, n, p));
 }
 
 void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, int job, int* info)
 {
     *info = 0;
-    *info = decompose(ColumnStore(x), cells(x), n, p, s, ColumnStore(u), ColumnStore(v), job);
+    const SingularVectors wanted(job, n, p);
+    // A table with more columns than rows has a value without a left vector: where cells that are no numbers let a
+    // split reach it, its column does not exist.
+    *info =
+        decompose(ColumnStore(x, p), cells(x), n, p, s, ColumnStore(u, wanted.leftColumns), ColumnStore(v, p), wanted);
 }
 
 int M_Rank(matrix* a, int n, int p)

@@ -7,33 +7,34 @@
 
 extern "C" {
 
-/// Singular value decomposition x = U diag(s) V' of an `n` by `p` table: the LINPACK routine DSVDC (Dongarra, Moler, Bunch,
-/// Stewart: LINPACK Users' Guide, 1979), by Householder reduction to bidiagonal form and implicit-shift QR with deflation.
+/// Singular value decomposition x = U diag(s) V' of an `n` by `p` table: the LINPACK routine DSVDC (Dongarra, Moler,
+/// Bunch, Stewart: LINPACK Users' Guide, 1979), by Householder reduction to bidiagonal form and implicit-shift QR with
+/// deflation.
 ///
-/// `s` has min(n + 1, p) cells and receives the singular values, non-negative and descending. `job` has the decimal digits ab:
-/// b not 0 asks for `v` (p columns); a = 1 asks for `u` with n columns, a of 2 or more for `u` with min(n, p), each of n rows.
-/// The tables exist and are large enough; those not asked for are not touched and may be null. All access is checked. `x` is
-/// worked on in place and restored before the return.
+/// `s` has min(n + 1, p) cells and receives the singular values, non-negative and descending. `job` has the decimal
+/// digits ab: b not 0 asks for `v` (p columns); a = 1 asks for `u` with n columns, a of 2 or more for `u` with min(n,
+/// p), each of n rows. The tables exist and are large enough; those not asked for are not touched and may be null. All
+/// access is checked. `x` is worked on in place and restored before the return.
 ///
-/// Departs from DSVDC in these settled points: a singular value has 60 passes; where they do not suffice `*info` is -m, the values
-/// from m + 1 on are final, and the rest is in the state of the interruption; `*info` is 0 otherwise. A norm counts as zero up
-/// to 1e-31. An entry is negligible where adding it changes a sum of its neighbours by less than 2.220446049250313e-16, in
-/// absolute terms. After 10000 turns for one value the iteration is given up in the same way. There is no missing test.
-/// Scratch: a copy of x, p and n doubles.
+/// Departs from DSVDC in these settled points: a singular value has 60 passes; where they do not suffice `*info` is -m,
+/// the values from m + 1 on are final, and the rest is in the state of the interruption; `*info` is 0 otherwise. A norm
+/// counts as zero up to 1e-31. An entry is negligible where adding it changes a sum of its neighbours by less than
+/// 2.220446049250313e-16, in absolute terms. After 10000 turns for one value the iteration is given up in the same way.
+/// There is no missing test. Scratch: a copy of x, p and n doubles.
 VECMAT_API void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info);
 
 /// The same over arrays of columns.
 VECMAT_API void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, int job, int* info);
 
-/// Flat forms: `s` has min(n + 1, p) elements, `u` `ldu` rows and 1, n or min(n, p) columns as `job` asks, `v` `ldv` rows and p
-/// columns, or 1 where it is not asked for. Return 0.
+/// Flat forms: `s` has min(n + 1, p) elements, `u` `ldu` rows and 1, n or min(n, p) columns as `job` asks, `v` `ldv`
+/// rows and p columns, or 1 where it is not asked for. Return 0.
 VECMAT_API int VB_M_SVDecomp(double* x, int n, int p, double* s, double* u, int ldu, double* v, int ldv, int job,
                              int* info);
 VECMAT_API int VB_M_SVDecompSPV(SAFEARRAY** x, int n, int p, double* s, SAFEARRAY** u, int ldu, SAFEARRAY** v, int ldv,
                                 int job, int* info);
 
-/// Number of singular values above 1e-12 in absolute terms, up to the first that is not; -1 where they cannot be had; 0 for
-/// `p` below 1. For p above n the last value is out of range of the private s, and reads -1.0.
+/// Number of singular values above 1e-12 in absolute terms, up to the first that is not; -1 where they cannot be had; 0
+/// for `p` below 1. For p above n the last value is out of range of the private s, and reads -1.0.
 VECMAT_API int M_Rank(matrix* a, int n, int p);
 VECMAT_API int VB_M_Rank(double* a, int n, int p);
 

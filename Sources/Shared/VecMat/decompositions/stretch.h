@@ -1,5 +1,6 @@
 // A run of cells at a fixed step inside one table, and the level-1 operations over such runs, in the manner of the BLAS
-// (Lawson, Hanson, Kincaid, Krogh, ACM Transactions on Mathematical Software 5, 1979). Sums and updates go in element order.
+// (Lawson, Hanson, Kincaid, Krogh, ACM Transactions on Mathematical Software 5, 1979). Sums and updates go in element
+// order.
 #pragma once
 
 #include "../frame/cells.h"
@@ -7,6 +8,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 namespace vecmat {
 
@@ -24,8 +26,8 @@ private:
     std::ptrdiff_t step_;
 };
 
-/// A run with the checks of the tables: past the end of a column it goes on in the next one, outside the table a read gives
-/// -1.0 and a write is dropped. Without a table everything is outside.
+/// A run with the checks of the tables: past the end of a column it goes on in the next one, outside the table a read
+/// gives -1.0 and a write is dropped. Without a table everything is outside.
 class Stretch
 {
 public:
@@ -86,22 +88,27 @@ private:
     matrix* table_;
 };
 
-/// An array of column tables: a walk stays inside its table, and there is no column before the first.
+/// An array of column tables: a walk stays inside its table, and what is asked of a column before the first or after
+/// the last is outside. Without a count the last is the caller's word.
 class ColumnStore
 {
 public:
-    explicit ColumnStore(matrix** columns) : columns_(columns) {}
+    explicit ColumnStore(matrix** columns, int count = std::numeric_limits<int>::max())
+        : columns_(columns), count_(count)
+    {
+    }
 
     double get(int row, int col) const { return from(row, col, 1).get(0); }
     void set(int row, int col, double value) const { from(row, col, 1).set(0, value); }
     Stretch from(int row, int col, int count, int increment = 1) const
     {
-        return {col < 1 ? nullptr : columns_[col - 1], static_cast<unsigned>(row) - 1u + startOffset(count, increment),
-                increment};
+        return {col < 1 || col > count_ ? nullptr : columns_[col - 1],
+                static_cast<unsigned>(row) - 1u + startOffset(count, increment), increment};
     }
 
 private:
     matrix** columns_;
+    int count_;
 };
 
 /// Euclidean norm by a running scale and sum of squares, which neither overflows nor underflows on the way.

@@ -1,4 +1,5 @@
-// The singular value decomposition over any storage. Rows, columns and places are 1-based throughout, as in the publication.
+// The singular value decomposition over any storage. Rows, columns and places are 1-based throughout, as in the
+// publication.
 #pragma once
 
 #include "../frame/missing_value.h"
