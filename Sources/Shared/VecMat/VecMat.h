@@ -88,6 +88,7 @@
 #include "qualitative/column_moments.h"
 #include "qualitative/disjunctive_tables.h"
 #include "qualitative/frequencies.h"
+#include "qualitative/group_by.h"
 #include "qualitative/indicators.h"
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"

@@ -1,0 +1,156 @@
+#include "group_by.h"
+
+#include "../descriptive/means.h"
+#include "../descriptive/quantiles.h"
+#include "../elementary/extremes.h"
+#include "../elementary/vector_sums.h"
+#include "../frame/cells.h"
+#include "../sorting/copy_block.h"
+#include "../sorting/sort.h"
+#include "../sorting/sort_apply.h"
+#include "modes.h"
+
+#include <vector>
+
+using namespace vecmat;
+
+namespace {
+
+enum Aggregate { sum, mean, median, firstRow, rowAfter, minimum, maximum, range };
+
+/// The rows `first` to below `end` of the sorted table, from 0.
+struct Group
+{
+    int first;
+    int end;
+
+    int size() const { return end - first; }
+};
+
+double rangeOf(matrix* values, int n)
+{
+    const double largest = V_Max2(values, n);
+    return largest > missingValue ? largest - V_Min2(values, n) : missingValue;
+}
+
+/// Sum, mean and median without weights.
+struct Unweighted
+{
+    double sum(matrix* values, int n) const { return V_Sum2(values, n); }
+    double mean(matrix* values, int n) const { return V_Mean2(values, n); }
+    double median(matrix* values, int n) const { return V_Quantile(values, n, 0.5); }
+};
+
+/// The same with weights that start from the first one for every group.
+struct WeightedByPosition
+{
+    matrix* weights;
+
+    double sum(matrix* values, int n) const { return V_Sum(values, n, nullptr, weights); }
+    double mean(matrix* values, int n) const { return V_Mean(values, n, nullptr, weights); }
+    double median(matrix* values, int n) const { return V_QuantileW(values, n, weights, 0.5); }
+};
+
+/// Copies `data` to `out` and sorts its rows; `order` takes along where each of them came from, counted from 1.
+void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matrix* order)
+{
+    matrix keys(nRows, 1, 0.0);
+    for (int i = 0; i < nRows; ++i) {
+        keys.X[i] = cells(data).get(i, zeroBased(keyCol));
+        order->X[i] = i + 1.0;
+    }
+    M_CopyBlock(data, 1, nRows, 1, nCols, out);
+    matrix* key = &keys;
+    SortQ(out, nRows, nCols, 1, nRows, key, order, 1, 0, 0);
+}
+
+/// Puts the groups of a sorted table into its first rows. A result never comes below the first row of its group, and
+/// is read before it is written, so that one table serves for both.
+template <class Aggregates>
+class Grouping
+{
+public:
+    Grouping(matrix* table, int nRows, int nCols, matrixInt* colTypes, int aggregate, Aggregates aggregates)
+        : cells_(cells(table)), nRows_(nRows), nCols_(nCols), colTypes_(colTypes), code_(aggregate),
+          aggregates_(aggregates)
+    {
+    }
+
+    int run(int keyCol)
+    {
+        int groups = 0;
+        for (Group group{0, 0}; group.first < nRows_; group.first = group.end, ++groups) {
+            const double key = cells_.get(group.first, keyCol);
+            group.end = group.first + 1;
+            while (group.end < nRows_ && cells_.get(group.end, keyCol) == key)
+                ++group.end;
+            cells_.set(groups, keyCol, key);
+            for (int j = 0; j < nCols_; ++j)
+                if (j != keyCol)
+                    aggregate(group, j, groups);
+        }
+        return groups;
+    }
+
+private:
+    void aggregate(Group group, int j, int target)
+    {
+        const bool qualitative = linear(colTypes_).get(j) != 0; // -1 beyond the table
+        if (!qualitative && (code_ < Aggregate::sum || code_ > Aggregate::range))
+            return;
+        values_.clear();
+        for (int i = group.first; i < group.end; ++i)
+            values_.push_back(cells_.get(i, j));
+        matrix values(group.size(), 1, values_.data(), true);
+        cells_.set(target, j, qualitative ? V_ModeCat(&values, group.size()) : quantity(&values, group, j));
+    }
+
+    double quantity(matrix* values, Group group, int j) const
+    {
+        switch (code_) {
+        case Aggregate::sum:
+            return aggregates_.sum(values, group.size());
+        case Aggregate::mean:
+            return aggregates_.mean(values, group.size());
+        case Aggregate::median:
+            return aggregates_.median(values, group.size());
+        case Aggregate::firstRow:
+            return cells_.get(group.first, j);
+        case Aggregate::rowAfter:
+            return cells_.get(group.end, j); // behind the last row it goes on in the next column
+        case Aggregate::minimum:
+            return V_Min2(values, group.size());
+        case Aggregate::maximum:
+            return V_Max2(values, group.size());
+        default:
+            return rangeOf(values, group.size());
+        }
+    }
+
+    TableCells<matrix> cells_;
+    int nRows_;
+    int nCols_;
+    matrixInt* colTypes_;
+    int code_;
+    Aggregates aggregates_;
+    std::vector<double> values_; // of the column and group at hand
+};
+
+} // namespace
+
+void M_GroupBy(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate, int* nGroups,
+               matrix*& out)
+{
+    matrix order(nRows, 1, 0.0);
+    sortRows(data, nRows, nCols, keyCol, out, &order);
+    *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, Unweighted{}).run(zeroBased(keyCol));
+}
+
+void M_GroupByW(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate, int* nGroups,
+                matrix*& out, matrix* weights)
+{
+    matrix order(nRows, 1, 0.0);
+    sortRows(data, nRows, nCols, keyCol, out, &order);
+    SortApply2(weights, nRows, 1, &order);
+    *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, WeightedByPosition{weights}).run(zeroBased(keyCol));
+}
