@@ -92,6 +92,7 @@
 #include "qualitative/indicators.h"
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
+#include "randomisation/comparisons.h"
 #include "randomisation/kronecker_product.h"
 #include "randomisation/marginal_sums.h"
 #include "randomisation/permutations.h"
