@@ -156,8 +156,9 @@ TEST(BuildGroupingForDiffs, ANegativeDifferenceDiffers)
     const Grouped g = grouped({10, 20, 30}, {{3, 1}}, -1);
     EXPECT_EQ(g.clean, -1);
     EXPECT_EQ(g.lines(), (Lines{L"A-", L"AB", L"-B"}));
-    const Grouped lowest = grouped({10, 20, 30}, {{3, 1}}, std::numeric_limits<int>::min());
-    EXPECT_EQ(lowest.lines(), (Lines{L"A-", L"AB", L"-B"}));
+    // The magnitude of the lowest int is above the range of int.
+    const Grouped lowest = grouped({10, 20, 30}, {{3, 1}, {3, 2}}, std::numeric_limits<int>::min());
+    EXPECT_EQ(lowest.lines(), (Lines{L"A-", L"A-", L"-B"}));
 }
 
 TEST(BuildGroupingForDiffs, ADifferingPairInAGroupWarnsButInTheLastGroupOnlyAPositiveOne)

@@ -36,9 +36,9 @@ extern "C" {
 /// are, so the caller clears the table before. `*nGroups` is the number of groups, 256 at the most: one more ends the
 /// grouping at once, with a count of 257.
 ///
-/// A mean is missing by the order test; a NaN counts as missing in every place but the first. A missing item opens no group and gets an empty cell in the column of the last
-/// group; the places that it does not differ from take the letter of that group, behind a missing first item the letter
-/// with the code 64 ("@").
+/// A mean is missing by the order test; a NaN counts as missing in every place but the first. A missing item opens no
+/// group and gets an empty cell in the column of the last group; the places that it does not differ from take the
+/// letter of that group, behind a missing first item the letter with the code 64 ("@").
 ///
 /// Contradictions are: behind the first place that differs from the first of a group, one that does not; and two items
 /// of one group that differ. In the last group negative numbers of `diff` do not count as differing for the second.
@@ -49,21 +49,21 @@ VECMAT_API short BuildGroupingForDiffs(matrix* means, int nCarried, matrix* pair
                                        short descending);
 
 /// Groups `n` items in the ascending order of column `col` of X, 1-based; 0 is the first column. Cell (i, j) of `comp`,
-/// n by n, is 0 where items i and j do not differ, any other number where they do; only the cells below the diagonal are
-/// read.
+/// n by n, is 0 where items i and j do not differ, any other number where they do; only the cells below the diagonal
+/// are read.
 ///
-/// `labels`: the n by n cells at its top left are cleared, then hold the letters as told above. `keepOrder` 0 sorts the
-/// rows of X (the first column if `col` is 0, otherwise columns 1 to `col`), and `order` becomes the item numbers in the
-/// sorted order, like the rows of `labels`. With any other value X stays, `order` is 1 to n, and the rows of `labels`,
-/// all its columns, are put back into the order of the items.
+/// `labels`: the n by n cells at its top left are cleared, then hold the letters as told above. `keepOrder` 0 sorts
+/// the rows of X (the first column if `col` is 0, otherwise columns 1 to `col`), and `order` becomes the item numbers
+/// in the sorted order, like the rows of `labels`. With any other value X stays, `order` is 1 to n, and the rows of
+/// `labels`, all its columns, are put back into the order of the items.
 ///
 /// With n below 1 nothing is touched.
 VECMAT_API void GetCompMatrices(matrix* X, int n, int col, matrixInt* comp, short keepOrder, matrixInt* order,
                                 Smatrix* labels, int* nGroups);
 
 /// The same over column-major arrays: X of n by `col` (one column if `col` is 0), `comp` of n by n, `order` of n,
-/// `labels` of n by 256. All labels come back as new BSTRs that the caller owns, what stood there is not released; cells
-/// behind the n-th column come back with the caller's text.
+/// `labels` of n by 256. All labels come back as new BSTRs that the caller owns, what stood there is not released;
+/// cells behind the n-th column come back with the caller's text.
 VECMAT_API void Cpp_GetCompMatrices(double* X, int n, int col, int* comp, short keepOrder, int* order, wchar_t** labels,
                                     int* nGroups);
 

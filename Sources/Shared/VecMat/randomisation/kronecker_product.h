@@ -6,10 +6,10 @@
 
 extern "C" {
 
-/// The Kronecker product of A (m by n) and B (p by q): cell (k, l) of block (i, j) of C is A(i, j) B(k, l). C must exist
-/// with exactly p m rows and q n columns; with any other shape nothing is done, silently. The missing value is
-/// multiplied like any other number; a cell beyond A or B reads -1.0 and takes part. C must be another table than A and
-/// B.
+/// The Kronecker product of A (m by n) and B (p by q): cell (k, l) of block (i, j) of C is A(i, j) B(k, l). C must
+/// exist with exactly p m rows and q n columns; with any other shape nothing is done, silently. The missing value is
+/// multiplied like any other number; a cell beyond A or B reads -1.0 and takes part. C must be another table than A
+/// and B.
 VECMAT_API void KroneckerTensorProduct(matrix* A, int m, int n, matrix* B, int p, int q, matrix* C);
 
 /// The same over column-major arrays: A of m by n, B of p by q, C of `rowsC` by `colsC`, written in place.

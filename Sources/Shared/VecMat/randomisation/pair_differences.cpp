@@ -28,6 +28,7 @@ std::size_t triangleSize(std::size_t n)
 PairRows::PairRows(matrix* pairs, int colA, int colB, matrix* perm, int n)
 {
     std::vector<int> itemAtPlace;
+    itemAtPlace.reserve(countOf(n));
     for (int place = 0; place < n; ++place)
         itemAtPlace.push_back(truncated(linear(perm).get(place)));
     items_ = itemAtPlace;

@@ -15,7 +15,7 @@ namespace vecmat {
 class PairRows
 {
 public:
-    /// `pairs` with the item numbers of a pair in columns `colA` and `colB`, 1-based; `perm` with the items of n places.
+    /// `pairs` has the item numbers of a pair in columns `colA` and `colB`, 1-based; `perm` the items of n places.
     PairRows(matrix* pairs, int colA, int colB, matrix* perm, int n);
 
     /// The first row, from 0, whose smaller and larger item are those of the places s and t, from 0; -1 where there is

@@ -1,7 +1,7 @@
 // Column addresses of a spreadsheet: merging a list of them, and stepping a column name to the next one.
 //
-// An address list consists of pieces joined by ",", each of the form 'Sheet'!$A:$C. Columns are named by letters in base
-// 26: A is 1, Z is 26, AA is 27. Nothing is validated and no error is reported: whatever the text, a text comes back.
+// An address list consists of pieces joined by ",", each of the form 'Sheet'!$A:$C. Columns are named by letters in
+// base 26: A is 1, Z is 26, AA is 27. Nothing is validated and no error is reported: whatever the text, a text comes back.
 #pragma once
 
 #include "../frame/api.h"
@@ -27,8 +27,8 @@ extern "C" {
 ///   - A column that begins with a digit ends the reading. This piece and those behind it have no columns, except for a
 ///     first column already read, and come to the front: 'S'!$A:$A,'S'!$1:$5 becomes 'S'!$:,'S'!$A:$A.
 ///   - Two empty columns follow each other, as the successor of no letters is no letters.
-///   - Where a delimiter is missing, what is left of the text is not shortened, and the next column is looked for in the
-///     same place. An empty last column counts as column -64. The input is never changed.
+///   - Where a delimiter is missing, what is left of the text is not shortened, and the next column is looked for in
+///     the same place. An empty last column counts as column -64. The input is never changed.
 VECMAT_API std::wstring cSimplifyRange(std::wstring& input);
 
 /// The next column name, letter by letter from the last: Z becomes A and carries into the letter before, any other
