@@ -65,6 +65,7 @@
 #include "elementary/vector_sums.h"
 #include "elementary/vector_updates.h"
 #include "elementary/vertical_merges.h"
+#include "fitting/biplots.h"
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
 #include "fitting/newton_raphson.h"
