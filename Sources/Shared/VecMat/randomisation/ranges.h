@@ -1,7 +1,8 @@
 // Column addresses of a spreadsheet: merging a list of them, and stepping a column name to the next one.
 //
 // An address list consists of pieces joined by ",", each of the form 'Sheet'!$A:$C. Columns are named by letters in
-// base 26: A is 1, Z is 26, AA is 27. Nothing is validated and no error is reported: whatever the text, a text comes back.
+// base 26: A is 1, Z is 26, AA is 27. Nothing is validated and no error is reported: whatever the text, a text
+// comes back.
 #pragma once
 
 #include "../frame/api.h"
