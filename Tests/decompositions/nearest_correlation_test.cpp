@@ -3,6 +3,7 @@
 
 #include "decompositions/eigen.h"
 #include "decompositions/inversion.h"
+#include "decompositions/nearest_correlation_reference.h"
 #include "decompositions/residuals.h"
 #include "decompositions/square_root.h"
 #include "elementary/diagonal_products.h"
@@ -74,51 +75,9 @@ std::vector<double> projectedBySteps(matrix* a, int n, matrix* w)
     return cellsOf(out);
 }
 
-std::vector<double> sumOf(const std::vector<double>& a, const std::vector<double>& b, double s2)
+ReferenceNearest nearestBySteps(const std::vector<double>& cells, int n)
 {
-    std::vector<double> sum(a.size());
-    for (std::size_t k = 0; k < a.size(); ++k)
-        sum[k] = 1.0 * a[k] + s2 * b[k];
-    return sum;
-}
-
-double rowSumNormOf(const std::vector<double>& a, int n)
-{
-    double largest = 0.0;
-    for (int i = 0; i < n; ++i) {
-        double sum = 0.0;
-        for (int j = 0; j < n; ++j)
-            sum += std::fabs(a[static_cast<std::size_t>(i + n * j)]);
-        largest = std::max(largest, sum);
-    }
-    return largest;
-}
-
-struct Nearest
-{
-    std::vector<double> cells;
-    int passes = 0;
-};
-
-/// The whole iteration, without a limit.
-Nearest nearestBySteps(const std::vector<double>& cells, int n)
-{
-    Nearest result{cells};
-    std::vector<double>& a = result.cells;
-    std::vector<double> correction(squareCount(n), 0.0);
-    const Owned<matrix> w = identityTable(n);
-    for (;;) {
-        ++result.passes;
-        const std::vector<double> r = sumOf(a, correction, -1.0);
-        const std::vector<double> x = projectedBySteps(table(n, n, r), n, w);
-        correction = sumOf(x, r, -1.0);
-        a = x;
-        for (int i = 0; i < n; ++i)
-            a[static_cast<std::size_t>(i + n * i)] = 1.0;
-        const double ratio = rowSumNormOf(sumOf(a, x, -1.0), n) / rowSumNormOf(a, n);
-        if (ratio <= 1e-06 || ratio != ratio)
-            return result;
-    }
+    return NearestBySteps(cells, n).run();
 }
 
 std::vector<double> nearestTo(const std::vector<double>& cells, int n)
@@ -150,11 +109,44 @@ TEST(CorrMatFromSymMat, HasTheBitsOfTheStepsHoweverManyPassesTheyTake)
     for (int round = 0; round < 40; ++round) {
         const int n = data.integer(1, 7);
         const std::vector<double> cells = pairwiseCells(n, data, round % 2 == 0 ? 1.0 : 20.0);
-        const Nearest expected = nearestBySteps(cells, n);
+        const ReferenceNearest expected = nearestBySteps(cells, n);
         EXPECT_THAT(nearestTo(cells, n), SameBits(expected.cells)) << round;
         most = std::max(most, expected.passes);
     }
     EXPECT_GT(most, 100);
+}
+
+TEST(CorrMatFromSymMat, CarriesTheCorrectionFromPassToPass)
+{
+    // Without it the projections meet too, elsewhere: not at the nearest.
+    const std::vector<double> cells = {1, 1, 0, 1, 1, 1, 0, 1, 1};
+    NearestBySteps uncorrected(cells, 3);
+    uncorrected.corrected = false;
+    const ReferenceNearest elsewhere = uncorrected.run();
+    EXPECT_LE(elsewhere.ratio, 1e-06);
+    EXPECT_GT(std::fabs(elsewhere.cells[1] - nearestTo(cells, 3)[1]), 1e-3);
+}
+
+TEST(CorrMatFromSymMat, IsGivenUpWhereItDoesNotSettle)
+{
+    // Rounding beside cells so large makes the table swing for ever, and the ratio never falls to the tolerance.
+    const std::vector<double> cells = {1, 1e11, 1e11, 1};
+    const ReferenceNearest expected = nearestBySteps(cells, 2);
+    ASSERT_EQ(expected.passes, 100000);
+    ASSERT_GT(expected.ratio, 1e-06);
+    const std::vector<double> found = nearestTo(cells, 2);
+    EXPECT_THAT(found, SameBits(expected.cells));
+    // The last pass still moved it: one pass less would show.
+    NearestBySteps oneLess(cells, 2);
+    oneLess.passLimit = 99999;
+    EXPECT_THAT(found, testing::Not(SameBits(oneLess.run().cells)));
+
+    TableColumns columns(2, 2, cells);
+    EXPECT_EQ(M_CorrMatFromSymMatSPV(columns, 2), 0);
+    EXPECT_THAT(columns.cells(), SameBits(expected.cells));
+    TableColumns lower = triangle(2, cells);
+    EXPECT_EQ(M_CorrMatFromSymMatSPV_T(lower, 2), 0);
+    EXPECT_THAT(lower.cells(), SameBits(triangle(2, expected.cells).cells()));
 }
 
 TEST(CorrMatFromSymMat, IsACorrelationMatrixWithinTheTolerance)
@@ -314,6 +306,19 @@ TEST(SProject, HasTheBitsOfTheFunctionsItIsToldBy)
     }
 }
 
+TEST(SProject, WithTheIdentityIsTheProjectionOfTheIteration)
+{
+    // The root of the identity and its inverse are the identity to the last bit.
+    RandomData data(8607);
+    SCOPED_TRACE(data);
+    for (const int n : {1, 2, 3, 8, 30}) {
+        const std::vector<double> cells = pairwiseCells(n, data);
+        const Owned<matrix> out = filled(n, n, 7.0);
+        M_SProject(table(n, n, cells), n, identityTable(n), out);
+        EXPECT_THAT(cellsOf(out), SameBits(NearestBySteps({}, n).onCone(cells))) << n;
+    }
+}
+
 TEST(SProject, WithTheIdentityClearsTheNegativePart)
 {
     // Eigenvalues 3 and -1: what remains is 3 times the projection on (1, 1).
@@ -406,6 +411,8 @@ TEST(RowSumNorm, CountsACellOutsideTheTableAsOne)
     TableColumns columns({{5}, {6, 7}});
     EXPECT_THAT(M_RowSumNormSPV(columns, 2, 2), SameBits(11));
     EXPECT_THAT(M_RowSumNormSPV(columns, 3, 1), SameBits(5));
+    TableColumns lower({{5, 6}, {7}, {}});
+    EXPECT_THAT(M_RowSumNormSPV_T(lower, 3, 3), SameBits(14)) << "6, 7 and one outside";
 }
 
 TEST(RowSumNorm, OfATriangleRunsOverWholeSymmetricRows)

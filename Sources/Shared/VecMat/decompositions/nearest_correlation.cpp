@@ -56,16 +56,33 @@ struct Metric
 {
     TableHandle root;
     TableHandle inverse;
-
-    Metric(matrix* weights, int n) : root(fresh(n, n)), inverse(fresh(n, n))
-    {
-        // The size of the tolerance does not matter: any one above 0 selects the same pivot threshold.
-        constexpr double tolerance = 1e-6;
-        M_SquareRoot(weights, n, root.reference());
-        short status = 0;
-        root->inverse1(inverse, status, tolerance);
-    }
 };
+
+Metric metricOf(matrix* weights, int n)
+{
+    // The size of the tolerance does not matter: any one above 0 selects the same pivot threshold.
+    constexpr double tolerance = 1e-6;
+    Metric metric{fresh(n, n), fresh(n, n)};
+    M_SquareRoot(weights, n, metric.root.reference());
+    short status = 0;
+    metric.root->inverse1(metric.inverse, status, tolerance);
+    return metric;
+}
+
+TableHandle identity(int n)
+{
+    TableHandle table = fresh(n, n);
+    for (int i = 1; i <= n; ++i)
+        table->vbset(i, i, 1.0);
+    return table;
+}
+
+/// What `metricOf` makes of the identity, without its eigenvalues: these catch a failed allocation, and from a root of
+/// zeros the iteration would never find to an end.
+Metric identityMetric(int n)
+{
+    return {identity(n), identity(n)};
+}
 
 void projectOnCone(matrix* a, int n, const Metric& metric, matrix* out)
 {
@@ -84,13 +101,11 @@ void projectOnCone(matrix* a, int n, const Metric& metric, matrix* out)
 template <class Storage>
 int iterate(Storage a, int n)
 {
+    // The projections meet in the end, but for cells so large that rounding keeps them apart.
     constexpr int passLimit = 100000;
     if (a.countMissing(n) > 0)
         return -1;
-    TableHandle identity = fresh(n, n);
-    for (int i = 1; i <= n; ++i)
-        identity->vbset(i, i, 1.0);
-    const Metric metric(identity, n);
+    const Metric metric = identityMetric(n);
     TableHandle correction = fresh(n, n);
     TableHandle residual = fresh(n, n);
     TableHandle projected = fresh(n, n);
@@ -143,7 +158,7 @@ int M_CorrMatFromSymMatSPV_T(matrix** a, int n)
 
 void M_SProject(matrix* a, int n, matrix* w, matrix* out)
 {
-    projectOnCone(a, n, Metric(w, n), out);
+    projectOnCone(a, n, metricOf(w, n), out);
 }
 
 void M_UProject(matrix* a, int n, matrix* out)

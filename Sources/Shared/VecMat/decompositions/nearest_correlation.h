@@ -14,19 +14,23 @@ extern "C" {
 /// diagonal and is within the tolerance of the semi-definite tables, not exactly one of them.
 ///
 /// Returns 0, or -1 with `a` unchanged where a cell is missing (equality test). The triangular form holds column k from
-/// its diagonal cell down. Scratch: six tables of n by n beyond what the eigenvalues take.
+/// its diagonal cell down. Scratch: eight tables of n by n. The eigenvalues catch a failed allocation and
+/// the pass goes on with what they left, 0.0 throughout if it struck early; any other one passes out, with `a` as the
+/// passes so far left it.
 VECMAT_API int M_CorrMatFromSymMat(matrix* a, int n);
 VECMAT_API int M_CorrMatFromSymMatSPV(matrix** a, int n);
 VECMAT_API int M_CorrMatFromSymMatSPV_T(matrix** a, int n);
 
-/// Flat forms: the caller's arrays are worked on in place.
+/// Flat forms: the caller's arrays are worked on in place; a triangular one has column k of n - k cells.
 VECMAT_API int Cpp_M_CorrMatFromSymMat(double* a, int n);
 VECMAT_API int Cpp_M_CorrMatFromSymMatSPV(SAFEARRAY** a, int n);
 VECMAT_API int Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n);
 
-/// The semi-definite table nearest to `a` in the metric of the positive definite table `w`, both of order `n`, into the
-/// existing table `out`: eigenvalues below 0 of S a S become 0.0, S being a root of w. Failures on the way are not
-/// looked at.
+/// Projects `a` on the positive semi-definite tables in the metric of the positive definite table `w`, both of order
+/// `n`, into the existing table `out`: the eigenvalues below 0 of S a S become 0.0, and the inverse of S goes on both
+/// sides again. S is what `M_SquareRoot` makes of w: the diagonal roots of its eigenvalues times its eigenvectors
+/// transposed; for the identity the identity. Failures on the way are not looked at: what a failed step left is computed
+/// on with, 0.0 throughout where it left nothing. No missing test but that of the eigenvalues.
 VECMAT_API void M_SProject(matrix* a, int n, matrix* w, matrix* out);
 
 /// `a` with 1.0 on the diagonal, into the existing `out`: a table, an array of columns, a triangle of columns.

@@ -1,0 +1,52 @@
+// What becomes of exhausted memory in the nearest correlation matrix.
+#include "decompositions/nearest_correlation.h"
+
+#include "support/failing_new.h"
+#include "support/safearrays.h"
+#include "support/tables.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace vecmat::test {
+namespace {
+
+const std::vector<double>& cells()
+{
+    static const std::vector<double> pairwise = {1, 1, 0, 1, 1, 1, 0, 1, 1};
+    return pairwise;
+}
+
+TEST(NearestCorrelationMemory, NothingIsLeftBehindWhicheverAllocationFails)
+{
+    // The eigenvalues catch what befalls them, and the iteration goes on; the tables around them do not.
+    const Owned<matrix> a = table(3, 3, cells());
+    EXPECT_GE(forEachFailingAllocation([&] { M_CorrMatFromSymMat(a, 3); }, Failure::mayBeCaught), 20);
+    TableColumns columns(3, 3, cells());
+    EXPECT_GE(forEachFailingAllocation([&] { M_CorrMatFromSymMatSPV(columns, 3); }, Failure::mayBeCaught), 20);
+    TableColumns lower = triangle(3, cells());
+    EXPECT_GE(forEachFailingAllocation([&] { M_CorrMatFromSymMatSPV_T(lower, 3); }, Failure::mayBeCaught), 20);
+}
+
+TEST(NearestCorrelationMemory, TheFlatFormsReleaseTheirTables)
+{
+    std::vector<double> flat = cells();
+    EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_CorrMatFromSymMat(flat.data(), 3); }, Failure::mayBeCaught), 20);
+    ArrayOfColumns columns = numberColumns(3, 3, cells());
+    EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_CorrMatFromSymMatSPV(columns, 3); }, Failure::mayBeCaught), 20);
+    ArrayOfColumns lower = numberTriangle(3, cells());
+    EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_CorrMatFromSymMatSPV_T(lower, 3); }, Failure::mayBeCaught), 20);
+    EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_RowSumNorm(flat.data(), 3, 3); }), 1);
+}
+
+TEST(NearestCorrelationMemory, TheProjectionsReleaseTheirTables)
+{
+    const Owned<matrix> a = table(3, 3, cells());
+    const Owned<matrix> w = byRows({{2, 0, 0}, {0, 2, 0}, {0, 0, 2}});
+    const Owned<matrix> out = filled(3, 3, 0.0);
+    EXPECT_GE(forEachFailingAllocation([&] { M_SProject(a, 3, w, out); }, Failure::mayBeCaught), 20);
+}
+
+} // namespace
+} // namespace vecmat::test
