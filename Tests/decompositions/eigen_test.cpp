@@ -267,6 +267,27 @@ TEST(Eigen, GivesUpOnCellsThatAreNoNumbers)
     EXPECT_THAT(diagonal.values, SameBits({notANumber, 1}));
 }
 
+TEST(Eigen, SortsVectorsWithTheirValuesWhereSomeAreNoNumbers)
+{
+    const std::vector<double> diagonal = {notANumber, 1, notANumber, 3, -inf, 2, inf};
+    const auto n = diagonal.size();
+    std::vector<double> cells(n * n, 0.0);
+    for (std::size_t i = 0; i < n; ++i)
+        cells[i + n * i] = diagonal[i];
+    const Decomposition sorted = decomposed(static_cast<int>(n), cells, -1);
+    EXPECT_EQ(sorted.status, 0);
+    std::vector<bool> seen(n, false);
+    for (std::size_t j = 0; j < n; ++j) {
+        const auto column = sorted.vectors.begin() + static_cast<std::ptrdiff_t>(n * j);
+        const auto place =
+            static_cast<std::size_t>(std::find(column, column + static_cast<std::ptrdiff_t>(n), 1.0) - column);
+        ASSERT_LT(place, n);
+        EXPECT_FALSE(seen[place]);
+        seen[place] = true;
+        EXPECT_THAT(sorted.values[j], SameBits(diagonal[place]));
+    }
+}
+
 TEST(Eigen, WorksOnTheCornersOfLargerTables)
 {
     RandomData data(8105);
