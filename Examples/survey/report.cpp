@@ -1,7 +1,12 @@
 #include "report.h"
 
-#include "input_error.h"
+#include "categories.h"
+#include "completion.h"
+#include "correlations.h"
+#include "group_means.h"
+#include "missing_cells.h"
 #include "number_format.h"
+#include "page.h"
 #include "statistics.h"
 #include "text_table.h"
 
@@ -15,23 +20,6 @@
 namespace survey {
 
 namespace {
-
-constexpr std::size_t lineWidth = 100;
-
-void printTitle(std::ostream& out, const std::string& title)
-{
-    out << title << "\n\n";
-}
-
-void printNote(std::ostream& out, const std::string& note)
-{
-    out << wrapped(words(note), lineWidth, 0) << "\n\n\n";
-}
-
-std::string counted(std::size_t count, const std::string& thing)
-{
-    return std::to_string(count) + ' ' + thing + (count == 1 ? "" : "s");
-}
 
 std::string groupingHeading(const Subject& subject)
 {
@@ -60,21 +48,6 @@ void printByGroup(std::ostream& out, const Subject& subject, const std::vector<T
     text.print(out, lineWidth);
 }
 
-/// A name as it stands in a list.
-std::string listed(const std::string& name)
-{
-    return name.find(',') == std::string::npos ? onOneLine(name) : quoted(name);
-}
-
-void printList(std::ostream& out, const std::string& label, std::vector<std::string> items)
-{
-    if (items.empty())
-        return;
-    for (std::size_t i = 0; i + 1 < items.size(); ++i)
-        items[i] += ',';
-    out << label << wrapped(items, lineWidth, widthOf(label)) << '\n';
-}
-
 std::vector<std::string> namesOf(const std::vector<const Column*>& columns)
 {
     std::vector<std::string> names;
@@ -86,8 +59,7 @@ std::vector<std::string> namesOf(const std::vector<const Column*>& columns)
 
 std::vector<std::string> namesAndSizesOf(std::span<const Group> groups)
 {
-    constexpr std::size_t most = 50;
-    if (groups.size() > most)
+    if (groups.size() > mostListed)
         return {std::to_string(groups.size()) + " groups"};
     std::vector<std::string> names;
     for (const Group& group : groups)
@@ -97,21 +69,20 @@ std::vector<std::string> namesAndSizesOf(std::span<const Group> groups)
 
 } // namespace
 
-Subject subjectOf(const Table& table, const Column* grouping)
-{
-    Subject subject{table, grouping, {}};
-    if (grouping != nullptr)
-        subject.groups = groupsBy(*grouping);
-    subject.groups.push_back(allRows(table));
-    return subject;
-}
-
 void printSurvey(std::ostream& out, const Subject& subject)
 {
+    const Table& table = subject.table;
+    const MissingCells missing = missingCellsOf(table);
+    const Completion completion = completed(table, missing);
     printOverview(out, subject);
+    printMissingCells(out, table, missing);
     printMoments(out, subject);
     printQuartiles(out, subject);
     printThirteenQuantiles(out, subject);
+    printCategories(out, table);
+    printGroupMeans(out, table);
+    printCorrelations(out, table);
+    printCompletion(out, table, completion);
 }
 
 void printOverview(std::ostream& out, const Subject& subject)

@@ -185,8 +185,10 @@ Table tableOf(const std::vector<CsvRecord>& records, const std::string& file,
     for (std::size_t j = 0; j < table.columns.size(); ++j) {
         Column& column = table.columns[j];
         for (const CsvRecord& row : rows)
-            column.texts.push_back(row[j].text);
-        column.kind = column.name == grouping ? Kind::text : kindOf(column.texts);
+            column.texts.push_back(isEmpty(row[j].text) ? "" : row[j].text);
+        column.kind = kindOf(column.texts);
+        if (column.name == grouping && column.kind == Kind::numeric)
+            column.kind = Kind::text;
         if (column.kind == Kind::numeric)
             fillNumbers(column, static_cast<int>(j) + 1, rows, file);
     }

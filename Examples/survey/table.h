@@ -19,7 +19,7 @@ struct Column
 {
     std::string name;
     Kind kind = Kind::empty;
-    std::vector<std::string> texts; ///< the cells as they stand in the file, one for each row
+    std::vector<std::string> texts; ///< the cells as they stand in the file, one for each row; "" for one of blanks
     std::vector<double> numbers;    ///< of a numeric column: the same cells, the missing value for an empty one
     int decimals = 0;               ///< of a numeric column: digits behind the point, in the cell that has most
 };
@@ -35,8 +35,8 @@ struct Table
     const Column* named(const std::string& name) const; ///< null if there is none
 };
 
-/// Reads a table from a CSV file whose first record names the columns. `grouping` names a column that is text whatever
-/// it holds. An InputError tells about a file that can't be read, has no row, no numeric column or no column of the
+/// Reads a table from a CSV file whose first record names the columns. `grouping` names a column that is text
+/// also where it holds numbers. An InputError tells about a file that can't be read, has no row, no numeric column or no column of the
 /// name `grouping`, rows of another length than the heading, or a name twice, and about a column most of whose cells
 /// are numbers, but not all. Empty lines at the end are left out where there are several columns.
 Table readTable(const std::string& path, const std::optional<std::string>& grouping = std::nullopt);

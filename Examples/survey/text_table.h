@@ -44,6 +44,7 @@ public:
     void addRow(std::vector<std::string> cells); ///< one for each column
     void addGap();                               ///< an empty line, except ahead of the first row
 
+    bool empty() const { return rows_.empty(); }
     void print(std::ostream& out, std::size_t width) const;
 
 private:

@@ -18,10 +18,17 @@ shifted <- function(x, p) {
 thirteen <- c(0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.75, 0.8, 0.9, 0.95)
 
 digits <- function(values) paste(sprintf("%.17g", values), collapse = ", ")
+texts <- function(values) paste(sprintf('"%s"', values), collapse = ", ")
 
-cat("// Made by penguins_reference.R with R ", as.character(getRversion()), ". Per column and group: cells, missing\n",
-    "// cells; min, max, mean, sd, G1, G2; quantile(type = 7) at 0.25, 0.5, 0.75; the thirteen quantiles.\n", sep = "")
-for (column in c("bill_length_mm", "bill_depth_mm", "flipper_length_mm", "body_mass_g"))
+measurements <- c("bill_length_mm", "bill_depth_mm", "flipper_length_mm", "body_mass_g")
+qualities <- c("species", "island", "sex")
+
+cat("// Made by penguins_reference.R with R ", as.character(getRversion()), ".\n", sep = "")
+
+cat("\n// Per column and group: cells, missing cells; min, max, mean, sd, G1, G2; quantile(type = 7) at 0.25, 0.5, 0.75;\n",
+    "// the thirteen quantiles.\n",
+    "inline const GroupReference groupReferences[] = {\n", sep = "")
+for (column in measurements)
     for (species in c("Adelie", "Chinstrap", "Gentoo", "all")) {
         cells <- if (species == "all") penguins[[column]] else penguins[[column]][penguins$species == species]
         x <- cells[!is.na(cells)]
@@ -30,3 +37,66 @@ for (column in c("bill_length_mm", "bill_depth_mm", "flipper_length_mm", "body_m
             " {", digits(quantile(x, c(0.25, 0.5, 0.75), type = 7, names = FALSE)), "},\n",
             " {", digits(shifted(x, thirteen)), "}},\n", sep = "")
     }
+cat("};\n")
+
+# Missing cells. In the file a missing text is an empty cell.
+gaps <- cbind(is.na(penguins[measurements]), penguins[qualities] == "")[, names(penguins)]
+cat("\n// Missing cells: of each column, and the rows (from 1) that have any, with their number.\n",
+    "inline const std::vector<int> missingByColumn = {", paste(colSums(gaps), collapse = ", "), "};\n",
+    "inline const std::map<int, int> missingByRow = {",
+    paste(sprintf("{%d, %d}", which(rowSums(gaps) > 0), rowSums(gaps)[rowSums(gaps) > 0]), collapse = ", "), "};\n",
+    sep = "")
+
+cat("\n// Per text column and category, in the order of appearance: rows, and the means of the four measurements.\n",
+    "inline const CategoryReference categoryReferences[] = {\n", sep = "")
+for (column in qualities) {
+    categories <- unique(penguins[[column]])
+    for (category in c(categories[categories != ""], if ("" %in% categories) "")) {
+        rows <- penguins[penguins[[column]] == category, ]
+        cat(sprintf('{"%s", "%s", %d,\n', column, category, nrow(rows)),
+            " {", digits(colMeans(rows[measurements], na.rm = TRUE)), "}},\n", sep = "")
+    }
+}
+cat("};\n")
+
+r <- cor(penguins[measurements], use = "pairwise")
+cat("\n// cor(use = \"pairwise\"), row by row.\n",
+    "inline const double correlationReferences[4][4] = {\n", sep = "")
+for (j in 1:4) cat("{", digits(r[j, ]), "},\n", sep = "")
+cat("};\n")
+
+# Completion by nearest neighbours: complete rows are the candidates, and column j of its block never takes from row j.
+# A candidate wins only from the first row on in which anything was compared: a text that is the same is not.
+completed <- penguins
+candidates <- which(rowSums(gaps) == 0)
+variances <- sapply(penguins[measurements], var, na.rm = TRUE)
+compared <- FALSE
+nearest <- function(target, passedOver) {
+    best <- NA
+    least <- Inf
+    for (c in setdiff(candidates, passedOver)) {
+        x <- unlist(completed[target, measurements])
+        terms <- ((x - unlist(completed[c, measurements]))^2 / variances)[!is.na(x)]
+        s <- unlist(completed[target, qualities])
+        differing <- sum(s != "" & s != unlist(completed[c, qualities]))
+        compared <<- compared || length(terms) > 0 || differing > 0
+        distance <- sum(terms) + differing
+        if (compared && distance < least) {
+            best <- c
+            least <- distance
+        }
+    }
+    best
+}
+cat("\n// Cells filled from the nearest neighbour: row and column (from 1), and what it holds.\n",
+    "inline const FilledReference filledReferences[] = {\n", sep = "")
+for (t in which(rowSums(gaps) > 0)) {
+    for (block in list(measurements, qualities))
+        for (j in seq_along(block))
+            if (gaps[t, block[j]])
+                completed[t, block[j]] <- completed[nearest(t, j), block[j]]
+    for (column in names(penguins))
+        if (gaps[t, column])
+            cat(sprintf('{%d, %d, "%s"},\n', t, match(column, names(penguins)), completed[t, column]))
+}
+cat("};\n")

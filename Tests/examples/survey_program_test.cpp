@@ -83,6 +83,12 @@ TEST_F(SurveyProgram, PrintsThePenguinsBySpecies)
             "                   all          342        2     32.1     59.6    43.92     5.46     0.053    -0.876\n"));
     EXPECT_THAT(output, HasSubstr("body_mass_g        Adelie            3350.0   3700.0          4000.0\n"));
     EXPECT_THAT(output, HasSubstr("                   95 %    43.00      53.26    52.19    51.99\n"));
+    EXPECT_THAT(output, HasSubstr("               5     2  4, 340\n"));
+    EXPECT_THAT(output, HasSubstr("         Chinstrap    68  19.8 %\n"));
+    EXPECT_THAT(output,
+                HasSubstr("species  Adelie              38.79          18.35              190.0       3700.7\n"));
+    EXPECT_THAT(output, HasSubstr("bill_depth_mm              -0.235          1.000            342          342\n"));
+    EXPECT_THAT(output, HasSubstr("340  bill_length_mm     46.1\n"));
 }
 
 TEST_F(SurveyProgram, WithoutGroupingColumnTakesAllRows)
@@ -94,6 +100,17 @@ TEST_F(SurveyProgram, WithoutGroupingColumnTakesAllRows)
     EXPECT_THAT(output, StartsWith("a.csv: 3 rows, 1 column\n"));
     EXPECT_THAT(output,
                 HasSubstr("x       all       2        1        1        2   1.5      0.7         -         -\n"));
+}
+
+TEST_F(SurveyProgram, OfASingleCellLeavesOutWhatCannotBeTold)
+{
+    write("a.csv", "x\n1\n");
+    run("a.csv");
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(errors, "");
+    EXPECT_THAT(output, HasSubstr("\nMissing cells\n\nNone.\n"));
+    for (const char* title : {"Categories", "Means by category", "Correlations", "Missing cells filled"})
+        EXPECT_EQ(output.find(title), std::string::npos) << title;
 }
 
 TEST_F(SurveyProgram, ListsTheColumnsByKindAndTheGroups)

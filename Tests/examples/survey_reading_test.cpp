@@ -199,7 +199,17 @@ TEST(SurveyTable, UnknownGroupingColumnIsAnErrorThatTellsTheNames)
     EXPECT_EQ(errorOf("a,b\n1,2\n", "c"), "f.csv, line 1, columns 1 to 2: none is named 'c'; the names are a, b");
 }
 
-TEST(SurveyTable, GroupingColumnIsTextWhateverItHolds)
+TEST(SurveyTable, EmptyGroupingColumnStaysEmpty)
+{
+    EXPECT_EQ(table("g,x\n,1\n ,2\n", "g").named("g")->kind, Kind::empty);
+}
+
+TEST(SurveyTable, CellOfBlanksHasNoText)
+{
+    EXPECT_THAT(table("t,x\na b,1\n \t,2\n b ,3\n").named("t")->texts, ElementsAre("a b", "", " b "));
+}
+
+TEST(SurveyTable, GroupingColumnIsTextEvenIfItHoldsNumbers)
 {
     EXPECT_EQ(table("year,n\n2007,1\n2008,2\nlater,3\n", "year").named("year")->kind, Kind::text);
     EXPECT_EQ(table("year,n\n2007,1\n2008,2\n").named("year")->kind, Kind::numeric);

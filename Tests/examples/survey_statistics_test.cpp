@@ -1,55 +1,28 @@
 // The survey's numbers for the penguins, read by its own reader, against those of R.
 #include "groups.h"
-#include "report.h"
 #include "statistics.h"
+#include "subject.h"
 #include "table.h"
+
+#include "penguins_reference.h"
 
 #include "support/bits.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <span>
 #include <string>
 #include <vector>
 
 using namespace survey;
+using survey::test::expectClose;
+using survey::test::groupReferences;
+using survey::test::penguins;
 using vecmat::test::M;
 
 namespace {
 
-struct Reference
-{
-    std::string column;
-    std::string group;
-    int count;
-    int missing;
-    std::array<double, 6> moments;
-    std::array<double, 3> quartiles;
-    std::array<double, 13> quantiles;
-};
-
-const Reference references[] = {
-#include "penguins_reference.inc"
-};
-
-/// Within 1e-12 of R's number, relative to it where it is above 1.
-void expectClose(std::span<const double> actual, std::span<const double> expected, const std::string& what)
-{
-    ASSERT_EQ(actual.size(), expected.size());
-    for (std::size_t i = 0; i < actual.size(); ++i)
-        EXPECT_NEAR(actual[i], expected[i], 1e-12 * std::max(1.0, std::fabs(expected[i]))) << what << ", number " << i;
-}
-
-const Table& penguins()
-{
-    static const Table table = readTable(SURVEY_DATA "/penguins.csv", "species");
-    return table;
-}
-
-std::vector<double> cells(const Reference& reference)
+std::vector<double> cells(const test::GroupReference& reference)
 {
     const Subject subject = subjectOf(penguins(), penguins().named("species"));
     for (const Group& group : subject.groups)
@@ -80,7 +53,7 @@ TEST(SurveyOfPenguins, ReferenceHasEveryNumericColumnAndGroup)
         for (const Group& group : subjectOf(penguins(), penguins().named("species")).groups)
             expected.push_back(column->name + " " + group.name);
     std::vector<std::string> actual;
-    for (const Reference& reference : references)
+    for (const test::GroupReference& reference : groupReferences)
         actual.push_back(reference.column + " " + reference.group);
     EXPECT_EQ(actual, expected);
     EXPECT_EQ(actual.size(), 16U);
@@ -88,7 +61,7 @@ TEST(SurveyOfPenguins, ReferenceHasEveryNumericColumnAndGroup)
 
 TEST(SurveyOfPenguins, CountsAgreeWithR)
 {
-    for (const Reference& reference : references) {
+    for (const test::GroupReference& reference : groupReferences) {
         const Moments m = momentsOf(cells(reference));
         EXPECT_EQ(m.count, reference.count) << reference.column << ' ' << reference.group;
         EXPECT_EQ(m.missing, reference.missing) << reference.column << ' ' << reference.group;
@@ -97,19 +70,19 @@ TEST(SurveyOfPenguins, CountsAgreeWithR)
 
 TEST(SurveyOfPenguins, MomentsAgreeWithR)
 {
-    for (const Reference& reference : references)
+    for (const test::GroupReference& reference : groupReferences)
         expectClose(moments(cells(reference)), reference.moments, reference.column + ' ' + reference.group);
 }
 
 TEST(SurveyOfPenguins, QuartilesAgreeWithR)
 {
-    for (const Reference& reference : references)
+    for (const test::GroupReference& reference : groupReferences)
         expectClose(quartiles(cells(reference)), reference.quartiles, reference.column + ' ' + reference.group);
 }
 
 TEST(SurveyOfPenguins, ThirteenQuantilesAgreeWithR)
 {
-    for (const Reference& reference : references)
+    for (const test::GroupReference& reference : groupReferences)
         expectClose(thirteenQuantilesOf(cells(reference)), reference.quantiles,
                     reference.column + ' ' + reference.group);
 }

@@ -1,0 +1,67 @@
+#include "categories.h"
+
+#include "bstr_array.h"
+#include "flat_call.h"
+#include "number_format.h"
+#include "page.h"
+#include "text_table.h"
+
+#include <ostream>
+
+namespace survey {
+
+Categories categoriesOf(const Column& column)
+{
+    const int rows = static_cast<int>(column.texts.size());
+    BstrArray texts = textsOf({&column});
+    Categories result{{}, {}, VB_V_NbMissingStr(texts.data(), rows), std::vector<double>(column.texts.size())};
+    if (result.missing == rows) { // of a column without texts the library makes a category of what follows it
+        result.codes.assign(result.codes.size(), vecmat::missingValue);
+        return result;
+    }
+    BstrArray names(column.texts.size());
+    BstrArray mode(1);
+    std::vector<double> counts(column.texts.size());
+    std::vector<double> weights = unitWeights(rows);
+    double modeCount;
+    int total, count;
+    VB_M_InfoQuali(texts.data(), rows, 1, mode.data(), &modeCount, &total, &count, names.data(), counts.data(), 0,
+                   weights.data(), no);
+    for (int i = 0; i < count; ++i) {
+        result.names.push_back(names.text(static_cast<std::size_t>(i)));
+        result.counts.push_back(static_cast<int>(counts[static_cast<std::size_t>(i)]));
+    }
+    BstrArray known(result.names);
+    VB_M_ReplaceStrByCodes(texts.data(), rows, 1, &count, known.data(), noMask, 1, result.codes.data());
+    return result;
+}
+
+void printCategories(std::ostream& out, const Table& table)
+{
+    const std::vector<const Column*> columns = table.ofKind(Kind::text);
+    if (columns.empty())
+        return;
+    printTitle(out, "Categories");
+    TextTable text(
+        {{"column", Align::left}, {"category", Align::left}, {"rows", Align::right}, {"share", Align::right}}, 2);
+    for (const Column* column : columns) {
+        text.addGap();
+        const Categories categories = categoriesOf(*column);
+        std::string name = column->name; // told once, on the first line
+        const auto add = [&](const std::string& category, int count) {
+            text.addRow({name, category, std::to_string(count), withDecimals(100.0 * count / table.rows, 1) + " %"});
+            name.clear();
+        };
+        if (categories.names.size() > mostListed)
+            add(std::to_string(categories.names.size()) + " categories", table.rows - categories.missing);
+        else
+            for (std::size_t i = 0; i < categories.names.size(); ++i)
+                add(categories.names[i], categories.counts[i]);
+        if (categories.missing > 0)
+            add(noCategory, categories.missing);
+    }
+    text.print(out, lineWidth);
+    printNote(out, "In the order in which the categories first appear.");
+}
+
+} // namespace survey

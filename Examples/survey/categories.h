@@ -1,0 +1,28 @@
+// Section: the categories of the text columns, with their counts.
+#pragma once
+
+#include "table.h"
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace survey {
+
+/// What a text column holds, in the order of first appearance.
+struct Categories
+{
+    std::vector<std::string> names;
+    std::vector<int> counts;
+    int missing;               ///< rows without a text
+    std::vector<double> codes; ///< of the rows: places in `names`, from 1, and the missing value
+};
+
+Categories categoriesOf(const Column& column);
+
+/// What stands for the rows without a text.
+inline constexpr const char* noCategory = "(none)";
+
+void printCategories(std::ostream& out, const Table& table);
+
+} // namespace survey

@@ -1,0 +1,23 @@
+// Section: the correlation of each two numeric columns.
+#pragma once
+
+#include "table.h"
+
+#include <iosfwd>
+
+namespace survey {
+
+/// Pearson's, over the rows in which neither of two cells is missing: the missing value where one of the columns doesn't
+/// vary in them.
+struct Correlation
+{
+    double coefficient;
+    int count; ///< of those rows
+};
+
+Correlation correlationOf(const Column& x, const Column& y);
+
+/// Nothing where there is only one numeric column.
+void printCorrelations(std::ostream& out, const Table& table);
+
+} // namespace survey

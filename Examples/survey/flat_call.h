@@ -1,0 +1,50 @@
+// What the arguments of the library's flat forms look like.
+#pragma once
+
+#include "table.h"
+
+#include "VecMat.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace survey {
+
+// Booleans are -1 and 0; an array that isn't needed is null.
+inline constexpr short yes = -1;
+inline constexpr short no = 0;
+inline short* const noMask = nullptr;
+inline double* const noWeights = nullptr;
+
+/// A table of numbers, column after column.
+struct FlatTable
+{
+    int rows = 0;
+    int columns = 0;
+    std::vector<double> cells;
+
+    FlatTable(int rowCount, int columnCount)
+        : rows(rowCount), columns(columnCount),
+          cells(static_cast<std::size_t>(rowCount) * static_cast<std::size_t>(columnCount))
+    {
+    }
+
+    double* data() { return cells.data(); }
+    /// Both from 0.
+    double& at(int row, int column) { return cells[place(row, column)]; }
+    double at(int row, int column) const { return cells[place(row, column)]; }
+
+private:
+    std::size_t place(int row, int column) const
+    {
+        return static_cast<std::size_t>(column) * static_cast<std::size_t>(rows) + static_cast<std::size_t>(row);
+    }
+};
+
+/// The numbers of some columns that have as many rows.
+FlatTable numbersOf(const std::vector<const Column*>& columns, int rows);
+
+/// The weights of rows that all count alike.
+std::vector<double> unitWeights(int rows);
+
+} // namespace survey

@@ -1,0 +1,17 @@
+// Section: means of the numeric columns in each category of the text columns.
+#pragma once
+
+#include "categories.h"
+#include "flat_call.h"
+
+#include <iosfwd>
+
+namespace survey {
+
+/// The mean of each column in each category, one row for each, and behind them one for the rows without a category, if
+/// there are any. Missing cells are left out; a mean of none is the missing value.
+FlatTable meansByCategory(const FlatTable& numbers, const Categories& categories);
+
+void printGroupMeans(std::ostream& out, const Table& table);
+
+} // namespace survey
