@@ -252,6 +252,16 @@ TEST(GroupBy, NoRows)
     }
 }
 
+TEST(GroupBy, NoArraysWhereThereAreNoRows)
+{
+    int count = -7;
+    VB_M_GroupBy(nullptr, 0, 2, nullptr, 1, 0, &count, nullptr);
+    EXPECT_EQ(count, 0);
+    count = -7;
+    VB_M_GroupByW(nullptr, 0, 2, nullptr, 1, 0, &count, nullptr, nullptr);
+    EXPECT_EQ(count, 0);
+}
+
 TEST(GroupBy, OnlyTheKeyColumn)
 {
     const Groups groups = grouped(column({2, 1, 2}), 1, 0);
