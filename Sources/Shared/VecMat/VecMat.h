@@ -88,6 +88,7 @@
 #include "qualitative/categories.h"
 #include "qualitative/column_moments.h"
 #include "qualitative/disjunctive_tables.h"
+#include "qualitative/distinct.h"
 #include "qualitative/frequencies.h"
 #include "qualitative/group_by.h"
 #include "qualitative/indicators.h"

@@ -1,0 +1,48 @@
+// Repeated rows, and the distinct values of a vector.
+//
+// Equality is the plain one: 0.0 equals -0.0, a missing cell another, a NaN nothing. Among numbers the missing value is
+// the smallest; an empty string is a value like any other. A vector is a table in linear order. The input is not
+// written.
+#pragma once
+
+#include "../Smatrix.h"
+#include "../frame/api.h"
+#include "../matrix.h"
+#include "../matrixInt.h"
+
+extern "C" {
+
+/// Separates the rows that repeat another from the first of their kind. `data` has nCols key columns and an identifier
+/// in column nCols + 1; `out`, nRows by nCols + 3, must exist and is filled with
+///     columns 1 to nCols   the keys
+///     nCols + 1            the number of input rows with these keys, 0 in a repeated row
+///     nCols + 2            the identifier
+///     nCols + 3            1 in a kept row, 0 in a repeated one
+/// First come the `*nKept` kept rows, by ascending identifier, then the repeated ones likewise; where identifiers are
+/// equal, by ascending keys from the first column on, then in the order of the input. Of equal rows the first of the
+/// input is kept. Without rows none is.
+VECMAT_API void M_Dedupe(matrix* data, int nRows, int nCols, int* nKept, matrix*& out);
+
+/// The values in ascending order, without those that lie above the one before by no more than the tolerance: the
+/// smaller of 2.220446049250313e-16 and the range of the values. So the last of a chain of close values may be far from
+/// the one that stands for it. `distinct` has room for n cells; those beyond `*count` are left as they are. Nothing
+/// counts 1, a value of -1.0.
+VECMAT_API void V_ExtractDistinct(matrix* x, int n, matrix* distinct, int* count);
+
+} // extern "C"
+
+/// The number of distinct values, without a tolerance, so that it can be higher than the count above; 1 for n below 2.
+VECMAT_API int V_NbDistinct(matrix* x, int n);
+VECMAT_API int V_NbDistinct(matrixInt* x, int n);
+VECMAT_API int V_NbDistinct(Smatrix* x, int n);
+
+extern "C" {
+
+// Flat forms: the functions of the same names; `distinct` has n elements.
+VECMAT_API void VB_M_Dedupe(double* data, int nRows, int nCols, int* nKept, double* out);
+VECMAT_API void VB_V_ExtractDistinct(double* x, int n, double* distinct, int* count);
+VECMAT_API int VB_V_NbDistinct(double* x, int n);
+VECMAT_API int VB_V_NbDistinctLng(int* x, int n);
+VECMAT_API int Cpp_V_NbDistinctStr(wchar_t** x, int n);
+
+} // extern "C"

@@ -1,0 +1,32 @@
+#include "distinct.h"
+
+#include "../frame/handles.h"
+
+using vecmat::copied;
+using vecmat::viewed;
+
+void VB_M_Dedupe(double* data, int nRows, int nCols, int* nKept, double* out)
+{
+    auto rows = viewed(out, nRows, nCols + 3);
+    M_Dedupe(viewed(data, nRows, nCols + 1), nRows, nCols, nKept, rows.reference());
+}
+
+void VB_V_ExtractDistinct(double* x, int n, double* distinct, int* count)
+{
+    V_ExtractDistinct(viewed(x, n, 1), n, viewed(distinct, n, 1), count);
+}
+
+int VB_V_NbDistinct(double* x, int n)
+{
+    return V_NbDistinct(viewed(x, n, 1), n);
+}
+
+int VB_V_NbDistinctLng(int* x, int n)
+{
+    return V_NbDistinct(viewed(x, n, 1), n);
+}
+
+int Cpp_V_NbDistinctStr(wchar_t** x, int n)
+{
+    return V_NbDistinct(copied(x, n, 1), n);
+}
