@@ -92,6 +92,7 @@
 #include "qualitative/frequencies.h"
 #include "qualitative/group_by.h"
 #include "qualitative/indicators.h"
+#include "qualitative/labels.h"
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
 #include "randomisation/comparisons.h"
