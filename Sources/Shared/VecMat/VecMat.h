@@ -69,6 +69,7 @@
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
 #include "fitting/newton_raphson.h"
+#include "fitting/nipals.h"
 #include "fitting/tolerance_check.h"
 #include "frame/missing_value.h"
 #include "frame/services.h"

@@ -1,0 +1,45 @@
+// Missing cells filled from principal components: nonlinear iterative partial least squares (Wold, H. (1966),
+// Estimation of principal components and related models by iterative least squares, in Krishnaiah, P. R. (ed.),
+// Multivariate Analysis, Academic Press, 391-420).
+#pragma once
+
+#include "../frame/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// Extracts `components` principal components of X (n by p) past its missing cells, each as regressions of the columns
+/// on the scores and of the rows on the loadings by turns, and replaces each missing cell by what they rebuild. The
+/// other cells stay; scores and loadings are not handed out. "Missing" is the equality test.
+///
+///     0    done; or no cell was missing, and no component is extracted
+///     1    a column is constant, its standard deviation with the divisor W - 1 being at most 1e-6 (W: the sum of the
+///          weights of its present cells), or a column meets scores whose sum of squares, over the rows where both are
+///          present, is below 1e-6. More components than the table carries end so: what is left of it has no length
+///     -6   a column has more than n `maxColumnShare` missing cells, or the table more than n `maxTotalShare` p
+///
+/// X is written only where 0 is returned. Columns are examined in order, before the shares: a constant column gives 1
+/// also in a complete table and in one with too many missing cells. A spread that is not a number, as that of a column
+/// without any cell, is not constant.
+///
+/// `w` (n by 1) multiplies the cells before the mean is taken off: the components are those of w x - m, m being the
+/// weighted mean of the column; the columns are not divided by their standard deviations. A missing cell becomes
+/// (rebuilt + m) / w, and 0.0 in a row of weight exactly 0, which takes part with -m in all its other cells. A row
+/// without a present cell has no scores and gets m / w, as does every missing cell for `components` below 1.
+///
+/// The scores start from the first column of what is left of the table; rows where that cell is missing do not enter
+/// the first loadings. Loadings are scaled to length 1. From the second pass on a component is settled when the
+/// variance, with the divisor p - 1, of the change in its loadings is not above `tol`: 1e-6 is usual. With one column
+/// that variance is not a number, and the second pass is the last. A component that does not settle, as with a negative
+/// `tol` or one below what the arithmetic can reach, is taken as it stands after 100000 passes.
+///
+/// The dimensions drive the loops; the table's own row count is its stride. A read outside a table yields -1.0, which
+/// takes part. Without rows or columns nothing is done and 0 is returned.
+VECMAT_API int NIPALS(int n, int p, matrix* X, matrix* w, double tol, int components, double maxColumnShare,
+                      double maxTotalShare);
+
+/// Flat form: `X` n by p, filled in place; `w` n elements.
+VECMAT_API int Cpp_NIPALS(int n, int p, double* X, double* w, double tol, int components, double maxColumnShare,
+                          double maxTotalShare);
+
+} // extern "C"
