@@ -29,6 +29,20 @@ TEST(NearestCorrelationMemory, NothingIsLeftBehindWhicheverAllocationFails)
     EXPECT_GE(forEachFailingAllocation([&] { M_CorrMatFromSymMatSPV_T(lower, 3); }, Failure::mayBeCaught), 20);
 }
 
+TEST(NearestCorrelationMemory, ARatioThatIsNotANumberEndsTheIteration)
+{
+    // Of no cells both norms are 0. The limit of passes would come to many more allocations.
+    const Owned<matrix> a = table(3, 3, cells());
+    int status = 7;
+    EXPECT_EQ(runWithFailure([&] { status = M_CorrMatFromSymMat(a, 0); }, 200), Ending::ranThrough);
+    EXPECT_FALSE(allocationState().threw);
+    EXPECT_EQ(status, 0);
+    // One that does not settle does come to them.
+    const Owned<matrix> swinging = byRows({{1, 1e11}, {1e11, 1}});
+    runWithFailure([&] { M_CorrMatFromSymMat(swinging, 2); }, 200);
+    EXPECT_TRUE(allocationState().threw);
+}
+
 TEST(NearestCorrelationMemory, TheFlatFormsReleaseTheirTables)
 {
     std::vector<double> flat = cells();

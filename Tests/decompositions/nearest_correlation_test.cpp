@@ -229,7 +229,7 @@ TEST(CorrMatFromSymMat, RefusesAMissingCellAndLeavesTheTable)
         }
 }
 
-TEST(CorrMatFromSymMat, EndsWhereTheRatioIsNotANumber)
+TEST(CorrMatFromSymMat, EndsForCellsThatAreNoNumbersAndForNoCells)
 {
     for (const double x : {notANumber, inf}) {
         const Owned<matrix> a = byRows({{1, x}, {x, 1}});
