@@ -140,6 +140,20 @@ TEST(OLSBasic2Lg, HasAMissingCorrelationAcrossBlocksWithoutSpread)
     EXPECT_FALSE(std::isnan(fittedByBlocks(all, {1, 1, 0, 0, 0}).se[0]));
 }
 
+TEST(OLSBasic2Lg, HasNoNumbersForAConstantResponseAcrossBlocks)
+{
+    // One table, or one block with the response in it, has correlations of 0.0.
+    const Problem problem = Problem::of({x1, x2}, std::vector<double>(8, 5.0));
+    for (const Solution& fit : {fitted(problem), fittedByBlocks(problem, {0, 2, 0, 0, 0})}) {
+        EXPECT_THAT(fit.beta, SameBits({0.0, 0.0, 5.0}));
+        EXPECT_THAT(fit.se, SameBits({0.0, 0.0, 0.0}));
+    }
+    const Solution across = fittedByBlocks(problem, {1, 1, 0, 0, 0});
+    EXPECT_TRUE(std::isnan(across.beta[0]));
+    for (const double error : across.se)
+        EXPECT_TRUE(std::isnan(error));
+}
+
 TEST(OLSBasic2Lg, TakesTheVariancesOfAPairFromItsOwnRowsAcrossBlocks)
 {
     // Within a block the variance of the second column is that of all its rows.

@@ -13,9 +13,10 @@ extern "C" {
 /// Everything else is as told in `least_squares.h`, with m the sum of the widths, except where cells are missing or a
 /// column does not vary. Correlations within a block, the response being in the last, are those of
 /// `M_CovCorrVAndMeanStDevVar`: each variance over all rows of its column, and 0.0 without variance. Across blocks they
-/// are those of `M_CorrMatMat`: the variances of the pair's own rows, and the missing value without variance, so that
-/// a response that doesn't vary makes numbers without meaning of all slopes outside the last block. Through the origin
-/// a missing standard deviation is multiplied as the number it is.
+/// are those of `M_CorrMatMat`: the variances of the pair's own rows, and the missing value without variance. With
+/// columns outside the last block a response that doesn't vary therefore leaves no numbers for the standard errors, and
+/// may leave none for coefficients and fitted values. Through the origin a missing standard deviation is multiplied as
+/// the number it is.
 VECMAT_API void OLSBasic2Lg(int n, int p1, matrix* X1, int p2, matrix* X2, int p3, matrix* X3, int p4, matrix* X4,
                             int p5, matrix* X5, matrix* y, matrix* w, int degree, short noIntercept, double tol,
                             matrix*& beta, matrix*& se, matrix*& fitted);
