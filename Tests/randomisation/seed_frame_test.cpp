@@ -5,6 +5,9 @@
 #include "frame/companions.h"
 #include "matrix.h"
 #include "randomisation/permutations.h"
+#include "randomisation/sampling_with_repeats.h"
+#include "support/safearrays.h"
+#include "support/strings.h"
 
 #include <gtest/gtest.h>
 
@@ -74,6 +77,47 @@ TEST(SeedFrame, EveryPermutationReleasesWhatItMade)
     });
     EXPECT_GT(failures, 20);
     EXPECT_EQ(opened, closed);
+}
+
+// Texts are longer than what a string holds within itself, so that each copy asks for memory.
+const std::vector<std::wstring> longTexts = {L"a first text of some length", L"a second text of some length",
+                                             L"a third text of some length", L"a fourth text of some length"};
+
+TEST(SeedFrame, EverySampleReleasesWhatItMade)
+{
+    using namespace vecmat::test;
+    BstrArray population(longTexts);
+    BstrArray sample(4);
+    ArrayOfColumns populationColumns(std::vector<std::vector<std::wstring>>{longTexts});
+    ArrayOfColumns sampleColumns(std::vector<std::vector<std::wstring>>{longTexts});
+    double counts[] = {2, 0, 1, 1};
+    double ids[] = {0, 0, 0, 0};
+    int seed = 1;
+    int next = 0;
+    // Strings that have reached the caller are the caller's, also where the next one then fails.
+    struct Release
+    {
+        BstrArray& strings;
+        BstrArray& column;
+        ~Release()
+        {
+            allocationState().countdown = 0;
+            strings.takeTexts();
+            column.takeTexts();
+        }
+    };
+    const auto each = [&](const std::function<void()>& call) {
+        const int failures = forEachFailingAllocation([&] {
+            const Release release{sample, sampleColumns.stringArray(0)};
+            call();
+        });
+        EXPECT_GT(failures, 8);
+        EXPECT_EQ(opened, closed);
+    };
+    each([&] { VB_M_SamplingWithReplacement(population, 4, 1, 4, sample, ids, &seed, -1, &next); });
+    each([&] { VB_M_SamplingWithReplacementSPV(populationColumns, 4, 1, 4, sampleColumns, ids, &seed, -1, &next); });
+    each([&] { VB_M_SampleUserDefined(population, 4, 1, sample, counts, ids); });
+    each([&] { VB_M_SampleUserDefinedSPV(populationColumns, 4, 1, sampleColumns, counts, ids); });
 }
 
 } // namespace

@@ -101,6 +101,7 @@
 #include "randomisation/marginal_sums.h"
 #include "randomisation/permutations.h"
 #include "randomisation/ranges.h"
+#include "randomisation/sampling_with_repeats.h"
 #include "sorting/copy_block.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"

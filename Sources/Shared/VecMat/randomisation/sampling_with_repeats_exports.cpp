@@ -1,0 +1,49 @@
+#include "../elementary/vector_sums.h"
+#include "../frame/numbers.h"
+#include "sampling_frame.h"
+#include "sampling_with_repeats.h"
+
+using namespace vecmat;
+
+namespace {
+
+int sampleSize(matrix* counts, int N)
+{
+    return truncated(V_Sum2(counts, N));
+}
+
+} // namespace
+
+void VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed, short seedFlag,
+                                  int* seedOut)
+{
+    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix* population, Smatrix* sample, matrix* rows) {
+        M_SamplingWithReplacement(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
+    });
+}
+
+void VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
+                                     short seedFlag, int* seedOut)
+{
+    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix** population, Smatrix** sample, matrix* rows) {
+        M_SamplingWithReplacementSPV(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
+    });
+}
+
+void VB_M_SampleUserDefined(wchar_t** S, int N, int p, wchar_t** Z, double* freq, double* ids)
+{
+    const TableHandle counts = copiedOrEmpty(freq, N);
+    const int n = sampleSize(counts, N);
+    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix* population, Smatrix* sample, matrix* rows) {
+        M_SampleUserDefined(population, N, p, sample, counts, rows);
+    });
+}
+
+void VB_M_SampleUserDefinedSPV(SAFEARRAY** S, int N, int p, SAFEARRAY** Z, double* freq, double* ids)
+{
+    const TableHandle counts = copiedOrEmpty(freq, N);
+    const int n = sampleSize(counts, N);
+    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix** population, Smatrix** sample, matrix* rows) {
+        M_SampleUserDefinedSPV(population, N, p, sample, counts, rows);
+    });
+}
