@@ -6,6 +6,7 @@
 #include "matrix.h"
 #include "randomisation/permutations.h"
 #include "randomisation/sampling_with_repeats.h"
+#include "randomisation/stratified_sampling.h"
 #include "support/safearrays.h"
 #include "support/strings.h"
 
@@ -91,7 +92,11 @@ TEST(SeedFrame, EverySampleReleasesWhatItMade)
     ArrayOfColumns populationColumns(std::vector<std::vector<std::wstring>>{longTexts});
     ArrayOfColumns sampleColumns(std::vector<std::vector<std::wstring>>{longTexts});
     double counts[] = {2, 0, 1, 1};
+    double rowIds[] = {4, 3, 2, 1};
     double ids[] = {0, 0, 0, 0};
+    double strata[] = {2, 1, 2, 1};
+    double quota[] = {1, 3};
+    double sizes[] = {2, 2};
     int seed = 1;
     int next = 0;
     // Strings that have reached the caller are the caller's, also where the next one then fails.
@@ -118,6 +123,14 @@ TEST(SeedFrame, EverySampleReleasesWhatItMade)
     each([&] { VB_M_SamplingWithReplacementSPV(populationColumns, 4, 1, 4, sampleColumns, ids, &seed, -1, &next); });
     each([&] { VB_M_SampleUserDefined(population, 4, 1, sample, counts, ids); });
     each([&] { VB_M_SampleUserDefinedSPV(populationColumns, 4, 1, sampleColumns, counts, ids); });
+    each([&] {
+        Cpp_M_SamplingRandomStratifiedByStr(population, 4, 1, 4, sample, rowIds, ids, strata, quota, sizes, 2, &seed,
+                                            -1, &next);
+    });
+    each([&] {
+        VB_M_SamplingRandomStratifiedByStrSPV(populationColumns, 4, 1, 4, sampleColumns, rowIds, ids, strata, quota,
+                                              sizes, 2, &seed, -1, &next);
+    });
 }
 
 } // namespace

@@ -102,6 +102,7 @@
 #include "randomisation/permutations.h"
 #include "randomisation/ranges.h"
 #include "randomisation/sampling_with_repeats.h"
+#include "randomisation/stratified_sampling.h"
 #include "sorting/copy_block.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"

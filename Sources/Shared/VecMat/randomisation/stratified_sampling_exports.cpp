@@ -1,0 +1,30 @@
+#include "sampling_frame.h"
+#include "stratified_sampling.h"
+
+using namespace vecmat;
+
+void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar_t** Z, double* rowIds, double* outIds,
+                                         double* strata, double* quota, double* sizes, int nStrata, int* seed,
+                                         short seedFlag, int* seedOut)
+{
+    const TableHandle labels = copiedOrEmpty(rowIds, N);
+    sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix* population, Smatrix* sample, matrix* sampleLabels) {
+        M_SamplingRandomStratifiedByStr(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
+                                        copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata, seed,
+                                        seedFlag, seedOut);
+    });
+    handBack(labels, rowIds);
+}
+
+void VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* rowIds,
+                                           double* outIds, double* strata, double* quota, double* sizes, int nStrata,
+                                           int* seed, short seedFlag, int* seedOut)
+{
+    const TableHandle labels = copiedOrEmpty(rowIds, N);
+    sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix** population, Smatrix** sample, matrix* sampleLabels) {
+        M_SamplingRandomStratifiedByStrSPV(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
+                                           copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata, seed,
+                                           seedFlag, seedOut);
+    });
+    handBack(labels, rowIds);
+}
