@@ -45,7 +45,28 @@ endforeach()
 
 set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
 file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
+file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp)
+list(REMOVE_ITEM vecmat_sources ${vecmat_kernels})
 vecmat_shared_library(VecMat ${vecmat_sources})
+
+# The kernels are compiled once for each instruction set; which is used is decided at run time. Loops whose results
+# stand side by side become vector instructions: what the compiler needs to know for it is that nobody looks at errno
+# or at the floating-point exception flags.
+set(vecmat_kernel_options -fno-math-errno -fno-trapping-math $<$<NOT:$<CONFIG:Debug>>:-O3>)
+set(instruction_sets baseline avx2 avx512)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
+    set(avx2_options -mavx2)
+    set(avx512_options -mavx512f -mavx512dq -mavx512bw -mavx512vl -mprefer-vector-width=512)
+endif()
+foreach(set IN LISTS instruction_sets)
+    add_library(vecmat_kernels_${set} OBJECT ${vecmat_kernels})
+    target_compile_features(vecmat_kernels_${set} PRIVATE cxx_std_20)
+    target_compile_definitions(vecmat_kernels_${set} PRIVATE VECMAT_INSTRUCTION_SET=${set})
+    target_compile_options(vecmat_kernels_${set} PRIVATE ${vecmat_kernel_options} ${${set}_options})
+    target_link_libraries(vecmat_kernels_${set} PRIVATE vecmat_options)
+    target_sources(VecMat PRIVATE $<TARGET_OBJECTS:vecmat_kernels_${set}>)
+endforeach()
+
 target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)

@@ -3,9 +3,9 @@
 #include "../frame/cells.h"
 #include "../frame/numbers.h"
 #include "kernels/operands.h"
-#include "kernels/product.h"
 #include "kernels/result.h"
 #include "kernels/structured_product.h"
+#include "kernels/tiled_product.h"
 
 using namespace vecmat;
 

@@ -3,8 +3,8 @@
 #include "../frame/cells.h"
 #include "kernels/cellwise.h"
 #include "kernels/operands.h"
-#include "kernels/product.h"
 #include "kernels/result.h"
+#include "kernels/tiled_product.h"
 
 #include <functional>
 

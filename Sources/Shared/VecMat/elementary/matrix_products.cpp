@@ -2,9 +2,9 @@
 
 #include "../frame/cells.h"
 #include "kernels/operands.h"
-#include "kernels/product.h"
 #include "kernels/result.h"
 #include "kernels/structured_product.h"
+#include "kernels/tiled_product.h"
 
 using namespace vecmat;
 

@@ -5,7 +5,7 @@
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
 #include "kernels/operands.h"
-#include "kernels/product.h"
+#include "kernels/tiled_product.h"
 
 #include <cmath>
 

@@ -24,6 +24,13 @@ public:
     bool covers(int rows, int cols) const { return cells_.covers(cols, rows); }
     auto plain() const { return Transposed<decltype(cells_.plain())>(cells_.plain()); }
 
+    bool folds(int rows, int cols) const { return cells_.folds(cols, rows); }
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        cells_.visitStorage(cols, rows, visit);
+    }
+
 private:
     Cells cells_;
 };

@@ -7,6 +7,10 @@
 //     onBlocks([&](auto x, auto y) { ... x.get(i, j) ... y.set(i, j, v) ... }, block(cells(a), rows, cols),
 //     block(linear(v), n));
 //
+// What a loop may do in another order depends on where its cells lie. A plain accessor says it for a block at the top
+// left: `folds(rows, cols)`, whether two places of the block can be the same cell, and `visitStorage(rows, cols, visit)`,
+// which calls visit(first, last) for each stretch of memory that the block lies in.
+//
 // Numbers are 0-based. Accessors are small and are passed by value; they own nothing.
 #pragma once
 
@@ -95,6 +99,14 @@ public:
         column(j)[i] = std::forward<V>(value);
     }
 
+    bool folds(int rows, int cols) const { return cols > 1 && rows > stride_; }
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        if (rows > 0 && cols > 0)
+            visit(first_, column(cols - 1) + rows);
+    }
+
 private:
     Value* first_;
     std::ptrdiff_t stride_;
@@ -156,6 +168,13 @@ public:
         first_[i] = std::forward<V>(value);
     }
 
+    template <class Visit>
+    void visitStorage(int n, Visit visit) const
+    {
+        if (n > 0)
+            visit(first_, first_ + n);
+    }
+
 private:
     Value* first_;
 };
@@ -203,6 +222,15 @@ public:
     void set(int i, int j, V&& value) const
     {
         column(j)[i] = std::forward<V>(value);
+    }
+
+    bool folds(int /*rows*/, int /*cols*/) const { return false; }
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        if (rows > 0)
+            for (int j = 0; j < cols; ++j)
+                visit(column(j), column(j) + rows);
     }
 
 private:
@@ -264,6 +292,16 @@ public:
     void set(int i, int j, V&& value) const
     {
         (i < j ? columns_[i]->X[j - i] : columns_[j]->X[i - j]) = std::forward<V>(value);
+    }
+
+    bool folds(int rows, int cols) const { return rows > 1 && cols > 1; }
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        const int shorter = rows < cols ? rows : cols;
+        const int longer = rows < cols ? cols : rows;
+        for (int k = 0; k < shorter; ++k)
+            visit(columns_[k]->X, columns_[k]->X + (longer - k));
     }
 
 private:
@@ -363,13 +401,21 @@ Block<Checked> block(Checked vector, int n)
     return {vector, vector.covers(n)};
 }
 
+/// Runs `plainBody` on plain accessors where every block lies inside its tables, else `checkedBody` on the checked ones:
+/// for bodies that ask where the cells lie.
+template <class PlainBody, class CheckedBody, class... Checked>
+decltype(auto) onBlocksOrElse(PlainBody&& plainBody, CheckedBody&& checkedBody, Block<Checked>... blocks)
+{
+    if ((blocks.inside && ...))
+        return plainBody(blocks.checked.plain()...);
+    return checkedBody(blocks.checked...);
+}
+
 /// Runs `body` on plain accessors where every block lies inside its tables, else on the checked ones.
 template <class Body, class... Checked>
 decltype(auto) onBlocks(Body&& body, Block<Checked>... blocks)
 {
-    if ((blocks.inside && ...))
-        return body(blocks.checked.plain()...);
-    return body(blocks.checked...);
+    return onBlocksOrElse(body, body, blocks...);
 }
 
 } // namespace vecmat

@@ -1,7 +1,7 @@
 #include "missing_arithmetic.h"
 
-#include "../elementary/kernels/product.h"
 #include "../elementary/kernels/result.h"
+#include "../elementary/kernels/tiled_product.h"
 #include "../frame/cells.h"
 
 using vecmat::block;

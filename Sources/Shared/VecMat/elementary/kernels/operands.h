@@ -45,6 +45,14 @@ public:
     }
     auto plain() const { return Shifted<decltype(cells_.plain())>(cells_.plain(), row0_, col0_); }
 
+    bool folds(int rows, int cols) const { return cells_.folds(row0_ + rows, col0_ + cols); }
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        if (rows > 0 && cols > 0)
+            cells_.visitStorage(row0_ + rows, col0_ + cols, visit);
+    }
+
 private:
     static int moved(int i, int by) { return static_cast<int>(static_cast<unsigned>(i) + static_cast<unsigned>(by)); }
 
@@ -73,6 +81,12 @@ public:
     bool covers(int n) const { return cells_.covers(n, n); }
     auto plain() const { return Diagonal<decltype(cells_.plain())>(cells_.plain()); }
 
+    template <class Visit>
+    void visitStorage(int n, Visit visit) const
+    {
+        cells_.visitStorage(n, n, visit);
+    }
+
 private:
     Cells cells_;
 };
@@ -100,6 +114,13 @@ public:
         return TimesDiagonal<decltype(cells_.plain()), decltype(vector_.plain())>(cells_.plain(), vector_.plain());
     }
 
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        cells_.visitStorage(rows, cols, visit);
+        vector_.visitStorage(cols, visit);
+    }
+
 private:
     Cells cells_;
     Vector vector_;
@@ -124,6 +145,12 @@ public:
 
     bool covers(int rows, int) const { return vector_.covers(rows); }
     auto plain() const { return InEachColumn<decltype(vector_.plain())>(vector_.plain()); }
+
+    template <class Visit>
+    void visitStorage(int rows, int /*cols*/, Visit visit) const
+    {
+        vector_.visitStorage(rows, visit);
+    }
 
 private:
     Vector vector_;
@@ -152,6 +179,13 @@ public:
     explicit PlainPacked(const double* first) : first_(first) {}
 
     double get(int i, int j) const { return first_[packedPosition(i, j)]; }
+
+    template <class Visit>
+    void visitStorage(int rows, int cols, Visit visit) const
+    {
+        if (const int order = std::max(rows, cols); order > 0)
+            visit(first_, first_ + packedPosition(order - 1, order - 1) + 1);
+    }
 
 private:
     const double* first_;

@@ -1,4 +1,4 @@
-// The kernels behind all products: every result is one running sum, from +0.0, over the inner index from the first to
+// What every product is: each result is one running sum, from +0.0, over the inner index from the first to
 // the last, one rounded product added at a time. The results are worked on row by row; a result that is an operand too,
 // or whose rows run over into the next column, shows that order.
 #pragma once
@@ -50,35 +50,26 @@ double sumOfProducts(const Left& left, int i, const Right& right, int j, int inn
     return sum;
 }
 
-/// out = left right.
+/// out = left right, each result by itself.
 template <MissingFactor missing = MissingFactor::multiplied, class Left, class Right, class Out>
-void multiply(Left left, Right right, ProductShape shape, Out out)
+void multiplyCellByCell(const Left& left, const Right& right, ProductShape shape, const Out& out)
 {
-    onBlocks(
-        [shape](auto x, auto y, auto result) {
-            for (int i = 0; i < shape.rows; ++i)
-                for (int j = 0; j < shape.cols; ++j)
-                    storeNumber(result, i, j, sumOfProducts<missing>(x, i, y, j, shape.inner));
-        },
-        block(left, shape.rows, shape.inner), block(right, shape.inner, shape.cols),
-        block(out, shape.rows, shape.cols));
+    for (int i = 0; i < shape.rows; ++i)
+        for (int j = 0; j < shape.cols; ++j)
+            storeNumber(out, i, j, sumOfProducts<missing>(left, i, right, j, shape.inner));
 }
 
-/// out = left right of order n, a product that is symmetric but for rounding: the lower triangle is computed, and each
-/// of its cells is stored at its mirror place too.
+/// out = left right of order n, a product that is symmetric but for rounding, each result by itself: the lower triangle
+/// is computed, and each of its cells is stored at its mirror place too.
 template <class Left, class Right, class Out>
-void multiplySymmetric(Left left, Right right, int n, int inner, Out out)
+void multiplySymmetricCellByCell(const Left& left, const Right& right, int n, int inner, const Out& out)
 {
-    onBlocks(
-        [n, inner](auto x, auto y, auto result) {
-            for (int i = 0; i < n; ++i)
-                for (int j = 0; j <= i; ++j) {
-                    const double sum = sumOfProducts(x, i, y, j, inner);
-                    storeNumber(result, i, j, sum);
-                    storeNumber(result, j, i, sum);
-                }
-        },
-        block(left, n, inner), block(right, inner, n), block(out, n, n));
+    for (int i = 0; i < n; ++i)
+        for (int j = 0; j <= i; ++j) {
+            const double sum = sumOfProducts(left, i, right, j, inner);
+            storeNumber(out, i, j, sum);
+            storeNumber(out, j, i, sum);
+        }
 }
 
 /// The product of one row by one column.

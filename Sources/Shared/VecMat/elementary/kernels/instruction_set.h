@@ -1,0 +1,32 @@
+// Which of the machine's instruction sets the kernels use.
+//
+// A kernel is written once, in a source named <name>.kernel.cpp that holds nothing but loops over plain arrays. The
+// build compiles it once for each instruction set, in a namespace of that name, and the header of the kernel picks the
+// functions that fit the machine at the time of the call. Wider instructions work on more results side by side; the
+// order of operations inside one result is the same, and so are its bits.
+#pragma once
+
+namespace vecmat {
+
+/// In ascending order. The baseline is what every processor of the platform has. `avx512` asks for the foundation
+/// together with its double and quad word, byte and word, and vector length parts.
+enum class InstructionSet { baseline, avx2, avx512 };
+
+/// The widest set that the machine has, settled when the library is loaded. The environment variable
+/// VECMAT_INSTRUCTIONS, "baseline" or "avx2", keeps it lower: tests compare the sets on one machine with it.
+InstructionSet instructionSet();
+
+template <class Kernels>
+const Kernels& forThisMachine(const Kernels& baseline, const Kernels& avx2, const Kernels& avx512)
+{
+    switch (instructionSet()) {
+    case InstructionSet::avx512:
+        return avx512;
+    case InstructionSet::avx2:
+        return avx2;
+    default:
+        return baseline;
+    }
+}
+
+} // namespace vecmat

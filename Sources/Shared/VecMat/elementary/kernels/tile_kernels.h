@@ -1,0 +1,40 @@
+// Sums of products for a small tile of results: the kernel under all products.
+#pragma once
+
+#include "instruction_set.h"
+
+namespace vecmat {
+
+/// A tile has `rows` by `cols` results, column by column without gaps. The operands come packed: of the left one `rows`
+/// numbers for each k, of the right one `cols` numbers for each k. For k from 0 to inner - 1, and for each result by
+/// itself,
+///     add        tile(i, j) = tile(i, j) + left(i, k) * right(k, j)
+///     subtract   tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
+/// each product and each sum rounded.
+struct TileKernels
+{
+    static constexpr int mostRows = 24;
+    static constexpr int mostCols = 8;
+
+    int rows;
+    int cols;
+    void (*add)(int inner, const double* left, const double* right, double* tile);
+    void (*subtract)(int inner, const double* left, const double* right, double* tile);
+};
+
+namespace baseline {
+extern const TileKernels tileKernels;
+}
+namespace avx2 {
+extern const TileKernels tileKernels;
+}
+namespace avx512 {
+extern const TileKernels tileKernels;
+}
+
+inline const TileKernels& tileKernels()
+{
+    return forThisMachine(baseline::tileKernels, avx2::tileKernels, avx512::tileKernels);
+}
+
+} // namespace vecmat
