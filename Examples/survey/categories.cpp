@@ -2,6 +2,7 @@
 
 #include "bstr_array.h"
 #include "flat_call.h"
+#include "groups.h"
 #include "number_format.h"
 #include "page.h"
 #include "text_table.h"
@@ -58,7 +59,7 @@ void printCategories(std::ostream& out, const Table& table)
             for (std::size_t i = 0; i < categories.names.size(); ++i)
                 add(categories.names[i], categories.counts[i]);
         if (categories.missing > 0)
-            add(noCategory, categories.missing);
+            add(noText, categories.missing);
     }
     text.print(out, lineWidth);
     printNote(out, "In the order in which the categories first appear.");

@@ -20,9 +20,6 @@ struct Categories
 
 Categories categoriesOf(const Column& column);
 
-/// What stands for the rows without a text.
-inline constexpr const char* noCategory = "(none)";
-
 void printCategories(std::ostream& out, const Table& table);
 
 } // namespace survey

@@ -34,6 +34,13 @@ struct FlatTable
     double& at(int row, int column) { return cells[place(row, column)]; }
     double at(int row, int column) const { return cells[place(row, column)]; }
 
+    /// Drops the columns behind the first ones.
+    void keepColumns(int count)
+    {
+        columns = count;
+        cells.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(count));
+    }
+
 private:
     std::size_t place(int row, int column) const
     {
@@ -43,6 +50,10 @@ private:
 
 /// The numbers of some columns that have as many rows.
 FlatTable numbersOf(const std::vector<const Column*>& columns, int rows);
+
+/// The numeric columns of a table without gaps that have a variance: their cells aren't all equal, nor too far apart to
+/// be squared.
+std::vector<const Column*> varyingColumns(const Table& complete);
 
 /// The weights of rows that all count alike.
 std::vector<double> unitWeights(int rows);

@@ -1,5 +1,6 @@
 #include "group_means.h"
 
+#include "groups.h"
 #include "number_format.h"
 #include "page.h"
 #include "text_table.h"
@@ -22,7 +23,7 @@ void addMeans(TextTable& text, const Column& by, const std::vector<const Column*
     for (int i = 0; i < means.rows; ++i) {
         const auto place = static_cast<std::size_t>(i);
         std::vector<std::string> cells = {i == 0 ? by.name : "",
-                                          place < categories.names.size() ? categories.names[place] : noCategory};
+                                          place < categories.names.size() ? categories.names[place] : noText};
         for (int j = 0; j < means.columns; ++j)
             cells.push_back(NumberFormat(*columns[static_cast<std::size_t>(j)]).statistic(means.at(i, j)));
         text.addRow(std::move(cells));

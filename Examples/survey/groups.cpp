@@ -9,7 +9,7 @@ namespace survey {
 std::vector<Group> groupsBy(const Column& column)
 {
     std::vector<Group> groups;
-    Group without{"(none)", {}};
+    Group without{noText, {}};
     std::unordered_map<std::string, std::size_t> places;
     for (std::size_t i = 0; i < column.texts.size(); ++i) {
         const std::string& text = column.texts[i];

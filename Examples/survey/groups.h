@@ -14,8 +14,11 @@ struct Group
     std::vector<int> rows; ///< from 0
 };
 
+/// What stands for the rows without a text.
+inline constexpr const char* noText = "(none)";
+
 /// The rows with the same text in the column, in the order in which the texts first appear; those without a text come
-/// last, as "(none)".
+/// last, as `noText`.
 std::vector<Group> groupsBy(const Column& column);
 
 /// All rows as one group, "all".

@@ -13,7 +13,7 @@ namespace {
 
 std::string written(double value, std::chars_format format, int decimals)
 {
-    if (value == vecmat::missingValue)
+    if (value == vecmat::missingValue || !std::isfinite(value))
         return "-";
     char buffer[64];
     const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, value, format, decimals);
@@ -24,11 +24,29 @@ std::string written(double value, std::chars_format format, int decimals)
     return roundedToZero ? text.substr(1) : text;
 }
 
+/// The power of ten of the first digit; 0 for 0, and for what is no finite number.
+int magnitudeOf(double value)
+{
+    return std::isfinite(value) && value != 0.0 ? static_cast<int>(std::floor(std::log10(std::fabs(value)))) : 0;
+}
+
 } // namespace
 
 std::string withDecimals(double value, int decimals)
 {
     return written(value, std::chars_format::fixed, decimals);
+}
+
+int decimalsFor(double value, int digits)
+{
+    return std::max(0, digits - 1 - magnitudeOf(value));
+}
+
+std::string withDigits(double value, int digits)
+{
+    const int magnitude = magnitudeOf(value);
+    return magnitude > 9 || magnitude < -5 ? written(value, std::chars_format::scientific, digits - 1)
+                                           : withDecimals(value, decimalsFor(value, digits));
 }
 
 NumberFormat::NumberFormat(const Column& column) : decimals_(column.decimals)
@@ -37,7 +55,7 @@ NumberFormat::NumberFormat(const Column& column) : decimals_(column.decimals)
     for (const double x : column.numbers)
         if (x != vecmat::missingValue)
             largest = std::max(largest, std::fabs(x));
-    const int magnitude = largest > 0.0 ? static_cast<int>(std::floor(std::log10(largest))) : 0;
+    const int magnitude = magnitudeOf(largest);
     decimals_ = std::min(decimals_, std::max(0, 6 - magnitude));
     scientific_ = magnitude > 9 || decimals_ > 9;
     if (scientific_)

@@ -7,8 +7,15 @@
 
 namespace survey {
 
-/// With a number of digits behind the point; "-" for the missing value.
+/// With a number of digits behind the point; "-" for the missing value, and for what is no finite number.
 std::string withDecimals(double value, int decimals);
+
+/// Digits behind the point with which a number shows so many digits that count; 0 or more.
+int decimalsFor(double value, int digits);
+
+/// With a number of digits that count, or of those ahead of the point where these are more; in scientific notation where
+/// the number is huge or tiny.
+std::string withDigits(double value, int digits);
 
 /// Numbers in the unit of a column, with as many decimals as its cells have in the file, but no more than seven digits
 /// of the largest; in scientific notation where the numbers are huge or tiny.

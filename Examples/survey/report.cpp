@@ -1,12 +1,17 @@
 #include "report.h"
 
+#include "biplot.h"
 #include "categories.h"
 #include "completion.h"
+#include "components.h"
 #include "correlations.h"
 #include "group_means.h"
+#include "letter_groups.h"
 #include "missing_cells.h"
 #include "number_format.h"
 #include "page.h"
+#include "regression.h"
+#include "sample.h"
 #include "statistics.h"
 #include "text_table.h"
 
@@ -83,6 +88,14 @@ void printSurvey(std::ostream& out, const Subject& subject)
     printGroupMeans(out, table);
     printCorrelations(out, table);
     printCompletion(out, table, completion);
+    if (const auto components = componentsOf(completion.table)) {
+        printComponents(out, *components);
+        printBiplot(out, *components, subject);
+    }
+    if (const auto regression = regressionOf(completion.table))
+        printRegression(out, *regression);
+    printLetterGroups(out, subject);
+    printSample(out, subject);
 }
 
 void printOverview(std::ostream& out, const Subject& subject)
@@ -96,7 +109,7 @@ void printOverview(std::ostream& out, const Subject& subject)
     printList(out, "  empty       ", namesOf(table.ofKind(Kind::empty)));
     if (subject.grouping != nullptr)
         printList(out, "  grouped by  " + onOneLine(subject.grouping->name) + ": ",
-                  namesAndSizesOf(std::span(subject.groups).first(subject.groups.size() - 1)));
+                  namesAndSizesOf(subject.groupsOfColumn()));
     out << "\n\n";
 }
 

@@ -4,6 +4,7 @@
 #include "groups.h"
 #include "table.h"
 
+#include <span>
 #include <vector>
 
 namespace survey {
@@ -14,6 +15,8 @@ struct Subject
     const Table& table;
     const Column* grouping;
     std::vector<Group> groups;
+
+    std::span<const Group> groupsOfColumn() const { return std::span(groups).first(groups.size() - 1); }
 };
 
 Subject subjectOf(const Table& table, const Column* grouping);

@@ -100,3 +100,49 @@ for (t in which(rowSums(gaps) > 0)) {
             cat(sprintf('{%d, %d, "%s"},\n', t, match(column, names(penguins)), completed[t, column]))
 }
 cat("};\n")
+
+# What follows is of the completed table.
+rows <- c(1, 4, 9, 150, 200, 254, 340, 344)
+species <- unique(penguins$species)
+
+components <- prcomp(completed[measurements], scale. = TRUE)
+signs <- apply(components$rotation, 2, function(v) sign(v[which.max(abs(v))]))
+rotation <- sweep(components$rotation, 2, signs, "*")
+scores <- sweep(components$x, 2, signs, "*")
+table4 <- function(name, values)
+    cat("inline const double ", name, "[][", ncol(values), "] = {\n",
+        paste0("{", apply(values, 1, digits), "},\n"), "};\n", sep = "")
+
+cat("\n// prcomp(scale. = TRUE): variances, and the rotation, each vector with its largest coefficient positive.\n",
+    "inline const std::array<double, 4> componentVariances = {", digits(components$sdev^2), "};\n", sep = "")
+table4("rotationReferences", rotation)
+
+# Scores of variance 1, so that what is left to the columns is the rotation times the standard deviations.
+map <- sweep(scores, 2, components$sdev, "/")[, 1:2]
+cat("\n// The biplot on the first two: the columns, the means of the species, and some rows (from 1); the row farthest\n",
+    "// out.\n", sep = "")
+table4("biplotColumns", sweep(rotation, 2, components$sdev, "*")[, 1:2])
+table4("biplotGroups", t(sapply(species, function(s) colMeans(map[penguins$species == s, ]))))
+table4("biplotRows", cbind(rows, map[rows, ]))
+cat("inline const int farthestRow = ", which.max(rowSums(map^2)), ";\n", sep = "")
+
+fit <- summary(lm(body_mass_g ~ ., completed[measurements]))
+cat("\n// summary(lm(body_mass_g ~ .)): coefficients and standard errors, the intercept first; R squared, sigma, degrees\n",
+    "// of freedom.\n", sep = "")
+table4("regressionReferences", fit$coefficients[, 1:2])
+cat("inline const std::array<double, 3> regressionQuality = {", digits(c(fit$r.squared, fit$sigma, fit$df[2])), "};\n",
+    sep = "")
+
+# The groups of the table as it was, each two compared with the pooled standard deviation.
+cat("\n// Per measurement: do Adelie and Chinstrap, Adelie and Gentoo, Chinstrap and Gentoo lie apart by more than two\n",
+    "// standard errors?\n",
+    "inline const bool apartReferences[4][3] = {\n", sep = "")
+for (column in measurements) {
+    residuals <- resid(lm(penguins[[column]] ~ penguins$species))
+    pooled <- sqrt(sum(residuals^2) / (length(residuals) - 3))
+    x <- lapply(species, function(s) na.omit(penguins[[column]][penguins$species == s]))
+    apart <- function(a, b) abs(mean(a) - mean(b)) > 2 * pooled * sqrt(1 / length(a) + 1 / length(b))
+    flags <- c(apart(x[[1]], x[[2]]), apart(x[[1]], x[[3]]), apart(x[[2]], x[[3]]))
+    cat("{", paste(tolower(flags), collapse = ", "), "},\n", sep = "")
+}
+cat("};\n")

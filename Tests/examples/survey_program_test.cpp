@@ -89,6 +89,13 @@ TEST_F(SurveyProgram, PrintsThePenguinsBySpecies)
                 HasSubstr("species  Adelie              38.79          18.35              190.0       3700.7\n"));
     EXPECT_THAT(output, HasSubstr("bill_depth_mm              -0.235          1.000            342          342\n"));
     EXPECT_THAT(output, HasSubstr("340  bill_length_mm     46.1\n"));
+    EXPECT_THAT(output, HasSubstr("        1     2.753      68.8 %      68.8 %\n"));
+    EXPECT_THAT(output, HasSubstr("row farthest out  254                      2.288        2.106\n"));
+    EXPECT_THAT(output, HasSubstr("flipper_length_mm       50.329           2.476   20.33\n"));
+    EXPECT_THAT(output, HasSubstr("bill_length_mm     Adelie       38.79  A\n"
+                                  "                   Chinstrap    48.83    C\n"
+                                  "                   Gentoo       47.50   B\n"));
+    EXPECT_THAT(output, HasSubstr("\nStratified sample\n"));
 }
 
 TEST_F(SurveyProgram, WithoutGroupingColumnTakesAllRows)
@@ -109,8 +116,21 @@ TEST_F(SurveyProgram, OfASingleCellLeavesOutWhatCannotBeTold)
     EXPECT_EQ(status, 0);
     EXPECT_EQ(errors, "");
     EXPECT_THAT(output, HasSubstr("\nMissing cells\n\nNone.\n"));
-    for (const char* title : {"Categories", "Means by category", "Correlations", "Missing cells filled"})
+    for (const char* title : {"Categories", "Means by category", "Correlations", "Missing cells filled", "Principal",
+                              "Biplot", "Regression", "Letter groups", "Stratified sample"})
         EXPECT_EQ(output.find(title), std::string::npos) << title;
+}
+
+TEST_F(SurveyProgram, OfAConstantColumnTellsWhatItHas)
+{
+    write("a.csv", "g,c,x,y\na,7,1,1\nb,7,2,3\na,7,3,\nb,7,4,8\n");
+    run("a.csv g");
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(errors, "");
+    for (const char* title : {"Principal components", "Biplot", "Regression of y", "Letter groups"})
+        EXPECT_THAT(output, HasSubstr(title));
+    EXPECT_EQ(output.find("nan"), std::string::npos);
+    EXPECT_EQ(output.find("inf"), std::string::npos);
 }
 
 TEST_F(SurveyProgram, ListsTheColumnsByKindAndTheGroups)

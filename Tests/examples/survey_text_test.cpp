@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <sstream>
 #include <string>
 
@@ -34,6 +35,32 @@ TEST(NumberFormat, ShowsTheDecimalsOfTheFileAndOneMoreForAStatistic)
     EXPECT_EQ(format(1, {39.1, M}).statistic(38.791), "38.79");
     EXPECT_EQ(format(0, {3750.0}).cell(3750.0), "3750");
     EXPECT_EQ(format(1, {39.1}).cell(M), "-");
+}
+
+TEST(NumberFormat, WithDecimalsShowsADashForWhatIsNoNumber)
+{
+    EXPECT_EQ(withDecimals(1.25, 1), "1.2");
+    EXPECT_EQ(withDecimals(M, 1), "-");
+    EXPECT_EQ(withDecimals(std::numeric_limits<double>::quiet_NaN(), 1), "-");
+    EXPECT_EQ(withDecimals(-std::numeric_limits<double>::infinity(), 1), "-");
+}
+
+TEST(NumberFormat, WithDigitsShowsTheDigitsThatCount)
+{
+    EXPECT_EQ(withDigits(-6476.03, 5), "-6476.0");
+    EXPECT_EQ(withDigits(0.0123456, 3), "0.0123");
+    EXPECT_EQ(withDigits(123456.7, 3), "123457");
+    EXPECT_EQ(withDigits(0.0, 3), "0.00");
+    EXPECT_EQ(withDigits(1.5e-9, 3), "1.50e-09");
+    EXPECT_EQ(withDigits(2.0e12, 3), "2.00e+12");
+    EXPECT_EQ(withDigits(M, 3), "-");
+}
+
+TEST(NumberFormat, DecimalsForANumberAreNeverNegative)
+{
+    EXPECT_EQ(decimalsFor(5.3, 4), 3);
+    EXPECT_EQ(decimalsFor(0.053, 4), 5);
+    EXPECT_EQ(decimalsFor(98765.0, 4), 0);
 }
 
 TEST(NumberFormat, ShowsAtMostSevenDigitsOfTheLargest)

@@ -1,0 +1,124 @@
+#include "biplot.h"
+
+#include "number_format.h"
+#include "page.h"
+#include "text_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+#include <string>
+
+namespace survey {
+
+namespace {
+
+/// The vectors of the components as long as the components' standard deviations: correlations with the columns.
+FlatTable correlationsWithColumns(const Components& components, int axes)
+{
+    FlatTable result = components.vectors;
+    result.keepColumns(axes);
+    for (int k = 0; k < axes; ++k)
+        for (int j = 0; j < result.rows; ++j)
+            result.at(j, k) *= std::sqrt(components.variances[static_cast<std::size_t>(k)]);
+    return result;
+}
+
+FlatTable meanScores(FlatTable& scores, std::span<const Group> groups)
+{
+    FlatTable means(static_cast<int>(groups.size()), scores.columns);
+    for (int i = 0; i < means.rows; ++i)
+        for (int k = 0; k < means.columns; ++k) {
+            std::vector<double> ofGroup;
+            for (const int row : groups[static_cast<std::size_t>(i)].rows)
+                ofGroup.push_back(scores.at(row, k));
+            means.at(i, k) = VB_V_Mean2(ofGroup.data(), static_cast<int>(ofGroup.size()));
+        }
+    return means;
+}
+
+/// Rows `first` to `first + count - 1` of a table.
+FlatTable part(const FlatTable& table, int first, int count)
+{
+    FlatTable result(count, table.columns);
+    for (int k = 0; k < table.columns; ++k)
+        for (int i = 0; i < count; ++i)
+            result.at(i, k) = table.at(first + i, k);
+    return result;
+}
+
+void addPoint(TextTable& text, const std::string& kind, const std::string& name, const FlatTable& points, int place)
+{
+    std::vector<std::string> cells = {kind, name};
+    for (int k = 0; k < points.columns; ++k)
+        cells.push_back(withDecimals(points.at(place, k), 3));
+    text.addRow(std::move(cells));
+}
+
+bool areListed(const FlatTable& rows)
+{
+    return static_cast<std::size_t>(rows.rows) <= mostListed;
+}
+
+void addRows(TextTable& text, FlatTable rows)
+{
+    text.addGap();
+    if (areListed(rows)) {
+        for (int i = 0; i < rows.rows; ++i)
+            addPoint(text, i == 0 ? "row" : "", std::to_string(i + 1), rows, i);
+        return;
+    }
+    double distance;
+    int farthest;
+    Cpp_M_GetMaxDistToOrigin(rows.data(), rows.rows, rows.columns, &distance, &farthest);
+    addPoint(text, "row farthest out", std::to_string(farthest), rows, farthest - 1);
+}
+
+} // namespace
+
+Biplot biplotOf(const Components& components, std::span<const Group> groups)
+{
+    const int axes = std::min(2, components.count());
+    FlatTable scores = components.scores;
+    scores.keepColumns(axes);
+    FlatTable centres = meanScores(scores, groups);
+    FlatTable vectors = correlationsWithColumns(components, axes);
+    std::vector<double> variances = components.variances;
+
+    constexpr double unscaled = 1.0;
+    constexpr double columnsAsTheyAre = 0.0; // and the rows brought to variance 1
+    FlatTable points(scores.rows + centres.rows, axes);
+    FlatTable columns(vectors.rows, axes);
+    VB_BiplotTransData(scores.data(), centres.data(), vectors.data(), scores.rows, centres.rows, vectors.rows, axes,
+                       variances.data(), unscaled, columnsAsTheyAre, points.data(), columns.data());
+    return {std::move(columns), part(points, 0, scores.rows), part(points, scores.rows, centres.rows)};
+}
+
+void printBiplot(std::ostream& out, const Components& components, const Subject& subject)
+{
+    std::span<const Group> groups = subject.groupsOfColumn();
+    if (groups.size() > mostListed)
+        groups = {};
+    const Biplot biplot = biplotOf(components, groups);
+    std::vector<TextTable::Column> headings = {{"", Align::left}, {"point", Align::left}};
+    for (int k = 1; k <= biplot.rows.columns; ++k)
+        headings.push_back({"component " + std::to_string(k), Align::point});
+    TextTable text(std::move(headings), 2);
+    for (int j = 0; j < biplot.columns.rows; ++j)
+        addPoint(text, j == 0 ? "column" : "", components.columns[static_cast<std::size_t>(j)]->name, biplot.columns,
+                 j);
+    if (!groups.empty())
+        text.addGap();
+    for (int i = 0; i < biplot.groups.rows; ++i)
+        addPoint(text, i == 0 ? "mean of " + subject.grouping->name : "", groups[static_cast<std::size_t>(i)].name,
+                 biplot.groups, i);
+    addRows(text, biplot.rows);
+    printTitle(out, "Biplot");
+    text.print(out, lineWidth);
+    printNote(out,
+              std::string("Coordinates on a map of the components: of a column, its correlations with them; of the "
+                          "rows, scores of variance 1.") +
+                  (areListed(biplot.rows) ? "" : " The row farthest out gives the size of the map."));
+}
+
+} // namespace survey

@@ -1,0 +1,119 @@
+#include "components.h"
+
+#include "number_format.h"
+#include "page.h"
+#include "text_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ostream>
+#include <string>
+
+namespace survey {
+
+namespace {
+
+/// Brings the columns to mean 0 and variance 1, and gives their correlations.
+FlatTable standardised(FlatTable& numbers)
+{
+    const int p = numbers.columns;
+    FlatTable correlations(p, p);
+    FlatTable means(p, 1), deviations(p, 1), variances(p, 1);
+    std::vector<double> weights = unitWeights(numbers.rows);
+    VB_M_CovCorrAndMeanStDevVar(numbers.data(), numbers.rows, p, correlations.data(), means.data(), deviations.data(),
+                                variances.data(), yes, noMask, weights.data(), yes, yes, yes, yes);
+    return correlations;
+}
+
+/// An eigenvector has one of two signs.
+void makeLargestPositive(FlatTable& vectors)
+{
+    for (int k = 0; k < vectors.columns; ++k) {
+        double* const vector = vectors.data() + k * vectors.rows;
+        const auto isSmaller = [](double a, double b) { return std::fabs(a) < std::fabs(b); };
+        if (*std::max_element(vector, vector + vectors.rows, isSmaller) < 0.0)
+            for (int j = 0; j < vectors.rows; ++j)
+                vector[j] = -vector[j];
+    }
+}
+
+std::string component(int number)
+{
+    return "component " + std::to_string(number);
+}
+
+void printVariances(std::ostream& out, const Components& components)
+{
+    TextTable text({{"component", Align::right},
+                    {"variance", Align::point},
+                    {"of the sum", Align::right},
+                    {"up to here", Align::right}},
+                   1);
+    double upToHere = 0.0;
+    for (std::size_t k = 0; k < components.variances.size() && k < mostListed; ++k) {
+        upToHere += components.percent[k];
+        text.addRow({std::to_string(k + 1), withDecimals(components.variances[k], 3),
+                     withDecimals(components.percent[k], 1) + " %", withDecimals(upToHere, 1) + " %"});
+    }
+    text.print(out, lineWidth);
+}
+
+void printVectors(std::ostream& out, const Components& components)
+{
+    std::vector<TextTable::Column> headings = {{"column", Align::left}};
+    for (int k = 1; k <= components.telling; ++k)
+        headings.push_back({component(k), Align::point});
+    TextTable text(std::move(headings), 1);
+    for (int j = 0; j < components.vectors.rows; ++j) {
+        std::vector<std::string> cells = {components.columns[static_cast<std::size_t>(j)]->name};
+        for (int k = 0; k < components.telling; ++k)
+            cells.push_back(withDecimals(components.vectors.at(j, k), 3));
+        text.addRow(std::move(cells));
+    }
+    text.print(out, lineWidth);
+}
+
+} // namespace
+
+std::optional<Components> componentsOf(const Table& complete)
+{
+    const std::vector<const Column*> columns = varyingColumns(complete);
+    const int p = static_cast<int>(columns.size());
+    if (p < 2 || complete.rows < 3)
+        return std::nullopt;
+    FlatTable numbers = numbersOf(columns, complete.rows);
+    FlatTable correlations = standardised(numbers);
+    std::vector<double> variances(columns.size());
+    FlatTable vectors(p, p);
+    if (VB_M_Eigen(correlations.data(), variances.data(), vectors.data(), p, yes) != 0)
+        return std::nullopt;
+
+    constexpr double vanishing = 1e-10; // rounding leaves so little of a component without variance
+    constexpr double tellingPercent = 80.0;
+    constexpr int mostTelling = 5;
+    constexpr double noLeast = 0.0;
+    std::vector<double> percent(columns.size());
+    int kept, telling;
+    VB_FilterEigen(variances.data(), p, yes, vanishing, tellingPercent, mostTelling, noLeast, &kept, &telling,
+                   percent.data());
+    variances.resize(static_cast<std::size_t>(kept));
+    percent.resize(static_cast<std::size_t>(kept));
+    vectors.keepColumns(kept);
+    makeLargestPositive(vectors);
+    FlatTable scores(complete.rows, kept);
+    VB_M_ProductAB(numbers.data(), complete.rows, p, vectors.data(), kept, scores.data());
+    return Components{columns, std::move(variances), std::move(percent),
+                      telling, std::move(vectors),   std::move(scores)};
+}
+
+void printComponents(std::ostream& out, const Components& components)
+{
+    printTitle(out, "Principal components");
+    printVariances(out, components);
+    printVectors(out, components);
+    printNote(out,
+              "Of the numeric columns, their gaps filled, brought to mean 0 and variance 1. Below, the coefficients of "
+              "the first components, as many as make up 80 % of the variance, but no more than five.");
+}
+
+} // namespace survey

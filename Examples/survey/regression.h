@@ -1,0 +1,35 @@
+// Section: the regression of the last numeric column on the others.
+#pragma once
+
+#include "flat_call.h"
+
+#include <iosfwd>
+#include <optional>
+#include <vector>
+
+namespace survey {
+
+struct Coefficient
+{
+    double value;
+    double standardError;
+};
+
+struct Regression
+{
+    const Column* response;
+    std::vector<const Column*> terms;
+    std::vector<Coefficient> coefficients; ///< of the terms, and the intercept last
+    std::vector<const Column*> leftOut;    ///< columns that those before them determine
+    double determination;                  ///< R squared
+    double residualDeviation;
+    int freedom; ///< of the residuals
+};
+
+/// By least squares over all rows of a table without gaps, on the columns that vary. None where the response has no
+/// other column beside it, or there are too few rows to tell the errors.
+std::optional<Regression> regressionOf(const Table& complete);
+
+void printRegression(std::ostream& out, const Regression& regression);
+
+} // namespace survey

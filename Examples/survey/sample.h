@@ -1,0 +1,31 @@
+// Section: some rows of each group, drawn at random.
+#pragma once
+
+#include "subject.h"
+
+#include <iosfwd>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace survey {
+
+/// Parts of `total` in proportion to sizes whose sum is not below it: each what is due to it rounded down, and one more
+/// for those of which most was cut off, the first of equals.
+std::vector<int> shares(int total, const std::vector<int>& sizes);
+
+struct SampledRow
+{
+    int row; ///< from 0
+    std::size_t group;
+    std::vector<std::string> cells; ///< one for each column of the table
+};
+
+/// `count` rows, from each group in proportion to its size; group by group, in the order of the rows. The groups hold
+/// every row of the table once. The seed decides which rows.
+std::vector<SampledRow> stratifiedSample(const Table& table, std::span<const Group> groups, int count, int seed);
+
+/// Nothing without a grouping column, or where the table is no larger than the sample.
+void printSample(std::ostream& out, const Subject& subject);
+
+} // namespace survey

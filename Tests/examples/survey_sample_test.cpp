@@ -1,0 +1,112 @@
+// The survey's stratified sample.
+#include "sample.h"
+
+#include "penguins_reference.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+#include <set>
+#include <sstream>
+
+using namespace survey;
+using survey::test::penguins;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+namespace {
+
+Table table(std::string_view text, const std::optional<std::string>& grouping = std::nullopt)
+{
+    return tableOf(parsedCsv(text, "f.csv"), "f.csv", grouping);
+}
+
+std::vector<SampledRow> sampleOfPenguins(int count, int seed)
+{
+    const Subject subject = subjectOf(penguins(), penguins().named("species"));
+    return stratifiedSample(penguins(), subject.groupsOfColumn(), count, seed);
+}
+
+std::vector<int> rowsOf(const std::vector<SampledRow>& sample)
+{
+    std::vector<int> rows;
+    for (const SampledRow& sampled : sample)
+        rows.push_back(sampled.row);
+    return rows;
+}
+
+std::string printed(const Table& table, const char* grouping)
+{
+    std::ostringstream out;
+    printSample(out, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
+    return out.str();
+}
+
+} // namespace
+
+TEST(Shares, AreInProportionAndMakeUpTheTotal)
+{
+    EXPECT_THAT(shares(12, {152, 68, 124}), ElementsAre(5, 3, 4)); // due are 5.3, 2.4 and 4.3
+    EXPECT_THAT(shares(10, {10, 20, 20}), ElementsAre(2, 4, 4));
+    EXPECT_THAT(shares(1, {1, 1, 1}), ElementsAre(1, 0, 0));
+    EXPECT_THAT(shares(3, {1, 2}), ElementsAre(1, 2));
+    EXPECT_THAT(shares(0, {4, 5}), ElementsAre(0, 0));
+    EXPECT_THAT(shares(2000000000, {1500000000, 500000000}), ElementsAre(1500000000, 500000000));
+}
+
+TEST(Sample, TakesFromEachGroupItsShare)
+{
+    std::map<std::size_t, int> taken;
+    for (const SampledRow& sampled : sampleOfPenguins(12, 1))
+        ++taken[sampled.group];
+    EXPECT_THAT(taken, ElementsAre(testing::Pair(0U, 5), testing::Pair(1U, 3), testing::Pair(2U, 4)));
+}
+
+TEST(Sample, TakesEachRowOnceAndHoldsItsCells)
+{
+    const std::vector<SampledRow> sample = sampleOfPenguins(100, 7);
+    ASSERT_EQ(sample.size(), 100U);
+    std::set<int> rows;
+    for (const SampledRow& sampled : sample) {
+        EXPECT_TRUE(rows.insert(sampled.row).second) << "row " << sampled.row << " again";
+        ASSERT_EQ(sampled.cells.size(), penguins().columns.size());
+        for (std::size_t j = 0; j < sampled.cells.size(); ++j)
+            EXPECT_EQ(sampled.cells[j], penguins().columns[j].texts[static_cast<std::size_t>(sampled.row)]);
+    }
+}
+
+TEST(Sample, GoesGroupByGroupInTheOrderOfTheRows)
+{
+    const std::vector<SampledRow> sample = sampleOfPenguins(100, 7);
+    for (std::size_t i = 1; i < sample.size(); ++i)
+        EXPECT_LT(std::pair(sample[i - 1].group, sample[i - 1].row), std::pair(sample[i].group, sample[i].row));
+}
+
+TEST(Sample, IsDecidedByTheSeed)
+{
+    EXPECT_EQ(rowsOf(sampleOfPenguins(12, 1)), rowsOf(sampleOfPenguins(12, 1)));
+    EXPECT_NE(rowsOf(sampleOfPenguins(12, 1)), rowsOf(sampleOfPenguins(12, 2)));
+}
+
+TEST(Sample, OfEverythingIsEveryRow)
+{
+    const Table t = table("g,x\nb,1\na,2\nb,3\n,4\n");
+    const Subject subject = subjectOf(t, t.named("g"));
+    EXPECT_THAT(rowsOf(stratifiedSample(t, subject.groupsOfColumn(), 4, 1)), ElementsAre(0, 2, 1, 3));
+}
+
+TEST(Sample, PrintsADashForAMissingCell)
+{
+    std::string csv = "g,x,e\n";
+    for (int i = 0; i < 13; ++i)
+        csv += "a,1,\n";
+    EXPECT_THAT(printed(table(csv), "g"),
+                testing::ContainsRegex("Stratified sample\n\nrow  g  x  e\n-+\n +[0-9]+  a  1  -\n"));
+    EXPECT_THAT(printed(table(csv), "g"), HasSubstr("12 rows drawn at random, from each group of g"));
+}
+
+TEST(Sample, NeedsAGroupingColumnAndMoreRowsThanItTakes)
+{
+    EXPECT_EQ(printed(penguins(), nullptr), "");
+    EXPECT_EQ(printed(table("g,x\na,1\nb,2\n"), "g"), "");
+}
