@@ -4,6 +4,7 @@
 #include "frame/api.h"
 #include "frame/companions.h"
 #include "matrix.h"
+#include "randomisation/interval_sampling.h"
 #include "randomisation/permutations.h"
 #include "randomisation/sampling_with_repeats.h"
 #include "randomisation/stratified_sampling.h"
@@ -123,6 +124,12 @@ TEST(SeedFrame, EverySampleReleasesWhatItMade)
     each([&] { VB_M_SamplingWithReplacementSPV(populationColumns, 4, 1, 4, sampleColumns, ids, &seed, -1, &next); });
     each([&] { VB_M_SampleUserDefined(population, 4, 1, sample, counts, ids); });
     each([&] { VB_M_SampleUserDefinedSPV(populationColumns, 4, 1, sampleColumns, counts, ids); });
+    each([&] { VB_M_SamplingSystematicRdStart(population, 4, 1, 3, sample, ids, &seed, -1, &next); });
+    each([&] { VB_M_SamplingSystematicRdStartSPV(populationColumns, 4, 1, 3, sampleColumns, ids, &seed, -1, &next); });
+    each([&] { VB_M_SamplingSystematicCentered(population, 4, 1, 3, sample, ids); });
+    each([&] { VB_M_SamplingSystematicCenteredSPV(populationColumns, 4, 1, 3, sampleColumns, ids); });
+    each([&] { VB_M_SamplingRandomStratified(population, 4, 1, 3, sample, ids, &seed, -1, &next); });
+    each([&] { VB_M_SamplingRandomStratifiedSPV(populationColumns, 4, 1, 3, sampleColumns, ids, &seed, -1, &next); });
     each([&] {
         Cpp_M_SamplingRandomStratifiedByStr(population, 4, 1, 4, sample, rowIds, ids, strata, quota, sizes, 2, &seed,
                                             -1, &next);

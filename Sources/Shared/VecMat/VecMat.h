@@ -97,6 +97,7 @@
 #include "qualitative/modes.h"
 #include "qualitative/recoding.h"
 #include "randomisation/comparisons.h"
+#include "randomisation/interval_sampling.h"
 #include "randomisation/kronecker_product.h"
 #include "randomisation/marginal_sums.h"
 #include "randomisation/permutations.h"
