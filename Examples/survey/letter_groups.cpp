@@ -47,7 +47,9 @@ std::vector<int> comparisons(const std::vector<Moments>& groups, double variance
 /// Letters side by side, each in a place of its own.
 std::string row(const BstrArray& labels, int row, int rows, int columns)
 {
-    const auto label = [&](int i, int j) { return labels.text(static_cast<std::size_t>(i + j * rows)); };
+    const auto label = [&](int i, int j) {
+        return labels.text(static_cast<std::size_t>(i) + static_cast<std::size_t>(j) * static_cast<std::size_t>(rows));
+    };
     std::string text;
     for (int j = 0; j < columns; ++j) {
         std::size_t width = 0;
@@ -67,6 +69,7 @@ std::vector<std::string> lettersOf(const std::vector<Moments>& groups, double va
     constexpr int onlyColumn = 0;
     const int n = static_cast<int>(groups.size());
     std::vector<double> means;
+    means.reserve(groups.size());
     for (const Moments& group : groups)
         means.push_back(group.mean);
     std::vector<int> apart = comparisons(groups, variance);
@@ -75,6 +78,7 @@ std::vector<std::string> lettersOf(const std::vector<Moments>& groups, double va
     int letters;
     Cpp_GetCompMatrices(means.data(), n, onlyColumn, apart.data(), yes, order.data(), labels.data(), &letters);
     std::vector<std::string> rows;
+    rows.reserve(groups.size());
     for (int i = 0; i < n; ++i)
         rows.push_back(row(labels, i, n, std::min(letters, mostLetters)));
     return rows;

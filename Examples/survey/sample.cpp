@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <numeric>
 #include <ostream>
+#include <utility>
 
 namespace survey {
 
@@ -44,6 +45,8 @@ std::vector<const Column*> allColumns(const Table& table)
 std::vector<int> shares(int total, const std::vector<int>& sizes)
 {
     const long long sum = std::accumulate(sizes.begin(), sizes.end(), 0LL);
+    if (sum == 0)
+        return std::vector<int>(sizes.size(), 0);
     std::vector<int> result;
     std::vector<std::pair<long long, std::size_t>> cutOff; // largest first when sorted, the first of equals ahead
     for (std::size_t k = 0; k < sizes.size(); ++k) {

@@ -51,6 +51,7 @@ TEST(Shares, AreInProportionAndMakeUpTheTotal)
     EXPECT_THAT(shares(1, {1, 1, 1}), ElementsAre(1, 0, 0));
     EXPECT_THAT(shares(3, {1, 2}), ElementsAre(1, 2));
     EXPECT_THAT(shares(0, {4, 5}), ElementsAre(0, 0));
+    EXPECT_THAT(shares(0, {0, 0}), ElementsAre(0, 0));
     EXPECT_THAT(shares(2000000000, {1500000000, 500000000}), ElementsAre(1500000000, 500000000));
 }
 
