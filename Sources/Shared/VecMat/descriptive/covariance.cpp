@@ -2,7 +2,7 @@
 
 #include "../elementary/kernels/operands.h"
 #include "../frame/numbers.h"
-#include "pair_pass.h"
+#include "covariance_pass.h"
 
 #include <memory>
 #include <vector>
@@ -21,8 +21,9 @@ Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& option
     Variances variances(countOf(p));
     onBlocks(
         [&](auto x, auto weight) {
+            const CovariancePass<RowFactor::signedValue, decltype(x), decltype(weight)> pass(x, p, weight, options);
             for (int j = 0; j < p; ++j)
-                passPairs<Sums>(x, j, x, j, p, weight, options, [&](int k, const Sums& sums) {
+                pass.run(j, [&](int k, const Sums& sums) {
                     const bool empty = sums.rows < 1;
                     const double covariance = options.quotient(sums.products, sums);
                     C.set(j, k, empty ? fallback : covariance);

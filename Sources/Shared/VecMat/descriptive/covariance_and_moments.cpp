@@ -2,7 +2,7 @@
 
 #include "../elementary/kernels/operands.h"
 #include "../elementary/packed_storage.h"
-#include "pair_pass.h"
+#include "covariance_pass.h"
 
 using namespace vecmat;
 
@@ -61,8 +61,9 @@ void covariances(matrix* X, int p, Out C, VectorCells<matrix> means, VectorCells
     using Sums = RunningCovariance<RowFactor::magnitude>;
     onBlocks(
         [&](auto x, auto weight) {
+            const CovariancePass<RowFactor::magnitude, decltype(x), decltype(weight)> pass(x, p, weight, options);
             for (int j = 0; j < p; ++j) {
-                passPairs<Sums>(x, j, x, j, p, weight, options, [&](int k, const Sums& sums) {
+                pass.run(j, [&](int k, const Sums& sums) {
                     const double covariance = options.quotient(sums.products, sums);
                     C.set(j, k, covariance);
                     if (j == k) {

@@ -24,14 +24,14 @@ Variances covariances(Data X, int p, matrix* Y, int q, matrix* C, matrix* w, con
     const auto result = cells(C);
     onBlocks(
         [&](auto x, auto y, auto weight) {
+            const auto pass = pairPass<RunningCorrelation>(x, y, q, weight, options);
             for (int j = 0; j < p; ++j)
-                passPairs<RunningCorrelation>(x, j, y, 0, q, weight, options,
-                                              [&](int k, const RunningCorrelation& sums) {
-                                                  result.set(j, k, options.quotient(sums.products, sums));
-                                                  // Every pair overwrites both: what stays is the last pair's.
-                                                  variances.ofX[countOf(j)] = options.quotient(sums.squaresX, sums);
-                                                  variances.ofY[countOf(k)] = options.quotient(sums.squaresY, sums);
-                                              });
+                pass.run(j, 0, q, [&](int k, const RunningCorrelation& sums) {
+                    result.set(j, k, options.quotient(sums.products, sums));
+                    // Every pair overwrites both: what stays is the last pair's.
+                    variances.ofX[countOf(j)] = options.quotient(sums.squaresX, sums);
+                    variances.ofY[countOf(k)] = options.quotient(sums.squaresY, sums);
+                });
         },
         block(X, options.n, p), block(cells(Y), options.n, q), block(linear(w), options.n));
     return variances;
@@ -79,8 +79,8 @@ double CorrelPearson(matrix* x, matrix* y, int n, short* mask, matrix* w, short 
     RunningCorrelation sums;
     onBlocks(
         [&](auto cellsOfX, auto cellsOfY, auto weight) {
-            passPairs<RunningCorrelation>(cellsOfX, 0, cellsOfY, 0, 1, weight, {n, mask, sample, freqWeights},
-                                          [&](int, const RunningCorrelation& all) { sums = all; });
+            pairPass<RunningCorrelation>(cellsOfX, cellsOfY, 1, weight, {n, mask, sample, freqWeights})
+                .run(0, 0, 1, [&](int, const RunningCorrelation& all) { sums = all; });
         },
         block(cells(x), n, 1), block(cells(y), n, 1), block(linear(w), n));
     if (sums.rows == 0)

@@ -2,7 +2,7 @@
 
 #include "../frame/cells.h"
 #include "../frame/masks.h"
-#include "running_moments.h"
+#include "strip_moments.h"
 
 #include <cmath>
 
@@ -30,17 +30,17 @@ double weightedMean(matrix* v, int n, const short* mask, matrix* w, Value value)
         block(linear(v), n), block(linear(w), n));
 }
 
-/// Running mean of each column; `resultOf` makes the result of the moments.
-template <class Moments, MissingTest test, class X, class Weights, class ResultOf>
-void columnMeans(X x, int n, int p, Weights w, matrix* mean, ResultOf resultOf)
+/// Running mean of each column over the cells above the missing value, which stands where there are none.
+template <class Moments, class X, class Weights>
+void columnMeansAbove(X x, int n, int p, Weights w, matrix* mean)
 {
     accumulate<Moments>(
         p, n,
         [=](Moments& moments, int j, int i) {
-            if (isPresent<test>(x.get(i, j)))
+            if (isPresent<MissingTest::order>(x.get(i, j)))
                 moments.add(x.get(i, j), w.get(i));
         },
-        [&](int j, const Moments& moments) { linear(mean).set(j, resultOf(moments)); });
+        [&](int j, const Moments& moments) { linear(mean).set(j, moments.rows > 0 ? moments.mean : missingValue); });
 }
 
 /// `M_Mean` over either storage: a column without rows keeps the 0.0 at which the running mean starts.
@@ -51,17 +51,12 @@ int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
     matrix::matCheck(mean, p, 1, 0.0);
     onBlocks(
         [&](auto x, auto weight) {
-            columnMeans<Moments, MissingTest::equality>(x, n, p, weight, mean,
-                                                        [](const Moments& moments) { return moments.mean; });
+            accumulateColumns<Moments>(
+                x, n, p, weight, [](int) { return true; },
+                [&](int j, const Moments& moments) { linear(mean).set(j, moments.mean); });
         },
         block(X, n, p), block(linear(w), n));
     return 0;
-}
-
-template <class Moments>
-double meanOrMissing(const Moments& moments)
-{
-    return moments.rows > 0 ? moments.mean : missingValue;
 }
 
 /// Stands where a storage of weights is expected.
@@ -149,20 +144,15 @@ int M_MeanSPV(matrix** X, int n, int p, matrix*& mean, matrix* w)
 int M_Mean2(matrix* X, int n, int p, matrix* w, matrix* mean)
 {
     using Moments = RunningMean<update::Weighted, ZeroWeight::updated>;
-    onBlocks(
-        [&](auto x, auto weight) {
-            columnMeans<Moments, MissingTest::order>(x, n, p, weight, mean, meanOrMissing<Moments>);
-        },
-        block(cells(X), n, p), block(linear(w), n));
+    onBlocks([&](auto x, auto weight) { columnMeansAbove<Moments>(x, n, p, weight, mean); }, block(cells(X), n, p),
+             block(linear(w), n));
     return 0;
 }
 
 int M_Mean3(matrix* X, int n, int p, matrix* mean)
 {
     using Moments = RunningMean<update::Counted, ZeroWeight::updated>;
-    onBlocks(
-        [&](auto x) { columnMeans<Moments, MissingTest::order>(x, n, p, UnitWeights(), mean, meanOrMissing<Moments>); },
-        block(cells(X), n, p));
+    onBlocks([&](auto x) { columnMeansAbove<Moments>(x, n, p, UnitWeights(), mean); }, block(cells(X), n, p));
     return 0;
 }
 

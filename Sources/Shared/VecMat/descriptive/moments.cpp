@@ -2,7 +2,7 @@
 
 #include "../frame/cells.h"
 #include "../frame/masks.h"
-#include "running_moments.h"
+#include "strip_moments.h"
 
 #include <memory>
 
@@ -33,17 +33,8 @@ CountingVariance vectorMoments(matrix* v, int n, const short* mask, matrix* w)
 template <class Moments, class Storage, class RowEnters, class Store>
 void columnMoments(Storage X, int n, int p, matrix* w, RowEnters rowEnters, Store store)
 {
-    onBlocks(
-        [&](auto x, auto weight) {
-            accumulate<Moments>(
-                p, n,
-                [=](Moments& moments, int j, int i) {
-                    if (rowEnters(i) && isPresent(x.get(i, j)))
-                        moments.add(x.get(i, j), weight.get(i));
-                },
-                store);
-        },
-        block(X, n, p), block(linear(w), n));
+    onBlocks([&](auto x, auto weight) { accumulateColumns<Moments>(x, n, p, weight, rowEnters, store); },
+             block(X, n, p), block(linear(w), n));
 }
 
 /// The weights given, or weights of 1 built for the call.

@@ -10,9 +10,12 @@
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 #include "../frame/masks.h"
+#include "column_strips.h"
 #include "running_moments.h"
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace vecmat {
 
@@ -45,6 +48,13 @@ struct CovarianceSums
     double products = 0.0;
 
     void grow(double dx, double dy, double w, double W) { products += rowFactor<form>(w, W) * dx * dy; }
+
+    static auto kernel()
+    {
+        return form == RowFactor::magnitude ? momentKernels().addCovariancesOfMagnitude
+                                            : momentKernels().addCovariances;
+    }
+    void take(const MomentKernels::Pairs& pairs, int lane) { products = pairs.products[lane]; }
 };
 
 /// The cross products and the squares of both variables, over the same rows. The factor comes last here, so that the
@@ -62,6 +72,14 @@ struct CorrelationSums
         squaresY += dy * dy * factor;
         products += dx * dy * factor;
     }
+
+    static auto kernel() { return momentKernels().addCorrelations; }
+    void take(const MomentKernels::Pairs& pairs, int lane)
+    {
+        products = pairs.products[lane];
+        squaresX = pairs.squaresX[lane];
+        squaresY = pairs.squaresY[lane];
+    }
 };
 
 template <class Sums>
@@ -69,13 +87,24 @@ struct RunningPair : PairMeans, Sums
 {
     void add(double x, double y, double w)
     {
-        if (!take(w))
+        if (!PairMeans::take(w))
             return;
         const double dx = x - meanX;
         const double dy = y - meanY;
         Sums::grow(dx, dy, w, weights);
         meanX += update::Weighted::mean(dx, w, weights);
         meanY += update::Weighted::mean(dy, w, weights);
+    }
+
+    static RunningPair ofLane(const MomentKernels::Pairs& pairs, int lane)
+    {
+        RunningPair pair;
+        pair.weights = pairs.weights[lane];
+        pair.rows = static_cast<int>(pairs.rows[lane]);
+        pair.meanX = pairs.meanX[lane];
+        pair.meanY = pairs.meanY[lane];
+        pair.Sums::take(pairs, lane);
+        return pair;
     }
 };
 
@@ -100,18 +129,100 @@ struct PairOptions
     }
 };
 
-/// Pairs column j of `x` with the columns `first` to `last - 1` of `y`; `store(k, sums)` receives each in turn.
-template <class Sums, class X, class Y, class Weight, class Store>
-void passPairs(X x, int j, Y y, int first, int last, Weight weight, const PairOptions& options, Store store)
+/// Pairs each column of `x` with columns of `y`, which has q of them.
+template <class Sums, class X, class Y, class Weight>
+class PairPass
 {
-    const Mask rows(options.mask);
-    accumulate<Sums>(
-        last - first, options.n,
-        [=](Sums& sums, int pair, int i) {
-            if (rows.keeps(i) && isPresent(x.get(i, j)) && isPresent(y.get(i, first + pair)))
-                sums.add(x.get(i, j), y.get(i, first + pair), weight.get(i));
-        },
-        [&](int pair, const Sums& sums) { store(first + pair, sums); });
+public:
+    PairPass(X x, Y y, int q, Weight weight, const PairOptions& options)
+        : x_(x), y_(y), weight_(weight), options_(options)
+    {
+        if (q >= fewestColumns && options.n >= fewestRows) {
+            inStrips_.emplace(options.n, q, Mask(options.mask));
+            if (inStrips_->hasMemory())
+                packStrips(q);
+            else
+                inStrips_.reset();
+        }
+    }
+
+    /// `store(k, sums)` receives the pairs of column j of `x` with the columns `first` to `last - 1` of `y`, in turn.
+    template <class Store>
+    void run(int j, int first, int last, Store store) const
+    {
+        if (inStrips_)
+            runInStrips(j, first, last, store);
+        else
+            runPairByPair(j, first, last, store);
+    }
+
+private:
+    static constexpr int fewestColumns = 3;
+    static constexpr int fewestRows = 16;
+    static constexpr int lanes = ColumnStrips::lanes;
+
+    /// The rows that the mask keeps, of all of `y` and of one column of `x`.
+    struct Strips
+    {
+        Strips(int n, int q, Mask mask)
+            : rows(n, [mask](int i) { return mask.keeps(i); }), y(rows.count(), q), x(countOf(rows.count())),
+              weights(countOf(rows.count()))
+        {
+        }
+        bool hasMemory() const { return rows && y && x && weights; }
+
+        RowSelection rows;
+        ColumnStrips y;
+        Scratch x;
+        Scratch weights;
+    };
+
+    void packStrips(int q) const
+    {
+        const auto& [rows, y, x, weights] = *inStrips_;
+        for (int k = 0; k < rows.count(); ++k)
+            weights.data()[k] = weight_.get(rows[k]);
+        y.fill(rows.count(), 0, q, [&](int k, int j) { return y_.get(rows[k], j); });
+    }
+
+    template <class Store>
+    void runInStrips(int j, int first, int last, Store store) const
+    {
+        const auto& [rows, y, x, weights] = *inStrips_;
+        for (int k = 0; k < rows.count(); ++k)
+            x.data()[k] = x_.get(rows[k], j);
+        for (int s = first / lanes; s * lanes < last; ++s) {
+            MomentKernels::Pairs pairs = {};
+            Sums::kernel()(rows.count(), x.data(), y.strip(s), weights.data(), &pairs);
+            for (int k = std::max(first, s * lanes); k < std::min(last, (s + 1) * lanes); ++k)
+                store(k, Sums::ofLane(pairs, k % lanes));
+        }
+    }
+
+    template <class Store>
+    void runPairByPair(int j, int first, int last, Store store) const
+    {
+        const Mask rows(options_.mask);
+        accumulate<Sums>(
+            last - first, options_.n,
+            [&](Sums& sums, int pair, int i) {
+                if (rows.keeps(i) && isPresent(x_.get(i, j)) && isPresent(y_.get(i, first + pair)))
+                    sums.add(x_.get(i, j), y_.get(i, first + pair), weight_.get(i));
+            },
+            [&](int pair, const Sums& sums) { store(first + pair, sums); });
+    }
+
+    X x_;
+    Y y_;
+    Weight weight_;
+    PairOptions options_;
+    std::optional<Strips> inStrips_;
+};
+
+template <class Sums, class X, class Y, class Weight>
+PairPass<Sums, X, Y, Weight> pairPass(X x, Y y, int q, Weight weight, const PairOptions& options)
+{
+    return PairPass<Sums, X, Y, Weight>(x, y, q, weight, options);
 }
 
 // ---- what follows the pass ------------------------------------------------------------------------------------------

@@ -62,6 +62,8 @@ bool isPresent(double x)
 template <ZeroWeight zero>
 struct RunningWeights
 {
+    static constexpr ZeroWeight zeroWeight = zero;
+
     double weights = 0.0;
     int rows = 0;
 
@@ -77,9 +79,11 @@ struct RunningWeights
 };
 
 /// Mean of the rows added so far, 0.0 before the first.
-template <class Rule, ZeroWeight zero>
+template <class UpdateRule, ZeroWeight zero>
 struct RunningMean : RunningWeights<zero>
 {
+    using Rule = UpdateRule;
+
     double mean = 0.0;
 
     void add(double x, double w)
@@ -90,9 +94,11 @@ struct RunningMean : RunningWeights<zero>
 };
 
 /// Mean and sum of squared deviations of the rows added so far.
-template <class Rule, ZeroWeight zero>
+template <class UpdateRule, ZeroWeight zero>
 struct RunningVariance : RunningWeights<zero>
 {
+    using Rule = UpdateRule;
+
     double mean = 0.0;
     double squares = 0.0;
 

@@ -1,0 +1,78 @@
+// Running moments of columns side by side: the kernel under means, variances and covariances.
+//
+// A strip holds the cells of `MomentKernels::lanes` columns row by row, the cells of one row next to each other. All
+// functions take the rows in their order, and each lane does for its column what the plain update does: it rounds after
+// each operation, in the order stated here, from left to right.
+#pragma once
+
+#include "instruction_set.h"
+
+#include <cstddef>
+
+namespace vecmat {
+
+struct MomentKernels
+{
+    static constexpr int lanes = 8;
+
+    /// The state of one strip. `rows` counts as a double does: exactly.
+    struct Moments
+    {
+        double weights[lanes];
+        double rows[lanes];
+        double mean[lanes];
+        double squares[lanes];
+    };
+
+    /// The state of the pairs of one column x with the columns y of a strip.
+    struct Pairs
+    {
+        double weights[lanes];
+        double rows[lanes];
+        double meanX[lanes];
+        double meanY[lanes];
+        double products[lanes];
+        double squaresX[lanes];
+        double squaresY[lanes];
+    };
+
+    /// In each lane whose cell x is not the missing value: rows = rows + 1, W = W + w, and unless w is 0
+    ///     d = x - mean     squares = squares + d d (w - w w / W)     mean = mean + d w / W
+    /// `strips` (1 or 2) strips lie one behind the other, `strip` doubles apart.
+    void (*addMoments)(int count, const double* cells, std::ptrdiff_t strip, int strips, const double* w,
+                       Moments* moments);
+
+    /// For rows without missing cells and of weights that are not 0: writes d = x - mean over the cells, and updates
+    ///     mean = mean + d w / W
+    /// where `W` holds the sum of the weights up to each row.
+    void (*deviations)(int count, double* cells, std::ptrdiff_t strip, int strips, const double* w, const double* W,
+                       double* mean);
+
+    /// For each row where neither x nor the lane's y is the missing value: rows = rows + 1, W = W + w, and unless w is 0
+    ///     dx = x - meanX     dy = y - meanY     f = w - w w / W
+    ///     products = products + f dx dy
+    ///     meanX = meanX + dx w / W     meanY = meanY + dy w / W
+    void (*addCovariances)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
+    /// The same with |f|.
+    void (*addCovariancesOfMagnitude)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
+    /// The same, where the products come first:
+    ///     squaresX = squaresX + dx dx f     squaresY = squaresY + dy dy f     products = products + dx dy f
+    void (*addCorrelations)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
+};
+
+namespace baseline {
+extern const MomentKernels momentKernels;
+}
+namespace avx2 {
+extern const MomentKernels momentKernels;
+}
+namespace avx512 {
+extern const MomentKernels momentKernels;
+}
+
+inline const MomentKernels& momentKernels()
+{
+    return forThisMachine(baseline::momentKernels, avx2::momentKernels, avx512::momentKernels);
+}
+
+} // namespace vecmat
