@@ -1,4 +1,5 @@
-# cmake --install: headers, libraries, a CMake package (find_package(VecMat), target VecMat::VecMat) and vecmat.pc.
+# cmake --install: headers, libraries, a CMake package (find_package(VecMat), target VecMat::VecMat), vecmat.pc, and
+# the modules for macros.
 
 include(CMakePackageConfigHelpers)
 
@@ -10,6 +11,8 @@ foreach(header IN ITEMS VecMat.h frame/api.h LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${vecmat_source}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/${folder})
 endforeach()
+install(FILES Bindings/c/VecMatFlat.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat)
+install(FILES Bindings/vba/VecMat.bas Bindings/vba/VecMatExample.bas DESTINATION ${CMAKE_INSTALL_DATADIR}/VecMat)
 install(TARGETS VecMat EXPORT VecMatTargets)
 
 if(VECMAT_COMPANIONS_DIR)

@@ -69,5 +69,6 @@ endforeach()
 
 target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMat PRIVATE ${companion_targets})

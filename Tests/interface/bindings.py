@@ -1,0 +1,221 @@
+"""Compares the declarations for macros and for C with what the headers export.
+
+Nothing is shared with the program that writes those declarations: the types are told here once more, and the functions
+come from the headers.
+"""
+
+import re
+from dataclasses import dataclass
+
+from declarations import one_spelling, parameters
+
+# What a parameter of a header is for a macro: handed over by value or by reference, and its type under VBA7 and before.
+MACRO_PARAMETERS = {
+    "int": ("ByVal", "Long", "Long"),
+    "double": ("ByVal", "Double", "Double"),
+    "short": ("ByVal", "Integer", "Integer"),
+    "int*": ("ByRef", "Long", "Long"),
+    "double*": ("ByRef", "Double", "Double"),
+    "short*": ("ByRef", "Boolean", "Boolean"),
+    "const wchar_t*": ("ByRef", "Long", "Long"),       # characters of 32 bits
+    "const void*": ("ByVal", "LongPtr", "Long"),       # one BSTR
+    "wchar_t**": ("ByVal", "LongPtr", "Long"),         # the first of an array of BSTRs
+    "SAFEARRAY**": ("ByVal", "LongPtr", "Long"),       # a variable that holds a descriptor's address
+}
+STATUS = ("ByRef", "Integer", "Integer")  # a `short*` of this name has the values -1, 0 and 1
+MACRO_RESULTS = {"int": ("Long", "Long"), "double": ("Double", "Double"), "short": ("Integer", "Integer"),
+                 "wchar_t*": ("LongPtr", "Long"), "void": (None, None)}
+C_TYPES = {"void", "void*", "int", "double", "short", "wchar_t*", "int*", "double*", "short*", "const char*",
+           "const wchar_t*", "const void*", "wchar_t**", "void**", "SAFEARRAY*", "SAFEARRAY**"}
+
+# Words that cannot be names: the language definition's statement and marker keywords, operators, reserved names and
+# types, literals, special forms and future words.
+RESERVED = set("""
+    call case close const declare defbool defbyte defcur defdate defdbl defint deflng deflnglng deflngptr defobj defsng
+    defstr defvar dim do else elseif end endif enum erase event exit for friend function get global gosub goto if
+    implements input let lock loop lset next on open option print private public put raiseevent redim resume return rset
+    seek select set static stop sub type unlock wend while with write any as byref byval each in new shared until
+    withevents optional paramarray preserve spc tab then to addressof and eqv imp is like mod not or typeof xor abs cbool
+    cbyte ccur cdate cdbl cdec cint clng clnglng clngptr csng cstr cvar cverr date debug doevents fix int len lenb me
+    pset scale sgn string array circle inputb lbound ubound boolean byte currency double integer long longlong longptr
+    single variant true false nothing empty null rem attribute lineinput cdecl decimal defdec""".split())
+LONGEST_LINE, MOST_CONTINUED, MOST_PARAMETERS, LONGEST_NAME = 1023, 24, 60, 255
+
+
+@dataclass(frozen=True)
+class MacroDeclaration:
+    name: str
+    is_ptr_safe: bool
+    library: str
+    parameters: tuple  # of triples: ByVal or ByRef, name, type
+    returns: str       # None for a Sub
+
+
+class ModuleError(Exception):
+    pass
+
+
+def statements(text):
+    """The statements of a module, without comments, each as one line; the limits of the language are held."""
+    if "\n" in text.replace("\r\n", ""):
+        raise ModuleError("a line does not end with carriage return and line feed")
+    found, current, continued = [], "", 0
+    for number, line in enumerate(text.split("\r\n"), start=1):
+        if len(line) > LONGEST_LINE or not line.isascii():
+            raise ModuleError(f"line {number} is too long or not ASCII")
+        current += line
+        if current.endswith(" _"):
+            current, continued = current[:-1], continued + 1
+            if continued > MOST_CONTINUED:
+                raise ModuleError(f"line {number}: more than {MOST_CONTINUED} lines are continued")
+            continue
+        code = re.sub(r"""^((?:[^"']|"[^"]*")*)'.*$""", r"\1", current).strip()
+        if code:
+            found.append(re.sub(r"\s+", " ", code))
+        current, continued = "", 0
+    if current:
+        raise ModuleError("the module ends within a statement")
+    return found
+
+
+DECLARATION = re.compile(
+    r'Public Declare (?P<safe>PtrSafe )?(?P<kind>Function|Sub) (?P<name>[A-Za-z]\w*) CDecl Lib "(?P<library>[^"]+)" '
+    r'\( ?(?P<parameters>[^()]*)\)(?: As (?P<returns>\w+))?')
+PARAMETER = re.compile(r"(ByVal|ByRef) ([A-Za-z]\w*) As (\w+)")
+
+
+def macro_declaration(statement):
+    match = DECLARATION.fullmatch(statement)
+    if not match or (match["kind"] == "Function") != (match["returns"] is not None):
+        raise ModuleError(f"not a declaration: {statement}")
+    triples = []
+    for part in match["parameters"].split(", ") if match["parameters"] else []:
+        found = PARAMETER.fullmatch(part)
+        if not found:
+            raise ModuleError(f"{match['name']}: not a parameter: {part}")
+        triples.append(found.groups())
+    names = [match["name"].lower()] + [name.lower() for _, name, _ in triples]
+    if len(set(names)) != len(names):
+        raise ModuleError(f"{match['name']}: two names differ in nothing but case")
+    if set(names) & RESERVED or max(map(len, names)) > LONGEST_NAME or len(triples) > MOST_PARAMETERS:
+        raise ModuleError(f"{match['name']}: a name is a word of the language, or there is too much of something")
+    return MacroDeclaration(match["name"], match["safe"] is not None, match["library"], tuple(triples), match["returns"])
+
+
+def module_declarations(text):
+    """The declarations of the module for VBA7, and those for older hosts."""
+    lines = statements(text)
+    if [line for line in lines if line.startswith("#")] != ["#If VBA7 Then", "#Else", "#End If"]:
+        raise ModuleError("there are not two blocks, one for VBA7 and one for others")
+    first, second, last = (lines.index(mark) for mark in ("#If VBA7 Then", "#Else", "#End If"))
+    if any("Declare" in line for line in lines[:first] + lines[last:]):
+        raise ModuleError("a declaration stands outside of the blocks")
+    return ([macro_declaration(line) for line in lines[first + 1:second]],
+            [macro_declaration(line) for line in lines[second + 1:last]])
+
+
+def expected_for_macros(declarations):
+    return {d.name: d for d in declarations
+            if d.linkage == "C" and not d.name.startswith("Cpp_") and d.returns in MACRO_RESULTS
+            and all(kind in MACRO_PARAMETERS for kind in d.types)}
+
+
+def compare_sets(title, found, expected):
+    wrong = [f"{title}: {name} is declared twice" for name in sorted({n for n in found if found.count(n) > 1})]
+    wrong += [f"{title}: {name} is not declared" for name in sorted(set(expected) - set(found))]
+    return wrong + [f"{title}: {name} is not a flat function of the headers" for name in sorted(set(found) - set(expected))]
+
+
+def compare_macros(text, declarations):
+    """What is wrong with the module, given all exported declarations of the headers."""
+    try:
+        blocks = module_declarations(text)
+    except ModuleError as error:
+        return [str(error)]
+    expected = expected_for_macros(declarations)
+    wrong = []
+    for before_vba7, (title, block) in enumerate(zip(("VBA7", "before VBA7"), blocks)):
+        wrong += compare_sets(title, [macro.name for macro in block], expected)
+        if len({macro.name.lower() for macro in block}) != len({macro.name for macro in block}):
+            wrong.append(f"{title}: two functions differ in nothing but case")
+        if len({macro.library for macro in block}) > 1:
+            wrong.append(f"{title}: the functions are not all in one library")
+        for macro in block:
+            if macro.name not in expected:
+                continue
+            header = expected[macro.name]
+            if macro.is_ptr_safe == bool(before_vba7):
+                wrong.append(f"{title}: {macro.name} has PtrSafe where it must not, or lacks it")
+            if macro.returns != MACRO_RESULTS[header.returns][before_vba7]:
+                wrong.append(f"{title}: {macro.name} returns {macro.returns}, the header {header.returns}")
+            if len(macro.parameters) != len(header.types):
+                wrong.append(f"{title}: {macro.name} has {len(macro.parameters)} parameters, the header "
+                             f"{len(header.types)}")
+                continue
+            for (passing, name, kind), header_type, header_name in zip(macro.parameters, header.types, header.names):
+                form = STATUS if (header_type, header_name) == ("short*", "status") else MACRO_PARAMETERS[header_type]
+                if (passing, kind) != (form[0], form[1 + before_vba7]):
+                    wrong.append(f"{title}: {macro.name} has {passing} {name} As {kind}, the header "
+                                 f"{header_type} {header_name}")
+                if not re.fullmatch(re.escape(header_name) + "(Arg)?2*", name):
+                    wrong.append(f"{title}: {macro.name} calls {name} what the header calls {header_name}")
+    return wrong
+
+
+def compare_c(text, declarations):
+    """What is wrong with the header for C."""
+    code = re.sub(r"/\*.*?\*/", " ", text, flags=re.S)
+    code = re.sub(r"typedef struct \w+\s*\{[^{}]*\}[^;]*;", " ", code)
+    code = "\n".join(line for line in code.split("\n") if not line.startswith(("#", 'extern "C"', "}", "struct SAFEARRAY;")))
+    wrong, found = [], {}
+    for statement in filter(None, (part.strip() for part in code.split(";"))):
+        match = re.fullmatch(r"([\w\s*]+?[\s*])(\w+)\s*\(([^()]*)\)", re.sub(r"\bstruct ", "", statement))
+        if not match:
+            wrong.append(f"C: not a declaration: {statement}")
+            continue
+        if match[2] in found:
+            wrong.append(f"C: {match[2]} is declared twice")
+        if not match[3].strip():
+            wrong.append(f"C: {match[2]}() takes anything: say (void)")
+        found[match[2]] = (one_spelling(match[1]), *parameters(match[3]))
+    expected = {d.name: d for d in declarations
+                if d.linkage == "C" and d.returns in C_TYPES and all(kind in C_TYPES for kind in d.types)}
+    wrong += compare_sets("C", list(found), expected)
+    for name in set(found) & set(expected):
+        header = expected[name]
+        if found[name] != (header.returns, header.types, header.names):
+            wrong.append(f"C: {name} is {found[name]}, the header has {(header.returns, header.types, header.names)}")
+    return wrong
+
+
+def calls_in(text, names):
+    """Calls of the given functions in a module: pairs of a name and the count of its arguments."""
+    calls = []
+    for statement in statements(text):
+        for match in re.finditer(r"\b([A-Za-z]\w*)(\(| )", statement):
+            if match[1] not in names or statement.startswith(("Attribute", "Public Sub", "Private Sub")):
+                continue
+            if match[2] == " " and not statement.startswith(match[1]):
+                continue
+            depth, count, rest = 0, 1, statement[match.end():]
+            for char in re.sub(r'"[^"]*"', "x", rest):
+                depth += {"(": 1, ")": -1}.get(char, 0)
+                if depth < 0:
+                    break
+                count += char == "," and depth == 0
+            calls.append((match[1], 0 if not rest.strip(" )") else count))
+    return calls
+
+
+def compare_example(text, declarations):
+    """What is wrong with the calls of an example macro: it names what is not there, or counts arguments wrong."""
+    expected = expected_for_macros(declarations)
+    try:
+        calls = calls_in(text, expected)
+        named = set(re.findall(r"\b(?:VB|Cpp|M|V)_\w+", "\n".join(statements(text)))) - {"VB_Name"}
+    except ModuleError as error:
+        return [str(error)]
+    wrong = [f"example: {name} is not a function for macros" for name in sorted(named - set(expected))]
+    wrong += [f"example: {name} is called with {count} arguments, not {len(expected[name].types)}"
+              for name, count in calls if count != len(expected[name].types)]
+    return wrong + ([] if calls else ["example: nothing is called"])

@@ -1,0 +1,149 @@
+#!/usr/bin/env python3
+"""Tests of the bindings test: whatever it is there to find, it finds."""
+
+import unittest
+
+import bindings
+from declarations import read_header
+
+HEADER = """
+extern "C" {
+VECMAT_API double VB_V_Mean(double* v, int n, short* mask);
+VECMAT_API void VB_Label(wchar_t** labels, int len, const wchar_t* text, SAFEARRAY** a, const void* one);
+VECMAT_API int VB_Factor(short N, int* n, short* status);
+VECMAT_API void Cpp_Native(double x);
+VECMAT_API void M_Tables(matrix* a);
+VECMAT_API wchar_t* Step(const void* input);
+}
+VECMAT_API void Overloaded(double x);
+"""
+
+BLOCK = """
+Public Declare PtrSafe Function VB_V_Mean CDecl Lib "lib" ( _
+    ByRef v As Double, ByVal n As Long, ByRef mask As Boolean) As Double ' a comment
+Public Declare PtrSafe Sub VB_Label CDecl Lib "lib" ( _
+    ByVal labels As LongPtr, ByVal lenArg As Long, ByRef text As Long, ByVal a As LongPtr, ByVal one As LongPtr)
+Public Declare PtrSafe Function VB_Factor CDecl Lib "lib" (ByVal N As Integer, ByRef n2 As Long, ByRef status As Integer) As Long
+Public Declare PtrSafe Function Step CDecl Lib "lib" (ByVal inputArg As LongPtr) As LongPtr
+"""
+MODULE = ('Attribute VB_Name = "X"\n#If VBA7 Then' + BLOCK + "#Else"
+          + BLOCK.replace("PtrSafe ", "").replace("LongPtr", "Long") + "#End If\n").replace("\n", "\r\n")
+
+C = """
+#ifndef A
+/* comment; */
+#ifdef __cplusplus
+struct SAFEARRAY;
+extern "C" {
+#else
+typedef struct SAFEARRAY
+{
+    void* pvData;
+} SAFEARRAY;
+#endif
+double VB_V_Mean(double* v, int n, short* mask);
+void VB_Label(wchar_t** labels, int len, const wchar_t* text, struct SAFEARRAY** a,
+    const void* one);
+int VB_Factor(short N, int* n, short* status);
+void Cpp_Native(double x);
+wchar_t* Step(const void* input);
+#ifdef __cplusplus
+}
+#endif
+"""
+
+DECLARATIONS = read_header(HEADER, "a.h")
+
+
+class Case(unittest.TestCase):
+    def expect(self, message, text, old, new, compare, count=1):
+        self.assertIn(old, text)
+        wrong = compare(text.replace(old, new, count), DECLARATIONS)
+        self.assertTrue(any(message in line for line in wrong), f"{message!r} is not in {wrong}")
+
+
+class Macros(Case):
+    def change(self, message, old, new, count=1):
+        self.expect(message, MODULE, old, new, bindings.compare_macros, count)
+
+    def test_nothing_is_wrong_where_all_agree(self):
+        self.assertEqual(bindings.compare_macros(MODULE, DECLARATIONS), [])
+
+    def test_types_and_passing(self):
+        self.change("ByVal v As Double, the header double* v", "ByRef v As Double", "ByVal v As Double")
+        self.change("ByRef v As Single", "ByRef v As Double", "ByRef v As Single")
+        self.change("ByRef n As Long, the header int n", "ByVal n As Long", "ByRef n As Long")
+        self.change("ByRef mask As Integer", "mask As Boolean", "mask As Integer")
+        self.change("ByRef status As Boolean", "status As Integer", "status As Boolean")
+        self.change("ByVal labels As Long, the header wchar_t**", "labels As LongPtr", "labels As Long")
+        self.change("ByRef text As Integer", "text As Long", "text As Integer")
+        self.change("returns Integer, the header double", ") As Double", ") As Integer")
+        self.change("returns Long, the header wchar_t*", ") As LongPtr", ") As Long")
+
+    def test_both_blocks_are_looked_at(self):
+        before = MODULE.index("#Else")
+        wrong = bindings.compare_macros(MODULE[:before] + MODULE[before:].replace("ByVal n As Long", "ByRef n As Long"),
+                                        DECLARATIONS)
+        self.assertEqual(wrong, ["before VBA7: VB_V_Mean has ByRef n As Long, the header int n"])
+
+    def test_count_and_order(self):
+        self.change("has 2 parameters, the header 3", ", ByRef mask As Boolean", "")
+        self.change("calls m what the header calls n", "ByVal n As Long", "ByVal m As Long")
+        self.change("calls mask what", "ByRef v As Double, ByVal n As Long, ByRef mask As Boolean",
+                    "ByRef mask As Boolean, ByVal n As Long, ByRef v As Double")
+
+    def test_what_is_declared(self):
+        self.change("Step is not declared", "Function Step", "Function Stop2")
+        self.change("Cpp_Native is not a flat function", "Function Step", "Function Cpp_Native")
+        self.change("is declared twice", "VB_Factor", "VB_V_Mean")
+        self.change("not all in one library", '"lib"', '"other"')
+
+    def test_language(self):
+        self.change("PtrSafe", "PtrSafe Sub VB_Label", "Sub VB_Label")
+        self.change("not a declaration", "CDecl ", "")
+        self.change("not a declaration", "Public Declare PtrSafe Sub VB_Label", "Public Declare PtrSafe Function VB_Label")
+        self.change("nothing but case", "n2 As Long", "n As Long")
+        self.change("word of the language", "inputArg", "input")
+        self.change("not a parameter", "ByVal n As Long", "n As Long")
+        self.change("two blocks", "#Else", "")
+        self.change("carriage return", "\r\n", "\n")
+        self.change("too long", "' a comment", "'" + 1000 * "x")
+        self.change("are continued", "( _", "( _\r\n" + 24 * " _\r\n")
+
+
+class CHeader(Case):
+    def change(self, message, old, new):
+        self.expect(message, C, old, new, bindings.compare_c)
+
+    def test_nothing_is_wrong_where_all_agree(self):
+        self.assertEqual(bindings.compare_c(C, DECLARATIONS), [])
+
+    def test_what_differs(self):
+        self.change("VB_V_Mean is", "double VB_V_Mean", "float VB_V_Mean")
+        self.change("VB_V_Mean is", "int n, short* mask", "int m, short* mask")
+        self.change("VB_Label is", "const wchar_t* text", "wchar_t* text")
+        self.change("VB_Label is", "struct SAFEARRAY** a", "struct SAFEARRAY* a")
+        self.change("VB_Factor is", "short* status", "int* status")
+        self.change("Cpp_Native is not declared", "void Cpp_Native(double x);", "")
+        self.change("Overloaded is not a flat function", "Cpp_Native", "Overloaded")
+        self.change("M_Tables is not a flat function", "Cpp_Native", "M_Tables")
+        self.change("is declared twice", "Cpp_Native", "VB_V_Mean")
+        self.change("say (void)", "(double x)", "()")
+        self.change("not a declaration", "void Cpp_Native(double x);", "int data = 3;")
+
+
+class Example(unittest.TestCase):
+    def wrong(self, line):
+        return bindings.compare_example(f'Attribute VB_Name = "X"\r\n{line}\r\n', DECLARATIONS)
+
+    def test_calls(self):
+        self.assertEqual(self.wrong('Debug.Print VB_V_Mean(v(0), f(1, 2), mask(0)); "a, b"'), [])
+        self.assertEqual(self.wrong("VB_Label VarPtr(a(0)), 2, text(0), b, c"), [])
+        self.assertEqual(self.wrong("x = VB_V_Mean(v(0), 3)"),
+                         ["example: VB_V_Mean is called with 2 arguments, not 3"])
+        self.assertIn("VB_V_Meen is not a function", self.wrong("x = VB_V_Meen(v(0), 3, m(0))")[0])
+        self.assertEqual(self.wrong("x = 3"), ["example: nothing is called"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,46 @@
+#!/usr/bin/env python3
+"""check_bindings.py [--complete] ROOT: are the declarations for macros and for C those of the headers?
+
+And are the files what tools/generate_bindings.py writes? Without --complete a function may be declared of which the
+header is still to come.
+"""
+
+import argparse
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+import bindings
+import interface
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--complete", action="store_true")
+    parser.add_argument("root", type=Path)
+    arguments = parser.parse_args()
+    root = arguments.root
+    declarations, wrong = interface.read_headers(root / "Sources/Shared/VecMat")
+    # read as bytes: the ends of lines are looked at
+    module = (root / "Bindings/vba/VecMat.bas").read_bytes().decode("ascii")
+    example = (root / "Bindings/vba/VecMatExample.bas").read_bytes().decode("ascii")
+    wrong += bindings.compare_macros(module, declarations)
+    wrong += bindings.compare_example(example, declarations)
+    wrong += bindings.compare_c((root / "Bindings/c/VecMatFlat.h").read_text(encoding="ascii"), declarations)
+    if not arguments.complete:
+        listed = {row.name for row in interface.read_rows((root / "exports.tsv").read_text(encoding="utf-8"))[0]}
+        to_come = listed - {declaration.name for declaration in declarations}
+        wrong = [line for line in wrong
+                 if not line.endswith("of the headers") or not to_come & set(re.findall(r"\w+", line))]
+    stale = subprocess.run([sys.executable, "-B", root / "tools/generate_bindings.py", "--check"], check=False,
+                           capture_output=True, text=True)
+    if stale.returncode != 0:
+        wrong.append(stale.stdout + stale.stderr)
+    print("\n".join(f"WRONG: {line}" for line in wrong))
+    print(f"{len(bindings.expected_for_macros(declarations))} functions for macros, {len(wrong)} wrong")
+    return 1 if wrong else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
