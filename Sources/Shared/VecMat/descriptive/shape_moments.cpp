@@ -1,5 +1,6 @@
 #include "shape_moments.h"
 
+#include "../elementary/kernels/power_kernels.h"
 #include "../frame/cells.h"
 #include "../frame/masks.h"
 #include "running_moments.h"
@@ -10,10 +11,11 @@ using namespace vecmat;
 
 namespace {
 
-/// Sums of the second to fourth powers of the deviations from the running mean. Each higher sum takes up the older
-/// lower ones, so they are updated from the highest down.
-struct RunningShape : RunningWeights<ZeroWeight::counted>
+/// Sums of the second to fourth powers of the deviations from the running mean. Rows are taken up some at a time: their
+/// deviations first, then all powers, which take most of the time, then the sums.
+class RunningShape : public RunningWeights<ZeroWeight::counted>
 {
+public:
     double mean = 0.0;
     double m2 = 0.0;
     double m3 = 0.0;
@@ -23,16 +25,41 @@ struct RunningShape : RunningWeights<ZeroWeight::counted>
     {
         if (!take(w))
             return;
-        const double f = w / weights;
         const double d = x - mean;
-        const double d4 = std::pow(d, 4.0);
-        const double d3 = std::pow(d, 3.0);
+        mean += update::Fractional::mean(d, w, weights);
+        deviation_[pending_] = d;
+        weight_[pending_] = w;
+        weightsSoFar_[pending_] = weights;
+        if (++pending_ == mostPowers)
+            finish();
+    }
+
+    /// Adds the rows that are still pending to the sums.
+    void finish()
+    {
+        double cube[mostPowers];
+        double fourth[mostPowers];
+        powThreeAndFour(pending_, deviation_, cube, fourth);
+        for (int k = 0; k < pending_; ++k)
+            grow(deviation_[k], cube[k], fourth[k], weight_[k], weightsSoFar_[k]);
+        pending_ = 0;
+    }
+
+private:
+    /// Each higher sum takes up the older lower ones, so they are updated from the highest down.
+    void grow(double d, double d3, double d4, double w, double W)
+    {
+        const double f = w / W;
         const double t = f * 3.0 * d * m2;
         m4 += (f + f) * d * (t - (m3 + m3)) + (((f * 6.0 + -4.0) - f * f * 3.0) * f + 1.0) * d4 * w;
         m3 = (m3 - t) + (f * f + f * f + (1.0 - f * 3.0)) * d3 * w;
-        m2 += update::Fractional::squares(d, w, weights);
-        mean += update::Fractional::mean(d, w, weights);
+        m2 += update::Fractional::squares(d, w, W);
     }
+
+    int pending_ = 0;
+    double deviation_[mostPowers];
+    double weight_[mostPowers];
+    double weightsSoFar_[mostPowers];
 };
 
 } // namespace
@@ -42,9 +69,14 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
                          short freqWeights)
 {
     RunningShape moments;
-    for (int i = 0; i < n; ++i)
-        if (const double x = linear(v).get(i); Mask(mask).keeps(i) && isPresent(x))
-            moments.add(x, linear(w).get(i));
+    onBlocks(
+        [&](auto cell, auto weight) {
+            for (int i = 0; i < n; ++i)
+                if (const double x = cell.get(i); Mask(mask).keeps(i) && isPresent(x))
+                    moments.add(x, weight.get(i));
+        },
+        block(linear(v), n), block(linear(w), n));
+    moments.finish();
 
     const double W = moments.weights;
     const double wbar = moments.rows > 0 ? W / moments.rows : 0.0;
