@@ -9,6 +9,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import check_calls
 import interface
 from declarations import HeaderError, read_header
 
@@ -256,6 +257,34 @@ class Symbols(unittest.TestCase):
             """)), {"table::table(int)", "table::~table()", "table::get(int, unsigned int)",
                    "V_Sum(matrix*&, const wchar_t*, short&, std::vector<void*>&)",
                    "V_Set(matrix**, std::wstring, const void*)", "VB_V_Sum", "data"})
+
+
+class Calls(unittest.TestCase):
+    """On a program that is compiled here."""
+
+    def test_overloads_are_told_apart_and_mentions_are_no_calls(self):
+        rows, _ = interface.read_rows(HEADING + (
+            "table::get\tC++\tdouble\tint i\tmember\ttable\n"
+            "table::set\tC++\tvoid\tint i\tmember\ttable\n"
+            "V_Sum\tC++\tdouble\tdouble* v\tV\tunit/sums\n"
+            "V_Sum\tC++\tint\tint* v\tV\tunit/sums\n"
+            "VB_V_Sum\tC\tdouble\tdouble* v\tVB\tunit/sums\n"
+            "VB_V_Max\tC\tdouble\tdouble* v\tVB\tunit/sums\n"))
+        source = """
+            struct table { double get(int i) { return i; } void set(int) {} };
+            double V_Sum(double*);
+            int V_Sum(int*);
+            extern "C" double VB_V_Sum(double*);
+            extern "C" double VB_V_Max(double*);
+            // VB_V_Max(nullptr);
+            double call(int* x) { table t; return t.get(1) + V_Sum(x) + VB_V_Sum(nullptr) + sizeof "VB_V_Max(x)"; }
+            """
+        with tempfile.TemporaryDirectory() as folder:
+            Path(folder, "a.cpp").write_text(source, encoding="utf-8")
+            subprocess.run([os.environ.get("CXX", "c++"), "-O0", "-c", f"{folder}/a.cpp", "-o", f"{folder}/a.o"],
+                           check=True)
+            self.assertEqual(check_calls.not_called(rows, check_calls.called_symbols([f"{folder}/a.o"])),
+                             ["table::set(int)", "V_Sum(double*)", "VB_V_Max(double*)"])
 
 
 class Program(unittest.TestCase):
