@@ -8,7 +8,9 @@
 #include "../frame/companions.h"
 #include "../frame/handles.h"
 #include "../sorting/sort.h"
+#include "storage_overlap.h"
 #include "symmetric_ql.h"
+#include "symmetric_ql_workspace.h"
 
 #include <algorithm>
 #include <vector>
@@ -55,13 +57,33 @@ void sortDescending(matrix*& values, Cells vectors, int n)
     }
 }
 
+/// A smaller table is done before a workspace is set up.
+constexpr int smallestInWorkspace = 16;
+
+/// As `eigenInPlace`, in a workspace where that pays and where its order of work cannot be seen.
+template <class Cells>
+bool eigenOfPlainCells(Cells a, PlainVector<matrix> d, PlainVector<matrix> e, int n)
+{
+    if (n >= smallestInWorkspace && !a.folds(n, n) && standApart([=](auto visit) {
+            a.visitStorage(n, n, visit);
+            d.visitStorage(n, visit);
+        }))
+    {
+        SymmetricWorkspace<Cells> workspace(a, n);
+        if (workspace.hasMemory())
+            return workspace.run(d, e);
+    }
+    return eigenInPlace(a, d, e, n);
+}
+
 /// What all forms do once `vectors` holds the input. The scratch is had before any result is prepared.
 template <class Cells>
 int decompose(Cells vectors, matrix*& values, std::vector<double>& offDiagonal, int n, short sort)
 {
     const PlainVector<matrix> e(offDiagonal.data());
-    const bool converged = onBlocks([&](auto a, auto d) { return eigenInPlace(a, d, e, n); }, block(vectors, n, n),
-                                    block(linear(values), n));
+    const bool converged = onBlocksOrElse([&](auto a, auto d) { return eigenOfPlainCells(a, d, e, n); },
+                                          [&](auto a, auto d) { return eigenInPlace(a, d, e, n); },
+                                          block(vectors, n, n), block(linear(values), n));
     if (!converged)
         return -1;
     if (sort == -1)

@@ -18,32 +18,57 @@ namespace vecmat {
 
 inline constexpr int passesForEachEigenvalue = 28;
 
-/// One row of the reduction: brings row i of the leading block to zero left of the subdiagonal. `h` is half the squared
-/// length of the Householder vector, which stays in the row; 0 where nothing was to be done.
+/// Turns the cells of a row left of the diagonal into the Householder vector that brings all but the last of them to
+/// zero. That one becomes the off-diagonal element, and `h` half the squared length of the vector. False, with h 0.0,
+/// where there is nothing to be done.
+template <class Row>
+bool makeReflection(Row row, int count, double& offDiagonal, double& h)
+{
+    h = 0.0;
+    double scale = 0.0;
+    if (count > 1)
+        for (int k = 0; k < count; ++k)
+            scale += std::fabs(row.get(k));
+    const int last = count - 1;
+    if (count == 1 || scale == 0.0) {
+        offDiagonal = row.get(last);
+        return false;
+    }
+    for (int k = 0; k < count; ++k) {
+        row.set(k, row.get(k) / scale);
+        h += row.get(k) * row.get(k);
+    }
+    const double f = row.get(last);
+    const double root = f > 0.0 ? -sqr(h) : sqr(h);
+    offDiagonal = scale * root;
+    h -= f * root;
+    row.set(last, f - root);
+    return true;
+}
+
+template <class Cells>
+struct RowCells
+{
+    Cells cells;
+    int row;
+
+    double get(int k) const { return cells.get(row, k); }
+    void set(int k, double value) const { cells.set(row, k, value); }
+};
+
+/// One row of the reduction: brings row i of the leading block to zero left of the subdiagonal. Returns the h of the
+/// Householder vector, which stays in the row.
 template <class Cells, class Vector>
 double eliminateRow(Cells a, Vector e, int i)
 {
     const int l = i - 1;
-    double scale = 0.0;
-    if (l > 0)
-        for (int k = 0; k <= l; ++k)
-            scale += std::fabs(a.get(i, k));
-    if (l == 0 || scale == 0.0) {
-        e.set(i, a.get(i, l));
-        return 0.0;
-    }
+    double offDiagonal = 0.0;
     double h = 0.0;
-    for (int k = 0; k <= l; ++k) {
-        a.set(i, k, a.get(i, k) / scale);
-        h += a.get(i, k) * a.get(i, k);
-    }
-    double f = a.get(i, l);
-    const double root = f > 0.0 ? -sqr(h) : sqr(h);
-    e.set(i, scale * root);
-    h -= f * root;
-    a.set(i, l, f - root);
-
-    f = 0.0;
+    const bool reflected = makeReflection(RowCells<Cells>{a, i}, i, offDiagonal, h);
+    e.set(i, offDiagonal);
+    if (!reflected)
+        return h;
+    double f = 0.0;
     for (int j = 0; j <= l; ++j) {
         a.set(j, i, a.get(i, j) / h);
         double g = 0.0;
@@ -102,9 +127,10 @@ int endOfBlock(Vector e, int l, int n)
     return m;
 }
 
-/// One pass of QL over the block from l to m, the rotations applied to the columns of `a`.
-template <class Cells, class Diagonal, class Vector>
-void qlPass(Cells a, Diagonal d, Vector e, int l, int m, int n)
+/// One pass of QL over the block from l to m. `rotate(i, c, s)` rotates columns i + 1 and i of the vectors: x' = c x + s y
+/// and y' = c y - s x.
+template <class Diagonal, class Vector, class Rotate>
+void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
 {
     double g = (d.get(l + 1) - d.get(l)) / (e.get(l) + e.get(l));
     double r = sqr(g * g + 1.0);
@@ -113,7 +139,7 @@ void qlPass(Cells a, Diagonal d, Vector e, int l, int m, int n)
     double c = 1.0;
     double p = 0.0;
     for (int i = m - 1; i >= l; --i) {
-        double f = s * e.get(i);
+        const double f = s * e.get(i);
         const double b = c * e.get(i);
         // The branch on the larger term stands in place of a hypotenuse; a vanishing radius is not looked for.
         if (std::fabs(g) <= std::fabs(f)) {
@@ -134,15 +160,31 @@ void qlPass(Cells a, Diagonal d, Vector e, int l, int m, int n)
         p = s * r;
         d.set(i + 1, g + p);
         g = r * c - b;
-        for (int k = 0; k < n; ++k) {
-            f = a.get(k, i + 1);
-            a.set(k, i + 1, s * a.get(k, i) + c * f);
-            a.set(k, i, c * a.get(k, i) - s * f);
-        }
+        rotate(i, c, s);
     }
     d.set(l, d.get(l) - p);
     e.set(l, g);
     e.set(m, 0.0);
+}
+
+/// Eigenvalues of the tridiagonal table with the diagonal `d` and, from place 1 on, the off-diagonal `e`, which is used
+/// up. False where an eigenvalue asks for more passes than it has.
+template <class Diagonal, class Vector, class Rotate>
+bool qlIteration(Diagonal d, Vector e, int n, Rotate rotate)
+{
+    for (int i = 1; i < n; ++i)
+        e.set(i - 1, e.get(i));
+    e.set(n - 1, 0.0);
+    for (int l = 0; l < n; ++l) {
+        int passes = 0;
+        for (int m = endOfBlock(e, l, n); m != l; m = endOfBlock(e, l, n)) {
+            if (passes == passesForEachEigenvalue)
+                return false;
+            ++passes;
+            qlPass(d, e, l, m, rotate);
+        }
+    }
+    return true;
 }
 
 /// Eigenvalues into `d`, eigenvectors into the columns of `a`, whose lower triangle is the input. `e` is scratch of n
@@ -153,19 +195,13 @@ bool eigenInPlace(Cells a, Diagonal d, Vector e, int n)
     if (n < 1)
         return true;
     tridiagonalise(a, d, e, n);
-    for (int i = 1; i < n; ++i)
-        e.set(i - 1, e.get(i));
-    e.set(n - 1, 0.0);
-    for (int l = 0; l < n; ++l) {
-        int passes = 0;
-        for (int m = endOfBlock(e, l, n); m != l; m = endOfBlock(e, l, n)) {
-            if (passes == passesForEachEigenvalue)
-                return false;
-            ++passes;
-            qlPass(a, d, e, l, m, n);
+    return qlIteration(d, e, n, [a, n](int i, double c, double s) {
+        for (int k = 0; k < n; ++k) {
+            const double f = a.get(k, i + 1);
+            a.set(k, i + 1, s * a.get(k, i) + c * f);
+            a.set(k, i, c * a.get(k, i) - s * f);
         }
-    }
-    return true;
+    });
 }
 
 } // namespace vecmat

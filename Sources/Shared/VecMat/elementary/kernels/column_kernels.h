@@ -1,0 +1,71 @@
+// Work on the columns of a workspace: the kernels under the decompositions.
+#pragma once
+
+#include "instruction_set.h"
+
+#include <cstddef>
+
+namespace vecmat {
+
+/// A plane rotation of two columns, by their numbers from 0: x' = c x + s y, y' = c y - s x.
+struct ColumnRotation
+{
+    double c;
+    double s;
+    int x;
+    int y;
+};
+
+/// Columns stand `stride` doubles apart. Each product and each sum is rounded; a sum begins at +0.0 and takes its terms
+/// in ascending order.
+struct ColumnKernels
+{
+    static constexpr int mostLanes = 8;
+    /// Columns whose inner products are formed side by side: up to twice the lanes.
+    static constexpr int mostColumns = 2 * mostLanes;
+    /// Rows that are rotated side by side: up to four times the lanes.
+    static constexpr int mostVectors = 4;
+
+    int lanes;
+
+    /// sums(c) = sum over k of column(c)(k) * with(k), for up to 2 `lanes` columns. It reads as many columns as the next
+    /// multiple of `lanes` has, and writes as many sums.
+    void (*innerProducts)(int count, const double* with, int columns, const double* first, std::ptrdiff_t stride,
+                          double* sums);
+
+    /// to(k) = to(k) + factor * from(k).
+    void (*addMultiple)(int count, double factor, const double* from, double* to);
+
+    /// For the symmetric table a of order n, of which all cells are held:
+    ///     a(i, k) = a(i, k) - (x(i) * y(k) + y(i) * x(k)), then product(i) = sum over k of a(i, k) * v(k).
+    /// Rows up to the next multiple of `lanes` are read and written, of the table and of x, y and product.
+    void (*updateAndMultiply)(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y,
+                              const double* v, double* product);
+
+    /// For each row i of a: sum = sum over j of weights(j) * a(i, j), then a(i, j) = a(i, j) + factors(j) * sum. A weight
+    /// or factor of exactly 0 leaves its column out.
+    void (*reflectRows)(int rows, int columns, const double* weights, const double* factors, double* a,
+                        std::ptrdiff_t stride);
+
+    /// One rotation after the other, of `vectors` times `lanes` rows of a table of so many columns. `panel` has room for
+    /// these rows.
+    void (*rotate)(int vectors, int count, const ColumnRotation* rotations, int columns, double* first,
+                   std::ptrdiff_t stride, double* panel);
+};
+
+namespace baseline {
+extern const ColumnKernels columnKernels;
+}
+namespace avx2 {
+extern const ColumnKernels columnKernels;
+}
+namespace avx512 {
+extern const ColumnKernels columnKernels;
+}
+
+inline const ColumnKernels& columnKernels()
+{
+    return forThisMachine(baseline::columnKernels, avx2::columnKernels, avx512::columnKernels);
+}
+
+} // namespace vecmat

@@ -1,0 +1,262 @@
+#include "column_kernels.h"
+
+#include "lanes.h"
+
+namespace vecmat::VECMAT_INSTRUCTION_SET {
+
+namespace {
+
+static_assert(laneCount <= ColumnKernels::mostLanes);
+
+// ---- inner products of several columns ------------------------------------------------------------------------------
+
+using Places [[gnu::vector_size(laneCount * sizeof(double))]] = long long;
+
+template <int... numbers>
+struct Numbers
+{
+};
+#if defined(__AVX512F__)
+using EachLane = Numbers<0, 1, 2, 3, 4, 5, 6, 7>;
+#elif defined(__AVX__)
+using EachLane = Numbers<0, 1, 2, 3>;
+#else
+using EachLane = Numbers<0, 1>;
+#endif
+
+/// Exchanges the upper right and the lower left block of `step` by `step` of each such four.
+template <int step, int... lane>
+void exchangeBlocks(Lanes* rows, Numbers<lane...> /*each*/)
+{
+    if constexpr (step > 0) {
+#pragma GCC unroll 8
+        for (int i = 0; i < laneCount; ++i) {
+            if ((i & step) != 0)
+                continue;
+            const Lanes upper = rows[i];
+            const Lanes lower = rows[i + step];
+            rows[i] = __builtin_shuffle(upper, lower, Places{((lane & step) != 0 ? lane - step + laneCount : lane)...});
+            rows[i + step] =
+                __builtin_shuffle(upper, lower, Places{((lane & step) != 0 ? lane + laneCount : lane + step)...});
+        }
+        exchangeBlocks<step / 2>(rows, EachLane());
+    }
+}
+
+/// The products of a column are side by side as they come from memory. Turned round, those of one row are, and each
+/// column's sum takes them in its order.
+template <int groups>
+void innerProductsOfGroups(int count, const double* with, const double* first, std::ptrdiff_t stride, double* sums)
+{
+    Lanes running[groups] = {};
+    int k = 0;
+    for (; k <= count - laneCount; k += laneCount) {
+        const Lanes factors = load(with + k);
+#pragma GCC unroll 2
+        for (int g = 0; g < groups; ++g) {
+            Lanes products[laneCount];
+#pragma GCC unroll 8
+            for (int c = 0; c < laneCount; ++c)
+                products[c] = load(first + (g * laneCount + c) * stride + k) * factors;
+            exchangeBlocks<laneCount / 2>(products, EachLane());
+#pragma GCC unroll 8
+            for (int r = 0; r < laneCount; ++r)
+                running[g] += products[r];
+        }
+    }
+    for (int g = 0; g < groups; ++g)
+        store(sums + g * laneCount, running[g]);
+    for (; k < count; ++k)
+        for (int c = 0; c < groups * laneCount; ++c)
+            sums[c] += first[c * stride + k] * with[k];
+}
+
+void innerProducts(int count, const double* with, int columns, const double* first, std::ptrdiff_t stride, double* sums)
+{
+    if (columns > laneCount)
+        innerProductsOfGroups<2>(count, with, first, stride, sums);
+    else
+        innerProductsOfGroups<1>(count, with, first, stride, sums);
+}
+
+// ---- updates --------------------------------------------------------------------------------------------------------
+
+void addMultiple(int count, double factor, const double* __restrict from, double* __restrict to)
+{
+    for (int k = 0; k < count; ++k)
+        to[k] = to[k] + factor * from[k];
+}
+
+/// Some columns of `updateAndMultiply`; `product` has the sums up to them.
+template <int columns>
+void updateColumns(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y, const double* xHere,
+                   const double* yHere, const double* v, double* product)
+{
+    Lanes xEach[columns];
+    Lanes yEach[columns];
+    Lanes vEach[columns];
+    for (int c = 0; c < columns; ++c) {
+        xEach[c] = inEachLane(xHere[c]);
+        yEach[c] = inEachLane(yHere[c]);
+        vEach[c] = inEachLane(v[c]);
+    }
+    for (int i = 0; i < n; i += laneCount) {
+        const Lanes xRows = load(x + i);
+        const Lanes yRows = load(y + i);
+        Lanes sum = load(product + i);
+#pragma GCC unroll 4
+        for (int c = 0; c < columns; ++c) {
+            double* const cells = a + c * stride + i;
+            const Lanes updated = load(cells) - (xRows * yEach[c] + yRows * xEach[c]);
+            store(cells, updated);
+            sum += updated * vEach[c];
+        }
+        store(product + i, sum);
+    }
+}
+
+void updateAndMultiply(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y, const double* v,
+                       double* product)
+{
+#if defined(__AVX512F__)
+    constexpr int columns = 4;
+#else
+    constexpr int columns = 2;
+#endif
+    for (int i = 0; i < n; i += laneCount)
+        store(product + i, Lanes{});
+    int k = 0;
+    for (; k <= n - columns; k += columns)
+        updateColumns<columns>(n, a + k * stride, stride, x, y, x + k, y + k, v + k, product);
+    for (; k < n; ++k)
+        updateColumns<1>(n, a + k * stride, stride, x, y, x + k, y + k, v + k, product);
+}
+
+template <int vectors>
+void reflectLanes(int columns, const double* weights, const double* factors, double* a, std::ptrdiff_t stride)
+{
+    Lanes sums[vectors] = {};
+    for (int j = 0; j < columns; ++j)
+        if (weights[j] != 0.0)
+#pragma GCC unroll 4
+            for (int v = 0; v < vectors; ++v)
+                sums[v] += inEachLane(weights[j]) * load(a + j * stride + v * laneCount);
+    for (int j = 0; j < columns; ++j)
+        if (factors[j] != 0.0)
+#pragma GCC unroll 4
+            for (int v = 0; v < vectors; ++v) {
+                double* const cells = a + j * stride + v * laneCount;
+                store(cells, load(cells) + inEachLane(factors[j]) * sums[v]);
+            }
+}
+
+void reflectRow(int columns, const double* weights, const double* factors, double* a, std::ptrdiff_t stride)
+{
+    double sum = 0.0;
+    for (int j = 0; j < columns; ++j)
+        if (weights[j] != 0.0)
+            sum += weights[j] * a[j * stride];
+    for (int j = 0; j < columns; ++j)
+        if (factors[j] != 0.0)
+            a[j * stride] += factors[j] * sum;
+}
+
+void reflectRows(int rows, int columns, const double* weights, const double* factors, double* a, std::ptrdiff_t stride)
+{
+    constexpr int vectors = 4;
+    int i = 0;
+    for (; i <= rows - vectors * laneCount; i += vectors * laneCount)
+        reflectLanes<vectors>(columns, weights, factors, a + i, stride);
+    for (; i <= rows - laneCount; i += laneCount)
+        reflectLanes<1>(columns, weights, factors, a + i, stride);
+    for (; i < rows; ++i)
+        reflectRow(columns, weights, factors, a + i, stride);
+}
+
+// ---- rotations ------------------------------------------------------------------------------------------------------
+
+/// So many numbers side by side of one column.
+template <int vectors>
+struct Segment
+{
+    static constexpr int length = vectors * laneCount;
+
+    Lanes lanes[vectors];
+
+    explicit Segment(const double* from)
+    {
+#pragma GCC unroll 4
+        for (int v = 0; v < vectors; ++v)
+            lanes[v] = load(from + v * laneCount);
+    }
+    void writeTo(double* to) const
+    {
+#pragma GCC unroll 4
+        for (int v = 0; v < vectors; ++v)
+            store(to + v * laneCount, lanes[v]);
+    }
+};
+
+/// In the panel the columns stand without gaps. The second column of a rotation is mostly the first of the next: it
+/// waits in registers.
+template <int vectors>
+void rotatePanel(int count, const ColumnRotation* rotations, double* panel)
+{
+    using Column = Segment<vectors>;
+    int held = rotations[0].x;
+    Column x(panel + held * Column::length);
+    for (int r = 0; r < count; ++r) {
+        const ColumnRotation rotation = rotations[r];
+        if (rotation.x != held) {
+            x.writeTo(panel + held * Column::length);
+            x = Column(panel + rotation.x * Column::length);
+        }
+        const Column y(panel + rotation.y * Column::length);
+        const Lanes c = inEachLane(rotation.c);
+        const Lanes s = inEachLane(rotation.s);
+        double* const first = panel + rotation.x * Column::length;
+#pragma GCC unroll 4
+        for (int v = 0; v < vectors; ++v) {
+            store(first + v * laneCount, c * x.lanes[v] + s * y.lanes[v]);
+            x.lanes[v] = c * y.lanes[v] - s * x.lanes[v];
+        }
+        held = rotation.y;
+    }
+    x.writeTo(panel + held * Column::length);
+}
+
+template <int vectors>
+void rotateRows(int count, const ColumnRotation* rotations, int columns, double* first, std::ptrdiff_t stride,
+                double* panel)
+{
+    using Column = Segment<vectors>;
+    for (int j = 0; j < columns; ++j)
+        Column(first + j * stride).writeTo(panel + j * Column::length);
+    rotatePanel<vectors>(count, rotations, panel);
+    for (int j = 0; j < columns; ++j)
+        Column(panel + j * Column::length).writeTo(first + j * stride);
+}
+
+void rotate(int vectors, int count, const ColumnRotation* rotations, int columns, double* first, std::ptrdiff_t stride,
+            double* panel)
+{
+    if (count < 1)
+        return;
+    switch (vectors) {
+    case 1:
+        return rotateRows<1>(count, rotations, columns, first, stride, panel);
+    case 2:
+        return rotateRows<2>(count, rotations, columns, first, stride, panel);
+    case 3:
+        return rotateRows<3>(count, rotations, columns, first, stride, panel);
+    default:
+        return rotateRows<ColumnKernels::mostVectors>(count, rotations, columns, first, stride, panel);
+    }
+}
+
+} // namespace
+
+extern const ColumnKernels columnKernels;
+const ColumnKernels columnKernels = {laneCount, innerProducts, addMultiple, updateAndMultiply, reflectRows, rotate};
+
+} // namespace vecmat::VECMAT_INSTRUCTION_SET
