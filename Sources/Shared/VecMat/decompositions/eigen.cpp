@@ -21,21 +21,36 @@ namespace {
 
 /// Column after column, so that the answer comes at the first missing cell.
 template <class Cells>
-bool hasMissing(Cells a, int n)
+bool hasMissing(Cells cells, int n)
 {
-    for (int j = 0; j < n; ++j)
-        for (int i = 0; i < n; ++i)
-            if (isMissing(a.get(i, j)))
-                return true;
-    return false;
+    return onBlocks(
+        [n](auto a) {
+            for (int j = 0; j < n; ++j)
+                for (int i = 0; i < n; ++i)
+                    if (isMissing(a.get(i, j)))
+                        return true;
+            return false;
+        },
+        block(cells, n, n));
+}
+
+/// Column `placeOf(j)` of one table into column j of the other.
+template <class From, class To, class PlaceOf>
+void copyColumns(From from, To to, int n, PlaceOf placeOf)
+{
+    onBlocks(
+        [n, placeOf](auto source, auto target) {
+            for (int j = 0; j < n; ++j)
+                for (int i = 0; i < n; ++i)
+                    target.set(i, j, source.get(i, placeOf(j)));
+        },
+        block(from, n, n), block(to, n, n));
 }
 
 template <class From, class To>
 void copySquare(From from, To to, int n)
 {
-    for (int j = 0; j < n; ++j)
-        for (int i = 0; i < n; ++i)
-            to.set(i, j, from.get(i, j));
+    copyColumns(from, to, n, [](int j) { return j; });
 }
 
 /// Brings the eigenvalues into descending order, equal ones in the order found, and the columns of `vectors` with them.
@@ -50,15 +65,11 @@ void sortDescending(matrix*& values, Cells vectors, int n)
     TableHandle found = fresh(n, n);
     copySquare(vectors, cells<matrix>(found), n);
     SortQ(order.reference(), n, 1, 1, n, values, companion.reference(), 1, -1, -1);
-    for (int j = 0; j < n; ++j) {
-        const double* column = found->X + static_cast<std::ptrdiff_t>(n) * truncated(order->X[j]);
-        for (int i = 0; i < n; ++i)
-            vectors.set(i, j, column[i]);
-    }
+    copyColumns(cells<matrix>(found), vectors, n, [&](int j) { return truncated(order->X[j]); });
 }
 
 /// A smaller table is done before a workspace is set up.
-constexpr int smallestInWorkspace = 16;
+constexpr int smallestInWorkspace = 20;
 
 /// As `eigenInPlace`, in a workspace where that pays and where its order of work cannot be seen.
 template <class Cells>

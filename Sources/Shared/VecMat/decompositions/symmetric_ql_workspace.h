@@ -2,6 +2,7 @@
 // the same bits.
 #pragma once
 
+#include "../frame/cells.h"
 #include "column_workspace.h"
 #include "delayed_rotations.h"
 #include "symmetric_ql.h"

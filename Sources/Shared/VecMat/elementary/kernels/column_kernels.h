@@ -47,10 +47,12 @@ struct ColumnKernels
     void (*reflectRows)(int rows, int columns, const double* weights, const double* factors, double* a,
                         std::ptrdiff_t stride);
 
-    /// One rotation after the other, of `vectors` times `lanes` rows of a table of so many columns. `panel` has room for
-    /// these rows.
-    void (*rotate)(int vectors, int count, const ColumnRotation* rotations, int columns, double* first,
-                   std::ptrdiff_t stride, double* panel);
+    /// One rotation after the other, of a panel whose columns have `vectors` times `lanes` rows and stand without gaps.
+    void (*rotate)(int vectors, int count, const ColumnRotation* rotations, double* panel);
+
+    /// Copies so many columns of `vectors` times `lanes` rows.
+    void (*copyColumns)(int vectors, int columns, const double* from, std::ptrdiff_t fromStride, double* to,
+                        std::ptrdiff_t toStride);
 };
 
 namespace baseline {

@@ -26,7 +26,7 @@ using EachLane = Numbers<0, 1>;
 
 /// Exchanges the upper right and the lower left block of `step` by `step` of each such four.
 template <int step, int... lane>
-void exchangeBlocks(Lanes* rows, Numbers<lane...> /*each*/)
+[[gnu::always_inline]] inline void exchangeBlocks(Lanes* rows, Numbers<lane...> /*each*/)
 {
     if constexpr (step > 0) {
 #pragma GCC unroll 8
@@ -197,66 +197,62 @@ struct Segment
     }
 };
 
-/// In the panel the columns stand without gaps. The second column of a rotation is mostly the first of the next: it
+/// The second column of a rotation is mostly the first of the next: it
 /// waits in registers.
 template <int vectors>
 void rotatePanel(int count, const ColumnRotation* rotations, double* panel)
 {
     using Column = Segment<vectors>;
-    int held = rotations[0].x;
-    Column x(panel + held * Column::length);
+    double* first = panel + std::ptrdiff_t{rotations[0].x} * Column::length;
+    Column x(first);
     for (int r = 0; r < count; ++r) {
-        const ColumnRotation rotation = rotations[r];
-        if (rotation.x != held) {
-            x.writeTo(panel + held * Column::length);
-            x = Column(panel + rotation.x * Column::length);
+        const ColumnRotation& rotation = rotations[r];
+        if (r > 0 && rotation.x != rotations[r - 1].y) {
+            x.writeTo(first);
+            first = panel + std::ptrdiff_t{rotation.x} * Column::length;
+            x = Column(first);
         }
-        const Column y(panel + rotation.y * Column::length);
+        double* const second = panel + std::ptrdiff_t{rotation.y} * Column::length;
+        const Column y(second);
         const Lanes c = inEachLane(rotation.c);
         const Lanes s = inEachLane(rotation.s);
-        double* const first = panel + rotation.x * Column::length;
 #pragma GCC unroll 4
         for (int v = 0; v < vectors; ++v) {
             store(first + v * laneCount, c * x.lanes[v] + s * y.lanes[v]);
             x.lanes[v] = c * y.lanes[v] - s * x.lanes[v];
         }
-        held = rotation.y;
+        first = second;
     }
-    x.writeTo(panel + held * Column::length);
+    x.writeTo(first);
 }
 
-template <int vectors>
-void rotateRows(int count, const ColumnRotation* rotations, int columns, double* first, std::ptrdiff_t stride,
-                double* panel)
-{
-    using Column = Segment<vectors>;
-    for (int j = 0; j < columns; ++j)
-        Column(first + j * stride).writeTo(panel + j * Column::length);
-    rotatePanel<vectors>(count, rotations, panel);
-    for (int j = 0; j < columns; ++j)
-        Column(panel + j * Column::length).writeTo(first + j * stride);
-}
-
-void rotate(int vectors, int count, const ColumnRotation* rotations, int columns, double* first, std::ptrdiff_t stride,
-            double* panel)
+void rotate(int vectors, int count, const ColumnRotation* rotations, double* panel)
 {
     if (count < 1)
         return;
     switch (vectors) {
     case 1:
-        return rotateRows<1>(count, rotations, columns, first, stride, panel);
+        return rotatePanel<1>(count, rotations, panel);
     case 2:
-        return rotateRows<2>(count, rotations, columns, first, stride, panel);
+        return rotatePanel<2>(count, rotations, panel);
     case 3:
-        return rotateRows<3>(count, rotations, columns, first, stride, panel);
+        return rotatePanel<3>(count, rotations, panel);
     default:
-        return rotateRows<ColumnKernels::mostVectors>(count, rotations, columns, first, stride, panel);
+        return rotatePanel<ColumnKernels::mostVectors>(count, rotations, panel);
     }
+}
+
+void copyColumns(int vectors, int columns, const double* from, std::ptrdiff_t fromStride, double* to,
+                 std::ptrdiff_t toStride)
+{
+    for (int j = 0; j < columns; ++j)
+        for (int v = 0; v < vectors; ++v)
+            store(to + j * toStride + v * laneCount, load(from + j * fromStride + v * laneCount));
 }
 
 } // namespace
 
 extern const ColumnKernels columnKernels;
-const ColumnKernels columnKernels = {laneCount, innerProducts, addMultiple, updateAndMultiply, reflectRows, rotate};
+const ColumnKernels columnKernels = {laneCount, innerProducts, addMultiple, updateAndMultiply, reflectRows, rotate, copyColumns};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
