@@ -253,6 +253,7 @@ void copyColumns(int vectors, int columns, const double* from, std::ptrdiff_t fr
 } // namespace
 
 extern const ColumnKernels columnKernels;
-const ColumnKernels columnKernels = {laneCount, innerProducts, addMultiple, updateAndMultiply, reflectRows, rotate, copyColumns};
+const ColumnKernels columnKernels = {laneCount,   innerProducts, addMultiple, updateAndMultiply,
+                                     reflectRows, rotate,        copyColumns};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
