@@ -3,7 +3,7 @@
 #pragma once
 
 #include "decompositions/eigen_reference.h"
-#include "support/bits.h"
+#include "support/constants.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,7 @@
 #include "qualitative/group_by.h"
 
 #include "group_reference.h"
+#include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
 #include "support/tables.h"

@@ -1,7 +1,7 @@
 // Groups of rows by a plain walk over vectors of cells: nothing here comes from the library.
 #pragma once
 
-#include "support/bits.h"
+#include "support/constants.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,11 +1,11 @@
-// Doubles compared by their bits: matchers, and the two constants that results are made of.
+// Doubles compared by their bits: matchers.
 #pragma once
+
+#include "support/constants.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <cstdint>
 #include <initializer_list>
 #include <ostream>
 #include <span>
@@ -13,10 +13,6 @@
 #include <vector>
 
 namespace vecmat::test {
-
-/// The missing value, and its positive twin, from their bits: independent of the library's own constants.
-inline constexpr double M = std::bit_cast<double>(std::uint64_t{0xffefffffffffffe2});
-inline constexpr double positiveTwin = std::bit_cast<double>(std::uint64_t{0x7fefffffffffffe2});
 
 /// Whether two doubles have the same bits, so that 0.0 differs from -0.0. One NaN is as good as another: which payload
 /// an operation on two of them hands on is the processor's affair.

@@ -1,7 +1,7 @@
 // Random inputs from a fixed seed.
 #pragma once
 
-#include "support/bits.h"
+#include "support/constants.h"
 
 #include <cstddef>
 #include <cstdint>
