@@ -1,0 +1,181 @@
+// A workload and those who compete in it: the library, the plain loop as told, and its peers, all over the same data.
+//
+// A workload is a class that makes its data for one size and enters its contenders:
+//
+//     struct Quantile
+//     {
+//         explicit Quantile(int n) : x(RandomData(1).normals(n)), result(1) {}
+//         void enter(Contest& contest)
+//         {
+//             contest.outputs({&result});
+//             contest.ours([this] { result[0] = VB_V_Quantile(x.data(), lengthOf(x), 0.3); });
+//             contest.plain([this] { result[0] = plain::quantile(x.data(), lengthOf(x), 0.3); });
+//             contest.peer("GSL", 1e-12, [this] { ... });
+//         }
+//     };
+//     ...
+//     suite.add<Quantile>("quantile", {10'000, 100'000, 1'000'000});
+//
+// Before anything is timed, all contenders run once: the plain loop's result must have the bits of the library's, that
+// of a peer must agree within its tolerance. What fails this is reported as an error and not timed.
+#pragma once
+
+#include "support/constants.h"
+#include "support/random_data.h"
+
+#include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vecmat::bench {
+
+using test::M;
+using test::RandomData;
+
+using Cells = std::vector<double>;
+using Texts = std::vector<std::wstring>;
+using Action = std::function<void()>;
+using Result = std::function<Cells()>;
+
+/// The count of elements as the library takes it.
+template <class Container>
+int lengthOf(const Container& container)
+{
+    return static_cast<int>(container.size());
+}
+inline std::size_t count(int n)
+{
+    return static_cast<std::size_t>(n);
+}
+inline std::size_t count(int rows, int cols)
+{
+    return count(rows) * count(cols);
+}
+
+struct Contender
+{
+    std::string name;
+    Action run;
+    Result result;    // after a run; where it is empty, all outputs
+    double tolerance; // largest deviation, in units of the largest number in the library's result
+};
+
+/// A peer whose result is another one by its own rules.
+inline constexpr double incomparable = -1.0;
+/// The tolerance of those that must have the library's bits.
+inline constexpr double sameBits = 0.0;
+
+class Contest
+{
+public:
+    /// Done before every run, without being timed: restores what a run spoils.
+    void reset(Action action) { reset_ = std::move(action); }
+    /// The result of a run, as far as the contender doesn't say otherwise.
+    void outputs(std::initializer_list<Cells*> cells) { outputs_ = cells; }
+
+    void ours(Action run, Result result = {}) { add("ours", sameBits, run, result); }
+    void plain(Action run, Result result = {}) { add("plain", sameBits, run, result); }
+    /// The library again, by another of its functions.
+    void oursToo(const std::string& name, Action run, Result result = {}) { add(name, sameBits, run, result); }
+    void peer(const std::string& name, double tolerance, Action run, Result result = {})
+    {
+        add(name, tolerance, run, result);
+    }
+
+    /// Data for contenders outside of this program.
+    void share(const std::string& name, const Cells& cells) { sharedCells_.emplace_back(name, &cells); }
+    void share(const std::string& name, const Texts& texts) { sharedTexts_.emplace_back(name, &texts); }
+
+    const std::vector<Contender>& contenders() const { return contenders_; }
+    void restore() const
+    {
+        if (reset_)
+            reset_();
+    }
+
+    /// The result of one run, into outputs that hold nothing of an earlier one.
+    Cells resultOf(const Contender& contender) const;
+
+    /// Writes the shared data, the library's result and the size: numbers as doubles, strings one a line.
+    void write(const std::string& directory, int size) const;
+
+private:
+    void add(const std::string& name, double tolerance, const Action& run, const Result& result)
+    {
+        contenders_.push_back({name, run, result, tolerance});
+    }
+
+    Action reset_;
+    std::vector<Cells*> outputs_;
+    std::vector<Contender> contenders_;
+    std::vector<std::pair<std::string, const Cells*>> sharedCells_;
+    std::vector<std::pair<std::string, const Texts*>> sharedTexts_;
+};
+
+/// A contest with the data that its contenders work on.
+class Stage
+{
+public:
+    template <class Workload>
+    static std::unique_ptr<Stage> of(int size)
+    {
+        auto stage = std::make_unique<Stage>();
+        auto workload = std::make_shared<Workload>(size);
+        workload->enter(stage->contest_);
+        stage->workload_ = workload;
+        return stage;
+    }
+
+    const Contest& contest() const { return contest_; }
+
+private:
+    Contest contest_;
+    std::shared_ptr<void> workload_;
+};
+
+/// How a workload is timed: run by run with a reset before each, or in one loop of calls too short for a clock.
+enum class Timing { eachRun, manyCalls };
+
+struct Entry
+{
+    std::string name;
+    std::vector<int> sizes; // the last is the one that counts
+    Timing timing;
+    std::function<std::unique_ptr<Stage>(int)> stage;
+};
+
+class Suite
+{
+public:
+    template <class Workload>
+    void add(const std::string& name, std::vector<int> sizes, Timing timing = Timing::eachRun)
+    {
+        entries_.push_back({name, std::move(sizes), timing, Stage::of<Workload>});
+    }
+    const std::vector<Entry>& entries() const { return entries_; }
+
+private:
+    std::vector<Entry> entries_;
+};
+
+// One function a source.
+void addSorting(Suite& suite);
+void addProducts(Suite& suite);
+void addMoments(Suite& suite);
+void addQuantiles(Suite& suite);
+void addCovariance(Suite& suite);
+void addEigenvalues(Suite& suite);
+void addSingularValues(Suite& suite);
+void addFactorisations(Suite& suite);
+void addLeastSquares(Suite& suite);
+void addGrouping(Suite& suite);
+void addCategories(Suite& suite);
+void addMissing(Suite& suite);
+void addSampling(Suite& suite);
+void addStrings(Suite& suite);
+void addSmallInputs(Suite& suite);
+
+} // namespace vecmat::bench

@@ -1,0 +1,271 @@
+// Times the library against plain loops and peers. Besides the options of Google Benchmark:
+//
+//     --only=REGEX      the workloads whose name matches
+//     --quick           each workload at its last size alone, with fewer repetitions
+//     --ours            the library alone (the bits are compared with the plain loop's all the same), at the last size
+//     --export=DIR      time nothing; write the data of each workload at its last size, and the library's result
+//
+// A benchmark is named workload/contender/size. Its counter "best" is the shortest run, in seconds of processor time:
+// "min" is the aggregate to read. "deviation" tells how far the result is from the library's.
+#include "contest.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <ctime>
+#include <iostream>
+#include <limits>
+#include <optional>
+#include <regex>
+#include <string_view>
+
+namespace vecmat::bench {
+
+namespace {
+
+struct Options
+{
+    std::regex only{""};
+    bool quick = false;
+    bool oursAlone = false;
+    std::string exportTo;
+};
+
+/// Takes this program's options out of the arguments.
+Options taken(int& argc, char** argv)
+{
+    Options options;
+    const auto valueOf = [](std::string_view argument, std::string_view name) -> std::optional<std::string> {
+        if (argument.starts_with(name))
+            return std::string(argument.substr(name.size()));
+        return std::nullopt;
+    };
+    int kept = 1;
+    for (int k = 1; k < argc; ++k) {
+        const std::string_view argument = argv[k];
+        if (const auto only = valueOf(argument, "--only="))
+            options.only = *only;
+        else if (const auto directory = valueOf(argument, "--export="))
+            options.exportTo = *directory;
+        else if (argument == "--quick")
+            options.quick = true;
+        else if (argument == "--ours")
+            options.oursAlone = true;
+        else
+            argv[kept++] = argv[k];
+    }
+    argc = kept;
+    return options;
+}
+
+// ---- are the results the same ---------------------------------------------------------------------------------------
+
+bool haveSameBits(const Cells& left, const Cells& right)
+{
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](double a, double b) {
+        return (std::isnan(a) && std::isnan(b)) || std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    });
+}
+
+/// The largest difference in units of the largest number; infinite where the shapes differ or a number is none.
+double deviation(const Cells& expected, const Cells& actual)
+{
+    if (expected.size() != actual.size())
+        return std::numeric_limits<double>::infinity();
+    double largest = 0.0;
+    double difference = 0.0;
+    for (std::size_t k = 0; k < expected.size(); ++k) {
+        if (expected[k] == actual[k])
+            continue;
+        const double apart = std::fabs(expected[k] - actual[k]);
+        if (std::isnan(apart))
+            return std::numeric_limits<double>::infinity();
+        difference = std::max(difference, apart);
+    }
+    for (const double cell : expected)
+        if (cell != M)
+            largest = std::max(largest, std::fabs(cell));
+    return difference == 0.0 ? 0.0 : difference / largest;
+}
+
+/// A stage with the verdict on each contender.
+class Judged
+{
+public:
+    struct Verdict
+    {
+        double deviation = 0.0;
+        std::string error;
+    };
+
+    Judged(const Entry& entry, int size, bool oursAlone) : stage_(entry.stage(size))
+    {
+        const auto& contenders = stage_->contest().contenders();
+        const Cells expected = stage_->contest().resultOf(contenders.front());
+        for (const Contender& contender : contenders) {
+            Verdict verdict;
+            const bool exact = contender.tolerance == sameBits;
+            if (exact || !oursAlone)
+                verdict = judged(contender, expected);
+            // Where the library and the plain loop differ, nobody knows who is right.
+            if (exact && !verdict.error.empty() && !verdicts_.empty())
+                verdicts_.front().error = verdict.error + " (" + contender.name + ")";
+            verdicts_.push_back(verdict);
+        }
+    }
+
+    const Contest& contest() const { return stage_->contest(); }
+    const Verdict& verdict(std::size_t contender) const { return verdicts_[contender]; }
+
+private:
+    Verdict judged(const Contender& contender, const Cells& expected) const
+    {
+        const Cells actual = contest().resultOf(contender);
+        Verdict verdict{deviation(expected, actual), {}};
+        if (contender.tolerance == sameBits && !haveSameBits(expected, actual))
+            verdict.error = "other bits";
+        else if (contender.tolerance > sameBits && !(verdict.deviation <= contender.tolerance))
+            verdict.error = "deviates by " + std::to_string(verdict.deviation);
+        return verdict;
+    }
+
+    std::unique_ptr<Stage> stage_;
+    std::vector<Verdict> verdicts_;
+};
+
+/// The stage of the benchmark at hand. They come workload by workload, so that one is kept at a time.
+const Judged& judgedStage(const Entry& entry, int size, bool oursAlone)
+{
+    static std::optional<Judged> current;
+    static const Entry* currentEntry = nullptr;
+    static int currentSize = 0;
+    if (currentEntry != &entry || currentSize != size) {
+        current.reset();
+        current.emplace(entry, size, oursAlone);
+        currentEntry = &entry;
+        currentSize = size;
+    }
+    return *current;
+}
+
+// ---- timing ---------------------------------------------------------------------------------------------------------
+
+/// The time that this thread has had a processor: what else the machine is busy with does not count.
+double secondsOfThread()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+}
+
+double timeEachRun(benchmark::State& state, const Contest& contest, const Contender& contender)
+{
+    double best = std::numeric_limits<double>::infinity();
+    for ([[maybe_unused]] auto _ : state) {
+        contest.restore();
+        const double start = secondsOfThread();
+        contender.run();
+        const double seconds = secondsOfThread() - start;
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    return best;
+}
+
+double timeManyCalls(benchmark::State& state, const Contender& contender)
+{
+    constexpr int calls = 1000;
+    double best = std::numeric_limits<double>::infinity();
+    for ([[maybe_unused]] auto _ : state) {
+        const double start = secondsOfThread();
+        for (int call = 0; call < calls; ++call)
+            contender.run();
+        const double seconds = (secondsOfThread() - start) / calls;
+        state.SetIterationTime(seconds);
+        best = std::min(best, seconds);
+    }
+    return best;
+}
+
+void measure(benchmark::State& state, const Entry& entry, std::size_t number, int size, bool oursAlone)
+{
+    const Judged& judged = judgedStage(entry, size, oursAlone);
+    const Judged::Verdict& verdict = judged.verdict(number);
+    const Contender& contender = judged.contest().contenders()[number];
+    if (!verdict.error.empty()) {
+        state.SkipWithError(verdict.error.c_str());
+        return;
+    }
+    const double best = entry.timing == Timing::eachRun ? timeEachRun(state, judged.contest(), contender)
+                                                        : timeManyCalls(state, contender);
+    state.counters["best"] = best;
+    state.counters["deviation"] = verdict.deviation;
+    state.counters["tolerance"] = contender.tolerance;
+}
+
+double leastOf(const std::vector<double>& values)
+{
+    return *std::min_element(values.begin(), values.end());
+}
+
+void registerBenchmarks(const Suite& suite, const Options& options)
+{
+    for (const Entry& entry : suite.entries()) {
+        if (!std::regex_search(entry.name, options.only))
+            continue;
+        // Who takes part at which size is known to the stage alone; a small one has what the first size needs.
+        const bool lastAlone = options.quick || options.oursAlone;
+        for (std::size_t k = lastAlone ? entry.sizes.size() - 1 : 0; k < entry.sizes.size(); ++k) {
+            const int size = entry.sizes[k];
+            const auto stage = entry.stage(size);
+            const auto& contenders = stage->contest().contenders();
+            const std::size_t taking = options.oursAlone ? 1 : contenders.size();
+            for (std::size_t number = 0; number < taking; ++number) {
+                const std::string name = entry.name + "/" + contenders[number].name + "/" + std::to_string(size);
+                benchmark::RegisterBenchmark(
+                    name.c_str(), [&entry, number, size, alone = options.oursAlone](
+                                      benchmark::State& state) { measure(state, entry, number, size, alone); })
+                    ->UseManualTime()
+                    ->Unit(benchmark::kMillisecond)
+                    ->MinTime(options.quick ? 0.02 : 0.1)
+                    ->Repetitions(options.quick ? 2 : 5)
+                    ->ComputeStatistics("min", leastOf)
+                    ->ReportAggregatesOnly(true);
+            }
+        }
+    }
+}
+
+} // namespace
+
+} // namespace vecmat::bench
+
+int main(int argc, char** argv)
+{
+    using namespace vecmat::bench;
+    const Options options = taken(argc, argv);
+    Suite suite;
+    for (const auto add : {addSorting, addProducts, addMoments, addQuantiles, addCovariance, addEigenvalues,
+                           addSingularValues, addFactorisations, addLeastSquares, addGrouping, addCategories,
+                           addMissing, addSampling, addStrings, addSmallInputs})
+        add(suite);
+
+    if (!options.exportTo.empty()) {
+        for (const Entry& entry : suite.entries())
+            if (std::regex_search(entry.name, options.only))
+                entry.stage(entry.sizes.back())
+                    ->contest()
+                    .write(options.exportTo + "/" + entry.name, entry.sizes.back());
+        return 0;
+    }
+    registerBenchmarks(suite, options);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

@@ -1,0 +1,79 @@
+// Matrix products.
+#include "contest.h"
+#include "plain/plain.h"
+
+#include "elementary/matrix_products.h"
+
+#include <Eigen/Core>
+#include <cblas.h>
+
+namespace vecmat::bench {
+
+namespace {
+
+using Matrix = Eigen::Map<Eigen::MatrixXd>;
+using ConstMatrix = Eigen::Map<const Eigen::MatrixXd>;
+
+/// Sums of a few hundred terms in another order, and with one rounding for a product and its sum.
+constexpr double reordered = 1e-13;
+
+struct Product
+{
+    int n;
+    Cells a, b, out;
+
+    explicit Product(int order)
+        : n(order), a(RandomData(10).normals(count(n, n))), b(RandomData(11).normals(count(n, n))), out(count(n, n))
+    {
+    }
+    void enter(Contest& contest)
+    {
+        contest.outputs({&out});
+        contest.share("a", a);
+        contest.share("b", b);
+        contest.ours([this] { VB_M_ProductAB(a.data(), n, n, b.data(), n, out.data()); });
+        contest.plain([this] { plain::product(a.data(), n, n, b.data(), n, out.data()); });
+        contest.peer("OpenBLAS dgemm", reordered, [this] {
+            cblas_dgemm(CblasColMajor, CblasNoTrans, CblasNoTrans, n, n, n, 1.0, a.data(), n, b.data(), n, 0.0,
+                        out.data(), n);
+        });
+        contest.peer("Eigen", reordered, [this] {
+            Matrix(out.data(), n, n).noalias() = ConstMatrix(a.data(), n, n) * ConstMatrix(b.data(), n, n);
+        });
+    }
+};
+
+struct CrossProduct
+{
+    int n;
+    Cells a, out;
+
+    explicit CrossProduct(int order) : n(order), a(RandomData(12).normals(count(n, n))), out(count(n, n)) {}
+    void enter(Contest& contest)
+    {
+        contest.outputs({&out});
+        contest.share("a", a);
+        contest.ours([this] { VB_M_ProductTrAA(a.data(), n, n, out.data()); });
+        contest.plain([this] { plain::crossProduct(a.data(), n, n, out.data()); });
+        contest.peer("OpenBLAS dsyrk", reordered, [this] {
+            cblas_dsyrk(CblasColMajor, CblasUpper, CblasTrans, n, n, 1.0, a.data(), n, 0.0, out.data(), n);
+            for (int j = 0; j < n; ++j)
+                for (int i = j + 1; i < n; ++i)
+                    out[count(n, j) + count(i)] = out[count(n, i) + count(j)];
+        });
+        contest.peer("Eigen", reordered, [this] {
+            const ConstMatrix x(a.data(), n, n);
+            Matrix(out.data(), n, n).noalias() = x.transpose() * x;
+        });
+    }
+};
+
+} // namespace
+
+void addProducts(Suite& suite)
+{
+    suite.add<Product>("product", {64, 256, 512});
+    suite.add<CrossProduct>("cross-product", {64, 256, 512});
+}
+
+} // namespace vecmat::bench
