@@ -1,13 +1,11 @@
 #include "biplot.h"
 
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
 #include <string>
+#include <utility>
 
 namespace survey {
 
@@ -65,13 +63,58 @@ void addRows(TextTable& text, FlatTable rows)
     text.addGap();
     if (areListed(rows)) {
         for (int i = 0; i < rows.rows; ++i)
-            addPoint(text, i == 0 ? "row" : "", std::to_string(i + 1), rows, i);
+            addPoint(text, "row", std::to_string(i + 1), rows, i);
         return;
     }
     double distance;
     int farthest;
     Cpp_M_GetMaxDistToOrigin(rows.data(), rows.rows, rows.columns, &distance, &farthest);
     addPoint(text, "row farthest out", std::to_string(farthest), rows, farthest - 1);
+}
+
+std::string inShort(const Components& components, const Biplot& biplot)
+{
+    if (biplot.rows.columns == 1)
+        return "The columns and the rows along the only component.";
+    return "The columns and the rows on a map of the first two components, with " +
+           percentage(components.percent[0] + components.percent[1], 100.0) + " of the variance.";
+}
+
+DataTable pointsOf(const std::string& name, const FlatTable& points, const std::vector<std::string>& names,
+                   const std::vector<std::string>& groups = {})
+{
+    DataTable data{name, {{"name", "component_1", "component_2"}}};
+    if (!groups.empty())
+        data.records.front().emplace_back("group");
+    for (int i = 0; i < points.rows; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        data.records.push_back({names[place], withAllDigits(points.at(i, 0)), withAllDigits(points.at(i, 1))});
+        if (!groups.empty())
+            data.records.back().push_back(groups[place]);
+    }
+    return data;
+}
+
+/// The rows, the columns and the means of the groups as points on the first two components.
+Picture pictureOf(const Biplot& biplot, const Components& components, std::span<const Group> groups)
+{
+    std::vector<std::string> columnNames;
+    for (const Column* column : components.columns)
+        columnNames.push_back(column->name);
+    std::vector<std::string> rowNames;
+    for (int i = 1; i <= biplot.rows.rows; ++i)
+        rowNames.push_back(std::to_string(i));
+    std::vector<std::string> groupNames;
+    std::vector<std::string> groupOfRow(groups.empty() ? 0 : rowNames.size());
+    for (const Group& group : groups) {
+        groupNames.push_back(group.name);
+        for (const int row : group.rows)
+            groupOfRow[static_cast<std::size_t>(row)] = group.name;
+    }
+    return {"biplot",
+            {pointsOf("biplot_columns", biplot.columns, columnNames),
+             pointsOf("biplot_groups", biplot.groups, groupNames),
+             pointsOf("biplot_rows", biplot.rows, rowNames, groupOfRow)}};
 }
 
 } // namespace
@@ -94,31 +137,31 @@ Biplot biplotOf(const Components& components, std::span<const Group> groups)
     return {std::move(columns), part(points, 0, scores.rows), part(points, scores.rows, centres.rows)};
 }
 
-void printBiplot(std::ostream& out, const Components& components, const Subject& subject)
+void addBiplot(Document& document, const Components& components, const Subject& subject)
 {
     std::span<const Group> groups = subject.groupsOfColumn();
     if (groups.size() > mostListed)
         groups = {};
     const Biplot biplot = biplotOf(components, groups);
-    std::vector<TextTable::Column> headings = {{"", Align::left}, {"point", Align::left}};
+    std::vector<TextTable::Column> headings = {{"kind", Align::left}, {"point", Align::left}};
     for (int k = 1; k <= biplot.rows.columns; ++k)
         headings.push_back({"component " + std::to_string(k), Align::point});
     TextTable text(std::move(headings), 2);
     for (int j = 0; j < biplot.columns.rows; ++j)
-        addPoint(text, j == 0 ? "column" : "", components.columns[static_cast<std::size_t>(j)]->name, biplot.columns,
-                 j);
+        addPoint(text, "column", components.columns[static_cast<std::size_t>(j)]->name, biplot.columns, j);
     if (!groups.empty())
         text.addGap();
     for (int i = 0; i < biplot.groups.rows; ++i)
-        addPoint(text, i == 0 ? "mean of " + subject.grouping->name : "", groups[static_cast<std::size_t>(i)].name,
-                 biplot.groups, i);
+        addPoint(text, "mean of " + subject.grouping->name, groups[static_cast<std::size_t>(i)].name, biplot.groups, i);
     addRows(text, biplot.rows);
-    printTitle(out, "Biplot");
-    text.print(out, lineWidth);
-    printNote(out,
-              std::string("Coordinates on a map of the components: of a column, its correlations with them; of the "
-                          "rows, scores of variance 1.") +
-                  (areListed(biplot.rows) ? "" : " The row farthest out gives the size of the map."));
+    Section& section = document.add("biplot", "Biplot", inShort(components, biplot));
+    section.addTable(std::move(text));
+    if (biplot.rows.columns > 1)
+        section.picture = pictureOf(biplot, components, groups);
+    section.note = "The coordinates of a column are its correlations with the components; those of the rows are scores "
+                   "of variance 1.";
+    if (!areListed(biplot.rows))
+        section.note += " The row farthest out gives the size of the map.";
 }
 
 } // namespace survey

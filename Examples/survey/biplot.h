@@ -2,9 +2,9 @@
 #pragma once
 
 #include "components.h"
+#include "document.h"
 #include "subject.h"
 
-#include <iosfwd>
 #include <span>
 
 namespace survey {
@@ -22,6 +22,6 @@ struct Biplot
 /// `groups` without that of all rows.
 Biplot biplotOf(const Components& components, std::span<const Group> groups);
 
-void printBiplot(std::ostream& out, const Components& components, const Subject& subject);
+void addBiplot(Document& document, const Components& components, const Subject& subject);
 
 } // namespace survey

@@ -4,10 +4,6 @@
 #include "flat_call.h"
 #include "groups.h"
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
-
-#include <ostream>
 
 namespace survey {
 
@@ -37,21 +33,18 @@ Categories categoriesOf(const Column& column)
     return result;
 }
 
-void printCategories(std::ostream& out, const Table& table)
+void addCategories(Document& document, const Table& table)
 {
     const std::vector<const Column*> columns = table.ofKind(Kind::text);
     if (columns.empty())
         return;
-    printTitle(out, "Categories");
     TextTable text(
         {{"column", Align::left}, {"category", Align::left}, {"rows", Align::right}, {"share", Align::right}}, 2);
     for (const Column* column : columns) {
         text.addGap();
         const Categories categories = categoriesOf(*column);
-        std::string name = column->name; // told once, on the first line
         const auto add = [&](const std::string& category, int count) {
-            text.addRow({name, category, std::to_string(count), withDecimals(100.0 * count / table.rows, 1) + " %"});
-            name.clear();
+            text.addRow({column->name, category, std::to_string(count), percentage(count, table.rows)});
         };
         if (categories.names.size() > mostListed)
             add(std::to_string(categories.names.size()) + " categories", table.rows - categories.missing);
@@ -61,8 +54,8 @@ void printCategories(std::ostream& out, const Table& table)
         if (categories.missing > 0)
             add(noText, categories.missing);
     }
-    text.print(out, lineWidth);
-    printNote(out, "In the order in which the categories first appear.");
+    document.add("categories", "Categories", "The texts of each text column, in the order in which they first appear.")
+        .addTable(std::move(text));
 }
 
 } // namespace survey

@@ -1,9 +1,9 @@
 // Section: the categories of the text columns, with their counts.
 #pragma once
 
+#include "document.h"
 #include "table.h"
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -20,6 +20,6 @@ struct Categories
 
 Categories categoriesOf(const Column& column);
 
-void printCategories(std::ostream& out, const Table& table);
+void addCategories(Document& document, const Table& table);
 
 } // namespace survey

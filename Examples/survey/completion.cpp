@@ -3,12 +3,11 @@
 #include "bstr_array.h"
 #include "flat_call.h"
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
 #include <algorithm>
-#include <ostream>
+#include <span>
 #include <string>
+#include <utility>
 
 namespace survey {
 
@@ -77,25 +76,30 @@ Completion completed(const Table& table, const MissingCells& missing)
     return result;
 }
 
-void printCompletion(std::ostream& out, const Table& table, const Completion& completion)
+void addCompletion(Document& document, const Table& table, const Completion& completion)
 {
     if (completion.filled.empty())
         return;
-    printTitle(out, "Missing cells filled by nearest neighbours");
-    TextTable text({{"row", Align::right}, {"column", Align::left}, {"filled with", Align::left}}, 1);
-    int last = -1;
-    for (const CellPlace& cell : completion.filled) {
+    TextTable text({{"row", Align::right}, {"column", Align::left}, {"filled with", Align::left}}, 2);
+    const std::size_t listed = std::min(completion.filled.size(), mostListed);
+    for (const CellPlace& cell : std::span(completion.filled).first(listed)) {
         const auto j = static_cast<std::size_t>(cell.column);
         const auto i = static_cast<std::size_t>(cell.row);
         const Column& column = completion.table.columns[j];
-        text.addRow({cell.row == last ? "" : std::to_string(cell.row + 1), column.name,
+        text.addRow({std::to_string(cell.row + 1), column.name,
                      column.kind == Kind::numeric ? shown(table.columns[j], column.numbers[i]) : column.texts[i]});
-        last = cell.row;
     }
-    text.print(out, lineWidth);
-    printNote(out, "The cell of the complete row that differs least: by squared differences over the variance of each "
-                   "numeric column, and 1 for each text that isn't the same. A filled cell counts for the next ones of "
-                   "its row. Where nothing can be compared, the mean of the column or its most frequent text.");
+    Section& section = document.add(
+        "filled_cells", "Missing cells filled by nearest neighbours",
+        "For what needs complete rows, each missing cell takes the value of the most similar complete row.");
+    section.addTable(std::move(text));
+    section.note =
+        "Rows differ by the sum of squared differences over the variance of each numeric column, and 1 for "
+        "each text that isn't the same. A filled cell counts for the next ones of its row. Where nothing can "
+        "be compared, a cell takes the mean of its column or the most frequent text.";
+    if (const std::size_t rest = completion.filled.size() - listed; rest > 0)
+        section.note +=
+            " Listed are the first " + counted(listed, "cell") + "; there are " + std::to_string(rest) + " more.";
 }
 
 } // namespace survey

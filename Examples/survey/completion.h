@@ -1,10 +1,10 @@
 // Section: the missing cells filled from the most similar rows.
 #pragma once
 
+#include "document.h"
 #include "missing_cells.h"
 #include "table.h"
 
-#include <iosfwd>
 #include <vector>
 
 namespace survey {
@@ -27,7 +27,7 @@ struct Completion
 /// column, or its most frequent text.
 Completion completed(const Table& table, const MissingCells& missing);
 
-/// A line for each cell that was filled; nothing where none was missing.
-void printCompletion(std::ostream& out, const Table& table, const Completion& completion);
+/// A line for each of the first cells that were filled; nothing where none was missing.
+void addCompletion(Document& document, const Table& table, const Completion& completion);
 
 } // namespace survey

@@ -1,13 +1,12 @@
 #include "components.h"
 
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
+#include <numeric>
 #include <string>
+#include <utility>
 
 namespace survey {
 
@@ -42,23 +41,23 @@ std::string component(int number)
     return "component " + std::to_string(number);
 }
 
-void printVariances(std::ostream& out, const Components& components)
+TextTable variancesOf(const Components& components)
 {
     TextTable text({{"component", Align::right},
                     {"variance", Align::point},
-                    {"of the sum", Align::right},
-                    {"up to here", Align::right}},
+                    {"share", Align::right},
+                    {"cumulative", Align::right}},
                    1);
-    double upToHere = 0.0;
+    double cumulative = 0.0;
     for (std::size_t k = 0; k < components.variances.size() && k < mostListed; ++k) {
-        upToHere += components.percent[k];
+        cumulative += components.percent[k];
         text.addRow({std::to_string(k + 1), withDecimals(components.variances[k], 3),
-                     withDecimals(components.percent[k], 1) + " %", withDecimals(upToHere, 1) + " %"});
+                     percentage(components.percent[k], 100.0), percentage(cumulative, 100.0)});
     }
-    text.print(out, lineWidth);
+    return text;
 }
 
-void printVectors(std::ostream& out, const Components& components)
+TextTable coefficientsOf(const Components& components)
 {
     std::vector<TextTable::Column> headings = {{"column", Align::left}};
     for (int k = 1; k <= components.telling; ++k)
@@ -70,7 +69,25 @@ void printVectors(std::ostream& out, const Components& components)
             cells.push_back(withDecimals(components.vectors.at(j, k), 3));
         text.addRow(std::move(cells));
     }
-    text.print(out, lineWidth);
+    return text;
+}
+
+DataTable dataOf(const Components& components)
+{
+    DataTable data{"scree", {{"component", "variance", "percent"}}};
+    for (std::size_t k = 0; k < components.variances.size(); ++k)
+        data.records.push_back(
+            {std::to_string(k + 1), withAllDigits(components.variances[k]), withAllDigits(components.percent[k])});
+    return data;
+}
+
+std::string inShort(const Components& components)
+{
+    const auto last = components.percent.begin() + components.telling;
+    const double together = std::accumulate(components.percent.begin(), last, 0.0);
+    return "The first " + (components.telling == 1 ? "" : std::to_string(components.telling) + ' ') + "of " +
+           counted(components.variances.size(), "component") + (components.telling == 1 ? " has " : " have ") +
+           percentage(together, 100.0) + " of the variance of the numeric columns.";
 }
 
 } // namespace
@@ -106,14 +123,16 @@ std::optional<Components> componentsOf(const Table& complete)
                       telling, std::move(vectors),   std::move(scores)};
 }
 
-void printComponents(std::ostream& out, const Components& components)
+void addComponents(Document& document, const Components& components)
 {
-    printTitle(out, "Principal components");
-    printVariances(out, components);
-    printVectors(out, components);
-    printNote(out,
-              "Of the numeric columns, their gaps filled, brought to mean 0 and variance 1. Below, the coefficients of "
-              "the first components, as many as make up 80 % of the variance, but no more than five.");
+    Section& section = document.add("components", "Principal components", inShort(components));
+    section.addTable("component_variances", variancesOf(components));
+    section.addTable("component_coefficients", coefficientsOf(components));
+    if (components.count() > 1)
+        section.picture = {"scree", {dataOf(components)}};
+    section.note = "The gaps of the columns were filled, and the columns brought to mean 0 and variance 1. The "
+                   "coefficients are those of the first components, as many as make up 80 % of the variance, but no "
+                   "more than five.";
 }
 
 } // namespace survey

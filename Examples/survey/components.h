@@ -1,9 +1,9 @@
 // Section: the principal components of the numeric columns.
 #pragma once
 
+#include "document.h"
 #include "flat_call.h"
 
-#include <iosfwd>
 #include <optional>
 #include <vector>
 
@@ -25,6 +25,6 @@ struct Components
 /// None where fewer than two columns vary or there are fewer than three rows.
 std::optional<Components> componentsOf(const Table& complete);
 
-void printComponents(std::ostream& out, const Components& components);
+void addComponents(Document& document, const Components& components);
 
 } // namespace survey

@@ -2,11 +2,10 @@
 
 #include "flat_call.h"
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
-#include <ostream>
+#include <cmath>
 #include <string>
+#include <utility>
 
 namespace survey {
 
@@ -40,7 +39,41 @@ Correlation correlationOf(const Column& x, const Column& y)
     return {correlations.at(0, 1), count};
 }
 
-void printCorrelations(std::ostream& out, const Table& table)
+namespace {
+
+/// The coefficients of all pairs below each other.
+DataTable dataOf(const std::vector<const Column*>& columns)
+{
+    DataTable data{"correlation_map", {{"column", "with", "coefficient", "rows"}}};
+    for (const Column* x : columns)
+        for (const Column* y : columns) {
+            const Correlation correlation = correlationOf(*x, *y);
+            data.records.push_back(
+                {x->name, y->name, withAllDigits(correlation.coefficient), std::to_string(correlation.count)});
+        }
+    return data;
+}
+
+/// The pair of columns with the coefficient farthest from 0.
+std::string inShort(const std::vector<const Column*>& columns)
+{
+    std::string strongest;
+    double farthest = 0.0;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j) {
+            const double coefficient = correlationOf(*columns[i], *columns[j]).coefficient;
+            if (coefficient == vecmat::missingValue || std::fabs(coefficient) <= farthest)
+                continue;
+            farthest = std::fabs(coefficient);
+            strongest = " The strongest correlation, " + withDecimals(coefficient, 3) + ", is that of " +
+                        listed(columns[j]->name) + " and " + listed(columns[i]->name) + '.';
+        }
+    return "How the numeric columns go together." + strongest;
+}
+
+} // namespace
+
+void addCorrelations(Document& document, const Table& table)
 {
     const std::vector<const Column*> columns = table.ofKind(Kind::numeric);
     if (columns.size() < 2)
@@ -57,11 +90,12 @@ void printCorrelations(std::ostream& out, const Table& table)
         }
         text.addRow(std::move(cells));
     }
-    printTitle(out, "Correlations");
-    text.print(out, lineWidth);
-    printNote(out,
-              "Pearson's coefficients, and above the diagonal the rows from which they come: those in which neither "
-              "cell is missing. A dash stands where a column doesn't vary in them.");
+    Section& section = document.add("correlations", "Correlations", inShort(columns));
+    section.addTable(std::move(text));
+    if (columns.size() <= mostListed)
+        section.picture = {"correlation_map", {dataOf(columns)}};
+    section.note = "Pearson's coefficients, and above the diagonal the number of rows from which they come: those in "
+                   "which neither cell is missing. A dash stands where a column doesn't vary in them.";
 }
 
 } // namespace survey

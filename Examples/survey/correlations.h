@@ -1,9 +1,8 @@
 // Section: the correlation of each two numeric columns.
 #pragma once
 
+#include "document.h"
 #include "table.h"
-
-#include <iosfwd>
 
 namespace survey {
 
@@ -18,6 +17,6 @@ struct Correlation
 Correlation correlationOf(const Column& x, const Column& y);
 
 /// Nothing where there is only one numeric column.
-void printCorrelations(std::ostream& out, const Table& table);
+void addCorrelations(Document& document, const Table& table);
 
 } // namespace survey

@@ -2,11 +2,8 @@
 
 #include "groups.h"
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
 #include <algorithm>
-#include <ostream>
 
 namespace survey {
 
@@ -22,8 +19,7 @@ void addMeans(TextTable& text, const Column& by, const std::vector<const Column*
     const FlatTable means = meansByCategory(numbersOf(columns, static_cast<int>(by.texts.size())), categories);
     for (int i = 0; i < means.rows; ++i) {
         const auto place = static_cast<std::size_t>(i);
-        std::vector<std::string> cells = {i == 0 ? by.name : "",
-                                          place < categories.names.size() ? categories.names[place] : noText};
+        std::vector<std::string> cells = {by.name, place < categories.names.size() ? categories.names[place] : noText};
         for (int j = 0; j < means.columns; ++j)
             cells.push_back(NumberFormat(*columns[static_cast<std::size_t>(j)]).statistic(means.at(i, j)));
         text.addRow(std::move(cells));
@@ -52,7 +48,7 @@ FlatTable meansByCategory(const FlatTable& numbers, const Categories& categories
     return means;
 }
 
-void printGroupMeans(std::ostream& out, const Table& table)
+void addGroupMeans(Document& document, const Table& table)
 {
     const std::vector<const Column*> columns = table.ofKind(Kind::numeric);
     std::vector<TextTable::Column> headings = {{"column", Align::left}, {"category", Align::left}};
@@ -63,9 +59,10 @@ void printGroupMeans(std::ostream& out, const Table& table)
         addMeans(text, *by, columns);
     if (text.empty())
         return;
-    printTitle(out, "Means by category");
-    text.print(out, lineWidth);
-    printNote(out, "Of the cells that aren't missing.");
+    document
+        .add("means", "Means by category",
+             "The mean of each numeric column over the rows of each category, of the cells that aren't missing.")
+        .addTable(std::move(text));
 }
 
 } // namespace survey

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "categories.h"
+#include "document.h"
 #include "flat_call.h"
-
-#include <iosfwd>
 
 namespace survey {
 
@@ -12,6 +11,6 @@ namespace survey {
 /// there are any. Missing cells are left out; a mean of none is the missing value.
 FlatTable meansByCategory(const FlatTable& numbers, const Categories& categories);
 
-void printGroupMeans(std::ostream& out, const Table& table);
+void addGroupMeans(Document& document, const Table& table);
 
 } // namespace survey

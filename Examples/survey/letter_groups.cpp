@@ -3,13 +3,11 @@
 #include "bstr_array.h"
 #include "flat_call.h"
 #include "number_format.h"
-#include "page.h"
 #include "statistics.h"
-#include "text_table.h"
 
 #include <algorithm>
 #include <cmath>
-#include <ostream>
+#include <utility>
 
 namespace survey {
 
@@ -107,7 +105,7 @@ std::vector<LetterGroup> letterGroupsOf(const std::vector<std::vector<double>>& 
     return result;
 }
 
-void printLetterGroups(std::ostream& out, const Subject& subject)
+void addLetterGroups(Document& document, const Subject& subject)
 {
     const auto groups = subject.groupsOfColumn();
     if (groups.size() < 2 || groups.size() > mostListed)
@@ -125,14 +123,14 @@ void printLetterGroups(std::ostream& out, const Subject& subject)
             cells.push_back(cellsOf(*column, group));
         const std::vector<LetterGroup> letters = letterGroupsOf(cells);
         for (std::size_t i = 0; i < groups.size(); ++i)
-            text.addRow({i == 0 ? column->name : "", groups[i].name, format.statistic(letters[i].mean),
+            text.addRow({column->name, groups[i].name, format.statistic(letters[i].mean),
                          letters[i].letters.empty() ? "-" : letters[i].letters});
     }
-    printTitle(out, "Letter groups of the means");
-    text.print(out, lineWidth);
-    printNote(out,
-              "Means of a column that share a letter don't lie apart: they differ by no more than twice the standard "
-              "error of their difference, from the variance within the groups. A is the lowest.");
+    Section& section = document.add("letter_groups", "Letter groups of the means",
+                                    "Means of a column that share a letter don't lie apart; A is the lowest.");
+    section.addTable(std::move(text));
+    section.note = "Two means lie apart where they differ by more than twice the standard error of their difference, "
+                   "from the variance within the groups.";
 }
 
 } // namespace survey

@@ -1,9 +1,9 @@
 // Section: which group means lie apart.
 #pragma once
 
+#include "document.h"
 #include "subject.h"
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -21,6 +21,6 @@ struct LetterGroup
 /// letters where fewer than two groups have a mean, or no variance within them can be told.
 std::vector<LetterGroup> letterGroupsOf(const std::vector<std::vector<double>>& groups);
 
-void printLetterGroups(std::ostream& out, const Subject& subject);
+void addLetterGroups(Document& document, const Subject& subject);
 
 } // namespace survey

@@ -3,12 +3,10 @@
 #include "bstr_array.h"
 #include "flat_call.h"
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
+#include <algorithm>
 #include <map>
 #include <numeric>
-#include <ostream>
 #include <string>
 
 namespace survey {
@@ -48,11 +46,6 @@ Counts missingTexts(const std::vector<const Column*>& columns, int rows)
     return counts;
 }
 
-std::string percentage(int part, int whole)
-{
-    return withDecimals(100.0 * part / whole, 1) + " %";
-}
-
 std::string described(Kind kind)
 {
     switch (kind) {
@@ -66,14 +59,14 @@ std::string described(Kind kind)
     return "empty";
 }
 
-void printByColumn(std::ostream& out, const Table& table, const MissingCells& missing)
+TextTable tableByColumn(const Table& table, const MissingCells& missing)
 {
-    TextTable text(
-        {{"column", Align::left}, {"kind", Align::left}, {"missing", Align::right}, {"of the rows", Align::right}}, 1);
+    TextTable text({{"column", Align::left}, {"kind", Align::left}, {"missing", Align::right}, {"share", Align::right}},
+                   1);
     for (std::size_t j = 0; j < table.columns.size(); ++j)
         text.addRow({table.columns[j].name, described(table.columns[j].kind), std::to_string(missing.byColumn[j]),
                      percentage(missing.byColumn[j], table.rows)});
-    text.print(out, lineWidth);
+    return text;
 }
 
 /// Row numbers in a list, from 1; the first ones of many.
@@ -88,7 +81,7 @@ std::string numbered(const std::vector<int>& rows)
     return text;
 }
 
-void printByRow(std::ostream& out, const Table& table, const MissingCells& missing)
+TextTable tableByRow(const Table& table, const MissingCells& missing)
 {
     std::map<int, std::vector<int>> rowsByCount;
     for (int i = 0; i < table.rows; ++i)
@@ -96,7 +89,27 @@ void printByRow(std::ostream& out, const Table& table, const MissingCells& missi
     TextTable text({{"missing in a row", Align::right}, {"rows", Align::right}, {"row numbers", Align::left}}, 1);
     for (const auto& [count, rows] : rowsByCount)
         text.addRow({std::to_string(count), std::to_string(rows.size()), count > 0 ? numbered(rows) : ""});
-    text.print(out, lineWidth);
+    return text;
+}
+
+long long sumOf(const std::vector<int>& counts)
+{
+    return std::accumulate(counts.begin(), counts.end(), 0LL);
+}
+
+/// How many cells are missing in how many rows; the columns that are empty altogether don't count.
+std::string inShort(const Table& table, const MissingCells& missing)
+{
+    const std::size_t empty = table.ofKind(Kind::empty).size();
+    const long long count = sumOf(missing.byRow);
+    if (count == 0)
+        return empty == 0 ? "No cell is missing." : "But for the empty columns, no cell is missing.";
+    const long long cells =
+        static_cast<long long>(missing.byRow.size()) * static_cast<long long>(table.columns.size() - empty);
+    const auto rows = std::count_if(missing.byRow.begin(), missing.byRow.end(), [](int inRow) { return inRow > 0; });
+    return std::to_string(count) + " of " + std::to_string(cells) + " cells are missing (" +
+           percentage(static_cast<double>(count), static_cast<double>(cells)) + "), in " + std::to_string(rows) +
+           " of " + counted(missing.byRow.size(), "row") + ".";
 }
 
 } // namespace
@@ -117,22 +130,18 @@ MissingCells missingCellsOf(const Table& table)
     return missing;
 }
 
-void printMissingCells(std::ostream& out, const Table& table, const MissingCells& missing)
+void addMissingCells(Document& document, const Table& table, const MissingCells& missing)
 {
-    printTitle(out, "Missing cells");
-    if (std::accumulate(missing.byColumn.begin(), missing.byColumn.end(), 0LL) == 0) {
-        printNote(out, "None.");
+    Section& section = document.add("missing", "Missing cells", inShort(table, missing));
+    if (sumOf(missing.byColumn) == 0)
         return;
-    }
-    printByColumn(out, table, missing);
-    if (std::accumulate(missing.byRow.begin(), missing.byRow.end(), 0LL) == 0) {
-        printNote(out, "But for the empty columns, none.");
+    section.addTable("missing_by_column", tableByColumn(table, missing));
+    if (sumOf(missing.byRow) == 0)
         return;
-    }
-    printByRow(out, table, missing);
-    const bool hasEmptyColumn = !table.ofKind(Kind::empty).empty();
-    printNote(out, std::string("Rows are numbered from 1, below the heading.") +
-                       (hasEmptyColumn ? " The empty columns don't count in the rows." : ""));
+    section.addTable("missing_by_row", tableByRow(table, missing));
+    section.note = "Rows are numbered from 1, below the heading.";
+    if (!table.ofKind(Kind::empty).empty())
+        section.note += " The empty columns don't count in the rows.";
 }
 
 } // namespace survey

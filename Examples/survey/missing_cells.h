@@ -1,9 +1,9 @@
 // Section: how many cells are missing, by column and by row.
 #pragma once
 
+#include "document.h"
 #include "table.h"
 
-#include <iosfwd>
 #include <vector>
 
 namespace survey {
@@ -16,6 +16,6 @@ struct MissingCells
 
 MissingCells missingCellsOf(const Table& table);
 
-void printMissingCells(std::ostream& out, const Table& table, const MissingCells& missing);
+void addMissingCells(Document& document, const Table& table, const MissingCells& missing);
 
 } // namespace survey

@@ -37,6 +37,19 @@ std::string withDecimals(double value, int decimals)
     return written(value, std::chars_format::fixed, decimals);
 }
 
+std::string withAllDigits(double value)
+{
+    if (value == vecmat::missingValue || !std::isfinite(value))
+        return "NA";
+    char buffer[64];
+    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
+}
+
+std::string percentage(double part, double whole)
+{
+    return withDecimals(100.0 * part / whole, 1) + " %";
+}
+
 int decimalsFor(double value, int digits)
 {
     return std::max(0, digits - 1 - magnitudeOf(value));

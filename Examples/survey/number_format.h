@@ -10,6 +10,12 @@ namespace survey {
 /// With a number of digits behind the point; "-" for the missing value, and for what is no finite number.
 std::string withDecimals(double value, int decimals);
 
+/// With as few digits as tell the number from every other; "NA" for the missing value, and for what is no finite number.
+std::string withAllDigits(double value);
+
+/// "12.5 %"; `part` of no more than `whole`, which isn't 0.
+std::string percentage(double part, double whole);
+
 /// Digits behind the point with which a number shows so many digits that count; 0 or more.
 int decimalsFor(double value, int digits);
 

@@ -1,11 +1,8 @@
 #include "regression.h"
 
 #include "number_format.h"
-#include "page.h"
-#include "text_table.h"
 
 #include <cmath>
-#include <ostream>
 #include <string>
 #include <utility>
 
@@ -59,7 +56,7 @@ std::string shown(double number, double error)
     return error > 0.0 && decimals < 10 ? withDecimals(number, decimals) : withDigits(number, 5);
 }
 
-void printCoefficients(std::ostream& out, const Regression& regression)
+TextTable coefficientsOf(const Regression& regression)
 {
     TextTable text(
         {{"term", Align::left}, {"coefficient", Align::point}, {"standard error", Align::point}, {"t", Align::point}},
@@ -69,7 +66,17 @@ void printCoefficients(std::ostream& out, const Regression& regression)
         text.addRow({k < regression.terms.size() ? regression.terms[k]->name : "(intercept)", shown(value, error),
                      shown(error, error), error > 0.0 ? withDecimals(value / error, 2) : "-"});
     }
-    text.print(out, lineWidth);
+    return text;
+}
+
+TextTable fitOf(const Regression& regression)
+{
+    TextTable text(
+        {{"R squared", Align::right}, {"residual std dev", Align::right}, {"degrees of freedom", Align::right}}, 0);
+    text.addRow({withDecimals(regression.determination, 4),
+                 NumberFormat(*regression.response).statistic(regression.residualDeviation),
+                 std::to_string(regression.freedom)});
+    return text;
 }
 
 } // namespace
@@ -101,22 +108,20 @@ std::optional<Regression> regressionOf(const Table& complete)
     return result;
 }
 
-void printRegression(std::ostream& out, const Regression& regression)
+void addRegression(Document& document, const Regression& regression)
 {
-    printTitle(out, "Regression of " + onOneLine(regression.response->name));
-    printCoefficients(out, regression);
-    std::string note = "On the other numeric columns, their gaps filled, by least squares. R squared " +
-                       withDecimals(regression.determination, 4) + "; residual standard deviation " +
-                       NumberFormat(*regression.response).statistic(regression.residualDeviation) + " with " +
-                       std::to_string(regression.freedom) +
-                       " degrees of freedom; t is the coefficient in standard errors.";
+    Section& section = document.add("regression", "Regression of " + regression.response->name,
+                                    "By least squares on the other numeric columns, their gaps filled: these explain " +
+                                        percentage(regression.determination, 1.0) + " of its variance.");
+    section.addTable("regression_coefficients", coefficientsOf(regression));
+    section.addTable("regression_fit", fitOf(regression));
+    section.note = "t is the coefficient in standard errors.";
     if (!regression.leftOut.empty()) {
-        note += " Left out, as the columns before determine them:";
+        section.note += " Left out, as the columns before determine them:";
         for (const Column* column : regression.leftOut)
-            note += (column == regression.leftOut.front() ? " " : ", ") + listed(column->name);
-        note += '.';
+            section.note += (column == regression.leftOut.front() ? " " : ", ") + listed(column->name);
+        section.note += '.';
     }
-    printNote(out, note);
 }
 
 } // namespace survey

@@ -1,9 +1,9 @@
 // Section: the regression of the last numeric column on the others.
 #pragma once
 
+#include "document.h"
 #include "flat_call.h"
 
-#include <iosfwd>
 #include <optional>
 #include <vector>
 
@@ -30,6 +30,6 @@ struct Regression
 /// other column beside it, or there are too few rows to tell the errors.
 std::optional<Regression> regressionOf(const Table& complete);
 
-void printRegression(std::ostream& out, const Regression& regression);
+void addRegression(Document& document, const Regression& regression);
 
 } // namespace survey

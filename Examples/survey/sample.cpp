@@ -2,12 +2,10 @@
 
 #include "bstr_array.h"
 #include "flat_call.h"
-#include "page.h"
-#include "text_table.h"
+#include "number_format.h"
 
 #include <algorithm>
 #include <numeric>
-#include <ostream>
 #include <utility>
 
 namespace survey {
@@ -38,6 +36,14 @@ std::vector<const Column*> allColumns(const Table& table)
     for (const Column& column : table.columns)
         columns.push_back(&column);
     return columns;
+}
+
+/// Numbers with as many decimals as the others of their column.
+std::string shown(const Column& column, const SampledRow& sampled, std::size_t j)
+{
+    if (column.kind == Kind::numeric)
+        return NumberFormat(column).cell(column.numbers[static_cast<std::size_t>(sampled.row)]);
+    return sampled.cells[j].empty() ? "-" : sampled.cells[j];
 }
 
 } // namespace
@@ -92,7 +98,7 @@ std::vector<SampledRow> stratifiedSample(const Table& table, std::span<const Gro
     return result;
 }
 
-void printSample(std::ostream& out, const Subject& subject)
+void addSample(Document& document, const Subject& subject)
 {
     constexpr int count = 12;
     constexpr int seed = 1;
@@ -105,14 +111,15 @@ void printSample(std::ostream& out, const Subject& subject)
     TextTable text(std::move(headings), 1);
     for (const SampledRow& sampled : stratifiedSample(subject.table, groups, count, seed)) {
         std::vector<std::string> cells = {std::to_string(sampled.row + 1)};
-        for (const std::string& cell : sampled.cells)
-            cells.push_back(cell.empty() ? "-" : cell);
+        for (std::size_t j = 0; j < sampled.cells.size(); ++j)
+            cells.push_back(shown(subject.table.columns[j], sampled, j));
         text.addRow(std::move(cells));
     }
-    printTitle(out, "Stratified sample");
-    text.print(out, lineWidth);
-    printNote(out, counted(count, "row") + " drawn at random, from each group of " + onOneLine(subject.grouping->name) +
-                       " in proportion to its size. A dash stands for a missing cell.");
+    Section& section = document.add("sample", "Stratified sample",
+                                    counted(count, "row") + " drawn at random, from each group of " +
+                                        onOneLine(subject.grouping->name) + " in proportion to its size.");
+    section.addTable(std::move(text));
+    section.note = "A dash stands for a missing cell. The seed is fixed: every run draws the same rows.";
 }
 
 } // namespace survey

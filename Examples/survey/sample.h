@@ -1,9 +1,9 @@
 // Section: some rows of each group, drawn at random.
 #pragma once
 
+#include "document.h"
 #include "subject.h"
 
-#include <iosfwd>
 #include <span>
 #include <string>
 #include <vector>
@@ -26,6 +26,6 @@ struct SampledRow
 std::vector<SampledRow> stratifiedSample(const Table& table, std::span<const Group> groups, int count, int seed);
 
 /// Nothing without a grouping column, or where the table is no larger than the sample.
-void printSample(std::ostream& out, const Subject& subject);
+void addSample(Document& document, const Subject& subject);
 
 } // namespace survey

@@ -121,12 +121,17 @@ void TextTable::addGap()
         rows_.emplace_back();
 }
 
+bool TextTable::isToldAbove(std::size_t i, std::size_t j) const
+{
+    return j == 0 && keyColumns_ == 2 && i > 0 && !rows_[i - 1].empty() && rows_[i - 1][0] == rows_[i][0];
+}
+
 std::vector<std::string> TextTable::paddedColumn(std::size_t j) const
 {
     const auto& [heading, align] = columns_[j];
     std::vector<std::string> cells;
-    for (const auto& row : rows_)
-        cells.push_back(row.empty() ? "" : row[j]);
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        cells.push_back(rows_[i].empty() || isToldAbove(i, j) ? "" : rows_[i][j]);
     if (align == Align::point)
         alignPoints(cells);
     cells.insert(cells.begin(), onOneLine(heading));

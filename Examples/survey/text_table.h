@@ -28,7 +28,8 @@ std::string wrapped(const std::vector<std::string>& words, std::size_t width, st
 enum class Align { left, right, point };
 
 /// Rows of cells below headings. With `Align::point` the decimal points stand below each other. A table wider than the
-/// line is printed in parts, one below the other, each beginning with the columns that name the rows.
+/// line is printed in parts, one below the other, each beginning with the columns that name the rows. Where two columns
+/// name the rows, the first is printed once for all the rows of a run that have it in common.
 class TextTable
 {
 public:
@@ -45,14 +46,18 @@ public:
     void addGap();                               ///< an empty line, except ahead of the first row
 
     bool empty() const { return rows_.empty(); }
+    const std::vector<Column>& columns() const { return columns_; }
+    std::size_t keyColumns() const { return keyColumns_; }
+    const std::vector<std::vector<std::string>>& rows() const { return rows_; } ///< one without cells is a gap
     void print(std::ostream& out, std::size_t width) const;
 
 private:
+    bool isToldAbove(std::size_t i, std::size_t j) const;
     std::vector<std::string> paddedColumn(std::size_t j) const;
 
     std::vector<Column> columns_;
     std::size_t keyColumns_;
-    std::vector<std::vector<std::string>> rows_; // a row without cells is a gap
+    std::vector<std::vector<std::string>> rows_;
 };
 
 } // namespace survey

@@ -4,6 +4,7 @@
 #include "components.h"
 
 #include "penguins_reference.h"
+#include "printed_section.h"
 
 #include "support/bits.h"
 
@@ -11,11 +12,10 @@
 
 #include <cmath>
 #include <numeric>
-#include <sstream>
-
 using namespace survey;
 using survey::test::expectClose;
 using survey::test::penguins;
+using survey::test::printed;
 using testing::HasSubstr;
 
 namespace {
@@ -118,19 +118,21 @@ TEST(Components, OfNumbersTooLargeToBeSquaredAreNone)
 TEST(Components, ArePrintedWithTheirVariances)
 {
     const Table t = table("x,y\n1,1\n2,3\n3,2\n4,4\n");
-    std::ostringstream out;
-    printComponents(out, *componentsOf(t));
-    EXPECT_THAT(out.str(), testing::StartsWith("Principal components\n"
-                                               "\n"
-                                               "component  variance  of the sum  up to here\n"
-                                               "-------------------------------------------\n"
-                                               "        1     1.800      90.0 %      90.0 %\n"
-                                               "        2     0.200      10.0 %     100.0 %\n"
-                                               "\n"
-                                               "column  component 1\n"
-                                               "-------------------\n"
-                                               "x             0.707\n"
-                                               "y             0.707\n"));
+    EXPECT_THAT(printed(addComponents, *componentsOf(t)),
+                testing::StartsWith("Principal components\n"
+                                    "====================\n"
+                                    "\n"
+                                    "The first of 2 components has 90.0 % of the variance of the numeric columns.\n"
+                                    "\n"
+                                    "component  variance   share  cumulative\n"
+                                    "---------------------------------------\n"
+                                    "        1     1.800  90.0 %      90.0 %\n"
+                                    "        2     0.200  10.0 %     100.0 %\n"
+                                    "\n"
+                                    "column  component 1\n"
+                                    "-------------------\n"
+                                    "x             0.707\n"
+                                    "y             0.707\n"));
 }
 
 TEST(Biplot, OfThePenguinsHasTheCoordinatesOfPrcomp)
@@ -162,25 +164,26 @@ TEST(Biplot, HasOneAxisWhereThereIsOneComponent)
 {
     const Table t = table("x,y\n1,2\n2,4\n3,6\n");
     const Subject subject = subjectOf(t, nullptr);
-    std::ostringstream out;
-    printBiplot(out, *componentsOf(t), subject);
-    EXPECT_THAT(out.str(), testing::StartsWith("Biplot\n"
-                                               "\n"
-                                               "        point  component 1\n"
-                                               "--------------------------\n"
-                                               "column  x            1.000\n"
-                                               "        y            1.000\n"
-                                               "\n"
-                                               "row     1           -1.000\n"
-                                               "        2            0.000\n"
-                                               "        3            1.000\n"));
+    EXPECT_THAT(printed(addBiplot, *componentsOf(t), subject),
+                testing::StartsWith("Biplot\n"
+                                    "======\n"
+                                    "\n"
+                                    "The columns and the rows along the only component.\n"
+                                    "\n"
+                                    "kind    point  component 1\n"
+                                    "--------------------------\n"
+                                    "column  x            1.000\n"
+                                    "        y            1.000\n"
+                                    "\n"
+                                    "row     1           -1.000\n"
+                                    "        2            0.000\n"
+                                    "        3            1.000\n"));
 }
 
 TEST(Biplot, OfManyRowsPrintsTheOneFarthestOut)
 {
-    std::ostringstream out;
     const auto components = componentsOf(completePenguins());
-    printBiplot(out, *components, subjectOf(penguins(), penguins().named("species")));
-    EXPECT_THAT(out.str(), HasSubstr("row farthest out  " + std::to_string(survey::test::farthestRow) + " "));
-    EXPECT_THAT(out.str(), HasSubstr("mean of species   Adelie                  -0.88"));
+    const std::string text = printed(addBiplot, *components, subjectOf(penguins(), penguins().named("species")));
+    EXPECT_THAT(text, HasSubstr("row farthest out  " + std::to_string(survey::test::farthestRow) + " "));
+    EXPECT_THAT(text, HasSubstr("mean of species   Adelie                  -0.88"));
 }

@@ -4,16 +4,16 @@
 #include "regression.h"
 
 #include "penguins_reference.h"
+#include "printed_section.h"
 
 #include "support/bits.h"
 
 #include <gmock/gmock.h>
 
-#include <sstream>
-
 using namespace survey;
 using survey::test::expectClose;
 using survey::test::penguins;
+using survey::test::printed;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using vecmat::test::M;
@@ -38,9 +38,7 @@ std::vector<std::string> lettersOf(const std::vector<std::vector<double>>& group
 
 std::string printedLetters(const Table& table, const char* grouping)
 {
-    std::ostringstream out;
-    printLetterGroups(out, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
-    return out.str();
+    return printed(addLetterGroups, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
 }
 
 bool shareALetter(const std::string& a, const std::string& b)
@@ -109,16 +107,24 @@ TEST(Regression, OfNumbersTooLargeToBeSquaredIsNone)
 TEST(Regression, IsPrintedWithWhatWasLeftOut)
 {
     const Table t = table("x,twice,y\n1,2,1\n2,4,3\n3,6,2\n4,8,5\n");
-    std::ostringstream out;
-    printRegression(out, *regressionOf(t));
-    EXPECT_THAT(out.str(), testing::StartsWith("Regression of y\n"
-                                               "\n"
-                                               "term         coefficient  standard error     t\n"
-                                               "----------------------------------------------\n"
-                                               "x                 1.1000          0.5196  2.12\n"
-                                               "(intercept)       0.000           1.423   0.00\n"));
-    EXPECT_THAT(out.str(), HasSubstr("with 2 degrees of freedom"));
-    EXPECT_THAT(out.str(), HasSubstr("determine them: twice.\n"));
+    const std::string text = printed(addRegression, *regressionOf(t));
+    EXPECT_THAT(text,
+                testing::StartsWith(
+                    "Regression of y\n"
+                    "===============\n"
+                    "\n"
+                    "By least squares on the other numeric columns, their gaps filled: these explain 69.1 % of its\n"
+                    "variance.\n"
+                    "\n"
+                    "term         coefficient  standard error     t\n"
+                    "----------------------------------------------\n"
+                    "x                 1.1000          0.5196  2.12\n"
+                    "(intercept)       0.000           1.423   0.00\n"
+                    "\n"
+                    "R squared  residual std dev  degrees of freedom\n"
+                    "-----------------------------------------------\n"
+                    "   0.6914               1.2                   2\n"));
+    EXPECT_THAT(text, HasSubstr("determine them: twice.\n"));
 }
 
 TEST(Regression, WithoutErrorsHasNoT)
@@ -126,9 +132,7 @@ TEST(Regression, WithoutErrorsHasNoT)
     const Table t = table("x,y\n1,0\n2,0\n3,0\n4,1\n");
     Regression regression = *regressionOf(t);
     regression.coefficients[0] = {2.0, 0.0};
-    std::ostringstream out;
-    printRegression(out, regression);
-    EXPECT_THAT(out.str(), testing::ContainsRegex("\nx +2.0000 +0.0000 +-\n"));
+    EXPECT_THAT(printed(addRegression, regression), testing::ContainsRegex("\nx +2.0000 +0.0000 +-\n"));
 }
 
 TEST(LetterGroups, OfTheSpeciesShareLettersWhereRFindsThemNotApart)
@@ -180,6 +184,9 @@ TEST(LetterGroups, ArePrintedForEachColumn)
 {
     EXPECT_THAT(printedLetters(table("g,x,y\na,1,1\nb,9,\na,2,2\nb,8,\n"), "g"),
                 testing::StartsWith("Letter groups of the means\n"
+                                    "==========================\n"
+                                    "\n"
+                                    "Means of a column that share a letter don't lie apart; A is the lowest.\n"
                                     "\n"
                                     "column  g  mean  letters\n"
                                     "------------------------\n"

@@ -3,15 +3,15 @@
 #include "missing_cells.h"
 
 #include "penguins_reference.h"
+#include "printed_section.h"
 
 #include "support/bits.h"
 
 #include <gmock/gmock.h>
 
-#include <sstream>
-
 using namespace survey;
 using survey::test::penguins;
+using survey::test::printed;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using vecmat::test::M;
@@ -31,16 +31,12 @@ Completion completed(const Table& table)
 
 std::string printedCounts(const Table& table)
 {
-    std::ostringstream out;
-    printMissingCells(out, table, missingCellsOf(table));
-    return out.str();
+    return printed(addMissingCells, table, missingCellsOf(table));
 }
 
 std::string printedCompletion(const Table& table)
 {
-    std::ostringstream out;
-    printCompletion(out, table, completed(table));
-    return out.str();
+    return printed(addCompletion, table, completed(table));
 }
 
 } // namespace
@@ -78,12 +74,15 @@ TEST(MissingCells, ArePrintedByColumnAndByRow)
 {
     EXPECT_EQ(printedCounts(table("t,x,e\n,1,\nb,,\nc,3,\n")),
               "Missing cells\n"
+              "=============\n"
               "\n"
-              "column  kind     missing  of the rows\n"
-              "-------------------------------------\n"
-              "t       text           1       33.3 %\n"
-              "x       numeric        1       33.3 %\n"
-              "e       empty          3      100.0 %\n"
+              "2 of 6 cells are missing (33.3 %), in 2 of 3 rows.\n"
+              "\n"
+              "column  kind     missing    share\n"
+              "---------------------------------\n"
+              "t       text           1   33.3 %\n"
+              "x       numeric        1   33.3 %\n"
+              "e       empty          3  100.0 %\n"
               "\n"
               "missing in a row  rows  row numbers\n"
               "-----------------------------------\n"
@@ -91,22 +90,26 @@ TEST(MissingCells, ArePrintedByColumnAndByRow)
               "               1     2  1, 2\n"
               "\n"
               "Rows are numbered from 1, below the heading. The empty columns don't count in the rows.\n"
-              "\n"
               "\n");
 }
 
-TEST(MissingCells, NoneAreToldInAWord)
+TEST(MissingCells, NoneAreToldInASentence)
 {
-    EXPECT_EQ(printedCounts(table("x\n1\n")), "Missing cells\n\nNone.\n\n\n");
+    EXPECT_EQ(printedCounts(table("x\n1\n")), "Missing cells\n=============\n\nNo cell is missing.\n\n");
 }
 
 TEST(MissingCells, OfEmptyColumnsAloneMakeNoRowIncomplete)
 {
-    EXPECT_THAT(printedCounts(table("x,e\n1,\n")), testing::EndsWith("e       empty          1      100.0 %\n"
-                                                                     "\n"
-                                                                     "But for the empty columns, none.\n"
-                                                                     "\n"
-                                                                     "\n"));
+    EXPECT_EQ(printedCounts(table("x,e\n1,\n")), "Missing cells\n"
+                                                 "=============\n"
+                                                 "\n"
+                                                 "But for the empty columns, no cell is missing.\n"
+                                                 "\n"
+                                                 "column  kind     missing    share\n"
+                                                 "---------------------------------\n"
+                                                 "x       numeric        0    0.0 %\n"
+                                                 "e       empty          1  100.0 %\n"
+                                                 "\n");
 }
 
 TEST(MissingCells, OfManyRowsTheFirstAreNumbered)
@@ -182,15 +185,30 @@ TEST(Completion, LeavesEmptyColumnsOut)
 TEST(Completion, PrintsALineForEachCellAndMeansWithADigitMore)
 {
     const std::string text = printedCompletion(table("x,t,y\n1,,3\n4,a,\n,a,5\n,b,\n"));
-    EXPECT_THAT(text, testing::StartsWith("Missing cells filled by nearest neighbours\n"
-                                          "\n"
-                                          "row  column  filled with\n"
-                                          "------------------------\n"
-                                          "  1  t       a\n"
-                                          "  2  y       4.0\n"
-                                          "  3  x       2.5\n"
-                                          "  4  x       2.5\n"
-                                          "     y       4.0\n"
-                                          "\n"
-                                          "The cell of"));
+    EXPECT_THAT(
+        text, testing::StartsWith(
+                  "Missing cells filled by nearest neighbours\n"
+                  "==========================================\n"
+                  "\n"
+                  "For what needs complete rows, each missing cell takes the value of the most similar complete row.\n"
+                  "\n"
+                  "row  column  filled with\n"
+                  "------------------------\n"
+                  "  1  t       a\n"
+                  "  2  y       4.0\n"
+                  "  3  x       2.5\n"
+                  "  4  x       2.5\n"
+                  "     y       4.0\n"
+                  "\n"
+                  "Rows differ"));
+}
+
+TEST(Completion, OfManyCellsTheFirstAreListed)
+{
+    std::string csv = "x,y\n1,1\n";
+    for (int i = 0; i < 53; ++i)
+        csv += "2,\n";
+    const std::string text = printedCompletion(table(csv));
+    EXPECT_THAT(text, HasSubstr("\n 51  y       1\n\n"));
+    EXPECT_THAT(text, HasSubstr("Listed are the first 50\ncells; there are 3 more.\n"));
 }

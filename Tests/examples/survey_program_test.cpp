@@ -89,7 +89,7 @@ TEST_F(SurveyProgram, PrintsThePenguinsBySpecies)
                 HasSubstr("species  Adelie              38.79          18.35              190.0       3700.7\n"));
     EXPECT_THAT(output, HasSubstr("bill_depth_mm              -0.235          1.000            342          342\n"));
     EXPECT_THAT(output, HasSubstr("340  bill_length_mm     46.1\n"));
-    EXPECT_THAT(output, HasSubstr("        1     2.753      68.8 %      68.8 %\n"));
+    EXPECT_THAT(output, HasSubstr("        1     2.753  68.8 %      68.8 %\n"));
     EXPECT_THAT(output, HasSubstr("row farthest out  254                      2.288        2.106\n"));
     EXPECT_THAT(output, HasSubstr("flipper_length_mm       50.329           2.476   20.33\n"));
     EXPECT_THAT(output, HasSubstr("bill_length_mm     Adelie       38.79  A\n"
@@ -115,7 +115,7 @@ TEST_F(SurveyProgram, OfASingleCellLeavesOutWhatCannotBeTold)
     run("a.csv");
     EXPECT_EQ(status, 0);
     EXPECT_EQ(errors, "");
-    EXPECT_THAT(output, HasSubstr("\nMissing cells\n\nNone.\n"));
+    EXPECT_THAT(output, HasSubstr("\nNo cell is missing.\n"));
     for (const char* title : {"Categories", "Means by category", "Correlations", "Missing cells filled", "Principal",
                               "Biplot", "Regression", "Letter groups", "Stratified sample"})
         EXPECT_EQ(output.find(title), std::string::npos) << title;
@@ -156,11 +156,12 @@ TEST_F(SurveyProgram, ListsTheColumnsByKindAndTheGroups)
 
 TEST_F(SurveyProgram, CallWithoutFileOrWithTooManyArgumentsShowsTheUsage)
 {
-    for (const char* arguments : {"", "a.csv b c"}) {
+    for (const char* arguments :
+         {"", "a.csv b c", "--report", "--report directory", "--report directory --report a.csv"}) {
         run(arguments);
         EXPECT_EQ(status, 2);
         EXPECT_EQ(output, "");
-        EXPECT_EQ(errors, "usage: survey FILE.csv [GROUPING_COLUMN]\n");
+        EXPECT_EQ(errors, "usage: survey [--report DIRECTORY] FILE.csv [GROUPING_COLUMN]\n");
     }
 }
 

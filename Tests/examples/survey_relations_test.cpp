@@ -4,17 +4,17 @@
 #include "group_means.h"
 
 #include "penguins_reference.h"
+#include "printed_section.h"
 
 #include "support/bits.h"
 
 #include <gmock/gmock.h>
 
-#include <sstream>
-
 using namespace survey;
 using survey::test::categoryReferences;
 using survey::test::expectClose;
 using survey::test::penguins;
+using survey::test::printed;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using vecmat::test::M;
@@ -35,14 +35,6 @@ Column numeric(std::vector<double> numbers)
 Column text(std::vector<std::string> texts)
 {
     return {"t", Kind::text, std::move(texts), {}, 0};
-}
-
-template <class Print>
-std::string printed(Print print, const Table& table)
-{
-    std::ostringstream out;
-    print(out, table);
-    return out.str();
 }
 
 } // namespace
@@ -90,17 +82,17 @@ TEST(Categories, KeepAnyText)
 
 TEST(Categories, ArePrintedWithTheirShare)
 {
-    EXPECT_EQ(printed(printCategories, table("t,x\nb,1\n,2\na,3\nb,4\n")),
+    EXPECT_EQ(printed(addCategories, table("t,x\nb,1\n,2\na,3\nb,4\n")),
               "Categories\n"
+              "==========\n"
+              "\n"
+              "The texts of each text column, in the order in which they first appear.\n"
               "\n"
               "column  category  rows   share\n"
               "------------------------------\n"
               "t       b            2  50.0 %\n"
               "        a            1  25.0 %\n"
               "        (none)       1  25.0 %\n"
-              "\n"
-              "In the order in which the categories first appear.\n"
-              "\n"
               "\n");
 }
 
@@ -109,12 +101,12 @@ TEST(Categories, ThatAreTooManyAreCountedOnly)
     std::string csv = "t,x\n";
     for (int i = 0; i < 51; ++i)
         csv += "n" + std::to_string(i) + ",1\n";
-    EXPECT_THAT(printed(printCategories, table(csv)), HasSubstr("t       51 categories    51  100.0 %\n"));
+    EXPECT_THAT(printed(addCategories, table(csv)), HasSubstr("t       51 categories    51  100.0 %\n"));
 }
 
 TEST(Categories, OfATableWithoutTextColumnsAreNotPrinted)
 {
-    EXPECT_EQ(printed(printCategories, table("x\n1\n")), "");
+    EXPECT_EQ(printed(addCategories, table("x\n1\n")), "");
 }
 
 TEST(GroupMeans, OfThePenguinsAgreeWithR)
@@ -136,17 +128,17 @@ TEST(GroupMeans, OfThePenguinsAgreeWithR)
 
 TEST(GroupMeans, OfRowsWithoutACategoryComeLastAndMayBeMissing)
 {
-    EXPECT_EQ(printed(printGroupMeans, table("t,x,y\n,1,10\nb,,20\na,4,\n,2,40\na,5,60\n")),
+    EXPECT_EQ(printed(addGroupMeans, table("t,x,y\n,1,10\nb,,20\na,4,\n,2,40\na,5,60\n")),
               "Means by category\n"
+              "=================\n"
+              "\n"
+              "The mean of each numeric column over the rows of each category, of the cells that aren't missing.\n"
               "\n"
               "column  category    x     y\n"
               "---------------------------\n"
               "t       b         -    20.0\n"
               "        a         4.5  60.0\n"
               "        (none)    1.5  25.0\n"
-              "\n"
-              "Of the cells that aren't missing.\n"
-              "\n"
               "\n");
 }
 
@@ -155,8 +147,8 @@ TEST(GroupMeans, OfTooManyCategoriesOrOfNoneAreNotPrinted)
     std::string csv = "t,x\n";
     for (int i = 0; i < 51; ++i)
         csv += "n" + std::to_string(i) + ",1\n";
-    EXPECT_EQ(printed(printGroupMeans, table(csv)), "");
-    EXPECT_EQ(printed(printGroupMeans, table("x\n1\n")), "");
+    EXPECT_EQ(printed(addGroupMeans, table(csv)), "");
+    EXPECT_EQ(printed(addGroupMeans, table("x\n1\n")), "");
 }
 
 TEST(Correlations, OfThePenguinsAgreeWithR)
@@ -192,19 +184,23 @@ TEST(Correlations, TakeColumnsThatVary)
 
 TEST(Correlations, ArePrintedBelowTheDiagonalAndCountsAbove)
 {
-    EXPECT_THAT(printed(printCorrelations, table("a,b,c\n1,2,7\n2,4,7\n3,,7\n4,8,7\n")),
-                testing::StartsWith("Correlations\n"
-                                    "\n"
-                                    "column      a      b  c\n"
-                                    "-----------------------\n"
-                                    "a       1.000  3      4\n"
-                                    "b       1.000  1.000  3\n"
-                                    "c       -      -      -\n"
-                                    "\n"
-                                    "Pearson's"));
+    EXPECT_THAT(printed(addCorrelations, table("a,b,c\n1,2,7\n2,4,7\n3,,7\n4,8,7\n")),
+                testing::StartsWith(
+                    "Correlations\n"
+                    "============\n"
+                    "\n"
+                    "How the numeric columns go together. The strongest correlation, 1.000, is that of a and b.\n"
+                    "\n"
+                    "column      a      b  c\n"
+                    "-----------------------\n"
+                    "a       1.000  3      4\n"
+                    "b       1.000  1.000  3\n"
+                    "c       -      -      -\n"
+                    "\n"
+                    "Pearson's"));
 }
 
 TEST(Correlations, OfOneColumnAreNotPrinted)
 {
-    EXPECT_EQ(printed(printCorrelations, table("x,t\n1,a\n")), "");
+    EXPECT_EQ(printed(addCorrelations, table("x,t\n1,a\n")), "");
 }

@@ -2,15 +2,15 @@
 #include "sample.h"
 
 #include "penguins_reference.h"
+#include "printed_section.h"
 
 #include <gmock/gmock.h>
 
 #include <map>
 #include <set>
-#include <sstream>
-
 using namespace survey;
 using survey::test::penguins;
+using survey::test::printed;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
@@ -35,11 +35,9 @@ std::vector<int> rowsOf(const std::vector<SampledRow>& sample)
     return rows;
 }
 
-std::string printed(const Table& table, const char* grouping)
+std::string printedSample(const Table& table, const char* grouping)
 {
-    std::ostringstream out;
-    printSample(out, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
-    return out.str();
+    return printed(addSample, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
 }
 
 } // namespace
@@ -101,13 +99,24 @@ TEST(Sample, PrintsADashForAMissingCell)
     std::string csv = "g,x,e\n";
     for (int i = 0; i < 13; ++i)
         csv += "a,1,\n";
-    EXPECT_THAT(printed(table(csv), "g"),
-                testing::ContainsRegex("Stratified sample\n\nrow  g  x  e\n-+\n +[0-9]+  a  1  -\n"));
-    EXPECT_THAT(printed(table(csv), "g"), HasSubstr("12 rows drawn at random, from each group of g"));
+    EXPECT_THAT(printedSample(table(csv), "g"), testing::ContainsRegex("\n\nrow  g  x  e\n-+\n +[0-9]+  a  1  -\n"));
+    EXPECT_THAT(printedSample(table(csv), "g"),
+                testing::StartsWith("Stratified sample\n"
+                                    "=================\n"
+                                    "\n"
+                                    "12 rows drawn at random, from each group of g in proportion to its size.\n"));
+}
+
+TEST(Sample, PrintsTheNumbersOfAColumnWithAsManyDecimals)
+{
+    std::string csv = "g,x\na,1.25\n";
+    for (int i = 0; i < 12; ++i)
+        csv += "a,7\n";
+    EXPECT_THAT(printedSample(table(csv), "g"), HasSubstr("  a  7.00\n"));
 }
 
 TEST(Sample, NeedsAGroupingColumnAndMoreRowsThanItTakes)
 {
-    EXPECT_EQ(printed(penguins(), nullptr), "");
-    EXPECT_EQ(printed(table("g,x\na,1\nb,2\n"), "g"), "");
+    EXPECT_EQ(printedSample(penguins(), nullptr), "");
+    EXPECT_EQ(printedSample(table("g,x\na,1\nb,2\n"), "g"), "");
 }

@@ -56,6 +56,19 @@ TEST(NumberFormat, WithDigitsShowsTheDigitsThatCount)
     EXPECT_EQ(withDigits(M, 3), "-");
 }
 
+TEST(NumberFormat, WithAllDigitsIsReadAsTheSameNumber)
+{
+    EXPECT_EQ(withAllDigits(0.1), "0.1");
+    EXPECT_EQ(withAllDigits(1.0 / 3.0), "0.3333333333333333");
+    EXPECT_EQ(withAllDigits(M), "NA");
+    EXPECT_EQ(withAllDigits(std::numeric_limits<double>::quiet_NaN()), "NA");
+}
+
+TEST(NumberFormat, PercentageHasOneDecimal)
+{
+    EXPECT_EQ(percentage(1.0, 3.0), "33.3 %");
+}
+
 TEST(NumberFormat, DecimalsForANumberAreNeverNegative)
 {
     EXPECT_EQ(decimalsFor(5.3, 4), 3);
@@ -110,6 +123,25 @@ TEST(TextTable, WiderThanTheLineGoesOnBelow)
                                   "k  cccc\n-------\nk     3\n\n");
     EXPECT_EQ(printed(table, 12).substr(0, 8), "k  aaaa\n");
     EXPECT_EQ(printed(table, 1).substr(0, 8), "k  aaaa\n"); // at least one column at a time
+}
+
+TEST(TextTable, TellsTheFirstOfTwoNamesOnceForARun)
+{
+    TextTable table({{"k", Align::left}, {"l", Align::left}, {"x", Align::right}}, 2);
+    table.addRow({"a", "b", "1"});
+    table.addRow({"a", "b", "1"});
+    table.addRow({"b", "b", "1"});
+    table.addGap();
+    table.addRow({"b", "b", "1"});
+    EXPECT_EQ(printed(table, 80), "k  l  x\n"
+                                  "-------\n"
+                                  "a  b  1\n"
+                                  "   b  1\n"
+                                  "b  b  1\n"
+                                  "\n"
+                                  "b  b  1\n"
+                                  "\n");
+    EXPECT_EQ(table.rows()[1][0], "a");
 }
 
 TEST(TextTable, LineBreaksInCellsAreBlanks)

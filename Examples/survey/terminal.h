@@ -1,0 +1,16 @@
+// The survey on a terminal.
+#pragma once
+
+#include "document.h"
+
+#include <cstddef>
+#include <iosfwd>
+
+namespace survey {
+
+inline constexpr std::size_t lineWidth = 100;
+
+void print(std::ostream& out, const Document& document);
+void print(std::ostream& out, const Section& section);
+
+} // namespace survey
