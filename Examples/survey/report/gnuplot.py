@@ -37,7 +37,8 @@ def drawn(script, settings, files):
     with tempfile.TemporaryDirectory() as directory:
         for name, lines in files.items():
             Path(directory, name).write_text("".join(" ".join(map(repr, line)) + "\n" for line in lines))
-        commands = [*palette, f"style = {quoted(str(here / 'style.gp'))}", *settings, f"load {quoted(str(here / script))}"]
+        style = f"style = {quoted(str(here / 'style.gp'))}"
+        commands = [*palette, style, *settings, f"load {quoted(str(here / script))}"]
         try:
             result = subprocess.run(
                 ["gnuplot", "-"],
@@ -53,6 +54,9 @@ def drawn(script, settings, files):
         return plain(xml.fromstring(result.stdout))
 
 
+MARKS = ("path", "circle", "rect", "use")  # what can be used by its name; other elements don't keep theirs
+
+
 def plain(svg):
     """The picture without namespaces, its colours by classes, which a style sheet can tell for light and dark."""
     for element in svg.iter():
@@ -65,7 +69,7 @@ def plain(svg):
             colour = colours.name_of(value) if name in ("color", "fill", "stroke") else None
             if colour:
                 element.set("class", (element.get("class", "") + f" {name}-{colour}").strip())
-            elif name not in ("id", "font-family") or element.tag in ("path", "circle", "rect", "use"):
+            elif name != "font-family" and (name != "id" or element.tag in MARKS):
                 element.set(name, value)
     for parent in list(svg.iter()):
         for child in list(parent):

@@ -110,9 +110,8 @@ def row(table, behind, i, run_name=None):
         tag, scope = ("th", "row") if j < table.key_columns else ("td", None)
         placed = " placed" if any(cells[j].startswith(" ") for cells in table.rows) else ""
         short = behind[j][i]
-        cells.append(
-            element(tag, text, scope=scope, class_=table.align[j] + placed, style=f"--short: {short}" if short else None)
-        )
+        style = f"--short: {short}" if short else None
+        cells.append(element(tag, text, scope=scope, class_=table.align[j] + placed, style=style))
     return element("tr", *cells)
 
 

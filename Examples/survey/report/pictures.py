@@ -21,8 +21,11 @@ class Drawn:
 
 
 def draw(survey, directory):
-    """Draws what the survey has data for: pictures by name, each also in a file of the directory."""
+    """Draws what the survey has data for: pictures by name, each also in a file of the directory. Those of an earlier
+    survey are removed."""
     drawers = {"correlation_map": correlation_map, "scree": scree, "biplot": biplot}
+    for name in drawers:
+        (directory / f"{name}.svg").unlink(missing_ok=True)
     result = {}
     for name in [section.picture for section in survey.sections if section.picture]:
         drawn = drawers[name](survey)
@@ -91,7 +94,10 @@ def biplot(survey):
     named = sorted(columns, key=lambda column: -math.hypot(*column[1:]))[:MOST_NAMES]
     frame = frame_of(points, named, stretch, above=100 if coloured else 70)
     settings = assigned(
-        **frame, stretch=stretch, series=len(groups) if coloured else 1, legend=len(groups) if coloured else 0,
+        **frame,
+        stretch=stretch,
+        series=len(groups) if coloured else 1,
+        legend=len(groups) if coloured else 0,
         size=0.55 if len(points) < 1000 else 0.35,
     )
     settings.append(f"set xlabel {quoted(f'component 1 ({share[0]:.1f} %)')}")
@@ -124,23 +130,36 @@ def stretch_of(points, columns):
 
 def frame_of(points, columns, stretch, above):
     """A picture with equal units both ways that holds the points, the circle, and the names of the columns."""
-    across, left, margin = 620, 70, 14
+    across, most_down, left, margin = 620, 800, 70, 14
     xs = [x for x, _, _ in points] + [-stretch, stretch]
     ys = [y for _, y, _ in points] + [-stretch, stretch]
     low, high = min(xs), max(xs)
     for _ in range(20):  # the more room the names take, the more units a letter takes
         unit = (high - low) / (across - 2 * margin)
-        ends = [x * stretch + math.copysign(12 + LETTER * len(shortened(name)), x) * unit for name, x, _ in columns]
-        low, high = min(xs + ends), max(xs + ends)
-    unit = (high - low) / (across - 2 * margin)
-    step = next(s for s in (0.5, 1, 2, 5, 10, 20, 50, math.inf) if s * 8 >= high - low)
-    down = min(800, math.ceil((max(ys) - min(ys)) / unit + 2 * margin))
+        low, high = min(xs), max(xs)
+        for side in (-1, 1):
+            here = [column for column in columns if math.copysign(1, column[1]) == side]
+            if here:
+                letters = max(len(shortened(name)) for name, _, _ in here)
+                end = stretch * max(side * x for _, x, _ in here) + (12 + LETTER * letters) * unit
+                low, high = min(low, side * end), max(high, side * end)
+    unit = max((high - low) / (across - 2 * margin), (max(ys) - min(ys)) / (most_down - 2 * margin))
+    step = next(m * 10**k for k in range(9) for m in (1, 2, 5) if 8 * m * 10**k >= across * unit)
+    down = math.ceil((max(ys) - min(ys)) / unit + 2 * margin)
     middle_x, middle_y = (low + high) / 2, (min(ys) + max(ys)) / 2
     return {
-        "across": float(across), "down": float(down), "left": float(left), "above": float(above),
-        "width": left + across + 80, "height": above + down + 70, "unit": unit, "step": step,
-        "x_low": middle_x - unit * across / 2, "x_high": middle_x + unit * across / 2,
-        "y_low": middle_y - unit * down / 2, "y_high": middle_y + unit * down / 2,
+        "across": float(across),
+        "down": float(down),
+        "left": float(left),
+        "above": float(above),
+        "width": left + across + 80,
+        "height": above + down + 70,
+        "unit": unit,
+        "step": step,
+        "x_low": middle_x - unit * across / 2,
+        "x_high": middle_x + unit * across / 2,
+        "y_low": middle_y - unit * down / 2,
+        "y_high": middle_y + unit * down / 2,
     }
 
 
@@ -171,7 +190,7 @@ def names(columns, frame, stretch):
 def spread(places, distance):
     """Ascending places moved apart to that distance, in runs of those that touch, each around where it was."""
     runs = []  # of the sum of the wanted first places, and how many
-    for k, place in enumerate(places):
+    for place in places:
         runs.append([place, 1])
         while len(runs) > 1 and runs[-2][0] / runs[-2][1] + distance * runs[-2][1] > runs[-1][0] / runs[-1][1]:
             total, count = runs.pop()

@@ -11,8 +11,8 @@ set xrange [0.5:last + 0.5]
 set yrange [0:top]
 set xtics 1, step
 set grid ytics back
-set arrow 1 from graph 0, first 1 to graph 1, first 1 nohead back lc rgb muted lw 1.5 dt (6, 4)
-set label 1 "variance of a column" at graph 0.995, first 1 offset 0, 0.6 right textcolor rgb muted
+set arrow from graph 0, first 1 to graph 1, first 1 nohead back lc rgb muted lw 1.5 dt (6, 4)
+set label "variance of a column" at graph 0.995, first 1 offset 0, 0.6 right textcolor rgb muted
 plot "variances" with lines lc rgb group1 lw 2, \
      "variances" with points pt 7 ps 1.1 lc rgb paper, \
      "variances" with points pt 7 ps 0.8 lc rgb group1
