@@ -22,6 +22,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(ROOT / "Tests/interface"))
 from declarations import read_header  # noqa: E402  (the reader of headers is the interface test's)
+from header_comments import comments_by_line  # noqa: E402
 
 COLUMNS = ["unit", "functions", "missing", "mask", "weights", "divisor", "empty", "fingerprint"]
 HEADINGS = ["Functions", "Missing cell", "Mask", "Weights", "Divisor", "Empty input"]
@@ -45,7 +46,7 @@ TOLD = {"mask": {"mask", "filter", "constraints"}, "weights": {"w", "weights"},
 @dataclass(frozen=True)
 class Contract:
     declaration: object
-    comments: tuple  # the header's own, those of the section, that of the function
+    comments: tuple  # as one line each: the header's own, those of the section, that of the function
 
     def text(self):
         d = self.declaration
@@ -67,50 +68,6 @@ def family_of(unit):
     return folder if folder in FAMILIES else "tables"
 
 
-def comments_by_line(text):
-    """For each line of a header, the comments that hold for a declaration on it.
-
-    These are the comment ahead of the code and that of the class; the last heading (`// ----`) and the last plain
-    comment behind it; and the last `///` since any of them.
-    """
-    preamble, heading, plain, doc = [], "", "", ""
-    in_preamble, held, block = True, [], []
-
-    def close():
-        nonlocal heading, plain, doc
-        if not block:
-            return
-        is_doc = block[0].startswith("///")
-        words = re.sub(r"\s+", " ", " ".join(line.lstrip("/") for line in block)).strip()
-        words = re.sub(r"-{3,}[- ]*", "---- ", words)  # however long the rule of a heading is
-        block.clear()
-        if in_preamble:
-            preamble.append(words)
-        elif is_doc:
-            doc = words
-        elif words.startswith("----"):
-            heading, plain, doc = words, "", ""
-        else:
-            plain, doc = words, ""
-
-    for line in text.split("\n"):
-        stripped = line.strip()
-        if stripped.startswith("//"):
-            # a plain comment and one of a function that touch are two
-            if block and block[0].startswith("///") != stripped.startswith("///"):
-                close()
-            block.append(stripped)
-        else:
-            close()
-            if stripped.startswith("#"):
-                in_preamble = False
-            if re.match(r"(class|struct)\b.*[^;]$", line) and doc:
-                preamble.append(doc)
-                doc = ""
-        held.append(tuple(filter(None, (*preamble, heading, plain, doc))))
-    return held
-
-
 def read_contracts(folder):
     """The contracts of all exported functions, by unit and signature."""
     contracts = {}
@@ -119,7 +76,8 @@ def read_contracts(folder):
         unit = path.relative_to(folder).with_suffix("").as_posix()
         held = comments_by_line(text)
         for declaration in read_header(text, unit + ".h"):
-            contracts.setdefault(unit, {})[declaration.signature()] = Contract(declaration, held[declaration.line - 1])
+            contracts.setdefault(unit, {})[declaration.signature()] = Contract(
+                declaration, held[declaration.line - 1].texts())
     return contracts
 
 
@@ -185,7 +143,7 @@ def check_rows(family, rows, contracts):
 def page(family, rows):
     lines = [f"# {FAMILIES[family]}: what the functions do with what they get", "",
              f"<!-- Written by tools/contracts.py from {family}.tsv: change that, not this page. -->", "",
-             "How to read the tables is told in [the overview](README.md). The headers have the contracts in full.", ""]
+             "How to read the tables is told in [the overview](overview.md). The headers have the contracts in full.", ""]
     unit = None
     for row in rows:
         if row.unit != unit:
