@@ -17,6 +17,9 @@
 // row, which is then divided like any other, and a correlation whose product of variances is 0. The variance of a
 // column without a row is the missing value; its product with itself is infinite, so that this diagonal cell is 1.0.
 // Everything returns 0.
+//
+// While they work, these functions hold a copy of the rows that the mask keeps and a square of p by p; where memory is
+// short they go on without, slower and with the same results.
 #pragma once
 
 #include "../frame/api.h"

@@ -26,8 +26,8 @@ VECMAT_API double MAE(matrix* y, matrix* f, int n, matrix* w, int first);
 /// value by the order test is skipped, and counts in the caller's divisor all the same. 0.0 for `col` below 1.
 VECMAT_API double RMSE(matrix* Y, int n, int col, matrix* F, int divisor);
 
-/// Weighted sum of squares about the plain mean, which is handed back too: the sum is weighted, the mean is not. Not divided. The
-/// missing value for n below 1 or weights that sum to 0.
+/// Weighted sum of squares about the plain mean, which is handed back too: the sum is weighted, the mean is not. Missing cells
+/// (equality test) are left out of both. Not divided. The missing value for n below 1 or weights that sum to 0.
 VECMAT_API double GetSSE(matrix* v, int n, matrix* w, double* mean);
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
