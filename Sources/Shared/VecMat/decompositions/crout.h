@@ -68,86 +68,94 @@ inline Block<ColumnCells<matrix>> squareBlock(matrix** a, int n)
     return block(cells(a), n, n);
 }
 
+/// What goes from column to column.
+struct CroutState
+{
+    std::vector<double> scales; ///< for each row, as permuted, the reciprocal of its largest magnitude
+    int pivotRow;               ///< a column without a candidate that compares keeps the row of the one before
+};
+
 /// The reciprocal of the largest magnitude of each row, NaN passed over; false where a row has nothing but zeros.
 template <class Cells>
-bool reciprocalRowScales(Cells a, int n, std::vector<double>& scales)
+bool scaleRows(Cells a, int n, std::vector<double>& scales)
 {
-    for (int i = 0; i < n; ++i) {
-        double largest = 0.0;
-        for (int j = 0; j < n; ++j)
-            if (const double magnitude = std::fabs(a.get(i, j)); magnitude > largest)
-                largest = magnitude;
-        if (largest == 0.0)
+    scales.assign(countOf(n), 0.0);
+    double* const largest = scales.data();
+    for (int j = 0; j < n; ++j)
+        for (int i = 0; i < n; ++i) {
+            const double magnitude = std::fabs(a.get(i, j));
+            largest[i] = magnitude > largest[i] ? magnitude : largest[i];
+        }
+    for (double& scale : scales) {
+        if (scale == 0.0)
             return false;
-        scales.push_back(1.0 / largest);
+        scale = 1.0 / scale;
     }
     return true;
 }
 
-/// Takes the columns before j off column j: cell i loses a(i, k) a(k, j) for each k below i and j, in the order of k.
+/// Takes columns `first` to j - 1 off column j in rows `first` to `end` - 1: cell i loses a(i, k) a(k, j) for each k below
+/// i and j, in the order of k.
 template <class Cells>
-void reduceColumn(Cells a, int j, int n)
+void reduceColumn(Cells a, int first, int j, int end)
 {
-    if constexpr (requires { a.column(0); }) {
-        // The same terms in the same order for each cell, down the contiguous columns instead of along the rows.
-        double* const target = a.column(j);
-        for (int k = 0; k < j; ++k) {
-            const double* const source = a.column(k);
-            const double factor = target[k];
-            for (int i = k + 1; i < n; ++i)
-                target[i] -= source[i] * factor;
-        }
-    } else {
-        for (int i = 0; i < n; ++i) {
-            double reduced = a.get(i, j);
-            for (int k = 0; k < i && k < j; ++k)
-                reduced -= a.get(i, k) * a.get(k, j);
-            a.set(i, j, reduced);
-        }
+    for (int i = first; i < end; ++i) {
+        double reduced = a.get(i, j);
+        for (int k = first; k < i && k < j; ++k)
+            reduced -= a.get(i, k) * a.get(k, j);
+        a.set(i, j, reduced);
     }
 }
 
-/// Of equal candidates the last wins. `pivotRow` stays where no candidate compares.
+/// Of equal candidates the last wins. The row of the pivot stays where no candidate compares.
 template <class Cells>
-void searchPivot(Cells a, int j, int n, const std::vector<double>& scales, int& pivotRow)
+void searchPivot(Cells a, int j, int n, CroutState& state)
 {
+    const double* const scales = state.scales.data();
+    int row = state.pivotRow;
     double largest = 0.0;
     for (int i = j; i < n; ++i) {
-        const double candidate = scales[countOf(i)] * std::fabs(a.get(i, j));
+        const double candidate = scales[i] * std::fabs(a.get(i, j));
         if (candidate >= largest) {
             largest = candidate;
-            pivotRow = i;
+            row = i;
         }
     }
+    state.pivotRow = row;
 }
 
-/// Factors the block of order n in place.
-template <class Cells, class PivotRule>
-CroutOutcome factorCrout(Cells a, int n, PivotRule rule, RowExchanges& exchanges)
+/// Brings the row of the pivot to row j with `exchange` and divides what is below the pivot; false where the rule does
+/// not accept it.
+template <class Cells, class PivotRule, class Exchange>
+bool settlePivot(Cells a, int j, int n, PivotRule rule, CroutState& state, RowExchanges& exchanges, Exchange exchange)
 {
-    std::vector<double> scales;
-    if (!reciprocalRowScales(a, n, scales))
-        return CroutOutcome::zeroRow;
-    // Carried from column to column: a later column without a candidate that compares keeps the row of the one before.
-    int pivotRow = PivotRule::pivotRowBeforeAny;
+    if (state.pivotRow != j) {
+        exchange(j, state.pivotRow);
+        exchanges.parity = -exchanges.parity;
+        state.scales[countOf(state.pivotRow)] = state.scales[countOf(j)];
+    }
+    exchanges.partner.push_back(state.pivotRow);
+    if (!rule.accepts(a, j))
+        return false;
+    if (j != n - 1) {
+        const double reciprocal = 1.0 / a.get(j, j);
+        for (int i = j + 1; i < n; ++i)
+            a.set(i, j, a.get(i, j) * reciprocal);
+    }
+    return true;
+}
+
+template <class Cells, class PivotRule>
+CroutOutcome factorColumnByColumn(Cells a, int n, PivotRule rule, CroutState& state, RowExchanges& exchanges)
+{
     for (int j = 0; j < n; ++j) {
-        reduceColumn(a, j, n);
-        searchPivot(a, j, n, scales, pivotRow);
-        if (pivotRow == noRow)
+        reduceColumn(a, 0, j, n);
+        searchPivot(a, j, n, state);
+        if (state.pivotRow == noRow)
             return CroutOutcome::noPivot;
-        if (pivotRow != j) {
-            exchangeRows(a, j, pivotRow, n);
-            exchanges.parity = -exchanges.parity;
-            scales[countOf(pivotRow)] = scales[countOf(j)];
-        }
-        exchanges.partner.push_back(pivotRow);
-        if (!rule.accepts(a, j))
+        if (!settlePivot(a, j, n, rule, state, exchanges,
+                         [a, n](int row, int other) { exchangeRows(a, row, other, n); }))
             return CroutOutcome::smallPivot;
-        if (j != n - 1) {
-            const double reciprocal = 1.0 / a.get(j, j);
-            for (int i = j + 1; i < n; ++i)
-                a.set(i, j, a.get(i, j) * reciprocal);
-        }
     }
     return CroutOutcome::factored;
 }

@@ -1,9 +1,8 @@
 #include "determinants.h"
 
 #include "../frame/companions.h"
-#include "../frame/handles.h"
 #include "../frame/missing_value.h"
-#include "lu.h"
+#include "lu_factors.h"
 
 #include <cmath>
 #include <optional>
@@ -18,14 +17,15 @@ constexpr double largestLogarithm = 709.0;
 /// The factors of a private copy.
 struct Factored
 {
-    TableHandle factors;
-    double parity = 1.0;
-    short status = 0;
+    matrix factors;
+    double parity;
+    short status;
 
-    Factored(matrix* a, int n) : factors(new matrix(*a))
+    Factored(matrix* a, int n) : factors(*a)
     {
-        IntTableHandle index;
-        M_LUDecomp(factors.reference(), n, index.reference(), &parity, &status);
+        RowExchanges exchanges;
+        status = factorInPlace(&factors, n, exchanges);
+        parity = exchanges.parity;
     }
 };
 
@@ -65,11 +65,11 @@ double negatedIf(bool odd, double value)
 double M_Determinant(matrix* a, int n, short* status, short logOnOverflow)
 {
     try {
-        const Factored lu(a, n);
+        Factored lu(a, n);
         *status = lu.status;
         if (lu.status != 0)
             return 0.0;
-        const std::optional<DiagonalProduct> product = diagonalProduct(lu.factors, n);
+        const std::optional<DiagonalProduct> product = diagonalProduct(&lu.factors, n);
         if (!product || product->logarithm < smallestLogarithm)
             return 0.0;
         if (product->logarithm > largestLogarithm) {
@@ -87,11 +87,11 @@ double M_Determinant(matrix* a, int n, short* status, short logOnOverflow)
 
 double M_LogDeterminant(matrix* a, int n)
 {
-    const Factored lu(a, n);
+    Factored lu(a, n);
     // Without a pivot in the first column it goes on all the same, on the table as it is.
     if (lu.status == -1)
         return missingValue;
-    const std::optional<DiagonalProduct> product = diagonalProduct(lu.factors, n);
+    const std::optional<DiagonalProduct> product = diagonalProduct(&lu.factors, n);
     if (!product)
         return 0.0;
     if (!product->isOdd() && lu.parity > 0.0)

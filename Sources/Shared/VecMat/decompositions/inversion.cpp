@@ -1,10 +1,10 @@
 #include "inversion.h"
 
 #include "../frame/missing_value.h"
-#include "crout.h"
+#include "crout_panels.h"
+#include "unit_solutions.h"
 
 #include <cmath>
-#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -22,83 +22,6 @@ SmallPivotRefused ruleFor(double tol)
     return {tol <= 0.0 ? negligible : ordinaryThreshold};
 }
 
-/// A square table of doubles, row after row: both substitutions run along rows.
-class RowMajor
-{
-public:
-    explicit RowMajor(int n) : n_(countOf(n)), cells_(n_ * n_) {}
-
-    double* row(int i) { return cells_.data() + n_ * countOf(i); }
-    const double* row(int i) const { return cells_.data() + n_ * countOf(i); }
-
-private:
-    std::size_t n_;
-    std::vector<double> cells_;
-};
-
-template <class Cells>
-RowMajor rowMajor(Cells cells, int n)
-{
-    RowMajor rows(n);
-    for (int j = 0; j < n; ++j)
-        for (int i = 0; i < n; ++i)
-            rows.row(i)[j] = cells.get(i, j);
-    return rows;
-}
-
-/// Solves L y = P b in place of b, from the first element of P b that is not 0 on.
-void substituteForward(const RowMajor& factors, const std::vector<int>& partner, int n, double* b)
-{
-    int first = n;
-    for (int r = 0; r < n; ++r) {
-        const int other = partner[countOf(r)];
-        double reduced = b[other];
-        b[other] = b[r];
-        const double* const row = factors.row(r);
-        if (first == n && reduced != 0.0)
-            first = r;
-        for (int q = first; q < r; ++q)
-            reduced -= row[q] * b[q];
-        b[r] = reduced;
-    }
-}
-
-/// Solves U x = y for all right-hand sides, the columns of `solutions`, side by side.
-void substituteBack(const RowMajor& factors, int n, RowMajor& solutions)
-{
-    for (int r = n - 1; r >= 0; --r) {
-        const double* const row = factors.row(r);
-        double* const target = solutions.row(r);
-        for (int q = r + 1; q < n; ++q) {
-            const double* const known = solutions.row(q);
-            for (int c = 0; c < n; ++c)
-                target[c] -= row[q] * known[c];
-        }
-        for (int c = 0; c < n; ++c)
-            target[c] /= row[r];
-    }
-}
-
-/// The inverse from the factors that `workspace` holds.
-template <class Cells>
-void solveForUnitVectors(Cells workspace, const std::vector<int>& partner, int n, matrix* out)
-{
-    const RowMajor factors = rowMajor(workspace, n);
-    RowMajor solutions(n);
-    for (int c = 0; c < n; ++c) {
-        std::vector<double> unit(countOf(n), 0.0);
-        unit[countOf(c)] = 1.0;
-        substituteForward(factors, partner, n, unit.data());
-        for (int r = 0; r < n; ++r)
-            solutions.row(r)[c] = unit[countOf(r)];
-    }
-    substituteBack(factors, n, solutions);
-    const TableCells<matrix> result = cells(out);
-    for (int c = 0; c < n; ++c)
-        for (int r = 0; r < n; ++r)
-            result.set(r, c, solutions.row(r)[c]);
-}
-
 /// `workspace` holds a copy of the table.
 template <class Checked>
 int invert(Block<Checked> workspace, int n, matrix* out, double tol)
@@ -108,7 +31,8 @@ int invert(Block<Checked> workspace, int n, matrix* out, double tol)
         onBlocks([&](auto a) { return factorCrout(a, n, ruleFor(tol), exchanges); }, workspace);
     if (outcome != CroutOutcome::factored)
         return -1;
-    solveForUnitVectors(workspace.checked, exchanges.partner, n, out);
+    onBlocks([&](auto factors, auto inverse) { solveForUnitVectors(factors, exchanges.partner, n, inverse); },
+             workspace, block(cells(out), n, n));
     return 0;
 }
 

@@ -1,6 +1,7 @@
 #include "lu.h"
 
-#include "crout.h"
+#include "crout_panels.h"
+#include "lu_factors.h"
 
 #include <algorithm>
 
@@ -22,14 +23,19 @@ short statusOf(CroutOutcome outcome)
 
 } // namespace
 
+short vecmat::factorInPlace(matrix* a, int n, RowExchanges& exchanges)
+{
+    return statusOf(
+        onBlocks([&](auto x) { return factorCrout(x, n, ZeroPivotReplaced(), exchanges); }, squareBlock(a, n)));
+}
+
 void M_LUDecomp(matrix*& a, int n, matrixInt*& index, double* d, short* status)
 {
     matrixInt::matCheck(index, n, 1, 0.0);
     *status = 0;
     *d = 1.0;
     RowExchanges exchanges;
-    *status = statusOf(
-        onBlocks([&](auto x) { return factorCrout(x, n, ZeroPivotReplaced(), exchanges); }, squareBlock(a, n)));
+    *status = factorInPlace(a, n, exchanges);
     *d = exchanges.parity;
     std::transform(exchanges.partner.begin(), exchanges.partner.end(), index->X, [](int row) { return row + 1; });
 }

@@ -57,9 +57,41 @@ void accumulate(int inner, const double* left, const double* right, double* tile
             store(tile + j * rows + v * laneCount, sums[j][v]);
 }
 
+/// The numbers of the lanes.
+inline Lanes laneNumbers()
+{
+    Lanes numbers;
+    for (int lane = 0; lane < laneCount; ++lane)
+        numbers[lane] = lane;
+    return numbers;
+}
+
+/// Takes `factor` times a column off the rows of another that are behind row k.
+inline void takeOffBehind(int k, const double* column, double factor, double* from)
+{
+    int v = k / laneCount * laneCount;
+    const Lanes before = load(from + v);
+    const Lanes after = before - load(column + v) * inEachLane(factor);
+    store(from + v, laneNumbers() > inEachLane(k - v) ? after : before);
+    for (v += laneCount; v < rows; v += laneCount)
+        store(from + v, load(from + v) - load(column + v) * inEachLane(factor));
+}
+
+void substitute(int count, const double* left, double* right, double* tile)
+{
+    for (int k = 0; k < count; ++k) {
+        for (int j = 0; j < cols; ++j) {
+            right[j] = tile[j * rows + k];
+            takeOffBehind(k, left, right[j], tile + j * rows);
+        }
+        left += rows;
+        right += cols;
+    }
+}
+
 } // namespace
 
 extern const TileKernels tileKernels;
-const TileKernels tileKernels = {rows, cols, accumulate<Plus>, accumulate<Minus>};
+const TileKernels tileKernels = {rows, cols, accumulate<Plus>, accumulate<Minus>, substitute};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
