@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 #include <vector>
 
@@ -116,6 +117,33 @@ TEST(M_CholDecompPrinc, HasTheBitsOfTheStepsInTheirOrder)
         EXPECT_EQ(actual.perm, expected.perm);
     }
     EXPECT_GT(failures, 20);
+}
+
+TEST(M_CholDecompPrinc, HasThoseBitsWhereManyCellsAreWorkedOnSideBySide)
+{
+    RandomData data(796);
+    SCOPED_TRACE(data);
+    for (const int n : {15, 16, 17, 31, 32, 33, 47, 48, 63, 64, 65, 80})
+        for (int round = 0; round < 3; ++round) {
+            std::vector<double> cells = gramMatrix(randomMatrix(n, data), 0.5).cells;
+            if (round == 1)
+                cells = data.withSpecials(cells, 0.002);
+            // Little beside the diagonal, so that the estimates of the pivots hold to the end.
+            if (round == 2)
+                for (int j = 0; j < n; ++j)
+                    for (int i = 0; i < n; ++i)
+                        cells[static_cast<std::size_t>(i + n * j)] =
+                            i == j ? data.uniform(1.0, 2.0) : 0.01 / (1.0 + std::abs(i - j));
+            const Pivoted actual = pivoted(cells, n, -1);
+            const Pivoted expected = reference(cells, n, -1);
+            if (round == 2) {
+                EXPECT_EQ(expected.status, 0);
+            }
+            EXPECT_EQ(actual.status, expected.status);
+            EXPECT_THAT(actual.l, SameBits(expected.l)) << n;
+            EXPECT_THAT(actual.a, SameBits(expected.a)) << n;
+            EXPECT_EQ(actual.perm, expected.perm);
+        }
 }
 
 TEST(M_CholDecompPrinc, StartsWithTheLargestOfTheDiagonal)

@@ -91,6 +91,10 @@ TEST(M_Determinant, HasTheBitsOfTheStepsInTheirOrder)
         const Owned<matrix> a = table(rows, cols, data.normals(static_cast<std::size_t>(rows * cols)));
         expectResult(determinant(a, n), referenceDeterminant(a, n), 0);
     }
+    for (const int n : {31, 32, 40, 60}) {
+        const Owned<matrix> a = table(n, n, data.normals(static_cast<std::size_t>(n * n)));
+        expectResult(determinant(a, n), referenceDeterminant(a, n), 0);
+    }
 }
 
 TEST(M_Determinant, HasTheSignOfThePermutationAndOfThePivots)

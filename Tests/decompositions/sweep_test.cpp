@@ -86,6 +86,24 @@ TEST(M_Sweep, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
+TEST(M_Sweep, HasThoseBitsInLongRowsToo)
+{
+    RandomData data(726);
+    SCOPED_TRACE(data);
+    for (const int n : {7, 8, 9, 15, 16, 17, 25, 31, 32, 33, 34, 41, 64, 65})
+        for (const int k : {1, 2, n / 2, n - 1, n})
+            for (const double share : {0.0, 0.01}) {
+                // Small numbers, so that many results are cleared.
+                std::vector<double> cells = data.wholes(packedCells(n), -3, 3);
+                for (double& x : cells)
+                    x *= data.chance(0.5) ? 1e-12 : data.normal();
+                cells = data.withSpecials(cells, share);
+                const Owned<matrix> expected = column(cells);
+                reference(*expected, n, k);
+                EXPECT_THAT(swept(cells, n, k), SameBits(cellsOf(expected))) << n << " " << k;
+            }
+}
+
 TEST(M_Sweep, TurnsAPositivePivotNegativeAndScalesItsRow)
 {
     // (4, 2; 2, 6): the Schur complement 6 - 2*2/4 stands at (2, 2).

@@ -3,10 +3,11 @@
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 #include "../frame/handles.h"
-#include "../frame/missing_value.h"
+#include "cholesky_strips.h"
 #include "line_exchanges.h"
 #include "retained_block.h"
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -14,55 +15,49 @@ using namespace vecmat;
 
 namespace {
 
-/// When a pivot fails.
-enum class PivotTest { belowTolerance, belowZero };
-
-template <PivotTest test>
-bool failsAsPivot(double x)
+/// Column i of L; false where it cannot be had. Its first `terms` columns are still to be taken off row i of `a`: for
+/// each cell by itself, from the last one back to the first.
+template <PivotTest test, class Cells, class Factor>
+bool factorColumn(Cells a, Factor l, int i, int terms, int n)
 {
-    if constexpr (test == PivotTest::belowTolerance)
-        return x < zeroTolerance;
-    else
-        return x < 0.0;
+    double pivot = 0.0;
+    for (int j = i; j < n; ++j) {
+        double reduced = a.get(i, j);
+        for (int k = terms - 1; k >= 0; --k)
+            reduced -= l.get(i, k) * l.get(j, k);
+        if (j == i) {
+            if (failsAsPivot<test>(reduced))
+                return false;
+            pivot = sqr(reduced);
+            l.set(i, i, pivot);
+        } else {
+            if (pivot == 0.0)
+                return false;
+            l.set(j, i, reduced / pivot);
+        }
+    }
+    return true;
 }
 
-/// Column i of L; false where it cannot be had. `reduced` is scratch.
 template <PivotTest test, class Cells, class Factor>
-bool factorColumn(Cells a, Factor l, int i, int n, std::vector<double>& reduced)
+int factorCellByCell(Cells a, Factor l, int n)
 {
-    const auto cell = [&reduced](int j) -> double& { return reduced[countOf(j)]; };
-    for (int j = i; j < n; ++j)
-        cell(j) = a.get(i, j);
-    // From the last column done back to the first, for each cell on its own.
-    for (int k = i - 1; k >= 0; --k) {
-        const double factor = l.get(i, k);
-        for (int j = i; j < n; ++j)
-            cell(j) -= factor * l.get(j, k);
-    }
-    if (failsAsPivot<test>(cell(i)))
-        return false;
-    const double pivot = sqr(cell(i));
-    l.set(i, i, pivot);
-    if (i + 1 < n && pivot == 0.0)
-        return false;
-    for (int j = i + 1; j < n; ++j)
-        l.set(j, i, cell(j) / pivot);
-    return true;
+    for (int i = 0; i < n; ++i)
+        if (!factorColumn<test>(a, l, i, i, n))
+            return -1;
+    return 0;
 }
 
 /// `l` holds the block.
 template <PivotTest test>
 int factorInOrder(matrix* a, int n, matrix* l)
 {
-    return onBlocks(
+    return onBlocksOrElse(
         [n](auto x, auto y) {
-            std::vector<double> reduced(countOf(n));
-            for (int i = 0; i < n; ++i)
-                if (!factorColumn<test>(x, y, i, n, reduced))
-                    return -1;
-            return 0;
+            const std::optional<int> byStrips = factorByStrips<test>(x, y, n);
+            return byStrips ? *byStrips : factorCellByCell<test>(x, y, n);
         },
-        block(cells(a), n, n), block(cells(l), n, n));
+        [n](auto x, auto y) { return factorCellByCell<test>(x, y, n); }, block(cells(a), n, n), block(cells(l), n, n));
 }
 
 // ---- with a search for the pivot ------------------------------------------------------------------------------------
@@ -93,10 +88,47 @@ int choosePivot(Cells w, Factor l, int i, int n)
     });
 }
 
+/// A row of the table from which all terms have been taken off.
+struct ReducedRow
+{
+    const double* cells;
+    double get(int /*i*/, int j) const { return cells[j]; }
+};
+
+/// Columns of L for tables that lie apart, many cells side by side where there is memory for a row of them.
+class ColumnFactor
+{
+public:
+    /// The last cells of a row may run over, in L into the next column: there is one as long as a kernel has not more
+    /// results than a column cells.
+    explicit ColumnFactor(int n) : n_(n), reduced_(n < kernels_.width ? 0 : countOf(n) + countOf(kernels_.width)) {}
+
+    template <class Cells, class Factor>
+    bool operator()(Cells a, Factor l, int i) const
+    {
+        if constexpr (requires { l.column(0); })
+            if (i > 0 && n_ >= kernels_.width && reduced_) {
+                const double* const last = l.column(i - 1);
+                const std::ptrdiff_t back = l.column(0) - l.column(1);
+                for (int j = i; j < n_; ++j)
+                    reduced_.data()[j] = a.get(i, j);
+                for (int j = i; j < n_; j += kernels_.width)
+                    kernels_.subtract(i, {last + i, back}, {last + j, back}, reduced_.data() + j);
+                return factorColumn<PivotTest::belowTolerance>(ReducedRow{reduced_.data()}, l, i, 0, n_);
+            }
+        return factorColumn<PivotTest::belowTolerance>(a, l, i, i, n_);
+    }
+
+private:
+    const SubstitutionKernels& kernels_ = substitutionKernels();
+    int n_;
+    Scratch reduced_;
+};
+
 template <class Cells, class Factor, class Permutation>
 int factorWithSearch(Cells w, Factor l, Permutation perm, int n)
 {
-    std::vector<double> reduced(countOf(n));
+    const ColumnFactor factorNext(n);
     for (int i = 0; i < n; ++i) {
         const int pivot = i < n - 1 ? choosePivot(w, l, i, n) : i;
         if (pivot != i) {
@@ -108,7 +140,7 @@ int factorWithSearch(Cells w, Factor l, Permutation perm, int n)
             perm.set(i, perm.get(pivot));
             perm.set(pivot, kept);
         }
-        if (!factorColumn<PivotTest::belowTolerance>(w, l, i, n, reduced))
+        if (!factorNext(w, l, i))
             return -1;
     }
     return 0;

@@ -14,7 +14,7 @@ extern "C" {
 
 /// L of order `n` into `l`, which goes through `matCheck` with 0.0. Returns 0, or -1 at the first pivot below 1e-12, in
 /// absolute terms; the columns before it are done, the rest is 0.0. The terms of a cell are taken off from the last
-/// column done back to the first. Scratch: n doubles.
+/// column done back to the first. Scratch: a table of the order and up to 32 columns, for large tables.
 VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 
 } // extern "C"
@@ -29,7 +29,7 @@ VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 /// Algorithms), and a table that it would factor may end in -1 here. Of equal candidates the first wins.
 ///
 /// Returns 0, or -1 at a pivot below 1e-12 with the columns before it done. On both, a `keep` of exactly -1 replaces `a`
-/// by the permuted table, as far as the permutation has gone; any other leaves it. Scratch: a copy of `a`, 2 n doubles.
+/// by the permuted table, as far as the permutation has gone; any other leaves it. Scratch: a copy of `a`, a column.
 VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrix* perm, short keep);
 VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrixInt* perm, short keep);
 
@@ -38,7 +38,8 @@ VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrixInt* perm, s
 /// columns that were dropped become 0.0.
 ///
 /// Here a pivot fails only below 0. One of exactly 0 is accepted: it fails as the divisor of the next row, and passes at
-/// the last one. Returns 0, or -1 with `l` untouched. Scratch: two tables of the order of the block.
+/// the last one. Returns 0, or -1 with `l` untouched. Scratch: three tables of the order of the block
+/// and up to 32 columns.
 VECMAT_API int M_CholDecompCleaned(matrix* a, int n, matrix* mask, matrix* l);
 VECMAT_API int M_CholDecompCleaned(matrix* a, int n, matrixInt* mask, matrix* l);
 

@@ -2,6 +2,7 @@
 
 #include "../frame/missing_value.h"
 #include "crout_panels.h"
+#include "triangular_inverse.h"
 #include "unit_solutions.h"
 
 #include <cmath>
@@ -59,38 +60,16 @@ private:
 
 // ---- the triangular table -------------------------------------------------------------------------------------------
 
-enum class Triangle { lower, upper };
-
+/// The diagonal of the inverse; false at the first cell that is too small.
 template <class Cells, class Out>
-double sumOfProducts(Cells a, int i, Out out, int j, int first, int last)
-{
-    double sum = 0.0;
-    for (int k = first; k <= last; ++k)
-        sum += a.get(i, k) * out.get(k, j);
-    return sum;
-}
-
-template <class Cells, class Out>
-int invertTriangle(Cells a, Out out, int n, Triangle triangle, double tol)
+bool invertDiagonal(Cells a, Out out, int n, double tol)
 {
     for (int i = 0; i < n; ++i) {
         if (std::fabs(a.get(i, i)) < tol)
-            return -1;
+            return false;
         out.set(i, i, 1.0 / a.get(i, i));
     }
-    const auto solve = [&](int i, int j, int first, int last) {
-        out.set(i, j, -sumOfProducts(a, i, out, j, first, last) * out.get(i, i));
-    };
-    if (triangle == Triangle::lower) {
-        for (int i = 1; i < n; ++i)
-            for (int j = 0; j < i; ++j)
-                solve(i, j, j, i - 1);
-    } else {
-        for (int i = n - 2; i >= 0; --i)
-            for (int j = i + 1; j < n; ++j)
-                solve(i, j, i + 1, j);
-    }
-    return 0;
+    return true;
 }
 
 } // namespace
@@ -113,6 +92,13 @@ int Inverse1SPV(matrix** a, matrix* out, int n, int count, int /*ignored*/, doub
 int M_InverseTriang(matrix* a, int n, short lower, matrix*& out, double tol)
 {
     const Triangle triangle = lower != 0 ? Triangle::lower : Triangle::upper;
-    return onBlocks([=](auto x, auto y) { return invertTriangle(x, y, n, triangle, tol); }, block(cells(a), n, n),
-                    block(cells(out), n, n));
+    return onBlocks(
+        [=](auto x, auto y) {
+            if (!invertDiagonal(x, y, n, tol))
+                return -1;
+            if (!invertSideBySide(x, y, n, triangle))
+                invertCellByCell(x, y, n, triangle);
+            return 0;
+        },
+        block(cells(a), n, n), block(cells(out), n, n));
 }

@@ -17,7 +17,8 @@ extern "C" {
 ///
 /// `*status`: 0; -1 where a row is all zeros (NaN counts as nothing), with `a` untouched, `index` 0 and `*d` 1.0; 1 where
 /// no candidate of the first column compares, all being NaN, with the same. All access is checked: outside the table a
-/// read gives -1.0, which takes part, and a write is dropped. No test for the missing value. Scratch: n doubles.
+/// read gives -1.0, which takes part, and a write is dropped. No test for the missing value. Scratch: a
+/// table of the order and up to 16 columns, for large tables.
 VECMAT_API void M_LUDecomp(matrix*& a, int n, matrixInt*& index, double* d, short* status);
 
 /// Flat form: `a` n by n and `index` n, both in place. Returns 0.

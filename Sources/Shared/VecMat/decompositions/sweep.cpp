@@ -1,10 +1,12 @@
 #include "sweep.h"
 
 #include "../elementary/kernels/operands.h"
+#include "../elementary/kernels/sweep_kernels.h"
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -14,6 +16,9 @@ namespace {
 
 /// Up to this order all positions are ints.
 constexpr int largestPlainOrder = 65535;
+
+/// Shorter stretches cost less than the call of a kernel.
+constexpr int leastForKernel = 8;
 
 /// Position of cell (i, j), all from 0, for an accessor in linear order. A number out of range wraps.
 int at(int i, int j)
@@ -26,6 +31,12 @@ template <class Cells>
 void addToRow(Cells a, int i, int first, int end, const double* pivotColumn, double c)
 {
     const auto start = static_cast<unsigned>(at(i, 0));
+    if constexpr (requires { a.data(); })
+        if (end - first >= leastForKernel) {
+            double* const row = a.data() + start;
+            sweepKernels().addAndClear(end - first, pivotColumn + first, c, zeroTolerance, row + first);
+            return;
+        }
     for (int j = first; j < end; ++j) {
         const int cell = static_cast<int>(start + static_cast<unsigned>(j));
         const double swept = a.get(cell) + pivotColumn[j] * c;
@@ -40,20 +51,22 @@ void sweep(Cells a, int n, int k)
     // Read back: a pivot outside the table is -1.0 here and so counts as one that was positive.
     const double d = a.get(at(k, k));
     const double scale = std::fabs(d);
-    // The pivot's column as scaled in this sweep, which no later step changes.
-    std::vector<double> pivotColumn(countOf(n));
+    // The pivot's column as scaled in this sweep, which no later step changes. Small tables need no memory for it.
+    std::array<double, 32> few;
+    std::vector<double> many(countOf(n) > few.size() ? countOf(n) : 0);
+    double* const pivotColumn = many.empty() ? few.data() : many.data();
     for (int i = 0; i < n; ++i) {
         if (i == k)
             continue;
         const int cell = at(i, k);
         const double c = d < 0.0 ? -a.get(cell) : a.get(cell);
         a.set(cell, a.get(cell) * scale);
-        pivotColumn[countOf(i)] = a.get(cell);
+        pivotColumn[i] = a.get(cell);
         if (i < k) {
-            addToRow(a, i, 0, i + 1, pivotColumn.data(), c);
+            addToRow(a, i, 0, i + 1, pivotColumn, c);
         } else {
-            addToRow(a, i, 0, std::max(k, 0), pivotColumn.data(), c);
-            addToRow(a, i, std::max(k + 1, 0), i + 1, pivotColumn.data(), c);
+            addToRow(a, i, 0, std::max(k, 0), pivotColumn, c);
+            addToRow(a, i, std::max(k + 1, 0), i + 1, pivotColumn, c);
         }
     }
 }

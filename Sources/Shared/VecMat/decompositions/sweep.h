@@ -17,7 +17,7 @@ extern "C" {
 ///
 /// There is no test of the pivot: 0 gives infinities. All access is checked: outside the table a read gives -1.0, which
 /// takes part, and a write is dropped; a pivot outside counts as not yet swept. No test for the missing value. Scratch:
-/// n doubles.
+/// n doubles from an order of 33 on.
 VECMAT_API int M_Sweep(matrix* a, int n, int k);
 
 /// Flat form: `a` has n(n+1)/2 cells.
