@@ -43,7 +43,7 @@ TEST(M_Determinant, EndsAnExceptionWithTheTwinAndAStatus)
             }
         },
         Failure::mayBeCaught);
-    EXPECT_GT(tried, 3);
+    EXPECT_EQ(tried, 3) << "the copy, the scales of its rows and its exchanges";
     EXPECT_EQ(failures, tried);
     EXPECT_TRUE(alike);
     EXPECT_NEAR(value, -4.0, 1e-14);
@@ -53,7 +53,7 @@ TEST(M_Determinant, EndsAnExceptionWithTheTwinAndAStatus)
 TEST(M_LogDeterminant, LetsAnExceptionPass)
 {
     const Owned<matrix> a = byRows({{2, 0}, {0, 4}});
-    EXPECT_GT(forEachFailingAllocation([&] { M_LogDeterminant(a, 2); }), 3);
+    EXPECT_EQ(forEachFailingAllocation([&] { M_LogDeterminant(a, 2); }), 3);
 }
 
 TEST(M_DeterminantTriang, ReportsWhereTheParityCannotBeFound)
