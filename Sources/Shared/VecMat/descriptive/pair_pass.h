@@ -141,8 +141,6 @@ public:
             inStrips_.emplace(options.n, q, Mask(options.mask));
             if (inStrips_->hasMemory())
                 packStrips(q);
-            else
-                inStrips_.reset();
         }
     }
 
@@ -150,7 +148,7 @@ public:
     template <class Store>
     void run(int j, int first, int last, Store store) const
     {
-        if (inStrips_)
+        if (inStrips_ && inStrips_->hasMemory())
             runInStrips(j, first, last, store);
         else
             runPairByPair(j, first, last, store);
@@ -179,21 +177,23 @@ private:
 
     void packStrips(int q) const
     {
-        const auto& [rows, y, x, weights] = *inStrips_;
-        for (int k = 0; k < rows.count(); ++k)
-            weights.data()[k] = weight_.get(rows[k]);
-        y.fill(rows.count(), 0, q, [&](int k, int j) { return y_.get(rows[k], j); });
+        const Strips& strips = *inStrips_;
+        const int count = strips.rows.count();
+        for (int k = 0; k < count; ++k)
+            strips.weights.data()[k] = weight_.get(strips.rows[k]);
+        strips.y.fill(count, 0, q, [&](int k, int j) { return y_.get(strips.rows[k], j); });
     }
 
     template <class Store>
     void runInStrips(int j, int first, int last, Store store) const
     {
-        const auto& [rows, y, x, weights] = *inStrips_;
-        for (int k = 0; k < rows.count(); ++k)
-            x.data()[k] = x_.get(rows[k], j);
+        const Strips& strips = *inStrips_;
+        const int count = strips.rows.count();
+        for (int k = 0; k < count; ++k)
+            strips.x.data()[k] = x_.get(strips.rows[k], j);
         for (int s = first / lanes; s * lanes < last; ++s) {
             MomentKernels::Pairs pairs = {};
-            Sums::kernel()(rows.count(), x.data(), y.strip(s), weights.data(), &pairs);
+            Sums::kernel()(count, strips.x.data(), strips.y.strip(s), strips.weights.data(), &pairs);
             for (int k = std::max(first, s * lanes); k < std::min(last, (s + 1) * lanes); ++k)
                 store(k, Sums::ofLane(pairs, k % lanes));
         }

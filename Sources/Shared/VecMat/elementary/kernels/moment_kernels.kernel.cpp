@@ -186,7 +186,6 @@ void addPairs(int count, const double* x, const double* y, const double* w, Mome
 
 } // namespace
 
-extern const MomentKernels momentKernels;
 const MomentKernels momentKernels = {addMoments, deviations, addPairs<Covariance>, addPairs<CovarianceOfMagnitude>,
                                      addPairs<Correlation>};
 

@@ -70,7 +70,6 @@ void cubesAndFourths(int count, const double* __restrict x, double* __restrict c
 
 } // namespace
 
-extern const PowerKernels powerKernels;
 const PowerKernels powerKernels = {cubesAndFourths};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

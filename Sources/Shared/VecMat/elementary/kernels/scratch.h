@@ -18,7 +18,11 @@ public:
         if (count <= std::numeric_limits<std::size_t>::max() / (2 * sizeof(double)))
             first_ = static_cast<double*>(::operator new(count * sizeof(double), alignment, std::nothrow));
     }
-    ~Scratch() { ::operator delete(first_, alignment); }
+    ~Scratch()
+    {
+        // The analyzer destroys what an optional held a second time, with the optional's storage.
+        ::operator delete(first_, alignment); // NOLINT(clang-analyzer-cplusplus.NewDelete)
+    }
     Scratch(Scratch&& other) noexcept : first_(std::exchange(other.first_, nullptr)) {}
     Scratch& operator=(Scratch&&) = delete;
     Scratch(const Scratch&) = delete;

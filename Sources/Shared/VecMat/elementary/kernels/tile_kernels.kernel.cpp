@@ -91,7 +91,6 @@ void substitute(int count, const double* left, double* right, double* tile)
 
 } // namespace
 
-extern const TileKernels tileKernels;
 const TileKernels tileKernels = {rows, cols, accumulate<Plus>, accumulate<Minus>, substitute};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -84,7 +84,12 @@ private:
     /// Panels of the left operand that are used for one panel of the right one while they are in the cache.
     static constexpr std::size_t panelsInCache = 12;
 
-    static std::size_t panels(int count, int width) { return (countOf(count) + countOf(width) - 1) / countOf(width); }
+    /// Panels of the width of a tile, which is above 0.
+    static std::size_t panels(int count, int width)
+    {
+        // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
+        return (countOf(count) + countOf(width) - 1) / countOf(width);
+    }
 
     std::size_t leftPanelSize() const { return countOf(kernels_.rows) * std::size_t{countOf(stretch_)}; }
     std::size_t rightPanelSize() const { return countOf(kernels_.cols) * std::size_t{countOf(stretch_)}; }
@@ -123,6 +128,7 @@ private:
                 for (int r = 0; r < inside; ++r) {
                     to[r] = read(first + r, k);
                     if constexpr (missing == MissingFactor::makesResultMissing)
+                        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): there is a flag for each line
                         isMissingLine[first + r] |= isMissing(to[r]);
                 }
                 std::fill(to + inside, to + width, 0.0);
