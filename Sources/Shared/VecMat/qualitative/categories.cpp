@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
 using namespace vecmat;
 
@@ -58,9 +57,11 @@ void collect(Smatrix* table, int nRows, int variable, matrix* weights, WeightedC
         list.add(text.get(i, variable), weight.get(i));
         return;
     }
-    for (; i < nRows; ++i)
-        if (!text.get(i, variable).empty())
-            list.add(text.get(i, variable), weight.get(i));
+    const auto textAt = [=](int row) -> std::wstring_view { return text.get(row, variable); };
+    forEachText(i, nRows, list.table(), textAt, [&](int row, const HashedText& category) {
+        if (!category.text().empty())
+            list.add(category, weight.get(row));
+    });
 }
 
 /// Lists at most `places` categories of each variable. `countOf(variable, found)` gives the count by which the mode and
@@ -140,12 +141,8 @@ void M_InfoQualiValid(Smatrix* table, int nRows, int nCols, int maxCats, matrixI
 int GetMaxCat(Smatrix* table, int nRows, int nCols, matrixInt* counts)
 {
     int largest = 0;
-    std::unordered_set<std::wstring_view> texts;
     for (int j = 0; j < nCols; ++j) {
-        texts.clear();
-        for (int i = 0; i < nRows; ++i)
-            texts.insert(cells(table).get(i, j));
-        const int count = static_cast<int>(texts.size());
+        const int count = countDistinct(nRows, [=](int i) -> std::wstring_view { return cells(table).get(i, j); });
         linear(counts).set(j, count);
         largest = std::max(largest, count);
     }

@@ -3,12 +3,12 @@
 // In a table of categories row j is the list of variable j, its places being the columns. Places are 0-based here.
 #pragma once
 
+#include "../elementary/text_table.h"
 #include "../frame/cells.h"
 
 #include <algorithm>
 #include <limits>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace vecmat {
@@ -22,21 +22,24 @@ class TextPlaces
 public:
     static constexpr int none = -1;
 
-    int find(std::wstring_view text) const
+    int find(const HashedText& text) const
     {
-        const auto entry = places_.find(text);
-        return entry == places_.end() ? none : entry->second;
+        const int number = places_.find(text);
+        return number == Places::none ? none : places_.value(number);
     }
     void add(std::wstring_view text, int place, Repeated repeated)
     {
-        const auto [entry, isNew] = places_.try_emplace(text, place);
+        const auto [number, isNew] = places_.add(text, place);
         if (!isNew && repeated == Repeated::lastCounts)
-            entry->second = place;
+            places_.value(number) = place;
     }
-    void clear() { places_.clear(); }
+
+    const TextTable<int>& table() const { return places_; }
 
 private:
-    std::unordered_map<std::wstring_view, int> places_;
+    using Places = TextTable<int>;
+
+    Places places_;
 };
 
 /// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so that the first
@@ -66,37 +69,45 @@ public:
     /// A text met when the list has reached its capacity is appended each time anew, since nobody finds it there again.
     explicit WeightedCategories(int capacity) : capacity_(capacity) {}
 
-    void add(std::wstring_view text, double weight)
+    void add(const HashedText& text, double weight)
     {
-        const int known = places_.find(text);
-        if (known != TextPlaces::none) {
-            entries_[static_cast<std::size_t>(known)].weight += weight;
-            return;
+        if (known_.size() < capacity_) {
+            const auto [place, isNew] = known_.add(text, weight);
+            if (!isNew)
+                known_.value(place) += weight;
+        } else if (const int place = known_.find(text); place != Known::none) {
+            known_.value(place) += weight;
+        } else {
+            beyond_.push_back({text.text(), weight});
         }
-        if (size() < capacity_)
-            places_.add(text, size(), Repeated::firstCounts);
-        entries_.push_back({text, weight});
     }
     void clear()
     {
-        entries_.clear();
-        places_.clear();
+        known_.clear();
+        beyond_.clear();
     }
 
-    int size() const { return static_cast<int>(entries_.size()); }
-    std::wstring_view text(int place) const { return entries_[static_cast<std::size_t>(place)].text; }
-    double weight(int place) const { return entries_[static_cast<std::size_t>(place)].weight; }
+    int size() const { return known_.size() + static_cast<int>(beyond_.size()); }
+    std::wstring_view text(int place) const
+    {
+        return place < known_.size() ? known_.text(place) : beyondAt(place).text;
+    }
+    const TextTable<double>& table() const { return known_; }
+    double weight(int place) const { return place < known_.size() ? known_.value(place) : beyondAt(place).weight; }
 
 private:
+    using Known = TextTable<double>;
     struct Entry
     {
         std::wstring_view text;
         double weight;
     };
 
+    const Entry& beyondAt(int place) const { return beyond_[static_cast<std::size_t>(place - known_.size())]; }
+
     int capacity_;
-    std::vector<Entry> entries_;
-    TextPlaces places_;
+    Known known_;
+    std::vector<Entry> beyond_; // the capacity
 };
 
 /// The place of the largest weight. A later one must exceed it, so that the first of equals stays, and so does a NaN

@@ -1,5 +1,6 @@
 #include "disjunctive_tables.h"
 
+#include "../elementary/text_table.h"
 #include "../frame/cells.h"
 #include "../frame/masks.h"
 #include "category_lists.h"
@@ -7,7 +8,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,21 +24,22 @@ public:
     PlaceChains(Smatrix* categories, int variable, int count) : next_(static_cast<std::size_t>(count), none)
     {
         for (int place = count - 1; place >= 0; --place) {
-            const auto [entry, isNew] = first_.try_emplace(cells(categories).get(variable, place), place);
+            const auto [number, isNew] = first_.add(cells(categories).get(variable, place), place);
             if (!isNew)
-                next_[static_cast<std::size_t>(place)] = std::exchange(entry->second, place);
+                next_[static_cast<std::size_t>(place)] = std::exchange(first_.value(number), place);
         }
     }
 
-    int first(std::wstring_view text) const
+    int first(const HashedText& text) const
     {
-        const auto entry = first_.find(text);
-        return entry == first_.end() ? none : entry->second;
+        const int number = first_.find(text);
+        return number == TextTable<int>::none ? none : first_.value(number);
     }
     int after(int place) const { return next_[static_cast<std::size_t>(place)]; }
+    const TextTable<int>& table() const { return first_; }
 
 private:
-    std::unordered_map<std::wstring_view, int> first_;
+    TextTable<int> first_;
     std::vector<int> next_;
 };
 
@@ -97,12 +98,11 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
         const std::vector<double> contrasts = baselineRow(freq, j, places, coding);
         const bool baselineShown = showsBaseline(j, coding, keepBaseline);
 
-        for (int i = 0; i < nRows; ++i) {
-            const std::wstring& text = cells(table).get(i, j);
-            if (text.empty()) {
+        const auto code = [&](int i, const HashedText& text) {
+            if (text.text().empty()) {
                 for (int place = 0; place < places; ++place)
                     target.set(i, offset + place, missingValue);
-                continue;
+                return;
             }
             const int first = chains.first(text);
             if (first == 0)
@@ -112,7 +112,9 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
             for (int place = first; place != PlaceChains::none; place = chains.after(place))
                 if (place > 0 || baselineShown)
                     target.set(i, offset + place, 1.0);
-        }
+        };
+        forEachText(
+            0, nRows, chains.table(), [=](int i) -> std::wstring_view { return cells(table).get(i, j); }, code);
         offset = static_cast<int>(static_cast<unsigned>(offset) + static_cast<unsigned>(count));
     }
 }

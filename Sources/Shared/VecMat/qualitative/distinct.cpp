@@ -1,11 +1,13 @@
 #include "distinct.h"
 
+#include "../elementary/text_table.h"
 #include "../frame/cells.h"
 #include "../frame/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 using namespace vecmat;
@@ -96,10 +98,6 @@ void sortVector(matrixInt* x, int n)
 {
     SortQVector(x, n, 1, n, 0);
 }
-void sortVector(Smatrix* x, int n)
-{
-    SortQVector(x, 1, n, 0);
-}
 
 template <class Table>
 Handle<Table> sortedCopy(Table* x, int n, Handle<Table> copy)
@@ -112,7 +110,7 @@ Handle<Table> sortedCopy(Table* x, int n, Handle<Table> copy)
 
 /// Behind a sort, what differs from the one before is greater; a NaN is greater than nothing and adds nothing.
 template <class Table>
-int countDistinct(Table* x, int n, Handle<Table> empty)
+int countAscents(Table* x, int n, Handle<Table> empty)
 {
     if (n < 2)
         return 1;
@@ -155,15 +153,15 @@ void V_ExtractDistinct(matrix* x, int n, matrix* distinct, int* count)
 
 int V_NbDistinct(matrix* x, int n)
 {
-    return countDistinct(x, n, fresh(n, 1));
+    return countAscents(x, n, fresh(n, 1));
 }
 
 int V_NbDistinct(matrixInt* x, int n)
 {
-    return countDistinct(x, n, freshInt(n, 1));
+    return countAscents(x, n, freshInt(n, 1));
 }
 
 int V_NbDistinct(Smatrix* x, int n)
 {
-    return countDistinct(x, n, freshStrings(n, 1));
+    return n < 2 ? 1 : countDistinct(n, [x](int i) -> std::wstring_view { return linear(x).get(i); });
 }

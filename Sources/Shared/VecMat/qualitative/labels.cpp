@@ -1,39 +1,90 @@
 #include "labels.h"
 
+#include "../elementary/text_table.h"
 #include "../frame/cells.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 using namespace vecmat;
 
 namespace {
 
-using Labels = VectorCells<Smatrix>;
-
-bool standsBetween(const std::wstring& text, Labels labels, int first, int end)
+/// The places, ascending, of each label that is still to come, as the labels change.
+class LabelPlaces
 {
-    for (int i = first; i < end; ++i)
-        if (labels.get(i) == text)
-            return true;
-    return false;
-}
+public:
+    static constexpr int none = -1;
+
+    /// Only labels inside the table: those beyond are all empty and are not written.
+    LabelPlaces(const std::wstring* labels, int n) : labels_(labels), next_(static_cast<std::size_t>(n), none)
+    {
+        for (int place = 0; place < n; ++place)
+            append(place);
+    }
+
+    /// Takes the repeats of the label at `place` out of the list, and gives the first of them. They are no longer found.
+    int takeRepeatsOf(int place)
+    {
+        Chain& chain = chains_.value(chains_.find(labels_[place]));
+        int first = chain.first;
+        while (first != none && first <= place)
+            first = after(first);
+        chain = {};
+        return first;
+    }
+    int after(int place) const { return next_[static_cast<std::size_t>(place)]; }
+
+    bool standsBehind(int place, const std::wstring& label) const
+    {
+        const int number = chains_.find(label);
+        return number != Chains::none && chains_.value(number).last > place;
+    }
+
+    /// Notes the label that now stands at `place`. It stands nowhere behind.
+    void append(int place)
+    {
+        next_[static_cast<std::size_t>(place)] = none;
+        // The label that opens a chain is never rewritten, so that the view of it holds.
+        Chain& chain = chains_.value(chains_.add(labels_[place], {}).first);
+        (chain.first == none ? chain.first : next_[static_cast<std::size_t>(chain.last)]) = place;
+        chain.last = place;
+    }
+
+private:
+    struct Chain
+    {
+        int first = none;
+        int last = none;
+    };
+    using Chains = TextTable<Chain>;
+
+    const std::wstring* labels_;
+    std::vector<int> next_;
+    Chains chains_;
+};
 
 } // namespace
 
 void V_ReplaceDoubles(Smatrix* x, int n)
 {
-    const Labels labels = linear(x);
-    for (int i = 0; i < n - 1; ++i) {
-        const std::wstring& label = labels.get(i);
+    if (n < 2)
+        return;
+    const int inside = static_cast<int>(std::min(static_cast<unsigned>(n), x->nElems));
+    LabelPlaces places(x->X, inside);
+    for (int i = 0; i < inside; ++i) {
         int counter = 1;
-        for (int j = i + 1; j < n; ++j) {
-            if (labels.get(j) != label)
-                continue;
+        for (int repeat = places.takeRepeatsOf(i); repeat != LabelPlaces::none;) {
             std::wstring numbered;
             do
-                numbered = label + std::to_wstring(++counter);
-            while (standsBetween(numbered, labels, j + 1, n));
-            labels.set(j, numbered);
+                numbered = x->X[i] + std::to_wstring(++counter);
+            while (places.standsBehind(repeat, numbered));
+            x->X[repeat] = std::move(numbered);
+            const int next = places.after(repeat);
+            places.append(repeat);
+            repeat = next;
         }
     }
 }

@@ -11,9 +11,11 @@ using namespace vecmat;
 std::wstring V_Mode(Smatrix* x, int n, matrix* weights)
 {
     WeightedCategories list(WeightedCategories::unlimited);
-    for (int i = 0; i < n; ++i)
-        if (const std::wstring& text = linear(x).get(i); !text.empty())
+    const auto textAt = [x](int i) -> std::wstring_view { return linear(x).get(i); };
+    forEachText(0, n, list.table(), textAt, [&](int i, const HashedText& text) {
+        if (!text.text().empty())
             list.add(text, linear(weights).get(i));
+    });
     if (list.size() == 0)
         return {};
     return std::wstring(list.text(heaviest(list.size(), [&list](int place) { return list.weight(place); })));

@@ -17,8 +17,9 @@ void forEachPlace(Smatrix* table, int nRows, int nCols, const int* nCats, Smatri
 {
     for (int j = 0; j < nCols; ++j) {
         const TextPlaces places = placesOf(categories, j, nCats[j], Repeated::firstCounts);
-        for (int i = 0; i < nRows; ++i)
-            visit(i, j, places.find(cells(table).get(i, j)));
+        forEachText(
+            0, nRows, places.table(), [=](int i) -> std::wstring_view { return cells(table).get(i, j); },
+            [&](int i, const HashedText& text) { visit(i, j, places.find(text)); });
     }
 }
 

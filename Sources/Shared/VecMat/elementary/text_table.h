@@ -1,0 +1,185 @@
+// Texts with a value beside each, found by the text in one look however many there are. Internal to the library.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace vecmat {
+
+/// A text with its hash.
+class HashedText
+{
+public:
+    HashedText() = default;
+    HashedText(std::wstring_view text) : text_(text), hash_(hashOf(text)) {}
+    HashedText(const std::wstring& text) : HashedText(std::wstring_view(text)) {}
+
+    std::wstring_view text() const { return text_; }
+    std::uint32_t hash() const { return hash_; }
+
+private:
+    /// Takes the characters in pairs, each pair by a product that carries it to the upper bits and a shift that brings
+    /// these down again.
+    static std::uint32_t hashOf(std::wstring_view text)
+    {
+        constexpr std::uint64_t factor = 0x9E3779B97F4A7C15; // 2^64 divided by the golden ratio
+        std::uint64_t hash = text.size();
+        const auto take = [&hash](std::uint64_t characters) {
+            hash = (hash ^ characters) * factor;
+            hash ^= hash >> 32;
+        };
+        const auto characterAt = [text](std::size_t k) { return static_cast<std::uint32_t>(text[k]); };
+        std::size_t k = 0;
+        for (; k + 1 < text.size(); k += 2)
+            take(characterAt(k) | static_cast<std::uint64_t>(characterAt(k + 1)) << 32);
+        if (k < text.size())
+            take(characterAt(k));
+        return static_cast<std::uint32_t>(hash * factor >> 32);
+    }
+
+    std::wstring_view text_;
+    std::uint32_t hash_ = 0;
+};
+
+/// Different texts in the order in which they came, numbered from 0. The texts stay where they are: only views of them
+/// are kept. A hash of each text leads to its number, so that the work does not grow with the number of texts.
+template <class Value>
+class TextTable
+{
+public:
+    static constexpr int none = -1;
+
+    int size() const { return static_cast<int>(entries_.size()); }
+    std::wstring_view text(int number) const { return entries_[static_cast<std::size_t>(number)].text; }
+    Value& value(int number) { return entries_[static_cast<std::size_t>(number)].value; }
+    const Value& value(int number) const { return entries_[static_cast<std::size_t>(number)].value; }
+
+    /// The number of a text, or `none`.
+    int find(const HashedText& text) const { return slots_.empty() ? none : slots_[slotOf(text)].number; }
+
+    /// The number of a text, and whether it is new: then it takes `value`. Values known before move to another place.
+    std::pair<int, bool> add(const HashedText& text, const Value& value)
+    {
+        if (2 * entries_.size() >= slots_.size())
+            grow();
+        Slot& slot = slots_[slotOf(text)];
+        if (slot.number != none)
+            return {slot.number, false};
+        entries_.push_back({text.text(), value});
+        slot = {text.hash(), size() - 1};
+        return {slot.number, true};
+    }
+
+    /// Asks for the memory in which the text will be looked for, in three steps of which each needs what the one before
+    /// has brought: the slot, the entry, its characters.
+    void expectSlot(const HashedText& text) const
+    {
+        if (!slots_.empty())
+            __builtin_prefetch(&slots_[firstSlot(text)]);
+    }
+    void expectEntry(const HashedText& text) const
+    {
+        if (const int number = likelyNumber(text); number != none)
+            __builtin_prefetch(&entries_[static_cast<std::size_t>(number)]);
+    }
+    void expectCharacters(const HashedText& text) const
+    {
+        if (const int number = likelyNumber(text); number != none)
+            __builtin_prefetch(this->text(number).data());
+    }
+
+    void clear()
+    {
+        entries_.clear();
+        slots_.clear();
+    }
+
+private:
+    struct Entry
+    {
+        std::wstring_view text;
+        Value value;
+    };
+    struct Slot
+    {
+        std::uint32_t hash = 0;
+        int number = none;
+    };
+
+    static constexpr std::size_t fewestSlots = 16; // a power of 2, as all numbers of slots
+
+    std::size_t firstSlot(const HashedText& text) const { return text.hash() & (slots_.size() - 1); }
+    int likelyNumber(const HashedText& text) const { return slots_.empty() ? none : slots_[firstSlot(text)].number; }
+
+    /// The slot that holds the text, or the empty one where it would stand.
+    std::size_t slotOf(const HashedText& text) const
+    {
+        const std::size_t last = slots_.size() - 1;
+        std::size_t k = text.hash() & last;
+        while (slots_[k].number != none &&
+               (slots_[k].hash != text.hash() || this->text(slots_[k].number) != text.text()))
+            k = (k + 1) & last;
+        return k;
+    }
+
+    void grow()
+    {
+        std::vector<Slot> before(slots_.empty() ? fewestSlots : 2 * slots_.size());
+        before.swap(slots_);
+        const std::size_t last = slots_.size() - 1;
+        for (const Slot& slot : before) {
+            if (slot.number == none)
+                continue;
+            std::size_t k = slot.hash & last;
+            while (slots_[k].number != none)
+                k = (k + 1) & last;
+            slots_[k] = slot;
+        }
+    }
+
+    std::vector<Entry> entries_;
+    std::vector<Slot> slots_; // at least half of them empty
+};
+
+/// Calls visit(i, text) for textAt(i), i from `first` to `end` - 1 in order. The texts and their places in `table` may be
+/// anywhere in memory: they are asked for some texts ahead.
+template <class Value, class TextAt, class Visit>
+void forEachText(int first, int end, const TextTable<Value>& table, TextAt textAt, Visit visit)
+{
+    constexpr int most = 16;
+    HashedText texts[most];
+    while (first < end) {
+        const int count = end - first < most ? end - first : most;
+        for (int k = 0; k < count && most < end - first - k; ++k)
+            __builtin_prefetch(textAt(first + most + k).data());
+        for (int k = 0; k < count; ++k) {
+            texts[k] = textAt(first + k);
+            table.expectSlot(texts[k]);
+        }
+        for (int k = 0; k < count; ++k)
+            table.expectEntry(texts[k]);
+        for (int k = 0; k < count; ++k)
+            table.expectCharacters(texts[k]);
+        for (int k = 0; k < count; ++k)
+            visit(first + k, texts[k]);
+        first += count;
+    }
+}
+
+/// How many different texts there are among textAt(0) to textAt(n - 1). None where n is below 1.
+template <class TextAt>
+int countDistinct(int n, TextAt textAt)
+{
+    struct Nothing
+    {
+    };
+    TextTable<Nothing> texts;
+    forEachText(0, n, texts, textAt, [&texts](int, const HashedText& text) { texts.add(text, {}); });
+    return texts.size();
+}
+
+} // namespace vecmat
