@@ -154,6 +154,33 @@ TEST(NbMissing, TableAgreesWithTheWalk)
     }
 }
 
+TEST(NbMissing, ColumnsOfEveryLengthAgreeWithTheWalk)
+{
+    RandomData data(412);
+    SCOPED_TRACE(data);
+    for (int rows = 0; rows <= 70; ++rows) {
+        SCOPED_TRACE(rows);
+        // Columns that begin at any address of a double, and NaN, infinities and the neighbours of the missing value.
+        const auto cells = data.withSpecials(data.normals(3 * static_cast<std::size_t>(rows)), 0.7);
+        auto a = table(rows, 3, cells);
+        Guarded<int> counts(3, 77);
+        Guarded<int> byRow(data.intLeftovers(static_cast<std::size_t>(rows)));
+        M_NbMissing(a, rows, 3, counts);
+        M_NbMissingPerRow(a, rows, 3, byRow);
+        for (int j = 0; j < 3; ++j)
+            EXPECT_EQ(counts.data()[j], countOfMissing(a, 0, rows, j, j + 1));
+        for (int i = 0; i < rows; ++i)
+            EXPECT_EQ(byRow.data()[i], countOfMissing(a, i, i + 1, 0, 3));
+        EXPECT_EQ(M_NbMissing2(a, rows, 3), countOfMissing(a, 0, rows, 0, 3));
+        Guarded<double> flat(cells);
+        EXPECT_EQ(VB_V_NbMissing(flat, 3 * rows), countOfMissing(a, 0, rows, 0, 3));
+        int missingOrBelow = 0;
+        for (const double cell : cells)
+            missingOrBelow += cell <= M ? 1 : 0;
+        EXPECT_EQ(M_NbMissing(TableColumns(rows, 3, cells), rows, 3), missingOrBelow);
+    }
+}
+
 TEST(NbMissing, NoColumnsWriteNoCountByColumnAndZeroByRow)
 {
     Guarded<int> counts = {5, 6};

@@ -1,5 +1,6 @@
 #include "missing_counts.h"
 
+#include "../elementary/kernels/missing_kernels.h"
 #include "../frame/cells.h"
 
 #include <algorithm>
@@ -10,37 +11,70 @@ using vecmat::cells;
 using vecmat::countOf;
 using vecmat::isMissing;
 using vecmat::isMissingOrBelow;
+using vecmat::missingKernels;
 using vecmat::onBlocks;
+using vecmat::onBlocksOrElse;
 using vecmat::triangle;
 
 namespace {
 
-// A census is taken over `missing(i, j)`, whatever the storage and the test. Sums are unsigned, since the block that the
-// caller names may have more cells than an int counts.
+// A census is taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller names
+// may have more cells than an int counts.
 
+/// Columns whose cells are asked one by one: `missing(i, j)`.
 template <class Missing>
-unsigned missingInColumn(Missing missing, int rows, int j)
+struct ColumnsOfCells
 {
-    unsigned count = 0;
-    for (int i = 0; i < rows; ++i)
-        count += missing(i, j) ? 1 : 0;
-    return count;
-}
+    Missing missing;
+
+    unsigned count(int rows, int j) const
+    {
+        unsigned found = 0;
+        for (int i = 0; i < rows; ++i)
+            found += missing(i, j) ? 1 : 0;
+        return found;
+    }
+    void addByRow(int rows, int j, int* counts) const
+    {
+        for (int i = 0; i < rows; ++i)
+            counts[i] += missing(i, j) ? 1 : 0;
+    }
+};
+
+/// Columns of doubles that stand one behind the other, by the equality test or by the order test.
+template <auto test, class Cells>
+struct ColumnsInMemory
+{
+    Cells cells;
+
+    unsigned count(int rows, int j) const
+    {
+        const auto& kernels = missingKernels();
+        const auto counted = test == isMissing ? kernels.count : kernels.countOrBelow;
+        return rows < 1 ? 0u : static_cast<unsigned>(counted(cells.column(j), countOf(rows)));
+    }
+    void addByRow(int rows, int j, int* counts) const
+    {
+        static_assert(test == isMissing);
+        if (rows > 0)
+            missingKernels().addByRow(cells.column(j), countOf(rows), counts);
+    }
+};
 
 auto byColumn(int rows, int cols, int* counts)
 {
-    return [=](auto missing) {
+    return [=](const auto& columns) {
         for (int j = 0; j < cols; ++j)
-            counts[j] = static_cast<int>(missingInColumn(missing, rows, j));
+            counts[j] = static_cast<int>(columns.count(rows, j));
     };
 }
 
 auto inAll(int rows, int cols)
 {
-    return [=](auto missing) {
+    return [=](const auto& columns) {
         unsigned total = 0;
         for (int j = 0; j < cols; ++j)
-            total += missingInColumn(missing, rows, j);
+            total += columns.count(rows, j);
         return static_cast<int>(total);
     };
 }
@@ -49,18 +83,23 @@ auto inAll(int rows, int cols)
 template <auto test, class Storage, class Census>
 auto censusOf(Storage storage, int rows, int cols, Census census)
 {
-    return onBlocks([&](auto x) { return census([x](int i, int j) { return test(x.get(i, j)); }); },
-                    block(storage, rows, cols));
+    return onBlocksOrElse([&](auto x) { return census(ColumnsInMemory<test, decltype(x)>{x}); },
+                          [&](auto x) {
+                              const auto missing = [x](int i, int j) { return test(x.get(i, j)); };
+                              return census(ColumnsOfCells<decltype(missing)>{missing});
+                          },
+                          block(storage, rows, cols));
 }
 
 /// Takes a census of strings. A place outside the table reads as an empty string, and yet none is missing there.
 template <class Census>
 auto censusOf(Smatrix* table, Census census)
 {
-    return census([table](int i, int j) {
+    const auto missing = [table](int i, int j) {
         const unsigned k = vecmat::linearIndex(i, j, table->nRows);
         return k < table->nElems && table->X[k].empty();
-    });
+    };
+    return census(ColumnsOfCells<decltype(missing)>{missing});
 }
 
 } // namespace
@@ -123,10 +162,9 @@ int M_NbMissing2(Smatrix* a, int nRows, int nCols)
 void M_NbMissingPerRow(matrix* a, int nRows, int nCols, int* counts)
 {
     std::fill_n(counts, countOf(nRows), 0);
-    censusOf<isMissing>(cells(a), nRows, nCols, [=](auto missing) {
+    censusOf<isMissing>(cells(a), nRows, nCols, [=](const auto& columns) {
         for (int j = 0; j < nCols; ++j)
-            for (int i = 0; i < nRows; ++i)
-                counts[i] += missing(i, j) ? 1 : 0;
+            columns.addByRow(nRows, j, counts);
     });
 }
 
@@ -140,11 +178,13 @@ void M_NbNonMissing(matrix* a, int nRows, int nCols, int* counts)
 
 int M_NbMissingSPV_T(matrix** a, int n, int /*unused*/)
 {
-    return censusOf<isMissing>(triangle(a), n, n, [n](auto missing) {
-        unsigned below = 0;
-        for (int j = 0; j < n; ++j)
-            for (int i = j + 1; i < n; ++i)
-                below += missing(i, j) ? 1 : 0;
-        return static_cast<int>(2 * below);
-    });
+    return onBlocks(
+        [n](auto x) {
+            unsigned below = 0;
+            for (int j = 0; j < n; ++j)
+                for (int i = j + 1; i < n; ++i)
+                    below += isMissing(x.get(i, j)) ? 1 : 0;
+            return static_cast<int>(2 * below);
+        },
+        block(triangle(a), n, n));
 }

@@ -1,10 +1,8 @@
 #include "missing_counts.h"
 
+#include "../elementary/kernels/missing_kernels.h"
 #include "../frame/handles.h"
-#include "../frame/missing_value.h"
 #include "../frame/numbers.h"
-
-#include <algorithm>
 
 using vecmat::copied;
 using vecmat::viewed;
@@ -21,7 +19,7 @@ short VB_IsMissingValueStr(const wchar_t* s)
 
 int VB_V_NbMissing(double* x, int n)
 {
-    return static_cast<int>(std::count_if(x, x + vecmat::countOf(n), vecmat::isMissing));
+    return static_cast<int>(vecmat::missingKernels().count(x, vecmat::countOf(n)));
 }
 
 int VB_V_NbMissingStr(wchar_t** x, int n)

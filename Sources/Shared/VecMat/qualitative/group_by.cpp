@@ -51,17 +51,15 @@ struct WeightedByPosition
     double median(matrix* values, int n) const { return V_QuantileW(values, n, weights, 0.5); }
 };
 
-/// Copies `data` to `out` and sorts its rows; `order` takes along where each of them came from, counted from 1.
-void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matrix* order)
+/// Copies `data` to `out` and sorts its rows, and those of a companion of so many columns.
+void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matrix* companion, int nCompanionCols)
 {
     matrix keys(nRows, 1, 0.0);
-    for (int i = 0; i < nRows; ++i) {
+    for (int i = 0; i < nRows; ++i)
         keys.X[i] = cells(data).get(i, zeroBased(keyCol));
-        order->X[i] = i + 1.0;
-    }
     M_CopyBlock(data, 1, nRows, 1, nCols, out);
     matrix* key = &keys;
-    SortQ(out, nRows, nCols, 1, nRows, key, order, 1, 0, 0);
+    SortQ(out, nRows, nCols, 1, nRows, key, companion, nCompanionCols, 0, 0);
 }
 
 /// Puts the groups of a sorted table into its first rows. A result never comes below the first row of its group, and
@@ -71,8 +69,8 @@ class Grouping
 {
 public:
     Grouping(matrix* table, int nRows, int nCols, matrixInt* colTypes, int aggregate, Aggregates aggregates)
-        : cells_(cells(table)), nRows_(nRows), nCols_(nCols), colTypes_(colTypes), code_(aggregate),
-          aggregates_(aggregates)
+        : cells_(cells(table)), inside_(cells(table).covers(nRows, nCols)), nRows_(nRows), nCols_(nCols),
+          colTypes_(colTypes), code_(aggregate), aggregates_(aggregates)
     {
     }
 
@@ -98,11 +96,19 @@ private:
         const bool qualitative = linear(colTypes_).get(j) != 0; // -1 beyond the table
         if (!qualitative && (code_ < Aggregate::sum || code_ > Aggregate::range))
             return;
+        matrix values(group.size(), 1, valuesOf(group, j), true);
+        cells_.set(target, j, qualitative ? V_ModeCat(&values, group.size()) : quantity(&values, group, j));
+    }
+
+    /// The cells of a group, one behind the other: where they stand, or copied where some lie beyond the table.
+    double* valuesOf(Group group, int j)
+    {
+        if (inside_)
+            return cells_.plain().column(j) + group.first;
         values_.clear();
         for (int i = group.first; i < group.end; ++i)
             values_.push_back(cells_.get(i, j));
-        matrix values(group.size(), 1, values_.data(), true);
-        cells_.set(target, j, qualitative ? V_ModeCat(&values, group.size()) : quantity(&values, group, j));
+        return values_.data();
     }
 
     double quantity(matrix* values, Group group, int j) const
@@ -128,6 +134,7 @@ private:
     }
 
     TableCells<matrix> cells_;
+    bool inside_;
     int nRows_;
     int nCols_;
     matrixInt* colTypes_;
@@ -141,16 +148,17 @@ private:
 void M_GroupBy(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate, int* nGroups,
                matrix*& out)
 {
-    matrix order(nRows, 1, 0.0);
-    sortRows(data, nRows, nCols, keyCol, out, &order);
+    sortRows(data, nRows, nCols, keyCol, out, nullptr, 0);
     *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, Unweighted{}).run(zeroBased(keyCol));
 }
 
 void M_GroupByW(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate, int* nGroups,
                 matrix*& out, matrix* weights)
 {
-    matrix order(nRows, 1, 0.0);
-    sortRows(data, nRows, nCols, keyCol, out, &order);
+    matrix order(nRows, 1, 0.0); // where each row came from, counted from 1
+    for (int i = 0; i < nRows; ++i)
+        order.X[i] = i + 1.0;
+    sortRows(data, nRows, nCols, keyCol, out, &order, 1);
     SortApply2(weights, nRows, 1, &order);
     *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, WeightedByPosition{weights}).run(zeroBased(keyCol));
 }
