@@ -4,7 +4,11 @@
 
 #include "../frame/masks.h"
 #include "../frame/missing_value.h"
+#include "../sorting/memory_stretches.h"
+#include "distance_bounds.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace vecmat {
@@ -68,6 +72,8 @@ struct Distance
 template <class Cells>
 struct NumericBlock
 {
+    static constexpr bool hasNumbers = true;
+
     Cells cells;
     int cols;
     const double* means;
@@ -77,9 +83,10 @@ struct NumericBlock
     void copy(int from, int to, int j) const { cells.set(to, j, cells.get(from, j)); }
     void fillWithoutNeighbour(int i, int j) const { cells.set(i, j, means[j]); }
 
+    bool hasTerm(int target, int k) const { return variances[k] > 0.0 && !lacks(target, k); }
     void addTerm(int target, int candidate, int k, Distance& distance) const
     {
-        if (!(variances[k] > 0.0) || lacks(target, k))
+        if (!hasTerm(target, k))
             return;
         const double d = cells.get(target, k) - cells.get(candidate, k);
         distance.add(d * d / variances[k]);
@@ -90,6 +97,8 @@ struct NumericBlock
 template <class Cells>
 struct StringBlock
 {
+    static constexpr bool hasNumbers = false;
+
     Cells cells;
     int cols;
     const std::wstring* modes;
@@ -131,6 +140,8 @@ public:
 
 private:
     static constexpr int none = -1;
+    /// With fewer rows than this the copy costs more than the visits.
+    static constexpr int fewestRowsToBound = 50;
 
     template <const SearchRules& rules, class Own>
     void fillRow(const Own& own, int t)
@@ -146,27 +157,125 @@ private:
         }
     }
 
+    struct Nearest
+    {
+        int row = none;
+        double distance = positiveTwin;
+    };
+
     template <const SearchRules& rules, class Own>
     int nearest(const Own& own, int t, int j)
     {
+        Nearest best;
+        if (boundDistances<rules>(t))
+            visitNear<rules>(own, t, j, best);
+        else
+            for (int c = 0; c < rows_; ++c)
+                visit<rules>(own, t, j, c, best);
+        return best.row;
+    }
+
+    template <const SearchRules& rules, class Own>
+    void visit(const Own& own, int t, int j, int c, Nearest& best)
+    {
         const int passedOver = rules.passedOver == PassedOver::targetRow ? t : j;
-        int best = none;
-        double shortest = positiveTwin;
-        for (int c = 0; c < rows_; ++c) {
-            // Before the row is passed over: what the last row leaves here is what the other searches find.
-            if (rules.termNeeded == TermNeeded::fromThisCandidate)
-                distance_.anyTerm = false;
-            if (c == passedOver || !mask_.keeps(c))
-                continue;
-            distance_.sum = 0.0;
-            if (compare<rules.primary>(primary_, own, t, c, j) && compare<rules.second>(second_, own, t, c, j) &&
-                compare<rules.strings>(strings_, own, t, c, j) && distance_.sum < shortest && distance_.anyTerm)
-            {
-                best = c;
-                shortest = distance_.sum;
-            }
-        }
-        return best;
+        // Before the row is passed over: what the last row leaves here is what the other searches find.
+        if (rules.termNeeded == TermNeeded::fromThisCandidate)
+            distance_.anyTerm = false;
+        if (c == passedOver || !mask_.keeps(c))
+            return;
+        distance_.sum = 0.0;
+        if (compare<rules.primary>(primary_, own, t, c, j) && compare<rules.second>(second_, own, t, c, j) &&
+            compare<rules.strings>(strings_, own, t, c, j) && distance_.sum < best.distance && distance_.anyTerm)
+            best = {c, distance_.sum};
+    }
+
+    /// Visits the rows that are not flagged but for those too far away. A row that is left out would have left its mark on
+    /// the flag of terms only: there the last row counts, or the first that has a term.
+    template <const SearchRules& rules, class Own>
+    void visitNear(const Own& own, int t, int j, Nearest& best)
+    {
+        constexpr bool ownTerm = rules.termNeeded == TermNeeded::fromThisCandidate;
+        const std::size_t count = bounds_->rowCount();
+        std::size_t k = 0;
+        for (; k < count && !(ownTerm || distance_.anyTerm); ++k)
+            visit<rules>(own, t, j, bounds_->row(k), best);
+        while ((k = bounds_->nextWithin(best.distance, k)) < count)
+            visit<rules>(own, t, j, bounds_->row(k++), best);
+        if (ownTerm)
+            visit<rules>(own, t, j, rows_ - 1, best);
+    }
+
+    /// Bounds the distances of all rows that may be neighbours of row t; false where that is not to be had.
+    template <const SearchRules& rules>
+    bool boundDistances(int t)
+    {
+        if (!boundsPrepared_)
+            prepareBounds();
+        if (!bounds_)
+            return false;
+        bounds_->clearTerms();
+        if (rules.primary != Rejection::notCompared)
+            addTerms(primary_, 0, t);
+        addTerms(second_, numberColumns(primary_), t);
+        bounds_->compute();
+        return true;
+    }
+
+    template <class Block>
+    void addTerms(const Block& block, int firstColumn, int t)
+    {
+        if constexpr (Block::hasNumbers)
+            for (int k = 0; k < block.cols; ++k)
+                if (block.hasTerm(t, k))
+                    bounds_->addTerm(firstColumn + k, block.cells.get(t, k));
+    }
+
+    template <class Block>
+    static int numberColumns(const Block& block)
+    {
+        return Block::hasNumbers ? block.cols : 0;
+    }
+
+    void prepareBounds()
+    {
+        boundsPrepared_ = true;
+        const int columns = numberColumns(primary_) + numberColumns(second_);
+        if (columns < 1 || rows_ < fewestRowsToBound || !rowsStandApart())
+            return;
+        bounds_.emplace(rows_, mask_, columns);
+        copyForBounds(primary_);
+        copyForBounds(second_);
+        if (!*bounds_)
+            bounds_.reset();
+    }
+
+    template <class Block>
+    void copyForBounds(const Block& block)
+    {
+        if constexpr (Block::hasNumbers)
+            if (*bounds_)
+                bounds_->copy(block);
+    }
+
+    /// Does no row share a cell with another? Only then do those that are copied stay as they are while others are filled.
+    bool rowsStandApart() const
+    {
+        Stretches columns;
+        return addColumns(primary_, columns) && addColumns(second_, columns) && columns.areApart();
+    }
+
+    template <class Block>
+    bool addColumns(const Block& block, Stretches& columns) const
+    {
+        if constexpr (!Block::hasNumbers)
+            return true;
+        else if constexpr (requires { block.cells.folds(0, 0); }) {
+            block.cells.visitStorage(rows_, block.cols,
+                                     [&](const void* first, const void* last) { columns.addRange(first, last); });
+            return !block.cells.folds(rows_, block.cols);
+        } else
+            return false;
     }
 
     /// Adds the terms of one block up to the column that rejects the candidate; answers whether none does.
@@ -193,6 +302,9 @@ private:
     int rows_;
     Mask mask_;
     Distance distance_; // its flag lives as long as the call
+
+    bool boundsPrepared_ = false;
+    std::optional<DistanceBounds> bounds_; // none where every row has to be visited
 };
 
 } // namespace vecmat
