@@ -73,7 +73,8 @@ public:
     /// From row k on, the first that may be as near as `shortest`; the count of rows where there is none.
     std::size_t nextWithin(double shortest, std::size_t k) const
     {
-        // Far above what rounding does to sums of as many terms as there may be columns, and to the smallest numbers.
+        // Far above what rounding does to sums of as many terms as there may be columns, and to the smallest numbers. Where
+        // no row has won yet it is infinite.
         const double limit = shortest * (1.0 + 1e-5) + 1e-290;
         while (k < rowCount_ && distances_.data()[k] > limit)
             ++k;

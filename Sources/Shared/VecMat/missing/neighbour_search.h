@@ -190,19 +190,16 @@ private:
             best = {c, distance_.sum};
     }
 
-    /// Visits the rows that are not flagged but for those too far away. A row that is left out would have left its mark on
-    /// the flag of terms only: there the last row counts, or the first that has a term.
+    /// Visits the rows that are not flagged but for those too far away. That these are left out shows nowhere: before a row
+    /// has won none is too far, and when one has won a term has been added; and where each row has a flag of its own, it
+    /// is the one of the last row that stays.
     template <const SearchRules& rules, class Own>
     void visitNear(const Own& own, int t, int j, Nearest& best)
     {
-        constexpr bool ownTerm = rules.termNeeded == TermNeeded::fromThisCandidate;
-        const std::size_t count = bounds_->rowCount();
         std::size_t k = 0;
-        for (; k < count && !(ownTerm || distance_.anyTerm); ++k)
-            visit<rules>(own, t, j, bounds_->row(k), best);
-        while ((k = bounds_->nextWithin(best.distance, k)) < count)
+        while ((k = bounds_->nextWithin(best.distance, k)) < bounds_->rowCount())
             visit<rules>(own, t, j, bounds_->row(k++), best);
-        if (ownTerm)
+        if (rules.termNeeded == TermNeeded::fromThisCandidate)
             visit<rules>(own, t, j, rows_ - 1, best);
     }
 
