@@ -193,26 +193,53 @@ TEST(NIPALS, FollowsThePlainFormOnAnyTable)
         EXPECT_GE(outcomes[outcome], 100) << "too few cases end with " << outcome;
 }
 
-/// Tables with a few leading dimensions and noise, as the method is meant for.
+/// A table with two leading dimensions and noise, as the method is meant for.
+std::vector<double> factorialTable(RandomData& data, int n, int p)
+{
+    const auto scores = data.normals(static_cast<std::size_t>(2 * n)),
+               loadings = data.normals(static_cast<std::size_t>(2 * p));
+    std::vector<double> cells;
+    for (std::size_t j = 0; j < static_cast<std::size_t>(p); ++j)
+        for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i)
+            cells.push_back(10.0 + 3.0 * scores[2 * i] * loadings[2 * j] + scores[2 * i + 1] * loadings[2 * j + 1] +
+                            0.2 * data.normal());
+    return cells;
+}
+
 TEST(NIPALS, FollowsThePlainFormOnFactorialTables)
 {
     std::map<int, int> outcomes;
     forCases(300, [&](Cases& c) {
         const int n = c.data.integer(8, 25), p = c.data.integer(2, 7);
-        const auto scores = c.data.normals(static_cast<std::size_t>(2 * n)),
-                   loadings = c.data.normals(static_cast<std::size_t>(2 * p));
-        std::vector<double> cells;
-        for (std::size_t j = 0; j < static_cast<std::size_t>(p); ++j)
-            for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i)
-                cells.push_back(10.0 + 3.0 * scores[2 * i] * loadings[2 * j] + scores[2 * i + 1] * loadings[2 * j + 1] +
-                                0.2 * c.data.normal());
         const auto w = column(c.data.chance(0.5) ? std::vector<double>(static_cast<std::size_t>(n), 1.0)
                                                  : c.data.weights(static_cast<std::size_t>(n), 0.05));
         const double tol = std::array{1e-2, 1e-6, 1e-10}[static_cast<std::size_t>(c.data.integer(0, 2))];
-        expectAsPlain(n, p, table(n, p, c.data.withMissing(cells, 0.12)), w, tol, c.data.integer(1, 2), 1.0, 1.0,
-                      outcomes);
+        expectAsPlain(n, p, table(n, p, c.data.withMissing(factorialTable(c.data, n, p), 0.12)), w, tol,
+                      c.data.integer(1, 2), 1.0, 1.0, outcomes);
     });
     EXPECT_GE(outcomes[0], 250);
+}
+
+/// Around the numbers of rows and columns that are worked on side by side; rows without cells, zeros of both signs.
+TEST(NIPALS, FollowsThePlainFormAroundItsBlocks)
+{
+    std::map<int, int> outcomes;
+    forCases(100, [&](Cases& c) {
+        const int n = 32 * c.data.integer(1, 3) + c.data.integer(-1, 1),
+                  p = 8 * c.data.integer(1, 2) + c.data.integer(-1, 1);
+        auto cells = c.data.withMissing(factorialTable(c.data, n, p), 0.1);
+        const auto rows = static_cast<std::size_t>(n);
+        const auto emptyRow = static_cast<std::size_t>(c.data.integer(0, n - 1));
+        for (std::size_t k = 0; k < cells.size(); ++k) {
+            if (k % rows == emptyRow)
+                cells[k] = M;
+            else if (c.data.chance(0.1))
+                cells[k] = c.data.chance(0.5) ? 0.0 : -0.0;
+        }
+        const auto w = column(c.data.weights(rows, 0.05));
+        expectAsPlain(n, p, table(n, p, cells), w, 1e-6, c.data.integer(1, 3), 1.0, 1.0, outcomes);
+    });
+    EXPECT_GE(outcomes[0], 90);
 }
 
 // ---- R --------------------------------------------------------------------------------------------------------------

@@ -1,5 +1,6 @@
 #include "nipals.h"
 
+#include "../elementary/kernels/regression_kernels.h"
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 
@@ -22,36 +23,98 @@ enum Outcome : int { done = 0, degenerate = 1, tooManyMissing = -6 };
 
 using Column = std::vector<double>;
 
-/// A column of the residual table: its cells, the missing value where the cell is missing, and what the census found.
-struct ResidualColumn
+/// What the census found in a column.
+struct ColumnCensus
 {
-    Column cells;
     double mean = 0.0;
     int missingCells = 0;
 };
 
-using Residual = std::vector<ResidualColumn>;
+/// The residual table, the missing value where a cell is missing. It is held twice, in columns and in strips of columns,
+/// for the regressions of the rows and for those of the columns; rows and columns without cells fill it up to what these
+/// work on at a time.
+class Residual
+{
+public:
+    Residual(int rows, int cols)
+        : height_(roundedUp(countOf(rows), RegressionKernels::blockHeight)),
+          width_(roundedUp(countOf(cols), RegressionKernels::stripWidth)),
+          columns_(height_ * countOf(cols), missingValue), strips_(height_ * width_, missingValue),
+          census_(countOf(cols))
+    {
+    }
+
+    std::size_t height() const { return height_; }
+    std::size_t width() const { return width_; }
+    std::size_t cols() const { return census_.size(); }
+
+    ColumnCensus& census(std::size_t j) { return census_[j]; }
+    const ColumnCensus& census(std::size_t j) const { return census_[j]; }
+    const double* column(std::size_t j) const { return columns_.data() + j * height_; }
+    void set(std::size_t i, std::size_t j, double cell)
+    {
+        columns_[j * height_ + i] = cell;
+        strip(j)[i * RegressionKernels::stripWidth + j % RegressionKernels::stripWidth] = cell;
+    }
+
+    /// Sums for the regression of each column on the scores, of `width` numbers each.
+    void regressColumns(const Column& scores, Column& squares, Column& products) const
+    {
+        for (std::size_t j = 0; j < width_; j += RegressionKernels::stripWidth)
+            regressionKernels().onScores(rows(), strips_.data() + j * height_, scores.data(), squares.data() + j,
+                                         products.data() + j);
+    }
+    void regressRows(const Column& loadings, Column& scores) const
+    {
+        regressionKernels().onLoadings(rows(), columns_.data(), static_cast<std::ptrdiff_t>(cols()), loadings.data(),
+                                       scores.data());
+    }
+    /// `loadings` has `width` numbers.
+    void deflate(const Column& scores, const Column& loadings)
+    {
+        for (std::size_t j = 0; j < cols(); ++j)
+            regressionKernels().deflateColumn(rows(), columns_.data() + j * height_, scores.data(), loadings[j]);
+        for (std::size_t j = 0; j < width_; j += RegressionKernels::stripWidth)
+            regressionKernels().deflateStrip(rows(), strip(j), scores.data(), loadings.data() + j);
+    }
+
+private:
+    static std::size_t roundedUp(std::size_t n, std::size_t step) { return (n + step - 1) / step * step; }
+
+    std::ptrdiff_t rows() const { return static_cast<std::ptrdiff_t>(height_); }
+    double* strip(std::size_t j)
+    {
+        return strips_.data() + j / RegressionKernels::stripWidth * RegressionKernels::stripWidth * height_;
+    }
+
+    std::size_t height_;
+    std::size_t width_;
+    Column columns_;
+    Column strips_;
+    std::vector<ColumnCensus> census_;
+};
 
 struct Component
 {
-    Column scores;   // one for each row; missing for a row without cells
-    Column loadings; // one for each column, of length 1
+    Column scores;   // one for each row of the residual; missing for a row without cells
+    Column loadings; // one for each column, of length 1, filled up with 0.0
 };
 
 // ---- census and centring --------------------------------------------------------------------------------------------
 
-/// Column j, centred; none where it is constant.
+/// Takes the census of column j and centres it. False where it is constant.
 template <class Cells, class Weights>
-std::optional<ResidualColumn> centredColumn(Cells x, Weights w, int n, int j)
+bool centreColumn(Cells x, Weights w, int n, int j, Residual& residual)
 {
-    ResidualColumn column{Column(countOf(n), missingValue)};
+    const auto number = static_cast<std::size_t>(j);
+    ColumnCensus& census = residual.census(number);
     double total = 0.0;
     double sum = 0.0;
     double squares = 0.0;
     for (int i = 0; i < n; ++i) {
         const double cell = x.get(i, j);
         if (isMissing(cell)) {
-            ++column.missingCells;
+            ++census.missingCells;
             continue;
         }
         const double weight = w.get(i);
@@ -59,138 +122,109 @@ std::optional<ResidualColumn> centredColumn(Cells x, Weights w, int n, int j)
         sum += weight * cell;
         squares += weight * cell * cell;
     }
-    column.mean = sum / total;
-    const double deviation = sqr((squares - column.mean * column.mean * total) / (total - 1.0));
+    census.mean = sum / total;
+    const double deviation = sqr((squares - census.mean * census.mean * total) / (total - 1.0));
     if (deviation <= vanishing)
-        return std::nullopt;
+        return false;
 
     for (int i = 0; i < n; ++i) {
         const double cell = x.get(i, j);
         // The weight comes before the mean is taken off; the imputation divides it out again.
         if (!isMissing(cell))
-            column.cells[static_cast<std::size_t>(i)] = w.get(i) * cell - column.mean;
+            residual.set(static_cast<std::size_t>(i), number, w.get(i) * cell - census.mean);
     }
-    return column;
+    return true;
 }
 
 /// The table, centred; none where a column is constant.
 template <class Cells, class Weights>
 std::optional<Residual> centredTable(Cells x, Weights w, int n, int p)
 {
-    Residual residual;
-    for (int j = 0; j < p; ++j) {
-        std::optional<ResidualColumn> column = centredColumn(x, w, n, j);
-        if (!column)
+    Residual residual(n, p);
+    for (int j = 0; j < p; ++j)
+        if (!centreColumn(x, w, n, j, residual))
             return std::nullopt;
-        residual.push_back(std::move(*column));
-    }
     return residual;
 }
 
 double missingTotal(const Residual& residual)
 {
     double total = 0.0;
-    for (const ResidualColumn& column : residual)
-        total += column.missingCells;
+    for (std::size_t j = 0; j < residual.cols(); ++j)
+        total += residual.census(j).missingCells;
     return total;
 }
 
 bool withinShares(const Residual& residual, int n, double maxColumnShare, double maxTotalShare)
 {
-    for (const ResidualColumn& column : residual)
-        if (column.missingCells > n * maxColumnShare)
+    for (std::size_t j = 0; j < residual.cols(); ++j)
+        if (residual.census(j).missingCells > n * maxColumnShare)
             return false;
-    return !(missingTotal(residual) > n * maxTotalShare * static_cast<double>(residual.size()));
+    return !(missingTotal(residual) > n * maxTotalShare * static_cast<double>(residual.cols()));
 }
 
 // ---- one component --------------------------------------------------------------------------------------------------
 
-/// Loadings: each column regressed on the scores, then all scaled to length 1. False where a column meets scores that
-/// vanish.
-bool regressOnScores(const Residual& residual, const Column& scores, Column& loadings)
+/// Loadings: each column regressed on the scores, then all scaled to length 1.
+class Loadings
 {
-    double norm = 0.0;
-    for (std::size_t j = 0; j < residual.size(); ++j) {
-        const Column& z = residual[j].cells;
-        double squares = 0.0;
-        double product = 0.0;
-        for (std::size_t i = 0; i < z.size(); ++i)
-            if (!isMissing(z[i]) && !isMissing(scores[i])) {
-                squares += scores[i] * scores[i];
-                product += z[i] * scores[i];
-            }
-        if (squares < vanishing)
-            return false;
-        loadings[j] = product / squares;
-        norm += loadings[j] * loadings[j];
-    }
-    const double length = sqr(norm);
-    for (double& loading : loadings)
-        loading /= length;
-    return true;
-}
+public:
+    explicit Loadings(const Residual& residual) : squares_(residual.width()), products_(residual.width()) {}
 
-/// Scores: each row regressed on the loadings. The denominator is not tested. Column by column, in which each row's
-/// sums still run in the order of the columns.
-void regressOnLoadings(const Residual& residual, const Column& loadings, Column& scores)
-{
-    Column squares(scores.size(), 0.0);
-    scores.assign(scores.size(), missingValue);
-    for (std::size_t j = 0; j < residual.size(); ++j) {
-        const Column& z = residual[j].cells;
-        const double loading = loadings[j];
-        for (std::size_t i = 0; i < z.size(); ++i) {
-            if (isMissing(z[i]))
-                continue;
-            squares[i] += loading * loading;
-            scores[i] = isMissing(scores[i]) ? z[i] * loading : scores[i] + z[i] * loading;
+    /// False where a column meets scores that vanish.
+    bool regress(const Residual& residual, const Column& scores, Column& loadings)
+    {
+        residual.regressColumns(scores, squares_, products_);
+        double norm = 0.0;
+        for (std::size_t j = 0; j < residual.cols(); ++j) {
+            if (squares_[j] < vanishing)
+                return false;
+            loadings[j] = products_[j] / squares_[j];
+            norm += loadings[j] * loadings[j];
         }
+        const double length = sqr(norm);
+        for (std::size_t j = 0; j < residual.cols(); ++j)
+            loadings[j] /= length;
+        return true;
     }
-    for (std::size_t i = 0; i < scores.size(); ++i)
-        if (!isMissing(scores[i]))
-            scores[i] /= squares[i];
-}
+
+private:
+    Column squares_;
+    Column products_;
+};
 
 /// The variance of the change in the loadings; not a number for one column.
-double varianceOfChange(const Column& previous, const Column& loadings)
+double varianceOfChange(const Column& previous, const Column& loadings, std::size_t cols)
 {
     double sum = 0.0;
     double squares = 0.0;
-    for (std::size_t j = 0; j < loadings.size(); ++j) {
+    for (std::size_t j = 0; j < cols; ++j) {
         const double change = previous[j] - loadings[j];
         sum += change;
         squares += change * change;
     }
-    const auto count = static_cast<double>(loadings.size());
+    const auto count = static_cast<double>(cols);
     return (squares - sum * sum / count) / (count - 1.0);
 }
 
 /// The leading component of the residual; none where scores vanish.
 std::optional<Component> leadingComponent(const Residual& residual, double tol)
 {
-    Component component{residual.front().cells, Column(residual.size())};
+    Component component{Column(residual.column(0), residual.column(0) + residual.height()), Column(residual.width())};
+    Loadings loadings(residual);
     Column previous;
     for (int pass = 1; pass <= passLimit; ++pass) {
-        if (!regressOnScores(residual, component.scores, component.loadings))
+        if (!loadings.regress(residual, component.scores, component.loadings))
             return std::nullopt;
-        regressOnLoadings(residual, component.loadings, component.scores);
+        // The denominators are not tested.
+        residual.regressRows(component.loadings, component.scores);
         // A variance that is no number ends the passes: it comes from a single column, whose loading cannot change, or
         // from loadings that are no numbers and stay so.
-        if (pass > 1 && !(varianceOfChange(previous, component.loadings) > tol))
+        if (pass > 1 && !(varianceOfChange(previous, component.loadings, residual.cols()) > tol))
             break;
         previous = component.loadings;
     }
     return component;
-}
-
-void deflate(Residual& residual, const Component& component)
-{
-    for (std::size_t j = 0; j < residual.size(); ++j) {
-        Column& z = residual[j].cells;
-        for (std::size_t i = 0; i < z.size(); ++i)
-            if (!isMissing(component.scores[i]) && !isMissing(z[i]))
-                z[i] -= component.scores[i] * component.loadings[j];
-    }
 }
 
 /// None where scores vanish before all components are found.
@@ -201,7 +235,7 @@ std::optional<std::vector<Component>> extract(Residual& residual, int count, dou
         std::optional<Component> component = leadingComponent(residual, tol);
         if (!component)
             return std::nullopt;
-        deflate(residual, *component);
+        residual.deflate(component->scores, component->loadings);
         components.push_back(std::move(*component));
     }
     return components;
@@ -221,9 +255,9 @@ double rebuilt(const std::vector<Component>& components, std::size_t i, std::siz
 template <class Cells, class Weights>
 void impute(Cells x, Weights w, int n, const Residual& residual, const std::vector<Component>& components)
 {
-    for (std::size_t j = 0; j < residual.size(); ++j) {
+    for (std::size_t j = 0; j < residual.cols(); ++j) {
         const int col = static_cast<int>(j);
-        int left = residual[j].missingCells;
+        int left = residual.census(j).missingCells;
         for (int i = 0; left > 0 && i < n; ++i) {
             if (!isMissing(x.get(i, col)))
                 continue;
@@ -231,7 +265,7 @@ void impute(Cells x, Weights w, int n, const Residual& residual, const std::vect
             x.set(i, col, 0.0);
             const double weight = w.get(i);
             if (weight != 0.0)
-                x.set(i, col, (rebuilt(components, static_cast<std::size_t>(i), j) + residual[j].mean) / weight);
+                x.set(i, col, (rebuilt(components, static_cast<std::size_t>(i), j) + residual.census(j).mean) / weight);
         }
     }
 }

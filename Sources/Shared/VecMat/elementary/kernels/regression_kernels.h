@@ -1,0 +1,52 @@
+// Regressions through the origin past missing cells, many side by side: the kernel under imputation by principal
+// components.
+//
+// Missing is the equality test. A score that is missing stands for a row without cells.
+#pragma once
+
+#include "instruction_set.h"
+
+#include <cstddef>
+
+namespace vecmat {
+
+struct RegressionKernels
+{
+    /// A strip holds the cells of so many columns row by row, the cells of one row next to each other.
+    static constexpr int stripWidth = 8;
+    /// Rows are worked on in blocks of so many: `rows` is a multiple of it.
+    static constexpr int blockHeight = 32;
+
+    /// The columns of a strip on the scores. From 0.0, for each row in order, in each lane where neither the cell z nor
+    /// the score t is missing:
+    ///     squares = squares + t t     products = products + z t
+    void (*onScores)(std::ptrdiff_t rows, const double* strip, const double* scores, double* squares, double* products);
+
+    /// The rows on the loadings, from columns that stand `rows` apart. For each row a score that is missing at first and
+    /// q of 0.0; for each column in order whose cell z is not missing, with its loading p:
+    ///     q = q + p p     score = z p where it is missing, score + z p otherwise
+    /// and at the end score = score / q unless it is missing.
+    void (*onLoadings)(std::ptrdiff_t rows, const double* columns, std::ptrdiff_t columnCount, const double* loadings,
+                       double* scores);
+
+    /// z = z - t p in one column, and in the columns of a strip, where neither z nor t is missing.
+    void (*deflateColumn)(std::ptrdiff_t rows, double* column, const double* scores, double loading);
+    void (*deflateStrip)(std::ptrdiff_t rows, double* strip, const double* scores, const double* loadings);
+};
+
+namespace baseline {
+extern const RegressionKernels regressionKernels;
+}
+namespace avx2 {
+extern const RegressionKernels regressionKernels;
+}
+namespace avx512 {
+extern const RegressionKernels regressionKernels;
+}
+
+inline const RegressionKernels& regressionKernels()
+{
+    return forThisMachine(baseline::regressionKernels, avx2::regressionKernels, avx512::regressionKernels);
+}
+
+} // namespace vecmat

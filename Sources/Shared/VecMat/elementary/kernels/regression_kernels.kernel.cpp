@@ -1,0 +1,94 @@
+#include "regression_kernels.h"
+
+#include "../../frame/missing_value.h"
+#include "lanes.h"
+
+namespace vecmat::VECMAT_INSTRUCTION_SET {
+
+namespace {
+
+/// What a missing cell adds to a sum that starts at 0.0: such a sum is never -0.0, so that it stays as it is.
+constexpr Lanes nothing = {};
+
+constexpr int width = RegressionKernels::stripWidth;
+constexpr int vectors = width / laneCount;
+static_assert(width % laneCount == 0);
+
+void onScores(std::ptrdiff_t rows, const double* strip, const double* scores, double* squares, double* products)
+{
+    const Lanes missing = inEachLane(missingValue);
+    Lanes squareSums[vectors] = {};
+    Lanes productSums[vectors] = {};
+    for (std::ptrdiff_t i = 0; i < rows; ++i) {
+        if (scores[i] == missingValue)
+            continue;
+        const Lanes t = inEachLane(scores[i]);
+        const Lanes tt = t * t;
+#pragma GCC unroll 4
+        for (int v = 0; v < vectors; ++v) {
+            const Lanes z = load(strip + i * width + v * laneCount);
+            squareSums[v] += z == missing ? nothing : tt;
+            productSums[v] += z == missing ? nothing : z * t;
+        }
+    }
+    for (int v = 0; v < vectors; ++v) {
+        store(squares + v * laneCount, squareSums[v]);
+        store(products + v * laneCount, productSums[v]);
+    }
+}
+
+// As many rows as keep scores and sums of squares in registers.
+constexpr int rowVectors = laneCount > 2 ? 4 : 2;
+constexpr int rowsAtOnce = rowVectors * laneCount;
+static_assert(RegressionKernels::blockHeight % rowsAtOnce == 0);
+
+void onLoadings(std::ptrdiff_t rows, const double* columns, std::ptrdiff_t columnCount, const double* loadings,
+                double* scores)
+{
+    const Lanes missing = inEachLane(missingValue);
+    for (std::ptrdiff_t first = 0; first < rows; first += rowsAtOnce) {
+        Lanes t[rowVectors];
+        Lanes q[rowVectors];
+        for (int v = 0; v < rowVectors; ++v) {
+            t[v] = missing;
+            q[v] = Lanes{};
+        }
+        const double* column = columns + first;
+        for (std::ptrdiff_t j = 0; j < columnCount; ++j, column += rows) {
+            const Lanes p = inEachLane(loadings[j]);
+            const Lanes pp = p * p;
+#pragma GCC unroll 4
+            for (int v = 0; v < rowVectors; ++v) {
+                const Lanes z = load(column + v * laneCount);
+                const Lanes term = z * p;
+                const Lanes next = t[v] == missing ? term : t[v] + term;
+                t[v] = z == missing ? t[v] : next;
+                q[v] += z == missing ? nothing : pp;
+            }
+        }
+        for (int v = 0; v < rowVectors; ++v)
+            store(scores + first + v * laneCount, t[v] == missing ? t[v] : t[v] / q[v]);
+    }
+}
+
+void deflateColumn(std::ptrdiff_t rows, double* column, const double* scores, double loading)
+{
+    for (std::ptrdiff_t i = 0; i < rows; ++i)
+        column[i] =
+            column[i] == missingValue || scores[i] == missingValue ? column[i] : column[i] - scores[i] * loading;
+}
+
+void deflateStrip(std::ptrdiff_t rows, double* strip, const double* scores, const double* loadings)
+{
+    for (std::ptrdiff_t i = 0; i < rows; ++i, strip += width)
+        if (scores[i] != missingValue)
+            for (int j = 0; j < width; ++j)
+                strip[j] = strip[j] == missingValue ? strip[j] : strip[j] - scores[i] * loadings[j];
+}
+
+} // namespace
+
+extern const RegressionKernels regressionKernels;
+const RegressionKernels regressionKernels = {onScores, onLoadings, deflateColumn, deflateStrip};
+
+} // namespace vecmat::VECMAT_INSTRUCTION_SET
