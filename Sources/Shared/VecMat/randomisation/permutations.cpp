@@ -55,8 +55,8 @@ template <class Table>
 void sortByDraws(Table* data, int n, int p, TableHandle keys)
 {
     constexpr short keysStay = 0;
-    TableHandle companion = fresh(n, 1);
-    SortQ(data, n, p, 1, n, keys.reference(), companion.reference(), 1, ascending, keysStay);
+    matrix* noCompanion = nullptr;
+    SortQ(data, n, p, 1, n, keys.reference(), noCompanion, 0, ascending, keysStay);
 }
 
 template <class Table>
@@ -140,7 +140,7 @@ void GenerateRandomIndicator(matrix*& out, int n, int k, int* seed, short seedFl
 {
     constexpr short keysWritten = -1;
     TableHandle order = fresh(n, 1);
-    TableHandle companion = fresh(n, 1);
+    matrix* noCompanion = nullptr;
     const auto item = linear<matrix>(order);
     const auto mark = linear(out);
 
@@ -149,7 +149,7 @@ void GenerateRandomIndicator(matrix*& out, int n, int k, int* seed, short seedFl
         item.set(i, i + 1.0);
         mark.set(i, series.draw());
     }
-    SortQ(order.reference(), n, 1, 1, n, out, companion.reference(), 1, ascending, keysWritten);
+    SortQ(order.reference(), n, 1, 1, n, out, noCompanion, 0, ascending, keysWritten);
     for (int i = 0; i < n; ++i)
         mark.set(zeroBased(truncated(item.get(i))), i < k ? 1.0 : 0.0);
 }

@@ -2,6 +2,7 @@
 
 #include "../frame/cells.h"
 #include "../frame/handles.h"
+#include "../sorting/memory_stretches.h"
 #include "permutations.h"
 #include "sampled_rows.h"
 
@@ -10,6 +11,29 @@
 using namespace vecmat;
 
 namespace {
+
+void addStorage(Smatrix* table, int /*cols*/, Stretches& stretches)
+{
+    stretches.add(table->X, table->nElems);
+}
+void addStorage(Smatrix** columns, int cols, Stretches& stretches)
+{
+    for (int j = 0; j < cols; ++j)
+        stretches.add(columns[j]->X, columns[j]->nElems);
+}
+
+/// Does each row of the sample have cells of its own, of which the population has none? Then all that is read is what the
+/// population holds from the start, and it plays no part in which order the rows are written.
+template <class Rows>
+bool rowsStandApart(Rows S, Rows Z, int n, int p)
+{
+    if (p < 1 || n < 1 || !cells(Z).covers(n, p) || cells(Z).plain().folds(n, p))
+        return false;
+    Stretches stretches;
+    addStorage(S, p, stretches);
+    addStorage(Z, p, stretches);
+    return stretches.areApart();
+}
 
 /// `Rows` is a table, or an array of columns.
 template <class Rows>
@@ -20,11 +44,18 @@ void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int
 
     const auto key = linear<matrix>(keys);
     const auto id = linear(ids);
-    for (int i = 1; i <= n; ++i) {
-        const double row = std::floor(key.get(zeroBased(i)) * static_cast<double>(N)) + 1.0;
-        id.set(zeroBased(i), row);
-        copyRow(cells(S), truncated(row), cells(Z), i, p);
+    const auto rowDrawn = [=](int i) { return std::floor(key.get(zeroBased(i)) * static_cast<double>(N)) + 1.0; };
+    for (int i = 1; i <= n; ++i)
+        id.set(zeroBased(i), rowDrawn(i));
+    // As a rule the numbers are sorted alone, so that no string is moved once it is copied.
+    if (id.covers(n) && rowsStandApart(S, Z, n, p)) {
+        SortQVector(ids, n, 1, n, sortAscending);
+        for (int i = 1; i <= n; ++i)
+            copyRow(cells(S), truncated(id.get(zeroBased(i))), cells(Z), i, p);
+        return;
     }
+    for (int i = 1; i <= n; ++i)
+        copyRow(cells(S), truncated(rowDrawn(i)), cells(Z), i, p);
     sortRowsByKey(Z, n, p, ids, keys);
 }
 
