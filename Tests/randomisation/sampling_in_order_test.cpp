@@ -113,11 +113,12 @@ TEST(SamplingInOrder, TablesOfOtherSizes)
         const int populationRows = std::max(0, draw.N + data.integer(-2, 2));
         const int sampleRows = std::max(0, draw.n + data.integer(-3, 2));
         const Texts cells = texts(data, product(populationRows, draw.p));
-        const Texts before = texts(data, product(sampleRows, draw.p));
+        const int sampleCols = draw.p + data.integer(0, 1);
+        const Texts before = texts(data, product(sampleRows, sampleCols));
         const auto numbers = data.leftovers(static_cast<std::size_t>(std::max(1, draw.n + data.integer(-2, 2))));
         const auto S = stringTable(populationRows, draw.p, cells);
-        const auto expected = stringTable(sampleRows, draw.p, before);
-        const auto actual = stringTable(sampleRows, draw.p, before);
+        const auto expected = stringTable(sampleRows, sampleCols, before);
+        const auto actual = stringTable(sampleRows, sampleCols, before);
         const auto expectedIds = column(numbers);
         const auto ids = column(numbers);
         plainSample<Smatrix*>(S, draw.N, draw.p, draw.n, expected, expectedIds, draw.draws);

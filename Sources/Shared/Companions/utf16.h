@@ -27,25 +27,36 @@ inline char16_t unitAt(const void* text, std::size_t position)
     return unit;
 }
 
+inline std::size_t lengthOf(const void* text)
+{
+    std::size_t length = 0;
+    while (unitAt(text, length) != 0)
+        ++length;
+    return length;
+}
+
 /// Appends the text up to its NUL to `wide`. A surrogate pair becomes one character; a surrogate without its partner
 /// stays as it is, so that no text is lost on the way there and back. A null pointer is the empty text.
 inline void appendUtf16(const void* text, std::wstring& wide)
 {
     if (text == nullptr)
         return;
-    for (std::size_t position = 0;; ++position) {
+    const std::size_t length = lengthOf(text);
+    const std::size_t before = wide.size();
+    wide.resize(before + length);
+    wchar_t* to = wide.data() + before;
+    for (std::size_t position = 0; position < length; ++position) {
         const char16_t unit = unitAt(text, position);
-        if (unit == 0)
-            return;
         // Behind a high surrogate stands at least the NUL, so the next unit may be read.
         const char16_t next = isHighSurrogate(unit) ? unitAt(text, position + 1) : char16_t(0);
         if (isLowSurrogate(next)) {
-            wide.push_back(static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00)));
+            *to++ = static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
             ++position;
         } else {
-            wide.push_back(static_cast<wchar_t>(unit));
+            *to++ = static_cast<wchar_t>(unit);
         }
     }
+    wide.resize(static_cast<std::size_t>(to - wide.data()));
 }
 
 } // namespace companions

@@ -10,26 +10,43 @@ namespace {
 
 using LengthPrefix = std::uint32_t;
 
+constexpr char32_t lastCharacter = 0x10FFFF;
 constexpr char32_t replacementCharacter = 0xFFFD;
 
-void appendCharacter(char32_t character, std::u16string& text)
+/// Needs a second unit.
+bool isBeyondOneUnit(char32_t character)
 {
-    if (character > 0x10FFFF)
-        character = replacementCharacter;
-    if (character > 0xFFFF) {
-        text.push_back(static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)));
-        text.push_back(static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF)));
-    } else {
-        text.push_back(static_cast<char16_t>(character));
-    }
+    return character > 0xFFFF && character <= lastCharacter;
 }
 
-std::u16string toUtf16(const wchar_t* text)
+std::size_t unitsOf(const wchar_t* text)
 {
-    std::u16string converted;
+    std::size_t units = 0;
     for (; *text != L'\0'; ++text)
-        appendCharacter(static_cast<char32_t>(*text), converted);
-    return converted;
+        units += isBeyondOneUnit(static_cast<char32_t>(*text)) ? 2 : 1;
+    return units;
+}
+
+/// Writes bytes, as they are read.
+char* append(char16_t unit, char* to)
+{
+    std::memcpy(to, &unit, sizeof unit);
+    return to + sizeof unit;
+}
+
+/// Writes the text with its NUL.
+void writeUnits(const wchar_t* text, char* to)
+{
+    for (; *text != L'\0'; ++text) {
+        const auto character = static_cast<char32_t>(*text);
+        if (isBeyondOneUnit(character)) {
+            to = append(static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)), to);
+            to = append(static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF)), to);
+        } else {
+            to = append(static_cast<char16_t>(character > lastCharacter ? replacementCharacter : character), to);
+        }
+    }
+    append(u'\0', to);
 }
 
 } // namespace
@@ -46,11 +63,10 @@ wchar_t* SysAllocString2(const wchar_t* text)
 {
     if (text == nullptr)
         return nullptr;
-    const std::u16string converted = toUtf16(text);
-    const LengthPrefix length = static_cast<LengthPrefix>(converted.size() * sizeof(char16_t));
+    const LengthPrefix length = static_cast<LengthPrefix>(unitsOf(text) * sizeof(char16_t));
     char* const block = static_cast<char*>(::operator new(sizeof length + length + sizeof(char16_t)));
     std::memcpy(block, &length, sizeof length);
-    std::memcpy(block + sizeof length, converted.c_str(), length + sizeof(char16_t));
+    writeUnits(text, block + sizeof length);
     return reinterpret_cast<wchar_t*>(block + sizeof length);
 }
 

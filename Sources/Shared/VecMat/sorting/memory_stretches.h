@@ -2,10 +2,8 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <functional>
-#include <memory_resource>
 #include <utility>
 #include <vector>
 
@@ -41,9 +39,7 @@ public:
 private:
     using Range = std::pair<const void*, const void*>;
 
-    std::array<std::byte, 256> first_; // enough for a few, without a call for memory
-    std::pmr::monotonic_buffer_resource memory_{first_.data(), first_.size()};
-    std::pmr::vector<Range> ranges_{&memory_};
+    std::vector<Range> ranges_;
 };
 
 } // namespace vecmat
