@@ -15,7 +15,7 @@
 //
 // Places are 1-based. Result tables are prepared by `matCheck`, so a null one is made and is the caller's to delete; a
 // table of strings that is kept also keeps the strings in the places that no category fills. Nothing reports but
-// `invalid`. Looking a text up costs no walk over the categories.
+// `invalid`. A text is looked up by a hash, without a walk over the categories.
 #pragma once
 
 #include "../Smatrix.h"
