@@ -1,0 +1,214 @@
+"""Writes the tables of a run of the benchmarks.
+
+    report.py RESULTS.md FOLDER NOTE...
+
+FOLDER holds what tools/bench has collected: native.json, avx2.json and baseline.json of vecmat_benchmarks, r.csv and
+python.csv of the peers outside of it. Exits with 1 where a result is not what it should be.
+"""
+
+import csv
+import json
+import math
+import platform
+import re
+import sys
+from collections import defaultdict
+from pathlib import Path
+
+AIMS = Path(__file__).with_name("aims.tsv")
+SETS = ("avx2", "baseline")
+
+
+class Results:
+    """Seconds by workload, contender and size."""
+
+    def __init__(self, folder):
+        self.seconds = defaultdict(dict)  # (workload, size) -> contender -> seconds
+        self.lower = {name: {} for name in SETS}  # set -> (workload, size) -> seconds
+        self.faults = []
+        self.read_benchmarks(folder / "native.json", "")
+        for name in SETS:
+            self.read_benchmarks(folder / f"{name}.json", name)
+        for name in ("r.csv", "python.csv"):
+            self.read_peers(folder / name)
+
+    def read_benchmarks(self, file, instruction_set):
+        if not file.exists():
+            return
+        for entry in json.loads(file.read_text())["benchmarks"]:
+            workload, contender, size = entry["run_name"].split("/min_time")[0].rsplit("/", 2)[-3:]
+            key = (workload, int(size))
+            if entry.get("error_occurred"):
+                fault = f"{workload}, size {size}, {contender}: {entry['error_message']}"
+                self.faults.append(fault + (f" ({instruction_set})" if instruction_set else ""))
+            elif entry.get("aggregate_name") == "min":
+                table = self.lower[instruction_set] if instruction_set else self.seconds[key]
+                table[key if instruction_set else contender] = entry["best"]
+
+    def read_peers(self, file):
+        if not file.exists():
+            return
+        with open(file, newline="") as rows:
+            for row in csv.DictReader(rows):
+                deviation, tolerance = float(row["deviation"]), float(row["tolerance"])
+                key = (row["workload"], self.last_size(row["workload"]))
+                if tolerance >= 0 and not deviation <= tolerance:
+                    self.faults.append(f"{row['workload']}, {row['contender']}: deviates by {deviation:g}")
+                else:
+                    self.seconds[key][row["contender"]] = float(row["seconds"])
+
+    def sizes(self, workload):
+        return sorted(size for name, size in self.seconds if name == workload)
+
+    def last_size(self, workload):
+        return max(self.sizes(workload), default=0)
+
+
+# ---- cells of tables -------------------------------------------------------------------------------------------------
+
+
+def shown_time(seconds):
+    for unit, scale in (("s", 1.0), ("ms", 1e-3), ("µs", 1e-6)):
+        if seconds >= scale:
+            return f"{three_digits(seconds / scale)} {unit}"
+    return f"{three_digits(seconds / 1e-9)} ns"
+
+
+def three_digits(value):
+    if value >= 100:
+        return f"{value:.0f}"
+    return f"{value:.1f}" if value >= 10 else f"{value:.2f}"
+
+
+def marked(text, reached):
+    return text if reached else f"**{text}**"
+
+
+def row(*cells):
+    return "| " + " | ".join(cells) + " |"
+
+
+def head(*titles):
+    return [row(*titles), row(*["---"] * len(titles))]
+
+
+def ratio_to_plain(plain, ours, aim):
+    if plain is None or ours is None:
+        return ""
+    return marked(three_digits(plain / ours), not aim or plain / ours >= aim)
+
+
+# ---- the tables ------------------------------------------------------------------------------------------------------
+
+
+def aims_table(results):
+    lines = head("workload", "ours", "plain/ours", "aim", "AVX2", "baseline", "ours/peer (aim)")
+    with open(AIMS, newline="") as file:
+        for aim in csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE):
+            workload, _, size = aim["workload"].partition(":")
+            key = (workload, int(size) if size else results.last_size(workload))
+            times = results.seconds.get(key)
+            if not times or "ours" not in times:
+                continue
+            least = float(aim["plain/ours at least"] or 0)
+            most = dict(part.rsplit("=", 1) for part in aim["ours/peer at most"].split(";") if part)
+            ours, plain = times["ours"], times.get("plain")
+            lower = [ratio_to_plain(plain, results.lower[name].get(key), 0) for name in SETS]
+            lines.append(row(aim["title"], shown_time(ours), ratio_to_plain(plain, ours, least),
+                             f"{least:g}" if least else "", *lower, peers_cell(times, most)))
+    return lines
+
+
+def peers_cell(times, most):
+    """The peers aimed at come first."""
+    peers = [name for name in times if name not in ("ours", "plain") and not name.endswith("converted")]
+    parts = []
+    for name in sorted(peers, key=lambda peer: (peer not in most, peers.index(peer))):
+        ratio = times["ours"] / times[name]
+        text = f"{three_digits(ratio)} of {name}"
+        if name in most:
+            text = marked(text, ratio <= float(most[name])) + f" ({float(most[name]):g})"
+        parts.append(text)
+    return "; ".join(parts)
+
+
+def growth_table(results):
+    """How the time grows: the exponent e of size^e over the last step."""
+    lines = head("workload", "sizes", "ours", "exponent", "plain", "exponent")
+    for workload in dict.fromkeys(name for name, _ in results.seconds):
+        sizes = results.sizes(workload)
+        if len(sizes) < 2:
+            continue
+        cells = []
+        for contender in ("ours", "plain"):
+            times = [results.seconds[workload, size].get(contender) for size in sizes]
+            cells.append(", ".join(shown_time(seconds) if seconds else "-" for seconds in times))
+            known = [pair for pair in zip(sizes, times) if pair[1]]
+            cells.append(exponent(*known[-2:]) if len(known) > 1 else "")
+        lines.append(row(workload, ", ".join(f"{size:g}" for size in sizes), *cells))
+    return lines
+
+
+def exponent(before, after):
+    return f"{math.log(after[1] / before[1]) / math.log(after[0] / before[0]):.2f}"
+
+
+def small_table(results):
+    lines = head("call", "ours", "plain", "ours/plain (1.1)")
+    for (workload, size), times in results.seconds.items():
+        if workload.startswith("small-") and "plain" in times:
+            ratio = times["ours"] / times["plain"]
+            lines.append(row(f"{workload.removeprefix('small-')}, {size}", shown_time(times["ours"]),
+                             shown_time(times["plain"]), marked(three_digits(ratio), ratio <= 1.1)))
+    return lines
+
+
+def string_table(results):
+    lines = head("what", "time", "in copies of the texts (2)")
+    cells_in = results.seconds.get(("strings-in", results.last_size("strings-in")), {})
+    cells_out = results.seconds.get(("strings-out", results.last_size("strings-out")), {})
+    if cells_in and cells_out:
+        copies = min(cells_in["copies in std::wstring"], cells_out["copies in std::wstring"])
+        lines.append(row("a million cells copied in std::wstring", shown_time(copies), "1"))
+        for title, seconds in (("into a table", cells_in["ours"]), ("out of a table", cells_out["ours"]),
+                               ("both", cells_in["ours"] + cells_out["ours"])):
+            lines.append(row(title, shown_time(seconds), marked(three_digits(seconds / copies), seconds <= 2 * copies)))
+    for (workload, size), times in results.seconds.items():
+        for contender, seconds in times.items():
+            if contender.endswith("converted") and size == results.last_size(workload):
+                lines.append(row(f"{workload}: {contender}", f"{shown_time(seconds)}, {shown_time(times['ours'])} of it "
+                                 "in the function", ""))
+    return lines
+
+
+def machine():
+    """The processor, and what of it counts here."""
+    info = Path("/proc/cpuinfo").read_text()
+    field = lambda name: re.search(rf"^{name}\s*:\s*(.*)$", info, re.M)[1]
+    sets = [name for name in ("avx2", "avx512f") if name in field("flags").split()]
+    return (f"{field('model name')}, family {field('cpu family')}, model {field('model')}, {field('cpu MHz')} MHz, "
+            f"{' '.join(sets)}; {platform.system()} {platform.release()}")
+
+
+def main():
+    results = Results(Path(sys.argv[2]))
+    text = ["# Benchmarks", "", f"Machine: {machine()}.", "", *(f"- {note}" for note in sys.argv[3:]), ""]
+    for title, intro, lines in (
+        ("The workloads", "One thread, the shortest of several runs in processor time; a ratio that falls short of its "
+         "aim is in bold. The columns AVX2 and baseline are plain/ours with the library kept to these instructions.",
+         aims_table(results)),
+        ("How time grows", "Times at growing sizes; the exponent is that of the last step.", growth_table(results)),
+        ("Small inputs", "Calls on a few numbers.", small_table(results)),
+        ("The border of strings", "", string_table(results)),
+    ):
+        if len(lines) > 2:
+            text += [f"## {title}", "", *([intro, ""] if intro else []), *lines, ""]
+    if results.faults:
+        text += ["## Results that are not what they should be", "", *(f"- {fault}" for fault in results.faults), ""]
+    Path(sys.argv[1]).write_text("\n".join(text))
+    if results.faults:
+        sys.exit("Results that are not what they should be:\n" + "\n".join(results.faults))
+
+
+if __name__ == "__main__":
+    main()
