@@ -183,9 +183,9 @@ double timeManyCalls(benchmark::State& state, const Contender& contender)
         const double start = secondsOfThread();
         for (int call = 0; call < calls; ++call)
             contender.run();
-        const double seconds = (secondsOfThread() - start) / calls;
+        const double seconds = secondsOfThread() - start;
         state.SetIterationTime(seconds);
-        best = std::min(best, seconds);
+        best = std::min(best, seconds / calls);
     }
     return best;
 }
