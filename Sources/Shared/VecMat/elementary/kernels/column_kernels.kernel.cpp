@@ -10,8 +10,6 @@ static_assert(laneCount <= ColumnKernels::mostLanes);
 
 // ---- inner products of several columns ------------------------------------------------------------------------------
 
-using Places [[gnu::vector_size(laneCount * sizeof(double))]] = long long;
-
 template <int... numbers>
 struct Numbers
 {
@@ -35,9 +33,9 @@ template <int step, int... lane>
                 continue;
             const Lanes upper = rows[i];
             const Lanes lower = rows[i + step];
-            rows[i] = __builtin_shuffle(upper, lower, Places{((lane & step) != 0 ? lane - step + laneCount : lane)...});
+            rows[i] = __builtin_shufflevector(upper, lower, ((lane & step) != 0 ? lane - step + laneCount : lane)...);
             rows[i + step] =
-                __builtin_shuffle(upper, lower, Places{((lane & step) != 0 ? lane + laneCount : lane + step)...});
+                __builtin_shufflevector(upper, lower, ((lane & step) != 0 ? lane + laneCount : lane + step)...);
         }
         exchangeBlocks<step / 2>(rows, EachLane());
     }
@@ -252,7 +250,6 @@ void copyColumns(int vectors, int columns, const double* from, std::ptrdiff_t fr
 
 } // namespace
 
-extern const ColumnKernels columnKernels;
 const ColumnKernels columnKernels = {laneCount,   innerProducts, addMultiple, updateAndMultiply,
                                      reflectRows, rotate,        copyColumns};
 

@@ -35,7 +35,6 @@ void distances(std::ptrdiff_t count, const double* panels, std::ptrdiff_t panelS
 
 } // namespace
 
-extern const DistanceKernels distanceKernels;
 const DistanceKernels distanceKernels = {distances};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -30,7 +30,6 @@ void addByRow(const double* x, std::size_t n, int* counts)
 
 } // namespace
 
-extern const MissingKernels missingKernels;
 const MissingKernels missingKernels = {count, countOrBelow, addByRow};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

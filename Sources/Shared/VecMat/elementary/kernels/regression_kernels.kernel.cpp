@@ -88,7 +88,6 @@ void deflateStrip(std::ptrdiff_t rows, double* strip, const double* scores, cons
 
 } // namespace
 
-extern const RegressionKernels regressionKernels;
 const RegressionKernels regressionKernels = {onScores, onLoadings, deflateColumn, deflateStrip};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -51,7 +51,6 @@ void divide(double divisor, double* row)
 
 } // namespace
 
-extern const SubstitutionKernels substitutionKernels;
 const SubstitutionKernels substitutionKernels = {width, accumulate<Plus>, accumulate<Minus>, divide};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -14,7 +14,6 @@ void addAndClear(int count, const double* __restrict column, double factor, doub
 
 } // namespace
 
-extern const SweepKernels sweepKernels;
 const SweepKernels sweepKernels = {addAndClear};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
