@@ -35,16 +35,11 @@ inline std::size_t lengthOf(const void* text)
     return length;
 }
 
-/// Appends the text up to its NUL to `wide`. A surrogate pair becomes one character; a surrogate without its partner
-/// stays as it is, so that no text is lost on the way there and back. A null pointer is the empty text.
-inline void appendUtf16(const void* text, std::wstring& wide)
+/// Converts `length` units to wide characters, which are no more, and returns the place behind the last. A surrogate pair
+/// becomes one character; a surrogate without its partner stays as it is, so that no text is lost on the way there and
+/// back.
+inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
 {
-    if (text == nullptr)
-        return;
-    const std::size_t length = lengthOf(text);
-    const std::size_t before = wide.size();
-    wide.resize(before + length);
-    wchar_t* to = wide.data() + before;
     for (std::size_t position = 0; position < length; ++position) {
         const char16_t unit = unitAt(text, position);
         // Behind a high surrogate stands at least the NUL, so the next unit may be read.
@@ -56,7 +51,19 @@ inline void appendUtf16(const void* text, std::wstring& wide)
             *to++ = static_cast<wchar_t>(unit);
         }
     }
-    wide.resize(static_cast<std::size_t>(to - wide.data()));
+    return to;
+}
+
+/// Appends the text up to its NUL to `wide`. A null pointer is the empty text.
+inline void appendUtf16(const void* text, std::wstring& wide)
+{
+    if (text == nullptr)
+        return;
+    const std::size_t length = lengthOf(text);
+    const std::size_t before = wide.size();
+    wide.resize(before + length);
+    const wchar_t* const end = widen(text, length, wide.data() + before);
+    wide.resize(static_cast<std::size_t>(end - wide.data()));
 }
 
 } // namespace companions

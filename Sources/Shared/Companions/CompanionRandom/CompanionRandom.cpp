@@ -30,8 +30,9 @@ double Random01(void)
 {
     // 27 and 26 bits make the 53 of a double's significand; taken as one whole number below 2^53, the quotient is
     // exact.
-    const std::uint64_t high = generator()() >> 5;
-    const std::uint64_t low = generator()() >> 6;
+    std::mt19937& twister = generator();
+    const std::uint64_t high = twister() >> 5;
+    const std::uint64_t low = twister() >> 6;
     return static_cast<double>((high << 26) | low) / 9007199254740992.0;
 }
 

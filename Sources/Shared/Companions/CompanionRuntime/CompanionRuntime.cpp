@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cwchar>
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -49,14 +50,24 @@ void writeUnits(const wchar_t* text, char* to)
     append(u'\0', to);
 }
 
+/// Holds the text that was converted last, and whatever a longer one has left behind it. A function of its own, so that the
+/// place is looked up once for a text: inlined, the compiler looks it up again at each use.
+[[gnu::noinline]] std::vector<wchar_t>& lastConverted()
+{
+    thread_local std::vector<wchar_t> text;
+    return text;
+}
+
 } // namespace
 
 const wchar_t* CW162W32(const void* bstr)
 {
-    thread_local std::wstring text;
-    text.clear();
-    companions::appendUtf16(bstr, text);
-    return text.c_str(); // NOLINT(clang-analyzer-cplusplus.InnerPointer): valid until the next call, as told
+    const std::size_t length = bstr != nullptr ? companions::lengthOf(bstr) : 0;
+    std::vector<wchar_t>& text = lastConverted();
+    if (text.size() <= length)
+        text.resize(2 * length + 1);
+    *companions::widen(bstr, length, text.data()) = L'\0';
+    return text.data();
 }
 
 wchar_t* SysAllocString2(const wchar_t* text)

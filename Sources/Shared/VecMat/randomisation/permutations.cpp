@@ -44,7 +44,7 @@ void fillWithDraws(Table*& t, int rows, int cols, int* seed, short seedFlag, int
 /// One uniform key for each of n items.
 TableHandle drawnKeys(int n, int& seed, short seedFlag, int& seedOut)
 {
-    TableHandle keys = fresh(n, 1);
+    TableHandle keys;
     M_GenerateRandom01(keys.reference(), n, 1, &seed, seedFlag, &seedOut);
     return keys;
 }

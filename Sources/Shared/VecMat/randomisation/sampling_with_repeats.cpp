@@ -39,7 +39,7 @@ bool rowsStandApart(Rows S, Rows Z, int n, int p)
 template <class Rows>
 void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
 {
-    TableHandle keys = fresh(n, 1);
+    TableHandle keys;
     M_GenerateRandom01(keys.reference(), n, 1, seed, seedFlag, seedOut);
 
     const auto key = linear<matrix>(keys);
