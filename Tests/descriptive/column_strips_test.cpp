@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
@@ -138,6 +139,22 @@ TEST(ColumnStrips, Covariances)
         M_CovCorr(X, data.n, data.p, C, 0, data.mask.data(), column(data.w), -1, 0, 0);
         EXPECT_THAT(cellsOf(C), SameBitsAsAll(expected));
     });
+}
+
+TEST(ColumnStrips, CovariancesCountARowOfNoWeightInThePairsThatHaveIt)
+{
+    RandomData random(601);
+    Observations data = observationsOf(random, 150, 9, Cells::complete);
+    std::fill(data.mask.begin(), data.mask.end(), short{0});
+    std::fill(data.w.begin(), data.w.end(), 1.5);
+    data.w[140] = 0.0;
+    const auto complete = plainCovariances(data, {-1, 0}, M);
+    data.cells[140] = M; // of the first column: its pairs have one row less to divide by
+    const auto expected = plainCovariances(data, {-1, 0}, M);
+    ASSERT_THAT(expected, testing::Not(SameBitsAsAll(complete)));
+    Owned<matrix> X = table(data.n, data.p, data.cells), C;
+    M_CovCorr(X, data.n, data.p, C, 0, data.mask.data(), column(data.w), -1, 0, 0);
+    EXPECT_THAT(cellsOf(C), SameBitsAsAll(expected));
 }
 
 TEST(ColumnStrips, CovariancesWithTheMagnitudeOfTheFactor)

@@ -1,7 +1,7 @@
 #include "sweep.h"
 
 #include "../elementary/kernels/operands.h"
-#include "../elementary/kernels/sweep_kernels.h"
+#include "../elementary/kernels/update_kernels.h"
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 
@@ -34,7 +34,7 @@ void addToRow(Cells a, int i, int first, int end, const double* pivotColumn, dou
     if constexpr (requires { a.data(); })
         if (end - first >= leastForKernel) {
             double* const row = a.data() + start;
-            sweepKernels().addAndClear(end - first, pivotColumn + first, c, zeroTolerance, row + first);
+            updateKernels().addAndClear(end - first, pivotColumn + first, c, zeroTolerance, row + first);
             return;
         }
     for (int j = first; j < end; ++j) {

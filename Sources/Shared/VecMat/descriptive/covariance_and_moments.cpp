@@ -1,27 +1,11 @@
 #include "covariance_and_moments.h"
 
-#include "../elementary/kernels/operands.h"
 #include "../elementary/packed_storage.h"
-#include "covariance_pass.h"
+#include "covariances_with_moments.h"
 
 using namespace vecmat;
 
 namespace {
-
-/// A packed result, by row and column: cell (i, j) and cell (j, i), from 0, are the same one.
-class PackedResult
-{
-public:
-    explicit PackedResult(matrix* table) : cells_(linear(table)) {}
-
-    double get(int i, int j) const { return cells_.get(position(i, j)); }
-    void set(int i, int j, double value) const { cells_.set(position(i, j), value); }
-
-private:
-    static int position(int i, int j) { return static_cast<int>(static_cast<unsigned>(packedPosition(i, j))); }
-
-    VectorCells<matrix> cells_;
-};
 
 /// What becomes of the cells of X.
 enum class Standardisation { none, centred, reduced, both };
@@ -52,33 +36,6 @@ void standardiseColumn(Cells x, int j, double mean, double variance, Standardisa
     }
 }
 
-/// Stores the covariance of each pair, column number not below row number, with means and variances; the columns are
-/// standardised on the way.
-template <class Out>
-void covariances(matrix* X, int p, Out C, VectorCells<matrix> means, VectorCells<matrix> variances, matrix* w,
-                 const PairOptions& options, Standardisation standardisation)
-{
-    using Sums = RunningCovariance<RowFactor::magnitude>;
-    onBlocks(
-        [&](auto x, auto weight) {
-            const CovariancePass<RowFactor::magnitude, decltype(x), decltype(weight)> pass(x, p, weight, options);
-            for (int j = 0; j < p; ++j) {
-                pass.run(j, [&](int k, const Sums& sums) {
-                    const double covariance = options.quotient(sums.products, sums);
-                    C.set(j, k, covariance);
-                    if (j == k) {
-                        means.set(j, sums.meanX);
-                        variances.set(j, covariance);
-                    }
-                });
-                // No later pair reads column j.
-                if (standardisation != Standardisation::none)
-                    standardiseColumn(x, j, means.get(j), variances.get(j), standardisation, options);
-            }
-        },
-        block(cells(X), options.n, p), block(linear(w), options.n));
-}
-
 template <class Out>
 int covCorrAndMoments(matrix* X, int p, Out C, matrix*& mean, matrix*& stdev, matrix*& var, short corr, matrix* w,
                       const PairOptions& options, Standardisation standardisation, short zeroForMissing)
@@ -86,16 +43,19 @@ int covCorrAndMoments(matrix* X, int p, Out C, matrix*& mean, matrix*& stdev, ma
     matrix::matCheck(mean, p, 1, 0.0);
     matrix::matCheck(stdev, p, 1, 0.0);
     matrix::matCheck(var, p, 1, 0.0);
-    covariances(X, p, C, linear(mean), linear(var), w, options, standardisation);
-    const auto variance = linear(var);
+    const ColumnMoments moments{linear(mean), linear(stdev), linear(var)};
+    onBlocks(
+        [&](auto x, auto weight) {
+            covariances(x, p, weight, options, C, moments, [&](int j) {
+                if (standardisation != Standardisation::none)
+                    standardiseColumn(x, j, moments.means.get(j), moments.variances.get(j), standardisation, options);
+            });
+        },
+        block(cells(X), options.n, p), block(linear(w), options.n));
     if (corr == -1)
-        correlate<NoCorrelation::atZeroOrBelow>(
-            p, fallbackUnlessZero(zeroForMissing), [&](int j) { return variance.get(j); },
-            [&](int j, int k) { return C.get(j, k); }, [&](int j, int k, double r) { C.set(j, k, r); });
+        correlate(p, C, moments, fallbackUnlessZero(zeroForMissing));
     mirrorUpperTriangle(C, p);
-
-    for (int j = 0; j < p; ++j)
-        linear(stdev).set(j, sqr(variance.get(j)));
+    takeRoots(p, moments);
     return 0;
 }
 

@@ -2,47 +2,15 @@
 //
 // Where no cell is missing, every pair has the same rows, and the running means of a column are the same in all of its
 // pairs: the deviations from them are worked out once for each column, and the cross products are a matrix product of
-// deviations, each result the same sum in the same order as that of its pair alone. The scratch memory is a copy of the
-// table and a square of results.
+// deviations, each result the same sum in the same order as that of its pair alone.
 #pragma once
 
-#include "../elementary/kernels/tiled_product.h"
+#include "column_panels.h"
 #include "pair_pass.h"
 
+#include <array>
+
 namespace vecmat {
-
-namespace detail {
-
-/// Deviations by column and row.
-struct DeviationsByColumn
-{
-    using Value = double;
-
-    const ColumnStrips& deviations;
-
-    double get(int j, int k) const { return deviations.cell(k, j); }
-    template <class Visit>
-    static void visitStorage(int /*rows*/, int /*cols*/, Visit /*visit*/)
-    {
-    }
-};
-
-/// Deviations by row and column, times the factor of the row.
-struct ScaledDeviations
-{
-    using Value = double;
-
-    const ColumnStrips& deviations;
-    const double* factors;
-
-    double get(int k, int j) const { return factors[k] * deviations.cell(k, j); }
-    template <class Visit>
-    static void visitStorage(int /*rows*/, int /*cols*/, Visit /*visit*/)
-    {
-    }
-};
-
-} // namespace detail
 
 /// Covariances over complete rows, all computed at once.
 template <RowFactor form>
@@ -53,50 +21,16 @@ public:
     template <class X, class Weight>
     CompleteCovariances(X x, int p, Weight weight, const PairOptions& options)
     {
-        if (p < detail::fewestLines || double{1} * p * p * options.n < detail::fewestProducts)
+        if (!ColumnPanels::payFor(options.n, p))
             return;
-        const Mask mask(options.mask);
-        const RowSelection kept(options.n, [&](int i) { return mask.keeps(i); });
-        // A row of weight 0 counts and moves nothing.
-        const RowSelection moving(options.n, [&](int i) { return mask.keeps(i) && weight.get(i) != 0.0; });
-        if (!kept || !moving || anyMissing(x, kept, p))
-            return;
-        const int rows = moving.count();
-        const ColumnStrips strips(rows, p);
-        const Scratch weights(countOf(rows));
-        const Scratch sums(countOf(rows));
-        Scratch means(countOf(strips.count()) * ColumnStrips::lanes);
-        Scratch products(std::size_t{countOf(p)} * countOf(p));
-        if (!strips || !weights || !sums || !means || !products)
-            return;
-
-        strips.fill(rows, 0, p, [&](int k, int j) { return x.get(moving[k], j); });
-        double W = 0.0;
-        for (int k = 0; k < rows; ++k) {
-            weights.data()[k] = weight.get(moving[k]);
-            W += weights.data()[k];
-            sums.data()[k] = W;
-        }
-        std::fill_n(means.data(), strips.count() * ColumnStrips::lanes, 0.0);
-        for (int s = 0; s < strips.count(); s += 2)
-            momentKernels().deviations(rows, strips.strip(s), strips.size(), std::min(2, strips.count() - s),
-                                       weights.data(), sums.data(), means.data() + s * ColumnStrips::lanes);
-        for (int k = 0; k < rows; ++k)
-            weights.data()[k] = rowFactor<form>(weights.data()[k], sums.data()[k]);
-        constexpr auto missing = MissingFactor::multiplied;
-        if (!detail::multiplyInTiles<missing, ResultPart::lowerMirrored>(
-                detail::DeviationsByColumn{strips}, detail::ScaledDeviations{strips, weights.data()}, {p, rows, p},
-                PlainCells<matrix>(products.data(), p)))
-            return;
-        p_ = p;
-        rows_ = kept.count();
-        weights_ = W;
-        means_.emplace(std::move(means));
-        products_.emplace(std::move(products));
+        panels_.emplace(options.n, p);
+        means_.emplace(countOf(panels_->paddedColumns()));
+        complete_ = *panels_ && *means_ && run(x, p, weight, options);
     }
 
-    explicit operator bool() const { return products_.has_value(); }
+    explicit operator bool() const { return complete_; }
 
+    /// j is at most k.
     RunningCovariance<form> pair(int j, int k) const
     {
         RunningCovariance<form> sums;
@@ -104,26 +38,83 @@ public:
         sums.rows = rows_;
         sums.meanX = means_->data()[j];
         sums.meanY = means_->data()[k];
-        sums.products = products_->data()[std::ptrdiff_t{k} * p_ + j];
+        sums.products = panels_->result(j, k);
         return sums;
     }
 
 private:
+    /// Some rows that move the sums, in their order.
+    struct Rows
+    {
+        static constexpr int most = ColumnPanels::mostRows;
+
+        int count = 0;
+        std::array<int, most> numbers;
+        std::array<double, most> w;
+        std::array<double, most> W; ///< the sum of the weights up to each row
+        std::array<double, most> factors;
+    };
+
+    /// False where a cell is missing.
+    template <class X, class Weight>
+    bool run(X x, int p, Weight weight, const PairOptions& options)
+    {
+        std::fill_n(means_->data(), panels_->paddedColumns(), 0.0);
+        const Mask mask(options.mask);
+        for (int first = 0; first < options.n; first += Rows::most) {
+            Rows rows;
+            for (int i = first; i < options.n && i - first < Rows::most; ++i) {
+                if (!mask.keeps(i))
+                    continue;
+                ++rows_;
+                // A row of weight 0 counts and moves nothing.
+                if (const double w = weight.get(i); w != 0.0)
+                    add(rows, i, w);
+                else if (anyMissing(x, i, p))
+                    return false;
+            }
+            if (panels_->copy(x, rows.count, rows.numbers.data()))
+                return false;
+            multiply(rows);
+        }
+        return true;
+    }
+
+    void add(Rows& rows, int i, double w)
+    {
+        weights_ += w;
+        const auto k = countOf(rows.count++);
+        rows.numbers[k] = i;
+        rows.w[k] = w;
+        rows.W[k] = weights_;
+        rows.factors[k] = rowFactor<form>(w, weights_);
+    }
+
     template <class X>
-    static bool anyMissing(X x, const RowSelection& rows, int p)
+    static bool anyMissing(X x, int i, int p)
     {
         for (int j = 0; j < p; ++j)
-            for (int k = 0; k < rows.count(); ++k)
-                if (isMissing(x.get(rows[k], j)))
-                    return true;
+            if (isMissing(x.get(i, j)))
+                return true;
         return false;
     }
 
-    int p_ = 0;
+    void multiply(const Rows& rows) const
+    {
+        panels_->visitLeft([&](double* panel, int column) {
+            momentKernels().deviations(rows.count, panel, rows.w.data(), rows.W.data(), means_->data() + column);
+        });
+        panels_->scale(rows.count, rows.factors.data());
+        panels_->visitTiles([&](const double* left, const double* right, double* tile) {
+            tileKernels().add(rows.count, left, right, tile);
+        });
+    }
+
+    bool complete_ = false;
     int rows_ = 0;
     double weights_ = 0.0;
+    std::optional<ColumnPanels> panels_;
     std::optional<Scratch> means_;
-    std::optional<Scratch> products_;
 };
 
 /// Pairs each column of `x` with itself and the later ones.

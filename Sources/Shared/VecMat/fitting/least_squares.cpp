@@ -12,23 +12,40 @@ using namespace vecmat;
 
 namespace {
 
-/// The moments of the model's columns and the response.
-ModelMoments momentsOf(matrix* z, int m, matrix* y, int n, matrix* w, double W, Intercept intercept)
+/// The model's columns and the response, as one table.
+TableHandle merged(matrix* z, int m, matrix* y, int n)
 {
-    TableHandle merged;
-    HMergeTables(z, n, m, y, n, 1, merged.reference());
+    TableHandle table;
+    HMergeTables(z, n, m, y, n, 1, table.reference());
+    return table;
+}
+
+/// The moments of the model's columns and the response, centred.
+ModelMoments momentsOf(matrix* z, int m, matrix* y, int n, matrix* w)
+{
+    ModelMoments moments(m);
+    ModelColumns variables = columnsOf(z, m);
+    variables.push_back({y, 0});
+    if (correlateAboutMeans(moments, variables, n, w))
+        return moments;
+    TableHandle table = merged(z, m, y, n);
+    TableHandle variance;
+    // It is a copy, of which nobody sees whether it is standardised.
+    M_CovCorrVAndMeanStDevVar(table.reference(), n, m + 1, moments.packed.reference(), moments.mean.reference(),
+                              moments.deviation.reference(), variance.reference(), -1, nullptr, w, -1, -1, 0, 0, -1);
+    return moments;
+}
+
+/// The same about the origin.
+ModelMoments rawMomentsOf(matrix* z, int m, matrix* y, int n, matrix* w, double W)
+{
+    const TableHandle table = merged(z, m, y, n);
     std::vector<short> everyRow(countOf(n), 0);
     ModelMoments moments(m);
     TableHandle variance;
-    if (intercept == Intercept::fitted) {
-        M_CovCorrVAndMeanStDevVar(merged.reference(), n, m + 1, moments.packed.reference(), moments.mean.reference(),
-                                  moments.deviation.reference(), variance.reference(), -1, everyRow.data(), w, -1, -1,
-                                  -1, -1, -1);
-    } else {
-        M_MeanStDevVar(merged, n, m + 1, moments.mean.reference(), moments.deviation.reference(), variance.reference(),
-                       everyRow.data(), w, -1, -1);
-        correlateAboutOrigin(moments, columnsOf(merged, m + 1), n, w, W, MissingDeviation::uncorrelated);
-    }
+    M_MeanStDevVar(table, n, m + 1, moments.mean.reference(), moments.deviation.reference(), variance.reference(),
+                   everyRow.data(), w, -1, -1);
+    correlateAboutOrigin(moments, columnsOf(table, m + 1), n, w, W, MissingDeviation::uncorrelated);
     return moments;
 }
 
@@ -39,9 +56,10 @@ ModelMoments fit(int n, matrix* X, matrix* y, matrix* w, const ModelShape& shape
     const double W = V_Sum2(w, n);
     const TableHandle made = shape.isLinear() ? TableHandle() : widened(X, n, shape);
     matrix* const z = shape.isLinear() ? X : made;
-    ModelMoments moments = momentsOf(z, shape.columns(), y, n, w, W, intercept);
+    const int m = shape.columns();
+    ModelMoments moments = intercept == Intercept::fitted ? momentsOf(z, m, y, n, w) : rawMomentsOf(z, m, y, n, w, W);
     enterColumns(moments, tol);
-    estimate(moments, columnsOf(z, shape.columns()), n, W, intercept, results);
+    estimate(moments, columnsOf(z, m), n, W, intercept, results);
     return moments;
 }
 

@@ -2,9 +2,24 @@
 
 namespace vecmat {
 
+std::optional<PlainModelCells> PlainModelCells::of(const ModelColumns& columns, int n)
+{
+    PlainModelCells result;
+    result.columns_.reserve(columns.size());
+    for (const ModelColumn& column : columns) {
+        const auto cells = block(column.cells(), n, 1);
+        if (!cells.inside)
+            return std::nullopt;
+        const matrix* const table = column.table;
+        result.columns_.push_back(n > 0 ? table->X + std::ptrdiff_t{table->nRows} * column.number : nullptr);
+    }
+    return result;
+}
+
 ModelColumns columnsOf(matrix* table, int count)
 {
     ModelColumns columns;
+    columns.reserve(countOf(count) + std::size_t{1}); // the response may follow
     for (int j = 0; j < count; ++j)
         columns.push_back({table, j});
     return columns;

@@ -5,6 +5,7 @@
 #include "../frame/handles.h"
 #include "../matrix.h"
 
+#include <optional>
 #include <vector>
 
 namespace vecmat {
@@ -20,6 +21,26 @@ struct ModelColumn
 };
 
 using ModelColumns = std::vector<ModelColumn>;
+
+/// Columns that lie inside their tables, as the columns of one table.
+class PlainModelCells
+{
+public:
+    /// None where one of them does not have n rows.
+    static std::optional<PlainModelCells> of(const ModelColumns& columns, int n);
+
+    const double* column(int j) const { return columns_[countOf(j)]; }
+    /// For the passes over columns. It must not outlive this.
+    struct Cells
+    {
+        const double* const* columns;
+        double get(int i, int j) const { return columns[j][i]; }
+    };
+    Cells cells() const { return {columns_.data()}; }
+
+private:
+    std::vector<const double*> columns_;
+};
 
 /// The first `count` columns of a table.
 ModelColumns columnsOf(matrix* table, int count);

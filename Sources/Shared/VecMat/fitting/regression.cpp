@@ -1,11 +1,18 @@
 #include "regression.h"
 
 #include "../decompositions/sweep.h"
+#include "../descriptive/column_panels.h"
+#include "../descriptive/covariances_with_moments.h"
+#include "../elementary/kernels/update_kernels.h"
 #include "../frame/companions.h"
 #include "../frame/missing_value.h"
 #include "tolerance_check.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace vecmat {
 namespace {
@@ -27,6 +34,38 @@ double crossProduct(const ModelColumn& a, const ModelColumn& b, int n, matrix* w
             return sum;
         },
         block(a.cells(), n, 1), block(b.cells(), n, 1), block(linear(w), n));
+}
+
+/// The cross products of all variables at once; none where that does not pay or memory is short.
+std::optional<ColumnPanels> crossProducts(const ModelColumns& variables, int n, matrix* w)
+{
+    const int p = static_cast<int>(variables.size());
+    const auto weight = block(linear(w), n);
+    const auto x = PlainModelCells::of(variables, n);
+    if (!x || !weight.inside || !ColumnPanels::payFor(n, p))
+        return std::nullopt;
+    std::optional<ColumnPanels> panels(std::in_place, n, p);
+    if (!*panels)
+        return std::nullopt;
+    constexpr int most = ColumnPanels::mostRows;
+    std::array<double, most> ones;
+    ones.fill(1.0);
+    for (int first = 0; first < n; first += most) {
+        int count = 0;
+        std::array<int, most> numbers;
+        std::array<double, most> weights;
+        for (int i = first; i < n && i - first < most; ++i)
+            if (const double wi = w->X[i]; wi != 0.0) {
+                numbers[countOf(count)] = i;
+                weights[countOf(count++)] = wi;
+            }
+        panels->copy(x->cells(), count, numbers.data());
+        panels->scale(count, ones.data());
+        panels->visitTiles([&](const double* left, const double* right, double* tile) {
+            tileKernels().addWeighted(count, left, right, weights.data(), tile);
+        });
+    }
+    return panels;
 }
 
 void estimateSlopes(const ModelMoments& moments, int n, const FitResults& results)
@@ -81,21 +120,33 @@ void estimateIntercept(const ModelMoments& moments, int n, double W, const FitRe
     results.se->X[m] = sqr(interceptVariance(moments, n, W, results.se));
 }
 
-/// Column by column: the terms of each row are still added in the order of the columns.
+/// Some rows at a time, column by column: the terms of each row are still added in the order of the columns.
+void fillFitted(const PlainModelCells& columns, int count, int n, const FitResults& results)
+{
+    constexpr int rowsAtOnce = 512;
+    const double* const beta = results.beta->X;
+    std::array<double, rowsAtOnce> sums;
+    for (int first = 0; first < n; first += rowsAtOnce) {
+        const int rows = std::min(rowsAtOnce, n - first);
+        std::fill_n(sums.data(), rows, beta[count]);
+        for (int k = 0; k < count; ++k)
+            updateKernels().addPresent(rows, columns.column(k) + first, beta[k], sums.data());
+        std::copy_n(sums.data(), rows, results.fitted->X + first);
+    }
+}
+
 void fillFitted(const ModelColumns& columns, int n, const FitResults& results)
 {
-    double* const fitted = results.fitted->X;
-    const double* const beta = results.beta->X;
-    for (int i = 0; i < n; ++i)
-        fitted[i] = beta[columns.size()];
-    for (std::size_t k = 0; k < columns.size(); ++k)
-        onBlocks(
-            [&](auto x) {
-                for (int i = 0; i < n; ++i)
-                    if (!isMissing(x.get(i, 0)))
-                        fitted[i] += beta[k] * x.get(i, 0);
-            },
-            block(columns[k].cells(), n, 1));
+    const int count = static_cast<int>(columns.size());
+    if (const auto plain = PlainModelCells::of(columns, n))
+        return fillFitted(*plain, count, n, results);
+    for (int i = 0; i < n; ++i) {
+        double sum = results.beta->X[count];
+        for (int k = 0; k < count; ++k)
+            if (const double x = columns[countOf(k)].cells().get(i, 0); !isMissing(x))
+                sum += results.beta->X[k] * x;
+        results.fitted->X[i] = sum;
+    }
 }
 
 } // namespace
@@ -104,6 +155,26 @@ ModelMoments::ModelMoments(int columns)
     : packed(fresh(static_cast<int>(packedPosition(columns + 1, 0)), 1)), mean(fresh(columns + 1, 1)),
       deviation(fresh(columns + 1, 1)), columns_(columns)
 {
+}
+
+bool correlateAboutMeans(const ModelMoments& moments, const ModelColumns& variables, int n, matrix* w)
+{
+    const auto x = PlainModelCells::of(variables, n);
+    const auto weight = block(linear(w), n);
+    if (!x || !weight.inside)
+        return false;
+    const int p = moments.columns() + 1;
+    const TableHandle variance = fresh(p, 1);
+    const ColumnMoments results{linear<matrix>(moments.mean), linear<matrix>(moments.deviation),
+                                linear<matrix>(variance)};
+    const PackedResult correlations(moments.packed);
+    constexpr short corrected = -1;
+    constexpr short frequencies = -1;
+    covariances(x->cells(), p, weight.checked.plain(), {n, nullptr, corrected, frequencies}, correlations, results,
+                [](int) {});
+    correlate(p, correlations, results, 0.0);
+    takeRoots(p, results);
+    return true;
 }
 
 void correlateAboutOrigin(const ModelMoments& moments, const ModelColumns& variables, int n, matrix* w, double W,
@@ -115,11 +186,13 @@ void correlateAboutOrigin(const ModelMoments& moments, const ModelColumns& varia
             return true;
         return !(sd[a] * sd[b] > negligible);
     };
+    const std::optional<ColumnPanels> products = crossProducts(variables, n, w);
+    const auto product = [&](int a, int b) {
+        return products ? products->result(b, a) : crossProduct(variables[countOf(a)], variables[countOf(b)], n, w);
+    };
     for (int a = 0; a <= moments.columns(); ++a)
         for (int b = 0; b <= a; ++b)
-            moments.at(a, b) = uncorrelated(a, b) ? 0.0
-                                                  : crossProduct(variables[countOf(a)], variables[countOf(b)], n, w) /
-                                                        (W - 1.0) / (sd[a] * sd[b]);
+            moments.at(a, b) = uncorrelated(a, b) ? 0.0 : product(a, b) / (W - 1.0) / (sd[a] * sd[b]);
 }
 
 FitResults prepared(matrix*& beta, matrix*& se, matrix*& fitted, int columns, int n)

@@ -36,6 +36,10 @@ private:
     int columns_;
 };
 
+/// Correlations about the means over the rows of each pair, with weights that are frequencies; 0.0 where there is none.
+/// False, with nothing done, where a column or the weights do not have n rows.
+bool correlateAboutMeans(const ModelMoments& moments, const ModelColumns& variables, int n, matrix* w);
+
 /// What the coefficients of a line through the origin do about a standard deviation that could not be computed.
 enum class MissingDeviation {
     uncorrelated, ///< its variable correlates with none

@@ -42,11 +42,14 @@ struct MomentKernels
     void (*addMoments)(int count, const double* cells, std::ptrdiff_t strip, int strips, const double* w,
                        Moments* moments);
 
-    /// For rows without missing cells and of weights that are not 0: writes d = x - mean over the cells, and updates
+    /// For rows without missing cells and of weights that are not 0, in a panel that has as many columns as a tile
+    /// rows, the cells of one row next to each other: writes d = x - mean over the cells, and updates
     ///     mean = mean + d w / W
     /// where `W` holds the sum of the weights up to each row.
-    void (*deviations)(int count, double* cells, std::ptrdiff_t strip, int strips, const double* w, const double* W,
-                       double* mean);
+    void (*deviations)(int count, double* panel, const double* w, const double* W, double* mean);
+    /// Copies as many columns of such a panel as a tile has, each cell times the factor of its row:
+    ///     to = factor d
+    void (*scale)(int count, const double* panel, const double* factors, double* to);
 
     /// For each row where neither x nor the lane's y is the missing value: rows = rows + 1, W = W + w, and unless w is 0
     ///     dx = x - meanX     dy = y - meanY     f = w - w w / W

@@ -1,7 +1,7 @@
 #include "moment_kernels.h"
 
 #include "../../frame/missing_value.h"
-#include "lanes.h"
+#include "tile_shape.h"
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
@@ -73,33 +73,26 @@ void addMoments(int count, const double* cells, std::ptrdiff_t strip, int strips
 
 // ---- deviations from the running means ------------------------------------------------------------------------------
 
-template <int strips>
-void deviationsOf(int count, double* cells, std::ptrdiff_t strip, const double* w, const double* W, double* mean)
+void deviations(int count, double* panel, const double* w, const double* W, double* mean)
 {
-    Lanes means[strips][vectors];
-    for (int s = 0; s < strips; ++s)
-        for (int v = 0; v < vectors; ++v)
-            means[s][v] = load(mean + s * lanes + v * laneCount);
-    for (int i = 0; i < count; ++i)
-        for (int s = 0; s < strips; ++s)
-            for (int v = 0; v < vectors; ++v) {
-                double* cell = cells + s * strip + i * std::ptrdiff_t{lanes} + v * laneCount;
-                const Lanes d = load(cell) - means[s][v];
-                store(cell, d);
-                means[s][v] += d * w[i] / W[i];
-            }
-    for (int s = 0; s < strips; ++s)
-        for (int v = 0; v < vectors; ++v)
-            store(mean + s * lanes + v * laneCount, means[s][v]);
+    Lanes means[tileVectors];
+    for (int v = 0; v < tileVectors; ++v)
+        means[v] = load(mean + v * laneCount);
+    for (int i = 0; i < count; ++i, panel += tileRows)
+        for (int v = 0; v < tileVectors; ++v) {
+            const Lanes d = load(panel + v * laneCount) - means[v];
+            store(panel + v * laneCount, d);
+            means[v] += d * w[i] / W[i];
+        }
+    for (int v = 0; v < tileVectors; ++v)
+        store(mean + v * laneCount, means[v]);
 }
 
-void deviations(int count, double* cells, std::ptrdiff_t strip, int strips, const double* w, const double* W,
-                double* mean)
+void scale(int count, const double* panel, const double* factors, double* to)
 {
-    if (strips == 2)
-        deviationsOf<2>(count, cells, strip, w, W, mean);
-    else
-        deviationsOf<1>(count, cells, strip, w, W, mean);
+    for (int i = 0; i < count; ++i, panel += tileRows, to += tileCols)
+        for (int c = 0; c < tileCols; c += laneCount)
+            store(to + c, factors[i] * load(panel + c));
 }
 
 // ---- pairs ----------------------------------------------------------------------------------------------------------
@@ -186,7 +179,7 @@ void addPairs(int count, const double* x, const double* y, const double* w, Mome
 
 } // namespace
 
-const MomentKernels momentKernels = {addMoments, deviations, addPairs<Covariance>, addPairs<CovarianceOfMagnitude>,
-                                     addPairs<Correlation>};
+const MomentKernels momentKernels = {
+    addMoments, deviations, scale, addPairs<Covariance>, addPairs<CovarianceOfMagnitude>, addPairs<Correlation>};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

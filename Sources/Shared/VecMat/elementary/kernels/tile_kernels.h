@@ -8,8 +8,9 @@ namespace vecmat {
 /// A tile has `rows` by `cols` results, column by column without gaps. The operands come packed: of the left one `rows`
 /// numbers for each k, of the right one `cols` numbers for each k. For k from 0 to inner - 1, and for each result by
 /// itself,
-///     add        tile(i, j) = tile(i, j) + left(i, k) * right(k, j)
-///     subtract   tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
+///     add            tile(i, j) = tile(i, j) + left(i, k) * right(k, j)
+///     subtract       tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
+///     addWeighted    tile(i, j) = tile(i, j) + left(i, k) * right(k, j) * weights(k)
 /// each product and each sum rounded.
 ///
 /// `substitute` solves a triangular system whose left side, of `count` rows and columns, at most `rows`, has a diagonal
@@ -26,6 +27,7 @@ struct TileKernels
     int cols;
     void (*add)(int inner, const double* left, const double* right, double* tile);
     void (*subtract)(int inner, const double* left, const double* right, double* tile);
+    void (*addWeighted)(int inner, const double* left, const double* right, const double* weights, double* tile);
     void (*substitute)(int count, const double* left, double* right, double* tile);
 };
 

@@ -1,37 +1,34 @@
 #include "tile_kernels.h"
 
-#include "lanes.h"
+#include "tile_shape.h"
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-// As many results as the registers hold, with room for one column of the left operand and a product.
-#if defined(__AVX512F__)
-constexpr int vectors = 3;
-constexpr int cols = 8;
-#elif defined(__AVX__)
-constexpr int vectors = 3;
-constexpr int cols = 4;
-#else
-constexpr int vectors = 2;
-constexpr int cols = 4;
-#endif
-constexpr int rows = vectors * laneCount;
+constexpr int vectors = tileVectors;
+constexpr int rows = tileRows;
+constexpr int cols = tileCols;
 static_assert(rows <= TileKernels::mostRows && cols <= TileKernels::mostCols);
 
 struct Plus
 {
-    Lanes operator()(Lanes sum, Lanes product) const { return sum + product; }
+    Lanes operator()(Lanes sum, Lanes product, int /*k*/) const { return sum + product; }
 };
 
 struct Minus
 {
-    Lanes operator()(Lanes sum, Lanes product) const { return sum - product; }
+    Lanes operator()(Lanes sum, Lanes product, int /*k*/) const { return sum - product; }
+};
+
+struct PlusWeighted
+{
+    const double* weights;
+    Lanes operator()(Lanes sum, Lanes product, int k) const { return sum + product * weights[k]; }
 };
 
 template <class Join>
-void accumulate(int inner, const double* left, const double* right, double* tile)
+void accumulate(int inner, const double* left, const double* right, Join join, double* tile)
 {
     Lanes sums[cols][vectors];
     for (int j = 0; j < cols; ++j)
@@ -47,7 +44,7 @@ void accumulate(int inner, const double* left, const double* right, double* tile
             const Lanes factor = inEachLane(right[j]);
 #pragma GCC unroll 8
             for (int v = 0; v < vectors; ++v)
-                sums[j][v] = Join()(sums[j][v], column[v] * factor);
+                sums[j][v] = join(sums[j][v], column[v] * factor, k);
         }
         left += rows;
         right += cols;
@@ -55,6 +52,21 @@ void accumulate(int inner, const double* left, const double* right, double* tile
     for (int j = 0; j < cols; ++j)
         for (int v = 0; v < vectors; ++v)
             store(tile + j * rows + v * laneCount, sums[j][v]);
+}
+
+void add(int inner, const double* left, const double* right, double* tile)
+{
+    accumulate(inner, left, right, Plus{}, tile);
+}
+
+void subtract(int inner, const double* left, const double* right, double* tile)
+{
+    accumulate(inner, left, right, Minus{}, tile);
+}
+
+void addWeighted(int inner, const double* left, const double* right, const double* weights, double* tile)
+{
+    accumulate(inner, left, right, PlusWeighted{weights}, tile);
 }
 
 /// The numbers of the lanes.
@@ -91,6 +103,6 @@ void substitute(int count, const double* left, double* right, double* tile)
 
 } // namespace
 
-const TileKernels tileKernels = {rows, cols, accumulate<Plus>, accumulate<Minus>, substitute};
+const TileKernels tileKernels = {rows, cols, add, subtract, addWeighted, substitute};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

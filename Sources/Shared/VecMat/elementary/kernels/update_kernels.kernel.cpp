@@ -1,4 +1,6 @@
-#include "sweep_kernels.h"
+#include "update_kernels.h"
+
+#include "../../frame/missing_value.h"
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
@@ -12,8 +14,16 @@ void addAndClear(int count, const double* __restrict column, double factor, doub
     }
 }
 
+void addPresent(int count, const double* __restrict column, double factor, double* __restrict sums)
+{
+    for (int j = 0; j < count; ++j) {
+        const double sum = sums[j] + factor * column[j];
+        sums[j] = column[j] == missingValue ? sums[j] : sum;
+    }
+}
+
 } // namespace
 
-const SweepKernels sweepKernels = {addAndClear};
+const UpdateKernels updateKernels = {addAndClear, addPresent};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -1,0 +1,21 @@
+// How large a tile is with the instruction set that a kernel is compiled for. For the sources of kernels only.
+#pragma once
+
+#include "lanes.h"
+
+namespace vecmat::VECMAT_INSTRUCTION_SET {
+
+// As many results as the registers hold, with room for one column of the left operand and a product.
+#if defined(__AVX512F__)
+inline constexpr int tileVectors = 3;
+inline constexpr int tileCols = 8;
+#elif defined(__AVX__)
+inline constexpr int tileVectors = 3;
+inline constexpr int tileCols = 4;
+#else
+inline constexpr int tileVectors = 2;
+inline constexpr int tileCols = 4;
+#endif
+inline constexpr int tileRows = tileVectors * laneCount;
+
+} // namespace vecmat::VECMAT_INSTRUCTION_SET
