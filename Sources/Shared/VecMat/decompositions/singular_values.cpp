@@ -2,7 +2,9 @@
 
 #include "../frame/cells.h"
 #include "../frame/handles.h"
+#include "storage_overlap.h"
 #include "svd_iteration.h"
+#include "svd_workspace.h"
 
 #include <algorithm>
 
@@ -18,14 +20,53 @@ void copyBlock(From from, To to, int rows, int cols)
             to.set(i, j, from.get(i, j));
 }
 
+/// A smaller table is done before a workspace is set up.
+constexpr int fewestRows = 12;
+constexpr int fewestColumns = 8;
+
+/// As `decompose`, where the order of work cannot be seen.
+template <class From, class Left, class Right>
+bool decomposeApart(From x, int n, int p, matrix* s, PlainVector<matrix> values, Left u, Right v,
+                    SingularVectors wanted, int& info)
+{
+    const int rowsU = wanted.left ? n : 0;
+    const int rowsV = wanted.right ? p : 0;
+    if (x.folds(n, p) || u.folds(rowsU, wanted.leftColumns) || v.folds(rowsV, p) || !standApart([=](auto visit) {
+            x.visitStorage(n, p, visit);
+            values.visitStorage(std::min(n + 1, p), visit);
+            u.visitStorage(rowsU, wanted.leftColumns, visit);
+            v.visitStorage(rowsV, p, visit);
+        }))
+        return false;
+    return decomposeInWorkspace(x, n, p, s, u, v, wanted, info);
+}
+
+/// Works on x itself, and restores it.
 template <class Store, class Cells>
-int decompose(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, SingularVectors wanted)
+int decomposeInPlace(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, SingularVectors wanted)
 {
     matrix saved(n, p, 0.0);
     copyBlock(xCells, cells(&saved), n, p);
-    const int info = SvdIteration<Store>(x, n, p, s, u, v, wanted).run();
+    DirectVectors<Store> left(u, n);
+    DirectVectors<Store> right(v, p);
+    const int info = SvdIteration<Store, DirectVectors<Store>>(x, n, p, s, left, right, wanted).run();
     copyBlock(cells(&saved), xCells, n, p);
     return info;
+}
+
+template <class Table, class Store>
+int decompose(Table x, Store xStore, int n, int p, matrix* s, Table u, Store uStore, Table v, Store vStore,
+              SingularVectors wanted)
+{
+    int info = 0;
+    const bool done =
+        n >= fewestRows && p >= fewestColumns &&
+        onBlocksOrElse([&](auto from, auto values, auto left,
+                           auto right) { return decomposeApart(from, n, p, s, values, left, right, wanted, info); },
+                       [](auto...) { return false; }, block(cells(x), n, p), block(linear(s), std::min(n + 1, p)),
+                       block(cells(u), wanted.left ? n : 0, wanted.leftColumns),
+                       block(cells(v), wanted.right ? p : 0, p));
+    return done ? info : decomposeInPlace(xStore, cells(x), n, p, s, uStore, vStore, wanted);
 }
 
 } // namespace
@@ -33,7 +74,7 @@ int decompose(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, 
 void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info)
 {
     *info = 0;
-    *info = decompose(TableStore(x), cells(x), n, p, s, TableStore(u), TableStore(v), SingularVectors(job, n, p));
+    *info = decompose(x, TableStore(x), n, p, s, u, TableStore(u), v, TableStore(v), SingularVectors(job, n, p));
 }
 
 void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, int job, int* info)
@@ -43,7 +84,7 @@ void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, 
     // A table with more columns than rows has a value without a left vector: where cells that are no numbers let a
     // split reach it, its column does not exist.
     *info =
-        decompose(ColumnStore(x, p), cells(x), n, p, s, ColumnStore(u, wanted.leftColumns), ColumnStore(v, p), wanted);
+        decompose(x, ColumnStore(x, p), n, p, s, u, ColumnStore(u, wanted.leftColumns), v, ColumnStore(v, p), wanted);
 }
 
 int M_Rank(matrix* a, int n, int p)

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <type_traits>
 
 namespace vecmat {
 
@@ -111,14 +112,25 @@ private:
     int count_;
 };
 
+/// Runs `body` on the plain runs where all of them lie inside their tables, else on the checked ones.
+template <class Body, class... Stretches>
+decltype(auto) onRuns(Body body, int count, Stretches... stretches)
+{
+    if constexpr ((std::is_same_v<Stretches, PlainStretch> && ...))
+        return body(stretches...);
+    else
+        return onBlocks(body, block(stretches, count)...);
+}
+
 /// Euclidean norm by a running scale and sum of squares, which neither overflows nor underflows on the way.
-inline double norm(int count, Stretch stretch)
+template <class Run>
+double norm(int count, Run stretch)
 {
     if (count < 1)
         return 0.0;
     if (count == 1)
         return std::fabs(stretch.get(0));
-    return onBlocks(
+    return onRuns(
         [count](auto x) {
             double scale = 0.0;
             double ssq = 1.0;
@@ -138,31 +150,32 @@ inline double norm(int count, Stretch stretch)
             }
             return scale * sqr(ssq);
         },
-        block(stretch, count));
+        count, stretch);
 }
 
 /// x = a x.
-inline void multiply(int count, double a, Stretch stretch)
+template <class Run>
+void multiply(int count, double a, Run stretch)
 {
-    onBlocks(
+    onRuns(
         [=](auto x) {
             for (int k = 0; k < count; ++k)
                 x.set(k, a * x.get(k));
         },
-        block(stretch, count));
+        count, stretch);
 }
 
 /// Inner product.
 inline double innerProduct(int count, Stretch left, Stretch right)
 {
-    return onBlocks(
+    return onRuns(
         [count](auto x, auto y) {
             double sum = 0.0;
             for (int k = 0; k < count; ++k)
                 sum += x.get(k) * y.get(k);
             return sum;
         },
-        block(left, count), block(right, count));
+        count, left, right);
 }
 
 /// y = y + a x; nothing is touched where a is exactly 0.
@@ -170,18 +183,18 @@ inline void addMultiple(int count, double a, Stretch source, Stretch target)
 {
     if (a == 0.0)
         return;
-    onBlocks(
+    onRuns(
         [=](auto x, auto y) {
             for (int k = 0; k < count; ++k)
                 y.set(k, y.get(k) + a * x.get(k));
         },
-        block(source, count), block(target, count));
+        count, source, target);
 }
 
 /// Plane rotation: x' = c x + s y, y' = c y - s x.
 inline void rotate(int count, Stretch left, Stretch right, double c, double s)
 {
-    onBlocks(
+    onRuns(
         [=](auto x, auto y) {
             for (int k = 0; k < count; ++k) {
                 const double rotated = c * x.get(k) + s * y.get(k);
@@ -189,12 +202,12 @@ inline void rotate(int count, Stretch left, Stretch right, double c, double s)
                 x.set(k, rotated);
             }
         },
-        block(left, count), block(right, count));
+        count, left, right);
 }
 
 inline void exchange(int count, Stretch left, Stretch right)
 {
-    onBlocks(
+    onRuns(
         [=](auto x, auto y) {
             for (int k = 0; k < count; ++k) {
                 const double kept = x.get(k);
@@ -202,7 +215,7 @@ inline void exchange(int count, Stretch left, Stretch right)
                 y.set(k, kept);
             }
         },
-        block(left, count), block(right, count));
+        count, left, right);
 }
 
 /// A Givens rotation that brings (a, b) to (r, 0): a becomes r, b the number z from which the rotation can be rebuilt.

@@ -23,11 +23,60 @@ struct SingularVectors
     }
 };
 
+// ---- the two reflections, column after column ----
+
+/// Columns `first` to `last` less their parts along the reflection that stands in column `l` from `row` on; `then(j)`
+/// after each.
+template <class Store, class Then>
+void reflectColumns(Store store, int l, int first, int last, int row, int count, Then then)
+{
+    const Stretch reflection = store.from(row, l, count);
+    for (int j = first; j <= last; ++j) {
+        const Stretch target = store.from(row, j, count);
+        addMultiple(count, -innerProduct(count, reflection, target) / store.get(row, l), reflection, target);
+        then(j);
+    }
+}
+
+/// The rows of columns `first` to `last`, from row `first` on, less their parts along the reflection that stands in `e`.
 template <class Store>
+void reflectRows(Store store, int first, int last, int count, TableStore e, TableStore work)
+{
+    for (int i = 0; i < count; ++i)
+        work.set(first + i, 1, 0.0);
+    const Stretch products = work.from(first, 1, count);
+    for (int j = first; j <= last; ++j)
+        addMultiple(count, e.get(j, 1), store.from(first, j, count), products);
+    for (int j = first; j <= last; ++j)
+        addMultiple(count, -e.get(j, 1) / e.get(first, 1), products, store.from(first, j, count));
+}
+
+/// Singular vectors that are worked on as soon as they are asked to be.
+template <class Store>
+class DirectVectors
+{
+public:
+    DirectVectors(Store store, int rows) : store_(store), rows_(rows) {}
+
+    Store columns() const { return store_; }
+    void rotate(int k, int other, Rotation rotation)
+    {
+        vecmat::rotate(rows_, store_.from(1, k, rows_), store_.from(1, other, rows_), rotation.c, rotation.s);
+    }
+    void negate(int k) { multiply(rows_, -1.0, store_.from(1, k, rows_)); }
+    void exchangeWithNext(int k) { exchange(rows_, store_.from(1, k, rows_), store_.from(1, k + 1, rows_)); }
+
+private:
+    Store store_;
+    int rows_;
+};
+
+/// `Vectors` are columns that an iteration rotates and brings into order, without looking at them.
+template <class Store, class Vectors>
 class SvdIteration
 {
 public:
-    SvdIteration(Store x, int n, int p, matrix* s, Store u, Store v, SingularVectors wanted)
+    SvdIteration(Store x, int n, int p, matrix* s, Vectors& u, Vectors& v, SingularVectors wanted)
         : x_(x), n_(n), p_(p), s_(s), u_(u), v_(v), wanted_(wanted), superdiagonal_(p, 1, 0.0), products_(n, 1, 0.0),
           e_(&superdiagonal_), work_(&products_), reducedColumns_(std::min(n - 1, p)),
           reducedRows_(std::max(0, std::min(p - 2, n)))
@@ -62,29 +111,22 @@ private:
     {
         for (int l = 1; l <= std::max(reducedColumns_, reducedRows_); ++l) {
             if (l <= reducedColumns_)
-                reflectColumn(l);
-            for (int j = l + 1; j <= p_; ++j) {
-                if (l <= reducedColumns_ && isNonZero(s(l)))
-                    applyReflection(x_, l, j, l, n_ - l + 1);
-                setE(j, x_.get(l, j));
-            }
+                makeColumnReflection(l);
+            const auto takeRow = [&](int j) { setE(j, x_.get(l, j)); };
+            if (l <= reducedColumns_ && isNonZero(s(l)))
+                reflectColumns(x_, l, l + 1, p_, l, n_ - l + 1, takeRow);
+            else
+                for (int j = l + 1; j <= p_; ++j)
+                    takeRow(j);
             if (wanted_.left && l <= reducedColumns_)
                 for (int i = l; i <= n_; ++i)
-                    u_.set(i, l, x_.get(i, l));
+                    u_.columns().set(i, l, x_.get(i, l));
             if (l <= reducedRows_)
-                reflectRow(l);
+                makeRowReflection(l);
         }
     }
 
-    /// Column `col` of `store` less its part along the reflection that stands in column `l` from `row` on.
-    void applyReflection(Store store, int l, int col, int row, int count)
-    {
-        const Stretch reflection = store.from(row, l, count);
-        const Stretch target = store.from(row, col, count);
-        addMultiple(count, -innerProduct(count, reflection, target) / store.get(row, l), reflection, target);
-    }
-
-    void reflectColumn(int l)
+    void makeColumnReflection(int l)
     {
         const int count = n_ - l + 1;
         setS(l, norm(count, x_.from(l, l, count)));
@@ -98,7 +140,7 @@ private:
         setS(l, -s(l));
     }
 
-    void reflectRow(int l)
+    void makeRowReflection(int l)
     {
         const int next = l + 1;
         setE(l, norm(p_ - l, e_.from(next, 1, p_ - l)));
@@ -109,18 +151,11 @@ private:
             setE(next, e(next) + 1.0);
         }
         setE(l, -e(l));
-        if (next <= n_ && isNonZero(e(l))) {
-            const int count = n_ - l;
-            for (int i = next; i <= n_; ++i)
-                work_.set(i, 1, 0.0);
-            for (int j = next; j <= p_; ++j)
-                addMultiple(count, e(j), x_.from(next, j, count), work_.from(next, 1, count));
-            for (int j = next; j <= p_; ++j)
-                addMultiple(count, -e(j) / e(next), work_.from(next, 1, count), x_.from(next, j, count));
-        }
+        if (next <= n_ && isNonZero(e(l)))
+            reflectRows(x_, next, p_, n_ - l, e_, work_);
         if (wanted_.right)
             for (int i = next; i <= p_; ++i)
-                v_.set(i, l, e(i));
+                v_.columns().set(i, l, e(i));
     }
 
     void closeBidiagonal()
@@ -146,30 +181,30 @@ private:
 
     void formLeft()
     {
+        const Store u = u_.columns();
         for (int j = reducedColumns_ + 1; j <= wanted_.leftColumns; ++j)
-            setUnitColumn(u_, j, n_);
+            setUnitColumn(u, j, n_);
         for (int l = reducedColumns_; l >= 1; --l) {
             if (!isNonZero(s(l))) {
-                setUnitColumn(u_, l, n_);
+                setUnitColumn(u, l, n_);
                 continue;
             }
             const int count = n_ - l + 1;
-            for (int j = l + 1; j <= wanted_.leftColumns; ++j)
-                applyReflection(u_, l, j, l, count);
-            multiply(count, -1.0, u_.from(l, l, count));
-            u_.set(l, l, u_.get(l, l) + 1.0);
+            reflectColumns(u, l, l + 1, wanted_.leftColumns, l, count, [](int) {});
+            multiply(count, -1.0, u.from(l, l, count));
+            u.set(l, l, u.get(l, l) + 1.0);
             for (int i = 1; i < l; ++i)
-                u_.set(i, l, 0.0);
+                u.set(i, l, 0.0);
         }
     }
 
     void formRight()
     {
+        const Store v = v_.columns();
         for (int l = p_; l >= 1; --l) {
             if (l <= reducedRows_ && isNonZero(e(l)))
-                for (int j = l + 1; j <= p_; ++j)
-                    applyReflection(v_, l, j, l + 1, p_ - l);
-            setUnitColumn(v_, l, p_);
+                reflectColumns(v, l, l + 1, p_, l + 1, p_ - l, [](int) {});
+            setUnitColumn(v, l, p_);
         }
     }
 
@@ -246,13 +281,13 @@ private:
     void rotateRight(int k, int other, Rotation rotation)
     {
         if (wanted_.right)
-            rotate(p_, v_.from(1, k, p_), v_.from(1, other, p_), rotation.c, rotation.s);
+            v_.rotate(k, other, rotation);
     }
 
     void rotateLeft(int k, int other, Rotation rotation)
     {
         if (wanted_.left)
-            rotate(n_, u_.from(1, k, n_), u_.from(1, other, n_), rotation.c, rotation.s);
+            u_.rotate(k, other, rotation);
     }
 
     /// The last value is negligible.
@@ -331,16 +366,16 @@ private:
         if (s(l) < 0.0) {
             setS(l, -s(l));
             if (wanted_.right)
-                multiply(p_, -1.0, v_.from(1, l, p_));
+                v_.negate(l);
         }
         for (; l != largest && s(l) < s(l + 1); ++l) {
             const double kept = s(l);
             setS(l, s(l + 1));
             setS(l + 1, kept);
             if (wanted_.right && l < p_)
-                exchange(p_, v_.from(1, l, p_), v_.from(1, l + 1, p_));
+                v_.exchangeWithNext(l);
             if (wanted_.left && l < n_)
-                exchange(n_, u_.from(1, l, n_), u_.from(1, l + 1, n_));
+                u_.exchangeWithNext(l);
         }
     }
 
@@ -348,8 +383,8 @@ private:
     int n_;
     int p_;
     TableStore s_;
-    Store u_;
-    Store v_;
+    Vectors& u_;
+    Vectors& v_;
     SingularVectors wanted_;
     matrix superdiagonal_;
     matrix products_;
