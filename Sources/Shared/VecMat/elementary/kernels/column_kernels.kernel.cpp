@@ -41,32 +41,43 @@ template <int step, int... lane>
     }
 }
 
-/// The products of a column are side by side as they come from memory. Turned round, those of one row are, and each
-/// column's sum takes them in its order.
+/// Adds the terms of rows k + `skipped` to k + laneCount - 1. The products of a column are side by side as they come from
+/// memory; turned round, those of a row are, and each column's sum takes them in its order.
+template <int groups>
+[[gnu::always_inline]] inline void addRows(int k, int skipped, const double* with, const double* first,
+                                           std::ptrdiff_t stride, Lanes* sums)
+{
+    const Lanes factors = load(with + k);
+#pragma GCC unroll 2
+    for (int g = 0; g < groups; ++g) {
+        Lanes products[laneCount];
+#pragma GCC unroll 8
+        for (int c = 0; c < laneCount; ++c)
+            products[c] = load(first + (g * laneCount + c) * stride + k) * factors;
+        exchangeBlocks<laneCount / 2>(products, EachLane());
+#pragma GCC unroll 8
+        for (int r = 0; r < laneCount; ++r)
+            if (r >= skipped)
+                sums[g] += products[r];
+    }
+}
+
 template <int groups>
 void innerProductsOfGroups(int count, const double* with, const double* first, std::ptrdiff_t stride, double* sums)
 {
     Lanes running[groups] = {};
     int k = 0;
-    for (; k <= count - laneCount; k += laneCount) {
-        const Lanes factors = load(with + k);
-#pragma GCC unroll 2
-        for (int g = 0; g < groups; ++g) {
-            Lanes products[laneCount];
-#pragma GCC unroll 8
-            for (int c = 0; c < laneCount; ++c)
-                products[c] = load(first + (g * laneCount + c) * stride + k) * factors;
-            exchangeBlocks<laneCount / 2>(products, EachLane());
-#pragma GCC unroll 8
-            for (int r = 0; r < laneCount; ++r)
-                running[g] += products[r];
-        }
-    }
+    for (; k <= count - laneCount; k += laneCount)
+        addRows<groups>(k, 0, with, first, stride, running);
+    const int rest = count - k;
+    if (k > 0 && rest > 0)
+        addRows<groups>(count - laneCount, laneCount - rest, with, first, stride, running);
     for (int g = 0; g < groups; ++g)
         store(sums + g * laneCount, running[g]);
-    for (; k < count; ++k)
-        for (int c = 0; c < groups * laneCount; ++c)
-            sums[c] += first[c * stride + k] * with[k];
+    if (k == 0)
+        for (; k < count; ++k)
+            for (int c = 0; c < groups * laneCount; ++c)
+                sums[c] += first[c * stride + k] * with[k];
 }
 
 void innerProducts(int count, const double* with, int columns, const double* first, std::ptrdiff_t stride, double* sums)
@@ -161,7 +172,7 @@ void reflectRow(int columns, const double* weights, const double* factors, doubl
 
 void reflectRows(int rows, int columns, const double* weights, const double* factors, double* a, std::ptrdiff_t stride)
 {
-    constexpr int vectors = 4;
+    constexpr int vectors = 2;
     int i = 0;
     for (; i <= rows - vectors * laneCount; i += vectors * laneCount)
         reflectLanes<vectors>(columns, weights, factors, a + i, stride);
