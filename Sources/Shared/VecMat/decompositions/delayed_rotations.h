@@ -16,87 +16,108 @@ namespace vecmat {
 /// iteration is one long chain of divisions and roots, and leaves the processor idle. Each row goes through the same
 /// rotations in the same order as without the delay.
 ///
-/// The memory is that of 16 rotations for each column and a panel of up to 32 rows.
+/// The memory is that of the columns, copied into panels, and of 16 rotations for each column.
 class DelayedRotations
 {
 public:
     DelayedRotations(double* first, std::ptrdiff_t stride, int rows, int cols)
         : first_(first), stride_(stride), cols_(cols), vectors_((rows + kernels_.lanes - 1) / kernels_.lanes),
-          panels_((vectors_ + ColumnKernels::mostVectors - 1) / ColumnKernels::mostVectors),
+          panelCount_((vectors_ + ColumnKernels::mostVectors - 1) / ColumnKernels::mostVectors),
           capacity_(rotationsForEachColumn * std::size_t{countOf(cols)}),
           gathered_(new (std::nothrow) ColumnRotation[capacity_]),
           running_(new (std::nothrow) ColumnRotation[capacity_]),
-          panel_(countOf(ColumnKernels::mostVectors * kernels_.lanes) * std::size_t{countOf(cols)}), panelsLeft_(0)
+          panels_(std::size_t{countOf(vectors_ * kernels_.lanes)} * countOf(cols))
     {
     }
 
-    bool hasMemory() const { return gathered_ != nullptr && running_ != nullptr && panel_; }
+    bool hasMemory() const { return gathered_ != nullptr && running_ != nullptr && panels_; }
 
     void add(const ColumnRotation& rotation)
     {
         if (gatheredCount_ == capacity_)
             startBatch();
         gathered_[gatheredCount_++] = rotation;
-        advance(panels_);
+        advance(panelCount_);
     }
 
-    /// To be called before the columns are read.
+    /// To be called once, before the columns are read.
     void carryOut()
     {
         startBatch();
         finishBatch();
+        if (isOpen_)
+            forEachPanel([this](double* rows, const Panel& panel) {
+                kernels_.copyColumns(panel.vectors, cols_, cells(panel), panel.vectors * kernels_.lanes, rows, stride_);
+            });
     }
 
 private:
-    static constexpr std::size_t rotationsForEachColumn = 16;
+    static constexpr std::size_t rotationsForEachColumn = 8;
+
+    struct Panel
+    {
+        int firstVector;
+        int vectors;
+    };
+
+    /// Panels of about the same size: a narrow one would wait for its own results.
+    Panel panel(int number) const
+    {
+        const auto start = [this](int i) {
+            return static_cast<int>(static_cast<long long>(vectors_) * i / panelCount_);
+        };
+        return {start(number), start(number + 1) - start(number)};
+    }
+    double* cells(const Panel& panel) const
+    {
+        return panels_.data() + std::ptrdiff_t{panel.firstVector} * kernels_.lanes * cols_;
+    }
+
+    template <class Visit>
+    void forEachPanel(Visit visit) const
+    {
+        for (int i = 0; i < panelCount_; ++i)
+            visit(first_ + std::ptrdiff_t{panel(i).firstVector} * kernels_.lanes, panel(i));
+    }
 
     void startBatch()
     {
         finishBatch();
+        if (gatheredCount_ == 0)
+            return;
+        if (!isOpen_)
+            forEachPanel([this](const double* rows, const Panel& panel) {
+                kernels_.copyColumns(panel.vectors, cols_, rows, stride_, cells(panel), panel.vectors * kernels_.lanes);
+            });
+        isOpen_ = true;
         std::swap(gathered_, running_);
-        runningCount_ = static_cast<int>(gatheredCount_);
-        gatheredCount_ = 0;
-        panelsLeft_ = panels_;
-        firstVector_ = 0;
-        if (panelsLeft_ > 0)
-            openPanel();
+        runningCount_ = static_cast<int>(std::exchange(gatheredCount_, 0));
+        goTo(0);
+    }
+
+    void goTo(int number)
+    {
+        current_ = number;
+        here_ = panel(number);
+        done_ = 0;
     }
 
     void finishBatch()
     {
-        while (panelsLeft_ > 0)
+        while (current_ < panelCount_)
             advance(runningCount_);
     }
 
-    /// Carries out up to `count` rotations of the batch on the panel.
+    /// Carries out up to `count` rotations of the batch on the current panel.
     void advance(int count)
     {
-        if (panelsLeft_ == 0)
+        if (current_ >= panelCount_)
             return;
         count = std::min(count, runningCount_ - done_);
-        kernels_.rotate(panelVectors_, count, running_.get() + done_, panel_.data());
+        kernels_.rotate(here_.vectors, count, running_.get() + done_, cells(here_));
         done_ += count;
         if (done_ == runningCount_)
-            closePanel();
-    }
-
-    double* rowsOfPanel() const { return first_ + std::ptrdiff_t{firstVector_} * kernels_.lanes; }
-    std::ptrdiff_t panelStride() const { return std::ptrdiff_t{panelVectors_} * kernels_.lanes; }
-
-    void openPanel()
-    {
-        // Panels of about the same size: a narrow one would wait for its own results.
-        panelVectors_ = (vectors_ - firstVector_ + panelsLeft_ - 1) / panelsLeft_;
-        done_ = 0;
-        kernels_.copyColumns(panelVectors_, cols_, rowsOfPanel(), stride_, panel_.data(), panelStride());
-    }
-
-    void closePanel()
-    {
-        kernels_.copyColumns(panelVectors_, cols_, panel_.data(), panelStride(), rowsOfPanel(), stride_);
-        firstVector_ += panelVectors_;
-        if (--panelsLeft_ > 0)
-            openPanel();
+            goTo(current_ + 1);
     }
 
     const ColumnKernels& kernels_ = columnKernels();
@@ -104,17 +125,17 @@ private:
     std::ptrdiff_t stride_;
     int cols_;
     int vectors_;
-    int panels_;
+    int panelCount_;
     std::size_t capacity_;
     std::unique_ptr<ColumnRotation[]> gathered_;
     std::unique_ptr<ColumnRotation[]> running_;
     std::size_t gatheredCount_ = 0;
     int runningCount_ = 0;
-    Scratch panel_;
-    int panelsLeft_;
-    int firstVector_ = 0;
-    int panelVectors_ = 0;
-    int done_ = 0;
+    Scratch panels_;
+    bool isOpen_ = false;
+    int current_ = panelCount_; // panel that the running batch has come to; none is left
+    Panel here_{};
+    int done_ = 0; // of the batch's rotations on this panel
 };
 
 } // namespace vecmat

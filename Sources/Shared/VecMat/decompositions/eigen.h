@@ -19,8 +19,8 @@ extern "C" {
 /// Returns 0, or -1: where any cell of the square is missing (equality test), with nothing touched; where an eigenvalue
 /// needs more than 28 passes, with the results in the state of the interruption; where an exception such as exhausted
 /// memory struck, which goes no further. An off-diagonal element is negligible below 2.220446049250313e-16 in absolute
-/// terms. Scratch: n doubles, a table of n by n while sorting, and from order 20 on another one and about 150 n doubles;
-/// where memory for these is short, the work is done without them, more slowly and with the same result.
+/// terms. Scratch: n doubles, a table of n by n while sorting, and from order 20 on two such tables and about 50 n
+/// doubles; where memory for these is short, the work is done without them, more slowly and with the same result.
 VECMAT_API int M_Eigen(matrix* a, matrix*& values, matrix*& vectors, int n, short sort);
 
 /// The same over an array of columns; `vectors` are `n` columns of at least n cells that the caller supplies.

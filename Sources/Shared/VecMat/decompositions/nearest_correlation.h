@@ -14,7 +14,7 @@ extern "C" {
 /// diagonal and is within the tolerance of the semi-definite tables, not exactly one of them.
 ///
 /// Returns 0, or -1 with `a` unchanged where a cell is missing (equality test). The triangular form holds column k from
-/// its diagonal cell down. Scratch: eight tables of n by n. The eigenvalues catch a failed allocation and
+/// its diagonal cell down. Scratch: nine tables of n by n. The eigenvalues catch a failed allocation and
 /// the pass goes on with what they left, 0.0 throughout if it struck early; any other one passes out, with `a` as the
 /// passes so far left it.
 VECMAT_API int M_CorrMatFromSymMat(matrix* a, int n);

@@ -1,0 +1,265 @@
+// Tables that are large enough for the workspace have the bits of the steps told one by one: at sizes around the edges of
+// vectors, groups of columns and panels of rows, with cells that are no numbers, where reflections leave columns out,
+// where tables lie over one another and where memory for the workspace is short.
+#include "decompositions/stretch.h"
+#include "decompositions/svd_iteration.h"
+
+#include "decompositions/svd_cases.h"
+#include "support/bits.h"
+#include "support/failing_new.h"
+#include "support/random_data.h"
+#include "support/tables.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace vecmat::test {
+namespace {
+
+constexpr double inf = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+struct Shape
+{
+    int n;
+    int p;
+};
+
+int anyJob(RandomData& data)
+{
+    return std::vector<int>{0, 1, 10, 11, 20, 21}[static_cast<std::size_t>(data.integer(0, 5))];
+}
+
+TEST(SVDecompWorkspace, HasTheBitsOfTheStepsAtTheEdgesOfItsBlocks)
+{
+    RandomData data(8220);
+    SCOPED_TRACE(data);
+    for (const auto& [n, p] : {Shape{12, 8},
+                               {13, 9},
+                               {15, 8},
+                               {16, 16},
+                               {17, 15},
+                               {24, 17},
+                               {31, 9},
+                               {32, 24},
+                               {33, 33},
+                               {40, 25},
+                               {47, 31},
+                               {64, 32},
+                               {65, 33},
+                               {97, 20},
+                               {12, 13},
+                               {16, 17},
+                               {17, 40},
+                               {33, 48},
+                               {12, 30}})
+    {
+        SCOPED_TRACE(std::to_string(n) + " by " + std::to_string(p));
+        const std::vector<double> cells = data.normals(cellCount(n, p));
+        for (const int job : {11, 21, anyJob(data)})
+            expectSame(decomposed(n, p, cells, job), bySteps(n, p, cells, job));
+    }
+}
+
+TEST(SVDecompWorkspace, LeavesOutColumnsThatStandAtRightAngles)
+{
+    // Many inner products are exactly 0, of which the zeros of either sign tell.
+    RandomData data(8221);
+    SCOPED_TRACE(data);
+    int turnsWithoutPass = 0;
+    for (int round = 0; round < 60; ++round) {
+        const int n = data.integer(12, 36);
+        const int p = data.integer(8, 36);
+        std::vector<double> cells = awkwardCells(n, p, data);
+        for (double& cell : cells)
+            cell = data.chance(0.7) ? (data.chance(0.5) ? 0.0 : -0.0) : cell;
+        SCOPED_TRACE(round);
+        const ReferenceSvd expected = bySteps(n, p, cells, 21);
+        turnsWithoutPass += expected.turnsWithoutPass;
+        expectSame(decomposed(n, p, cells, 21), expected);
+    }
+    EXPECT_GT(turnsWithoutPass, 20);
+}
+
+TEST(SVDecompWorkspace, HasThoseBitsForCellsOfAnySizeAndForCellsThatAreNoNumbers)
+{
+    RandomData data(8222);
+    SCOPED_TRACE(data);
+    int failures = 0;
+    int successes = 0;
+    for (int round = 0; round < 80; ++round) {
+        const int n = data.integer(12, 25);
+        const int p = data.integer(8, 25);
+        std::vector<double> cells = awkwardCells(n, p, data);
+        for (double& cell : cells) {
+            if (round % 4 == 0)
+                cell = std::ldexp(cell, data.integer(-600, 600));
+            else if (round % 4 == 1)
+                cell = data.chance(0.01) ? (data.chance(0.5) ? inf : notANumber) : cell;
+            else if (round % 4 == 2)
+                cell = std::ldexp(cell, data.chance(0.5) ? 1020 : -1060);
+            else
+                cell = std::ldexp(cell, -60);
+        }
+        SCOPED_TRACE(round);
+        const int job = anyJob(data);
+        const ReferenceSvd expected = bySteps(n, p, cells, job);
+        expectSame(decomposed(n, p, cells, job), expected);
+        ++(expected.info == 0 ? successes : failures);
+    }
+    EXPECT_GT(failures, 5);
+    EXPECT_GT(successes, 20);
+}
+
+TEST(SVDecompWorkspace, BeginsAgainInPlaceWhereALeftVectorBeyondTheLastIsAskedFor)
+{
+    // A NaN beside the value without a left vector keeps it in a block that is then split.
+    RandomData data(8228);
+    SCOPED_TRACE(data);
+    int askedFor = 0;
+    for (int round = 0; round < 300 && askedFor < 2; ++round) {
+        const int n = 12;
+        const int p = 13;
+        std::vector<double> cells(cellCount(n, p), 0.0);
+        for (double& cell : cells)
+            cell = data.chance(0.15) ? data.integer(-1, 1) : 0.0;
+        cells[static_cast<std::size_t>(
+            data.integer(static_cast<int>(cells.size()) - 2 * n, static_cast<int>(cells.size()) - 1))] = notANumber;
+        SCOPED_TRACE(round);
+        expectSame(decomposed(n, p, cells, 21), bySteps(n, p, cells, 21));
+
+        // With room for one vector more the steps show whether they turn it.
+        const ReferenceSvd roomy =
+            SvdBySteps(cells, n, p, 21, CheckedCells(n, n + 1, leftover), CheckedCells(p, p, leftover), {}).run();
+        askedFor += std::count(roomy.u.end() - n, roomy.u.end(), leftover) < n ? 1 : 0;
+    }
+    EXPECT_EQ(askedFor, 2);
+}
+
+TEST(SVDecompWorkspace, ServesArraysOfColumns)
+{
+    RandomData data(8223);
+    SCOPED_TRACE(data);
+    for (const auto& [n, p] : {Shape{30, 20}, {20, 30}, {40, 40}}) {
+        const std::vector<double> cells = data.normals(cellCount(n, p));
+        const ReferenceSvd expected = bySteps(n, p, cells, 21);
+        TableColumns x(n, p, cells);
+        TableColumns u(n, std::min(n, p), std::vector<double>(expected.u.size(), leftover));
+        TableColumns v(p, p, std::vector<double>(expected.v.size(), leftover));
+        const Owned<matrix> s = filled(valueCount(n, p), 1, 0.0);
+        int info = 77;
+        M_SVDecompSPV(x, n, p, s, u, v, 21, &info);
+        expectSame({info, cellsOf(s), u.cells(), v.cells()}, expected);
+        EXPECT_THAT(x.cells(), SameBits(cells));
+    }
+}
+
+TEST(SVDecompWorkspace, WorksOnTheCornersOfLargerTables)
+{
+    RandomData data(8224);
+    SCOPED_TRACE(data);
+    const int n = 21;
+    const int p = 14;
+    const Owned<matrix> x = table(n + 2, p + 1, data.normals(cellCount(n + 2, p + 1)));
+    const std::vector<double> before = cellsOf(x);
+    const Owned<matrix> s = filled(p + 3, 1, leftover);
+    const Owned<matrix> u = filled(n + 1, p + 2, leftover);
+    const Owned<matrix> v = filled(p + 5, p + 1, leftover);
+    int info = 77;
+    M_SVDecomp(x, n, p, s, u, v, 21, &info);
+    expectSame({info, cornerOf(s, p, 1), cornerOf(u, n, p), cornerOf(v, p, p)}, bySteps(n, p, cornerOf(x, n, p), 21));
+    EXPECT_THAT(cellsOf(x), SameBits(before));
+    EXPECT_EQ(std::count(u->X, u->X + u->nElems, leftover), static_cast<long>(u->nElems) - n * p);
+    EXPECT_EQ(std::count(v->X, v->X + v->nElems, leftover), static_cast<long>(v->nElems) - p * p);
+}
+
+// ---- tables that lie over one another: what comes out is what the steps in place make of it ----
+
+TEST(SVDecompWorkspace, TakesLeftVectorsOverTheTableAsTheStepsInPlaceDo)
+{
+    RandomData data(8225);
+    SCOPED_TRACE(data);
+    const int n = 20;
+    const int p = 12;
+    const std::vector<double> cells = data.normals(cellCount(n, p));
+    const auto run = [=](auto decompose) {
+        const Owned<matrix> both = table(n, p, cells);
+        Svd result;
+        const Owned<matrix> s = filled(p, 1, 0.0);
+        const Owned<matrix> v = filled(p, p, 0.0);
+        decompose(both.get(), s.get(), v.get(), result.info);
+        result.s = cellsOf(s);
+        result.u = cellsOf(both);
+        result.v = cellsOf(v);
+        return result;
+    };
+    const Svd expected = run([=](matrix* both, matrix* s, matrix* v, int& info) {
+        DirectVectors<TableStore> left(TableStore(both), n);
+        DirectVectors<TableStore> right(TableStore(v), p);
+        info = SvdIteration<TableStore, DirectVectors<TableStore>>(TableStore(both), n, p, s, left, right,
+                                                                   SingularVectors(21, n, p))
+                   .run();
+        std::copy(cells.begin(), cells.end(), both->X);
+    });
+    const Svd actual =
+        run([=](matrix* both, matrix* s, matrix* v, int& info) { M_SVDecomp(both, n, p, s, both, v, 21, &info); });
+    EXPECT_EQ(actual.info, expected.info);
+    EXPECT_THAT(actual.s, SameBits(expected.s));
+    EXPECT_THAT(actual.u, SameBits(expected.u));
+    EXPECT_THAT(actual.v, SameBits(expected.v));
+}
+
+TEST(SVDecompWorkspace, TakesColumnsThatRunOverIntoTheNextAsTheStepsInPlaceDo)
+{
+    RandomData data(8226);
+    SCOPED_TRACE(data);
+    const int n = 20;
+    const int p = 12;
+    const int strideU = 17;
+    const int colsU = 15; // so that all of the rows lie inside
+    const std::vector<double> cells = data.normals(cellCount(n, p));
+    const ReferenceSvd expected =
+        SvdBySteps(cells, n, p, 21, CheckedCells(strideU, colsU, leftover), CheckedCells(p, p, leftover), {}).run();
+    const Owned<matrix> s = filled(p, 1, 0.0);
+    const Owned<matrix> u = filled(strideU, colsU, leftover);
+    const Owned<matrix> v = filled(p, p, leftover);
+    int info = 77;
+    M_SVDecomp(table(n, p, cells), n, p, s, u, v, 21, &info);
+    expectSame({info, cellsOf(s), cellsOf(u), cellsOf(v)}, expected);
+}
+
+// ---- memory ----
+
+TEST(SVDecompWorkspace, DoesWithoutItWhereMemoryIsShort)
+{
+    RandomData data(8227);
+    SCOPED_TRACE(data);
+    const int n = 18;
+    const int p = 11;
+    const std::vector<double> cells = data.normals(cellCount(n, p));
+    const ReferenceSvd expected = bySteps(n, p, cells, 21);
+    const Owned<matrix> x = table(n, p, cells);
+    const Owned<matrix> s = filled(p, 1, 0.0);
+    const Owned<matrix> u = filled(n, p, leftover);
+    const Owned<matrix> v = filled(p, p, leftover);
+    int quietFailures = 0;
+    int info = 77;
+    for (int failing = 1;; ++failing) {
+        runWithFailure([&] { M_SVDecomp(x, n, p, s, u, v, 21, &info); }, failing);
+        if (allocationState().threw)
+            continue;
+        expectSame({info, cellsOf(s), cellsOf(u), cellsOf(v)}, expected);
+        if (!allocationState().returnedNull)
+            break;
+        ++quietFailures;
+    }
+    EXPECT_GE(quietFailures, 10) << "the table, and the vectors on both sides with what rotates them";
+    EXPECT_THAT(cellsOf(x), SameBits(cells));
+}
+
+} // namespace
+} // namespace vecmat::test
