@@ -14,7 +14,7 @@ extern "C" {
 /// `s` has min(n + 1, p) cells and receives the singular values, non-negative and descending. `job` has the decimal
 /// digits ab: b not 0 asks for `v` (p columns); a = 1 asks for `u` with n columns, a of 2 or more for `u` with min(n,
 /// p), each of n rows. The tables exist and are large enough; those not asked for are not touched and may be null. All
-/// access is checked. `x` is worked on in place and restored before the return.
+/// access is checked. `x` comes back as it was; a table too small for the scratch is worked on in place and restored.
 ///
 /// Departs from DSVDC in these settled points: a singular value has 60 passes; where they do not suffice `*info` is -m,
 /// the values from m + 1 on are final, and the rest is in the state of the interruption; `*info` is 0 otherwise. A norm
