@@ -207,8 +207,7 @@ private:
     template <const SearchRules& rules>
     bool boundDistances(int t)
     {
-        if (!boundsPrepared_)
-            prepareBounds();
+        prepareBounds();
         if (!bounds_)
             return false;
         bounds_->clearTerms();
@@ -234,12 +233,18 @@ private:
         return Block::hasNumbers ? block.cols : 0;
     }
 
+    /// The first search visits every row: for it alone the copy would not pay.
     void prepareBounds()
     {
-        boundsPrepared_ = true;
-        const int columns = numberColumns(primary_) + numberColumns(second_);
-        if (columns < 1 || rows_ < fewestRowsToBound || !rowsStandApart())
+        if (boundsState_ == Bounds::settled)
             return;
+        const int columns = numberColumns(primary_) + numberColumns(second_);
+        if (boundsState_ == Bounds::notAsked) {
+            const bool pays = columns > 0 && rows_ >= fewestRowsToBound && rowsStandApart();
+            boundsState_ = pays ? Bounds::withNextSearch : Bounds::settled;
+            return;
+        }
+        boundsState_ = Bounds::settled;
         bounds_.emplace(rows_, mask_, columns);
         copyForBounds(primary_);
         copyForBounds(second_);
@@ -300,7 +305,9 @@ private:
     Mask mask_;
     Distance distance_; // its flag lives as long as the call
 
-    bool boundsPrepared_ = false;
+    enum class Bounds { notAsked, withNextSearch, settled };
+
+    Bounds boundsState_ = Bounds::notAsked;
     std::optional<DistanceBounds> bounds_; // none where every row has to be visited
 };
 
