@@ -1,8 +1,11 @@
 #include "sort.h"
 
 #include "../elementary/transposed.h"
+#include "column_moves.h"
+#include "sort_by_key.h"
 #include "stable_order.h"
 
+#include <algorithm>
 #include <string>
 #include <type_traits>
 
@@ -20,16 +23,15 @@ template <class Data, class Key, class Companion>
 int sortRows(Data data, int nCols, RowRange range, Key* key, Companion companion, int nCompanionCols, short descending,
              short writeKeys)
 {
-    sortByKey(range, directionOf(descending), linear(key), sortedKeysOf(writeKeys), MovedRows(data, range, nCols),
-              MovedRows(companion, range, nCompanionCols));
+    sortByKey(range, directionOf(descending), linear(key), sortedKeysOf(writeKeys), Following{data, nCols},
+              Following{companion, nCompanionCols});
     return 0;
 }
 
 template <class Data>
 int sortByIndicator(Data data, int n, int nCols, matrix* key)
 {
-    const RowRange all{1, n};
-    sortByKey(all, Direction::ascending, linear(key), SortedKeys::written, MovedRows(data, all, nCols));
+    sortByKey({1, n}, Direction::ascending, linear(key), SortedKeys::written, Following{data, nCols});
     return 0;
 }
 
@@ -37,9 +39,27 @@ int sortByIndicator(Data data, int n, int nCols, matrix* key)
 template <class Table>
 using ColumnKey = std::conditional_t<std::is_same_v<Table, Smatrix>, std::wstring, double>;
 
+/// Sorts numbers by one of their columns, column after column. False where that has to be done row by row.
+template <class Table>
+bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Direction direction)
+{
+    if constexpr (std::is_same_v<Table, Smatrix>)
+        return false;
+    else {
+        const auto rows = cells(table);
+        if (col < 1 || !isLongRange(range) || !rows.covers(range.last, std::max(nCols, col)))
+            return false;
+        // A key column that is not among those that move is sorted by itself.
+        return sortInColumns(range, direction, rows.plain().column(col - 1),
+                             col > nCols ? SortedKeys::written : SortedKeys::discarded, Following{rows.plain(), nCols});
+    }
+}
+
 template <class Table>
 int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short descending)
 {
+    if (sortedByOwnColumn(table, nCols, col, range, directionOf(descending)))
+        return 0;
     using Record = KeyedPosition<ColumnKey<Table>>;
     const auto rows = cells(table);
     MovedRows moved(rows, range, nCols);

@@ -94,8 +94,7 @@ VECMAT_API int SortQByCol(matrix*& data, int nRows, int nCols, int first, int la
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
 //
-// The arrays are column-major with the dimensions given, copied in, and copied back as a whole once the sort is done.
-// String arrays come back as new BSTRs in every cell, also outside the range; what stood there is not released.
+// The arrays are column-major with the dimensions given. Nothing is written before an allocation can fail no more. String arrays come back as new BSTRs in every cell, also outside the range; what stood there is not released.
 
 /// Vectors of `n`; in the string form any `descending` but 0 is descending.
 VECMAT_API int VB_SortQVectorDbl(double* x, int n, int first, int last, short descending);

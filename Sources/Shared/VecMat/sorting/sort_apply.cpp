@@ -2,7 +2,12 @@
 
 #include "../frame/cells.h"
 #include "../frame/numbers.h"
+#include "column_moves.h"
 #include "copy_block.h"
+#include "memory_stretches.h"
+
+#include <cstdint>
+#include <new>
 
 namespace {
 
@@ -35,7 +40,7 @@ const std::wstring& convertedTo(Smatrix*, const std::wstring& cell)
 }
 
 template <class Source, class Out>
-void applyOrder(Source* source, int nRows, int nCols, matrix* order, Out* out)
+void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* out)
 {
     const auto from = cells(source);
     const auto to = cells(out);
@@ -46,11 +51,70 @@ void applyOrder(Source* source, int nRows, int nCols, matrix* order, Out* out)
     }
 }
 
+/// Fewer rows than this are not worth a look at what the order holds.
+constexpr int fewestRows = 64;
+
+/// The source rows of an order whose rows lie inside their columns; null where one does not, or memory is short.
+RowOrder rowsInside(matrix* order, int nRows, int height)
+{
+    if (nRows < fewestRows)
+        return nullptr;
+    RowOrder rows(new (std::nothrow) std::uint32_t[countOf(nRows)]);
+    for (int i = 0; rows && i < nRows; ++i) {
+        const auto row = static_cast<unsigned>(sourceRow(order, i));
+        if (row >= countOf(height))
+            return nullptr;
+        rows[countOf(i)] = row;
+    }
+    return rows;
+}
+
+/// Column after column, where a source row stays inside its column and no write is seen in what is still to be read.
+/// False: nothing is done.
+template <class Source, class Out>
+bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Out* out)
+{
+    if (nRows < fewestRows || nCols < 1 || !cells(source).covers(source->nRows, nCols) ||
+        !cells(out).covers(nRows, nCols) || cells(out).plain().folds(nRows, nCols))
+        return false;
+    Stretches memory;
+    memory.add(source->X, source->nElems);
+    memory.add(order->X, order->nElems);
+    memory.add(out->X, out->nElems);
+    const RowOrder rows = memory.areApart() ? rowsInside(order, nRows, source->nRows) : nullptr;
+    if (!rows)
+        return false;
+    for (int j = 0; j < nCols; ++j) {
+        const auto* const from = cells(source).plain().column(j);
+        auto* const to = cells(out).plain().column(j);
+        for (unsigned i = 0; i < countOf(nRows); ++i)
+            to[i] = convertedTo(out, from[rows[i]]);
+    }
+    return true;
+}
+
 template <class Source, class Out>
 void applyOrderToResult(Source* source, int nRows, int nCols, matrix* order, Out*& out)
 {
+    // In a table of the same height the cells that would be prepared are those that are written.
+    const bool isPrepared = out != nullptr && out->nRows == nRows && out->nCols >= nCols;
+    if (isPrepared && applyOrderByColumns(source, nRows, nCols, order, out))
+        return;
     Out::matCheck(out, nRows, nCols, 0.0);
-    applyOrder(source, nRows, nCols, order, out);
+    if (isPrepared || !applyOrderByColumns(source, nRows, nCols, order, out))
+        applyOrderByRows(source, nRows, nCols, order, out);
+}
+
+template <class Table>
+void applyOrderInPlace(Table* table, int nRows, int nCols, matrix* order)
+{
+    const auto rows = cells(table);
+    if (nRows >= fewestRows && nCols > 0 && nRows <= table->nRows && rows.covers(table->nRows, nCols))
+        if (const ColumnMoves moves({1, nRows}, rowsInside(order, nRows, table->nRows)); moves.hasMemory())
+            return moves.rearrange(Following{rows.plain(), nCols});
+    Table working(nRows, nCols, 0.0);
+    applyOrderByRows(table, nRows, nCols, order, &working);
+    M_CopyBlock(&working, 1, nRows, 1, nCols, table);
 }
 
 } // namespace
@@ -77,19 +141,15 @@ void SortApply(matrixInt* source, int nRows, int nCols, matrix* order, matrixInt
 
 void SortApply2(matrix* table, int nRows, int nCols, matrix* order)
 {
-    matrix working(nRows, nCols, 0.0);
-    applyOrder(table, nRows, nCols, order, &working);
-    M_CopyBlock(&working, 1, nRows, 1, nCols, table);
+    applyOrderInPlace(table, nRows, nCols, order);
 }
 
 void SortApply2(matrixInt* table, int nRows, int nCols, matrix* order)
 {
-    matrixInt working(nRows, nCols, 0);
-    applyOrder(table, nRows, nCols, order, &working);
-    M_CopyBlock(&working, 1, nRows, 1, nCols, table);
+    applyOrderInPlace(table, nRows, nCols, order);
 }
 
 void SortApplyStr(Smatrix* source, int nRows, int nCols, matrix* order, Smatrix* out)
 {
-    applyOrder(source, nRows, nCols, order, out);
+    applyOrderByRows(source, nRows, nCols, order, out);
 }

@@ -1,31 +1,45 @@
 #include "sort_apply.h"
 
 #include "../frame/handles.h"
+#include "../frame/numbers.h"
+#include "memory_stretches.h"
 
 using namespace vecmat;
 
-// The source is a copy in every form, so that a form in place is the plain one with the table as its own result.
+namespace {
+
+/// The source of a result: the caller's array, or a copy where the result lies over it.
+template <class Number>
+auto unmixed(Number* x, int nRows, int nCols, const Number* out)
+{
+    Stretches arrays;
+    arrays.add(x, elementCount(nRows, nCols));
+    arrays.add(out, elementCount(nRows, nCols));
+    return arrays.areApart() ? viewed(x, nRows, nCols) : copied(x, nRows, nCols);
+}
+
+} // namespace
 
 void VB_SortApply(double* source, int nRows, int nCols, double* order, double* out)
 {
     auto result = viewed(out, nRows, nCols);
-    SortApply(copied(source, nRows, nCols), nRows, nCols, viewed(order, nRows, 1), result.reference());
+    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, viewed(order, nRows, 1), result.reference());
 }
 
 void VB_SortApply2(double* table, int nRows, int nCols, double* order)
 {
-    VB_SortApply(table, nRows, nCols, order, table);
+    SortApply2(viewed(table, nRows, nCols), nRows, nCols, viewed(order, nRows, 1));
 }
 
 void VB_SortApplyLng(int* source, int nRows, int nCols, double* order, int* out)
 {
     auto result = viewed(out, nRows, nCols);
-    SortApply(copied(source, nRows, nCols), nRows, nCols, viewed(order, nRows, 1), result.reference());
+    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, viewed(order, nRows, 1), result.reference());
 }
 
 void VB_SortApply2Lng(int* table, int nRows, int nCols, double* order)
 {
-    VB_SortApplyLng(table, nRows, nCols, order, table);
+    SortApply2(viewed(table, nRows, nCols), nRows, nCols, viewed(order, nRows, 1));
 }
 
 void VB_SortApplyStr(wchar_t** source, int nRows, int nCols, double* order, wchar_t** out)

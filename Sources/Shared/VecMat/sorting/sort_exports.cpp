@@ -1,9 +1,11 @@
 #include "sort.h"
 
 #include "../frame/handles.h"
-#include "stable_order.h"
+#include "memory_stretches.h"
+#include "sort_by_key.h"
 
 #include <cstddef>
+#include <type_traits>
 
 namespace {
 
@@ -32,6 +34,10 @@ private:
     wchar_t** slots_;
     int n_;
 };
+
+/// What stands in a table as it stands in the caller's array.
+template <class Element>
+constexpr bool isNumber = std::is_same_v<Element, double> || std::is_same_v<Element, int>;
 
 /// The numbers of one sort of rows that every flat form hands on, with the counts that macro callers leave out.
 struct RowSort
@@ -63,19 +69,42 @@ struct RowSort
         return 0;
     }
 
-    /// The same for data in one flat array, which is copied in and handed back too.
+    /// The same for data in one flat array. Arrays of numbers that share no memory are sorted where they are; others,
+    /// and what has to be converted, are copied in and handed back too.
     template <class Element, class Key, class Companion>
     int runFlat(Element* data, Key* key, Companion* companion) const
     {
+        if constexpr (isNumber<Element>)
+            if (areApart(data, key, companion))
+                return SortQ(viewed(data, nRows, nCols).reference(), nRows, nCols, first, last,
+                             viewed(key, nRows, 1).reference(), viewed(companion, nRows, nCompanionCols).reference(),
+                             nCompanionCols, descending, writeKeys);
         auto table = copied(data, nRows, nCols);
         run(table.reference(), key, companion);
         handBack(table, data);
         return 0;
     }
+
+private:
+    template <class Element, class Key, class Companion>
+    bool areApart(const Element* data, const Key* key, const Companion* companion) const
+    {
+        Stretches arrays;
+        arrays.add(data, elementCount(nRows, nCols));
+        arrays.add(key, elementCount(nRows, 1));
+        arrays.add(companion, elementCount(nRows, nCompanionCols));
+        return arrays.areApart();
+    }
 };
 
-template <class Element>
-int sortByIndicator(Element* data, int n, int nCols, double* key)
+/// The keys are sorted in a private copy. Numbers change places where they are.
+int sortByIndicator(double* data, int n, int nCols, double* key)
+{
+    return SortDataBy01(viewed(data, n, atLeastOne(nCols)).reference(), n, atLeastOne(nCols),
+                        copied(key, n, 1).reference());
+}
+
+int sortByIndicator(short* data, int n, int nCols, double* key)
 {
     auto table = copied(data, n, atLeastOne(nCols));
     SortDataBy01(table.reference(), n, atLeastOne(nCols), copied(key, n, 1).reference());
@@ -87,18 +116,12 @@ int sortByIndicator(Element* data, int n, int nCols, double* key)
 
 int VB_SortQVectorDbl(double* x, int n, int first, int last, short descending)
 {
-    auto vector = copied(x, n, 1);
-    SortQVector(vector.reference(), n, first, last, descending);
-    handBack(vector, x);
-    return 0;
+    return SortQVector(viewed(x, n, 1).reference(), n, first, last, descending);
 }
 
 int VB_SortQVectorLng(int* x, int n, int first, int last, short descending)
 {
-    auto vector = copied(x, n, 1);
-    SortQVector(vector.reference(), n, first, last, descending);
-    handBack(vector, x);
-    return 0;
+    return SortQVector(viewed(x, n, 1).reference(), n, first, last, descending);
 }
 
 int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending)
@@ -111,10 +134,7 @@ int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending)
 
 int VB_SortQMatrixCol(double* table, int nRows, int nCols, int col, int first, int last, short descending)
 {
-    auto copy = copied(table, nRows, nCols);
-    SortQMatrixCol(copy.reference(), nRows, nCols, col, first, last, descending);
-    handBack(copy, table);
-    return 0;
+    return SortQMatrixCol(viewed(table, nRows, nCols).reference(), nRows, nCols, col, first, last, descending);
 }
 
 int VB_SortQMatrixColStr(wchar_t** table, int nRows, int nCols, int col, int first, int last, short descending)
@@ -233,8 +253,7 @@ int VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key)
 
 int VB_SortDataBy01Str(wchar_t** data, int n, int nCols, double* key)
 {
-    const RowRange all{1, n};
-    sortByKey(all, Direction::ascending, PlainVector<matrix>(key), SortedKeys::discarded,
-              MovedRows(References(data, n), all, atLeastOne(nCols)));
+    sortByKey({1, n}, Direction::ascending, PlainVector<matrix>(key), SortedKeys::discarded,
+              Following{References(data, n), atLeastOne(nCols)});
     return 0;
 }

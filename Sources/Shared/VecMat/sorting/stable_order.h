@@ -9,11 +9,13 @@
 // the empty string below every other string. A NaN is not ordered against anything: with such keys the rows of the
 // range end up in an order that nothing promises, each of them still exactly once, and nothing outside is touched.
 //
-// The sort asks for its buffer without throwing and does without one where memory is short, with the same result.
+// Many numbers are sorted by the bits of their keys, everything else by a merge. Both ask for their scratch without
+// throwing: where memory is short the merge serves, at last without a buffer, with the same result.
 #pragma once
 
 #include "../frame/cells.h"
 #include "../frame/numbers.h"
+#include "key_order.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -23,8 +25,6 @@
 #include <vector>
 
 namespace vecmat {
-
-enum class Direction { ascending, descending };
 
 /// How an option of the sorts is read: exactly -1 is descending, also 1 is ascending.
 constexpr Direction directionOf(short descending)
@@ -64,6 +64,16 @@ struct KeyedPosition
 /// Integer keys are widened to double, which is exact.
 using pairToSort = KeyedPosition<double>;
 
+/// Sorts records by their keys, or plain elements, keeping the order of those that tie.
+template <class Record>
+void sortStably(std::vector<Record>& records)
+{
+    std::stable_sort(records.begin(), records.end());
+}
+
+/// The same for records of numbers.
+void sortStably(std::vector<pairToSort>& records);
+
 /// Calls `place(row, record)` for the rows of the range from its first to its last, with the records that
 /// `load(row)` makes of these rows in their sorted order. All records are loaded before the first is placed.
 template <class Load, class Place>
@@ -75,7 +85,7 @@ void placeInStableOrder(RowRange range, Direction direction, Load load, Place pl
     records.reserve(static_cast<std::size_t>(count));
     for (long long k = 0; k < count; ++k)
         records.push_back(load(range.at(backwards ? count - 1 - k : k)));
-    std::stable_sort(records.begin(), records.end());
+    sortStably(records);
     for (long long k = 0; k < count; ++k)
         place(range.at(k), records[static_cast<std::size_t>(backwards ? count - 1 - k : k)]);
 }
@@ -121,10 +131,10 @@ private:
     std::vector<typename Cells::Value> before_;
 };
 
-/// Sorts the rows of the range by the elements of `key` with the same numbers. Row after row takes its key, then its
-/// cells in each table of `moved` in turn: the order of these writes shows where a row lies beyond its table.
+/// Places the rows of the range in the order of the elements of `key` with the same numbers. Row after row takes its
+/// key, then its cells in each table of `moved` in turn.
 template <class KeyCells, class... Moved>
-void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
+void placeByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
 {
     using KeyValue = typename KeyCells::Value;
     placeInStableOrder(
@@ -137,15 +147,6 @@ void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys key
                 key.set(zeroBased(row), static_cast<KeyValue>(record.key));
             (moved.place(row, record.position), ...);
         });
-}
-
-/// Sorts the elements of the range themselves.
-template <class Vector>
-void sortElements(RowRange range, Direction direction, Vector x)
-{
-    placeInStableOrder(
-        range, direction, [&](int number) { return typename Vector::Value(x.get(zeroBased(number))); },
-        [&](int number, auto& element) { x.set(zeroBased(number), std::move(element)); });
 }
 
 } // namespace vecmat

@@ -1,0 +1,52 @@
+// Sorts of rows by a vector of keys, and of the elements of a vector.
+#pragma once
+
+#include "column_moves.h"
+#include "stable_order.h"
+
+#include <utility>
+
+namespace vecmat {
+
+namespace detail {
+
+/// Sorts column after column where the storage and the range are fit for it. False: nothing is done.
+template <class KeyCells, class... Cells>
+bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
+{
+    if constexpr (std::is_arithmetic_v<typename KeyCells::Value> && (HasColumnsOfNumbers<Cells> && ...))
+        return isLongRange(range) &&
+               onBlocksOrElse(
+                   [&](auto plainKey, auto... plain) {
+                       return sortInColumns(range, direction, plainKey.data(), keys, Following{plain, tables.nCols}...);
+                   },
+                   [](auto...) { return false; }, block(key, range.last),
+                   block(tables.cells, range.last, tables.nCols)...);
+    else
+        return false;
+}
+
+} // namespace detail
+
+/// Sorts the rows of the range by the elements of `key` with the same numbers. Row after row takes its key, then its
+/// cells in each table in turn: the order of these writes shows where a row lies beyond its table. Where nothing of it
+/// shows, the columns are rearranged one after another.
+template <class KeyCells, class... Cells>
+void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
+{
+    if (!detail::sortedInColumns(range, direction, key, keys, tables...))
+        placeByKey(range, direction, key, keys, MovedRows(tables.cells, range, tables.nCols)...);
+}
+
+/// Sorts the elements of the range themselves.
+template <class Vector>
+void sortElements(RowRange range, Direction direction, Vector x)
+{
+    if (detail::sortedInColumns(range, direction, x, SortedKeys::written))
+        return;
+    placeInStableOrder(
+        range, direction, [&](int number) { return typename Vector::Value(x.get(zeroBased(number))); },
+        [&](int number, auto& element) { x.set(zeroBased(number), std::move(element)); });
+}
+
+} // namespace vecmat
