@@ -7,6 +7,7 @@
 #include "../frame/companions.h"
 #include "../frame/masks.h"
 #include "../frame/numbers.h"
+#include "../sorting/selection.h"
 #include "../sorting/sort.h"
 
 #include <cmath>
@@ -38,6 +39,18 @@ private:
     matrix table_;
     matrix* pointer_ = &table_;
 };
+
+/// The elements at a place of the sorted vector, from 0, and at the next; -1.0 on either side of it. No one sees the
+/// sorted vector, so the two are selected where they can be.
+Neighbours neighboursInOrder(matrix* v, int n, int place)
+{
+    if (linear(v).covers(n) && place >= 0 && place < n)
+        if (const auto found = selectNeighbours(v->X, countOf(n), countOf(place)))
+            return *found;
+    Work sorted(v, n);
+    SortQVector(sorted.reference(), n, 1, n, 0);
+    return {sorted.at(place), sorted.at(static_cast<int>(static_cast<unsigned>(place) + 1u))};
+}
 
 /// The positions of the kept rows whose value is not missing.
 std::vector<int> rowsLeft(matrix* v, int n, const short* mask)
@@ -104,21 +117,15 @@ double shiftedQuantile(matrix* sorted, int n, double p)
 
 double V_Quantile(matrix* v, int n, double p)
 {
-    Work sorted(v, n);
-    SortQVector(sorted.reference(), n, 1, n, 0);
-    if (p == 0.0)
-        return sorted.at(0);
-    if (p == 1.0)
-        return n < 1 ? outOfRangeValue : sorted.at(n - 1);
-    const double h = (static_cast<double>(n) - 1.0) * p;
-    if (IsLong(h) != 0)
-        return sorted.at(truncated(h));
-    const int i = truncated(std::floor(h));
-    const double a = sorted.at(i);
-    const double b = sorted.at(static_cast<int>(static_cast<unsigned>(i) + 1u));
-    if (a == b) // a run of ties stays exact
+    if (n < 1)
+        return outOfRangeValue;
+    const double h = p == 0.0 ? 0.0 : p == 1.0 ? n - 1 : (static_cast<double>(n) - 1.0) * p;
+    const bool isElement = p == 0.0 || p == 1.0 || IsLong(h) != 0;
+    const int place = truncated(isElement ? h : std::floor(h));
+    const auto [a, b] = neighboursInOrder(v, n, place);
+    if (isElement || a == b) // a run of ties stays exact
         return a;
-    const double g = h - i;
+    const double g = h - place;
     return (1.0 - g) * a + g * b;
 }
 

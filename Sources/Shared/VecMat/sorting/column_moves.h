@@ -31,9 +31,9 @@ Following(Cells, int) -> Following<Cells>;
 class ColumnMoves
 {
 public:
-    ColumnMoves(RowRange range, RowOrder order)
+    ColumnMoves(RowRange range, RowOrder order, Scratch column)
         : first_(range.first - 1), count_(static_cast<std::size_t>(range.count())), order_(std::move(order)),
-          moved_(count_)
+          moved_(std::move(column))
     {
     }
 
@@ -78,8 +78,9 @@ bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys 
      ...);
     if ((tables.cells.folds(last, tables.nCols) || ...) || !written.areApart())
         return false;
-    const ColumnMoves moves(range,
-                            orderByBits(key + (range.first - 1), static_cast<std::size_t>(range.count()), direction));
+    Scratch column(static_cast<std::size_t>(range.count()));
+    RowOrder order = orderByBits(key + (range.first - 1), static_cast<std::size_t>(range.count()), direction, column);
+    const ColumnMoves moves(range, std::move(order), std::move(column));
     if (!moves.hasMemory())
         return false;
     if (keys == SortedKeys::written)

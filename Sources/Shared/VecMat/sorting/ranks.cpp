@@ -7,7 +7,10 @@
 #include "sort.h"
 #include "stable_order.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace {
@@ -20,77 +23,124 @@ constexpr double tieTolerance = 1e-15;
 /// Steps of a series that differ by more than this are uneven.
 constexpr double stepTolerance = 1e-6;
 
-/// The elements of a vector in ascending order, each with the place that it came from.
-std::vector<pairToSort> sortedElements(matrix* x, int n)
+/// The elements of a vector in ascending order, and the row, from 0, that each came from.
+class SortedElements
 {
-    std::vector<pairToSort> sorted;
-    sorted.reserve(countOf(n));
-    const auto values = linear(x);
-    placeInStableOrder(
-        {1, n}, Direction::ascending,
-        [&](int number) {
-            return pairToSort{number, values.get(zeroBased(number))};
+public:
+    SortedElements(matrix* x, int n) : count_(countOf(n)), values_(std::make_unique_for_overwrite<double[]>(count_))
+    {
+        const auto elements = linear(x);
+        if (n >= fewestKeysToCount && elements.covers(n))
+            rows_ = orderByBits(x->X, count_, Direction::ascending, Scratch(count_));
+        if (rows_)
+            for (std::size_t k = 0; k < count_; ++k)
+                values_[k] = x->X[rows_[k]];
+        else
+            merge(elements, n);
+    }
+
+    std::size_t count() const { return count_; }
+    int row(std::size_t k) const { return static_cast<int>(rows_[k]); }
+    double value(std::size_t k) const { return values_[k]; }
+
+private:
+    template <class Elements>
+    void merge(Elements elements, int n)
+    {
+        rows_ = RowOrder(std::make_unique_for_overwrite<std::uint64_t[]>(count_));
+        placeInStableOrder(
+            {1, n}, Direction::ascending,
+            [&](int number) {
+                return pairToSort{number, elements.get(zeroBased(number))};
+            },
+            [&](int number, const pairToSort& record) {
+                const std::size_t place = countOf(zeroBased(number));
+                rows_.words()[place] = countOf(zeroBased(record.position));
+                values_[place] = record.key;
+            });
+    }
+
+    std::size_t count_;
+    RowOrder rows_;
+    std::unique_ptr<double[]> values_;
+};
+
+/// Gives each element its rank: `rank(k)`, asked for k from 0 up, is that of the k-th sorted one.
+template <class Ranks, class Rank>
+void writeInRows(const SortedElements& sorted, Ranks* out, Rank rank)
+{
+    onBlocks(
+        [&](auto ranks) {
+            for (std::size_t k = 0; k < sorted.count(); ++k)
+                ranks.set(sorted.row(k), rank(k));
         },
-        [&](int, const pairToSort& record) { sorted.push_back(record); });
-    return sorted;
+        block(linear(out), static_cast<int>(sorted.count())));
 }
 
 template <class Ranks>
 void denseRanks(matrix* x, int n, Ranks*& ranks)
 {
-    const auto sorted = sortedElements(x, n);
+    const SortedElements sorted(x, n);
     Ranks::matCheck(ranks, n, 1, 0.0);
     int rank = 1;
-    for (std::size_t k = 0; k < sorted.size(); ++k) {
-        if (k > 0 && sorted[k].key != sorted[k - 1].key)
+    writeInRows(sorted, ranks, [&](std::size_t k) {
+        if (k > 0 && sorted.value(k) != sorted.value(k - 1))
             ++rank;
-        linear(ranks).set(zeroBased(sorted[k].position), rank);
-    }
+        return rank;
+    });
 }
 
 /// Sorted elements with their ranks as they stand before ties are looked at.
 struct Ranking
 {
-    std::vector<pairToSort> sorted;
-    std::vector<double> ranks;
+    SortedElements sorted;
+    std::unique_ptr<double[]> ranks;
     std::size_t missing; // how many of the first elements are missing
 
-    Ranking(matrix* x, int n) : sorted(sortedElements(x, n)), ranks(sorted.size(), missingValue), missing(0)
+    Ranking(matrix* x, int n)
+        : sorted(x, n), ranks(std::make_unique_for_overwrite<double[]>(sorted.count())), missing(0)
     {
-        while (missing < sorted.size() && isMissing(sorted[missing].key))
-            ++missing;
-        for (std::size_t k = missing; k < ranks.size(); ++k)
+        for (; missing < sorted.count() && isMissing(sorted.value(missing)); ++missing)
+            ranks[missing] = missingValue;
+        for (std::size_t k = missing; k < sorted.count(); ++k)
             ranks[k] = static_cast<double>(k - missing + 1);
     }
 
     void writeTo(matrix* out) const
     {
-        for (std::size_t k = 0; k < ranks.size(); ++k)
-            linear(out).set(zeroBased(sorted[k].position), ranks[k]);
+        writeInRows(sorted, out, [this](std::size_t k) { return ranks[k]; });
     }
 };
 
 /// Finds the runs of ties from the lowest value up and calls `settle(first, behind)` for each, which may change the
-/// ranks. `tied` tells whether two values tie. Stores the number of runs, and their lengths.
+/// ranks. `tied` tells whether two values tie. The lengths of the runs.
 template <class Tied, class Settle>
-void forEachTie(const Ranking& ranking, Tied tied, Settle settle, int* nTies, matrix* tieSizes)
+std::vector<std::size_t> settleTies(const Ranking& ranking, Tied tied, Settle settle)
 {
     const auto& sorted = ranking.sorted;
-    *nTies = 0;
+    const std::size_t count = sorted.count();
+    std::vector<std::size_t> lengths;
     std::size_t k = ranking.missing + 1;
-    while (k < sorted.size()) {
+    while (k < count) {
         const std::size_t first = k - 1;
-        if (!tied(sorted[k].key, sorted[first].key)) {
+        if (!tied(sorted.value(k), sorted.value(first))) {
             ++k;
             continue;
         }
         do
             ++k;
-        while (k < sorted.size() && tied(sorted[k].key, sorted[first].key));
+        while (k < count && tied(sorted.value(k), sorted.value(first)));
         settle(first, k);
-        linear(tieSizes).set(*nTies, static_cast<double>(k - first));
-        ++*nTies;
+        lengths.push_back(k - first);
     }
+    return lengths;
+}
+
+void writeTies(const std::vector<std::size_t>& lengths, int* nTies, matrix* tieSizes)
+{
+    *nTies = 0;
+    for (const std::size_t length : lengths)
+        linear(tieSizes).set((*nTies)++, static_cast<double>(length));
 }
 
 } // namespace
@@ -107,38 +157,34 @@ void V_GetRanks(matrix* x, int n, matrixInt*& ranks)
 
 void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix*& tieSizes)
 {
-    Ranking ranking(x, n);
-    std::vector<double> sortedWeights;
-    sortedWeights.reserve(ranking.sorted.size());
-    for (const pairToSort& element : ranking.sorted)
-        sortedWeights.push_back(linear(weights).get(zeroBased(element.position)));
-    matrix::matCheck(tieSizes, n, 1, 0.0);
-
+    const Ranking ranking(x, n);
+    const auto weight = [&](std::size_t k) { return linear(weights).get(ranking.sorted.row(k)); };
     const auto closerThanTolerance = [](double value, double other) { return std::abs(value - other) < tieTolerance; };
     const auto shareWeightedMean = [&](std::size_t first, std::size_t behind) {
         // The first of a run borrows the weight of the first of all: a settled part of the rule.
-        double weightSum = sortedWeights[0];
-        double rankSum = ranking.ranks[first] * sortedWeights[0];
+        double weightSum = weight(0);
+        double rankSum = ranking.ranks[first] * weightSum;
         for (std::size_t k = first + 1; k < behind; ++k) {
-            weightSum += sortedWeights[k];
-            rankSum += ranking.ranks[k] * sortedWeights[k];
+            weightSum += weight(k);
+            rankSum += ranking.ranks[k] * weight(k);
         }
-        for (std::size_t k = first; k < behind; ++k)
-            ranking.ranks[k] = rankSum / weightSum;
+        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + behind, rankSum / weightSum);
     };
-    forEachTie(ranking, closerThanTolerance, shareWeightedMean, nTies, tieSizes);
+    const auto lengths = settleTies(ranking, closerThanTolerance, shareWeightedMean);
+    // The weights are read: nothing that is written from here on can change them.
+    matrix::matCheck(tieSizes, n, 1, 0.0);
+    writeTies(lengths, nTies, tieSizes);
     ranking.writeTo(ranks);
 }
 
 void V_GetRanksTiesInt(matrix* x, int n, matrix* /*weights*/, matrix*& ranks, int* nTies, matrix* tieSizes)
 {
-    Ranking ranking(x, n);
+    const Ranking ranking(x, n);
     const auto equal = [](double value, double other) { return value == other; };
     const auto shareLowest = [&](std::size_t first, std::size_t behind) {
-        for (std::size_t k = first + 1; k < behind; ++k)
-            ranking.ranks[k] = ranking.ranks[first];
+        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + behind, ranking.ranks[first]);
     };
-    forEachTie(ranking, equal, shareLowest, nTies, tieSizes);
+    writeTies(settleTies(ranking, equal, shareLowest), nTies, tieSizes);
     ranking.writeTo(ranks);
 }
 

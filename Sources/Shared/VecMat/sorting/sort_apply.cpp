@@ -6,9 +6,6 @@
 #include "copy_block.h"
 #include "memory_stretches.h"
 
-#include <cstdint>
-#include <new>
-
 namespace {
 
 using namespace vecmat;
@@ -54,17 +51,17 @@ void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* 
 /// Fewer rows than this are not worth a look at what the order holds.
 constexpr int fewestRows = 64;
 
-/// The source rows of an order whose rows lie inside their columns; null where one does not, or memory is short.
+/// The source rows of an order whose rows lie inside their columns; nothing where one does not, or memory is short.
 RowOrder rowsInside(matrix* order, int nRows, int height)
 {
     if (nRows < fewestRows)
-        return nullptr;
-    RowOrder rows(new (std::nothrow) std::uint32_t[countOf(nRows)]);
+        return {};
+    RowOrder rows(countOf(nRows));
     for (int i = 0; rows && i < nRows; ++i) {
         const auto row = static_cast<unsigned>(sourceRow(order, i));
         if (row >= countOf(height))
-            return nullptr;
-        rows[countOf(i)] = row;
+            return {};
+        rows.words()[i] = row;
     }
     return rows;
 }
@@ -81,7 +78,7 @@ bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Ou
     memory.add(source->X, source->nElems);
     memory.add(order->X, order->nElems);
     memory.add(out->X, out->nElems);
-    const RowOrder rows = memory.areApart() ? rowsInside(order, nRows, source->nRows) : nullptr;
+    const RowOrder rows = memory.areApart() ? rowsInside(order, nRows, source->nRows) : RowOrder();
     if (!rows)
         return false;
     for (int j = 0; j < nCols; ++j) {
@@ -110,7 +107,8 @@ void applyOrderInPlace(Table* table, int nRows, int nCols, matrix* order)
 {
     const auto rows = cells(table);
     if (nRows >= fewestRows && nCols > 0 && nRows <= table->nRows && rows.covers(table->nRows, nCols))
-        if (const ColumnMoves moves({1, nRows}, rowsInside(order, nRows, table->nRows)); moves.hasMemory())
+        if (const ColumnMoves moves({1, nRows}, rowsInside(order, nRows, table->nRows), Scratch(countOf(nRows)));
+            moves.hasMemory())
             return moves.rearrange(Following{rows.plain(), nCols});
     Table working(nRows, nCols, 0.0);
     applyOrderByRows(table, nRows, nCols, order, &working);

@@ -16,10 +16,11 @@ bool sortByBits(std::vector<pairToSort>& records)
         return false;
     const Scratch keys(n);
     const std::unique_ptr<pairToSort[]> sorted(new (std::nothrow) pairToSort[n]);
+    const Scratch spare(n);
     if (!keys || !sorted)
         return false;
     std::transform(records.begin(), records.end(), keys.data(), [](const pairToSort& record) { return record.key; });
-    const RowOrder order = orderByBits(keys.data(), n, Direction::ascending);
+    const RowOrder order = orderByBits(keys.data(), n, Direction::ascending, spare);
     if (!order)
         return false;
     for (std::size_t k = 0; k < n; ++k)
