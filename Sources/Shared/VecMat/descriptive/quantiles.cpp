@@ -9,6 +9,7 @@
 #include "../frame/numbers.h"
 #include "../sorting/selection.h"
 #include "../sorting/sort.h"
+#include "../sorting/stable_order.h"
 
 #include <cmath>
 #include <vector>
@@ -17,14 +18,17 @@ using namespace vecmat;
 
 namespace {
 
-/// A vector of a call's own, with the first n cells of another.
+/// A vector of a call's own.
 class Work
 {
 public:
-    Work(matrix* v, int n) : table_(n, 1, 0.0)
+    Work(matrix* v, int n) : Work(n, [v](int i) { return linear(v).get(i); }) {}
+    /// Cell i is `cellAt(i)`.
+    template <class CellAt>
+    Work(int n, CellAt cellAt) : table_(n, 1, 0.0)
     {
         for (int i = 0; i < n; ++i)
-            table_.X[i] = linear(v).get(i);
+            table_.X[i] = cellAt(i);
     }
     /// A view: the cells stay with their owner.
     explicit Work(std::vector<double>& cells) : table_(static_cast<int>(cells.size()), 1, cells.data(), true) {}
@@ -81,17 +85,18 @@ bool anyCounts(matrix* v, int n, matrix* w)
 
 /// Walks the cumulative weight of the sorted values up to `target`. What stands before the first value reads -1.0, and
 /// the sum that has the last weight in it is never compared.
-double stepQuantile(Work& sorted, Work& weights, int n, double target)
+template <class Sorted>
+double stepQuantile(Sorted sortedAt, Work& weights, int n, double target)
 {
     double cumulated = 0.0;
     for (int i = 0; i < n; ++i) {
         if (cumulated == target)
-            return (sorted.at(i - 1) + sorted.at(i)) * 0.5;
+            return (sortedAt(i - 1) + sortedAt(i)) * 0.5;
         if (cumulated > target)
-            return sorted.at(i - 1);
+            return sortedAt(i - 1);
         cumulated += weights.at(i);
     }
-    return sorted.at(n - 1);
+    return sortedAt(n - 1);
 }
 
 /// The second rule, over a sorted vector; positions are counted from 1.
@@ -135,16 +140,15 @@ double V_QuantileW(matrix* v, int n, matrix* w, double p)
         return missingValue;
     if (V_IsConstant(w, n, -1) != 0)
         return V_Quantile(v, n, p);
-    Work sorted(v, n);
-    Work weights(w, n);
-    std::vector<double> nothing;
-    Work companion(nothing);
-    SortQ(weights.reference(), n, 1, 1, n, sorted.reference(), companion.reference(), 0, 0, -1);
+    const RowOrder rows = ascendingRows(v, n);
+    const auto rowAt = [&](int i) { return static_cast<int>(rows[countOf(i)]); };
+    const auto sortedAt = [&](int i) { return i < 0 ? outOfRangeValue : linear(v).get(rowAt(i)); };
     if (p == 0.0) // whatever the weight of the smallest value
-        return sorted.at(0);
+        return sortedAt(0);
     if (p == 1.0)
-        return sorted.at(n - 1);
-    return stepQuantile(sorted, weights, n, p * V_Sum2(weights.reference(), n));
+        return sortedAt(n - 1);
+    Work weights(n, [&](int i) { return linear(w).get(rowAt(i)); });
+    return stepQuantile(sortedAt, weights, n, p * V_Sum2(weights.reference(), n));
 }
 
 double V_QuantileM(matrix* v, int n, short* mask, double p)

@@ -1,6 +1,7 @@
 // The call frame: how an exported flat form wraps the caller's arrays, and how results go back.
 //
 //     viewed    the caller's array itself, read or written in place
+//     View      the same without a call for memory, where calls on few numbers count
 //     copied    a private copy; the caller's array is never written unless the result is handed back
 //     fresh     a new table for a result that is then handed back
 //     columns   an array of arrays, each column a view (numbers) or a copy (strings)
@@ -109,6 +110,30 @@ inline StringTableHandle freshStrings(int rows, int cols)
 {
     return StringTableHandle(new Smatrix(rows, cols));
 }
+
+/// The caller's array itself as a table that lives on the stack. For a callee that keeps the table: one that prepares it
+/// with `matCheck` does so at the dimensions given, which it has.
+template <class Table>
+class View
+{
+public:
+    template <class Element>
+    View(Element* x, int rows, int cols) : table_(rows, cols, x, true), pointer_(x != nullptr ? &table_ : nullptr)
+    {
+    }
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+
+    operator Table*() { return pointer_; }
+    Table*& reference() { return pointer_; }
+
+private:
+    Table table_;
+    Table* pointer_;
+};
+
+View(double*, int, int)->View<matrix>;
+View(int*, int, int)->View<matrixInt>;
 
 // ---- hand back ------------------------------------------------------------------------------------------------------
 

@@ -64,22 +64,25 @@ private:
     Scratch moved_;
 };
 
-/// Sorts the rows of a range by a column of keys, in plain storage. False where that has to be done row by row; nothing
+/// Sorts the rows of a range, not before the first, by a column of keys in plain storage. False where that has to be done row by row; nothing
 /// is done then.
 template <class Number, class... Plain>
 bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys keys, Following<Plain>... tables)
 {
     const int last = range.last;
-    Stretches written;
-    if (keys == SortedKeys::written)
-        written.add(key, countOf(last));
-    (tables.cells.visitStorage(last, tables.nCols,
-                               [&](const void* from, const void* to) { written.addRange(from, to); }),
-     ...);
-    if ((tables.cells.folds(last, tables.nCols) || ...) || !written.areApart())
-        return false;
+    if constexpr (sizeof...(Plain) > 0) {
+        Stretches written;
+        if (keys == SortedKeys::written)
+            written.add(key, countOf(last));
+        (tables.cells.visitStorage(last, tables.nCols,
+                                   [&](const void* from, const void* to) { written.addRange(from, to); }),
+         ...);
+        if ((tables.cells.folds(last, tables.nCols) || ...) || !written.areApart())
+            return false;
+    }
     Scratch column(static_cast<std::size_t>(range.count()));
-    RowOrder order = orderByBits(key + (range.first - 1), static_cast<std::size_t>(range.count()), direction, column);
+    RowOrder order =
+        stableOrder(key + (range.first - 1), static_cast<std::size_t>(range.count()), direction, column.data());
     const ColumnMoves moves(range, std::move(order), std::move(column));
     if (!moves.hasMemory())
         return false;
@@ -87,12 +90,6 @@ bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys 
         moves.rearrange(key);
     (moves.rearrange(tables), ...);
     return true;
-}
-
-/// Is the range one that `sortInColumns` may be asked for?
-inline bool isLongRange(RowRange range)
-{
-    return range.first >= 1 && range.count() >= fewestKeysToCount;
 }
 
 /// Storage that holds numbers in columns.

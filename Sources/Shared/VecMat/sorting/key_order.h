@@ -1,7 +1,7 @@
-// Stable orders of many numbers, found by counting passes over the bits of the keys instead of by comparisons.
+// Stable orders and sorts of numbers, by counting passes over the bits of the keys where there are many.
 #pragma once
 
-#include "../elementary/kernels/scratch.h"
+#include "digit_passes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -10,8 +10,6 @@
 #include <utility>
 
 namespace vecmat {
-
-enum class Direction { ascending, descending };
 
 /// For each place the number of the row that goes there, from 0; or nothing.
 class RowOrder
@@ -27,22 +25,22 @@ public:
 
     explicit operator bool() const { return words_ != nullptr; }
     std::uint32_t operator[](std::size_t place) const { return static_cast<std::uint32_t>(words_[place]); }
-
     std::uint64_t* words() const { return words_.get(); }
 
 private:
     Words words_;
 };
 
-/// Fewer keys than this are merged faster.
-inline constexpr long long fewestKeysToCount = 300;
-
 /// The stable order of `n` keys under the plain less-than: zeros of both signs tie, and tied keys keep the order of the
-/// input in both directions. Nothing where a merge has to serve: few keys, a NaN, which is not ordered against
-/// anything, or no memory. `spare` has room for n numbers, and is left with any. The order takes as much as the keys.
-RowOrder orderByBits(const double* keys, std::size_t n, Direction direction, const Scratch& spare);
+/// input in both directions. Nothing where a merge has to serve: with a NaN, which is not ordered against anything, and
+/// where memory is short. `spare` has room for n numbers and is left with any, or is null: `fewestForDigits` keys and
+/// more need it. The order takes 8 bytes for each key.
+RowOrder stableOrder(const double* keys, std::size_t n, Direction direction, void* spare);
+RowOrder stableOrder(const int* keys, std::size_t n, Direction direction, void* spare);
 
-/// Integer keys, compared as the doubles that they are widened to.
-RowOrder orderByBits(const int* keys, std::size_t n, Direction direction, const Scratch& spare);
+/// Sorts numbers among which no two tie that can be told apart. False where `stableOrder` or a merge has to serve: with
+/// a negative zero, a NaN, and where there is no memory for a copy of many; nothing is done then.
+bool sortNumbers(double* x, std::size_t n, Direction direction);
+bool sortNumbers(int* x, std::size_t n, Direction direction);
 
 } // namespace vecmat

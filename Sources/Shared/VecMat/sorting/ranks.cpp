@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -27,16 +26,15 @@ constexpr double stepTolerance = 1e-6;
 class SortedElements
 {
 public:
-    SortedElements(matrix* x, int n) : count_(countOf(n)), values_(std::make_unique_for_overwrite<double[]>(count_))
+    SortedElements(matrix* x, int n)
+        : count_(countOf(n)), rows_(ascendingRows(x, n)), values_(std::make_unique_for_overwrite<double[]>(count_))
     {
-        const auto elements = linear(x);
-        if (n >= fewestKeysToCount && elements.covers(n))
-            rows_ = orderByBits(x->X, count_, Direction::ascending, Scratch(count_));
-        if (rows_)
-            for (std::size_t k = 0; k < count_; ++k)
-                values_[k] = x->X[rows_[k]];
-        else
-            merge(elements, n);
+        onBlocks(
+            [this](auto elements) {
+                for (std::size_t k = 0; k < count_; ++k)
+                    values_[k] = elements.get(row(k));
+            },
+            block(linear(x), n));
     }
 
     std::size_t count() const { return count_; }
@@ -44,22 +42,6 @@ public:
     double value(std::size_t k) const { return values_[k]; }
 
 private:
-    template <class Elements>
-    void merge(Elements elements, int n)
-    {
-        rows_ = RowOrder(std::make_unique_for_overwrite<std::uint64_t[]>(count_));
-        placeInStableOrder(
-            {1, n}, Direction::ascending,
-            [&](int number) {
-                return pairToSort{number, elements.get(zeroBased(number))};
-            },
-            [&](int number, const pairToSort& record) {
-                const std::size_t place = countOf(zeroBased(number));
-                rows_.words()[place] = countOf(zeroBased(record.position));
-                values_[place] = record.key;
-            });
-    }
-
     std::size_t count_;
     RowOrder rows_;
     std::unique_ptr<double[]> values_;

@@ -9,35 +9,35 @@ using namespace vecmat;
 
 void VB_V_GetRanksDbl(double* x, int n, double* ranks)
 {
-    auto result = viewed(ranks, n, 1);
-    V_GetRanks(viewed(x, n, 1), n, result.reference());
+    View result(ranks, n, 1);
+    V_GetRanks(View(x, n, 1), n, result.reference());
 }
 
 void VB_V_GetRanksLng(double* x, int n, int* ranks)
 {
-    auto result = viewed(ranks, n, 1);
-    V_GetRanks(viewed(x, n, 1), n, result.reference());
+    View result(ranks, n, 1);
+    V_GetRanks(View(x, n, 1), n, result.reference());
 }
 
 void VB_V_GetRanksTiesDbl(double* x, int n, double* weights, double* ranks, int* nTies, double* tieSizes)
 {
-    auto result = viewed(ranks, n, 1);
-    auto sizes = viewed(tieSizes, n, 1);
-    V_GetRanksTies(viewed(x, n, 1), n, viewed(weights, n, 1), result.reference(), nTies, sizes.reference());
+    View result(ranks, n, 1);
+    View sizes(tieSizes, n, 1);
+    V_GetRanksTies(View(x, n, 1), n, View(weights, n, 1), result.reference(), nTies, sizes.reference());
 }
 
 void VB_V_GetRanksTiesIntDbl(double* x, int n, double* weights, double* ranks, int* nTies, double* tieSizes)
 {
-    auto result = viewed(ranks, n, 1);
-    V_GetRanksTiesInt(viewed(x, n, 1), n, viewed(weights, n, 1), result.reference(), nTies, viewed(tieSizes, n, 1));
+    View result(ranks, n, 1);
+    V_GetRanksTiesInt(View(x, n, 1), n, View(weights, n, 1), result.reference(), nTies, View(tieSizes, n, 1));
 }
 
 short VB_V_IsSorted(double* x, int n, short strict)
 {
-    return V_IsSorted(viewed(x, n, 1), n, strict);
+    return V_IsSorted(View(x, n, 1), n, strict);
 }
 
 double VB_V_TimeIntervalSize(double* t, int n, short sorted)
 {
-    return V_TimeIntervalSize(viewed(t, n, 1), n, sorted);
+    return V_TimeIntervalSize(View(t, n, 1), n, sorted);
 }

@@ -11,7 +11,8 @@ namespace vecmat {
 
 namespace {
 
-constexpr std::size_t fewestToSelect = 40;
+/// So many are copied to the stack.
+constexpr std::size_t mostOnStack = 64;
 constexpr std::size_t fewestToSample = 3000;
 
 struct Bounds
@@ -134,22 +135,15 @@ private:
     bool isMixed_;
 };
 
-} // namespace
-
-std::optional<Neighbours> selectNeighbours(const double* x, std::size_t n, std::size_t place)
+/// Selects with memory for n numbers.
+std::optional<Neighbours> selectWith(double* memory, const double* x, std::size_t n, std::size_t place)
 {
-    if (n < fewestToSelect)
-        return std::nullopt;
-    const Scratch scratch(n);
-    if (!scratch)
-        return std::nullopt;
     const std::size_t next = std::min(place + 1, n - 1);
-    const Bounds likely = n < fewestToSample ? Bounds{} : likelyBounds(x, n, place, scratch.data());
-    Partition numbers(likely, x, n, scratch.data());
+    Partition numbers(n < fewestToSample ? Bounds{} : likelyBounds(x, n, place, memory), x, n, memory);
     if (numbers.anyNan())
         return std::nullopt;
     if (!numbers.holds(place) || !numbers.holds(next))
-        numbers = Partition({}, x, n, scratch.data());
+        numbers = Partition({}, x, n, memory);
     Neighbours found{numbers.at(place), next > place ? numbers.at(next) : outOfRangeValue};
     if (found.at == 0.0 || found.next == 0.0) {
         const Zeros zeros(x, n);
@@ -157,6 +151,18 @@ std::optional<Neighbours> selectNeighbours(const double* x, std::size_t n, std::
         found.next = found.next == 0.0 ? zeros.at(next, found.next) : found.next;
     }
     return found;
+}
+
+} // namespace
+
+std::optional<Neighbours> selectNeighbours(const double* x, std::size_t n, std::size_t place)
+{
+    if (n <= mostOnStack) {
+        double memory[mostOnStack];
+        return selectWith(memory, x, n, place);
+    }
+    const Scratch memory(n);
+    return memory ? selectWith(memory.data(), x, n, place) : std::nullopt;
 }
 
 } // namespace vecmat

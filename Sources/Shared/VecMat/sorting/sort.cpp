@@ -47,7 +47,7 @@ bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Directi
         return false;
     else {
         const auto rows = cells(table);
-        if (col < 1 || !isLongRange(range) || !rows.covers(range.last, std::max(nCols, col)))
+        if (col < 1 || range.first < 1 || range.count() < 2 || !rows.covers(range.last, std::max(nCols, col)))
             return false;
         // A key column that is not among those that move is sorted by itself.
         return sortInColumns(range, direction, rows.plain().column(col - 1),

@@ -49,19 +49,17 @@ void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* 
 }
 
 /// Fewer rows than this are not worth a look at what the order holds.
-constexpr int fewestRows = 64;
+constexpr int fewestRows = 32;
 
 /// The source rows of an order whose rows lie inside their columns; nothing where one does not, or memory is short.
 RowOrder rowsInside(matrix* order, int nRows, int height)
 {
-    if (nRows < fewestRows)
-        return {};
     RowOrder rows(countOf(nRows));
     for (int i = 0; rows && i < nRows; ++i) {
-        const auto row = static_cast<unsigned>(sourceRow(order, i));
-        if (row >= countOf(height))
+        const double row = linear(order).get(i) - 1.0;
+        if (!(row > -1.0 && row < height))
             return {};
-        rows.words()[i] = row;
+        rows.words()[i] = countOf(static_cast<int>(row)); // truncated: -0.5 is the first
     }
     return rows;
 }

@@ -15,37 +15,37 @@ auto unmixed(Number* x, int nRows, int nCols, const Number* out)
     Stretches arrays;
     arrays.add(x, elementCount(nRows, nCols));
     arrays.add(out, elementCount(nRows, nCols));
-    return arrays.areApart() ? viewed(x, nRows, nCols) : copied(x, nRows, nCols);
+    return arrays.areApart() ? View(x, nRows, nCols) : copied(x, nRows, nCols);
 }
 
 } // namespace
 
 void VB_SortApply(double* source, int nRows, int nCols, double* order, double* out)
 {
-    auto result = viewed(out, nRows, nCols);
-    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, viewed(order, nRows, 1), result.reference());
+    View result(out, nRows, nCols);
+    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, View(order, nRows, 1), result.reference());
 }
 
 void VB_SortApply2(double* table, int nRows, int nCols, double* order)
 {
-    SortApply2(viewed(table, nRows, nCols), nRows, nCols, viewed(order, nRows, 1));
+    SortApply2(View(table, nRows, nCols), nRows, nCols, View(order, nRows, 1));
 }
 
 void VB_SortApplyLng(int* source, int nRows, int nCols, double* order, int* out)
 {
-    auto result = viewed(out, nRows, nCols);
-    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, viewed(order, nRows, 1), result.reference());
+    View result(out, nRows, nCols);
+    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, View(order, nRows, 1), result.reference());
 }
 
 void VB_SortApply2Lng(int* table, int nRows, int nCols, double* order)
 {
-    SortApply2(viewed(table, nRows, nCols), nRows, nCols, viewed(order, nRows, 1));
+    SortApply2(View(table, nRows, nCols), nRows, nCols, View(order, nRows, 1));
 }
 
 void VB_SortApplyStr(wchar_t** source, int nRows, int nCols, double* order, wchar_t** out)
 {
     const auto result = freshStrings(nRows, nCols);
-    SortApplyStr(copied(source, nRows, nCols), nRows, nCols, viewed(order, nRows, 1), result);
+    SortApplyStr(copied(source, nRows, nCols), nRows, nCols, View(order, nRows, 1), result);
     handBack(result, out);
 }
 

@@ -15,7 +15,7 @@ template <class KeyCells, class... Cells>
 bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
 {
     if constexpr (std::is_arithmetic_v<typename KeyCells::Value> && (HasColumnsOfNumbers<Cells> && ...))
-        return isLongRange(range) &&
+        return range.first >= 1 && range.count() > 1 &&
                onBlocksOrElse(
                    [&](auto plainKey, auto... plain) {
                        return sortInColumns(range, direction, plainKey.data(), keys, Following{plain, tables.nCols}...);
@@ -42,10 +42,17 @@ void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys key
 template <class Vector>
 void sortElements(RowRange range, Direction direction, Vector x)
 {
-    if (detail::sortedInColumns(range, direction, x, SortedKeys::written))
-        return;
+    using Value = typename Vector::Value;
+    if constexpr (std::is_arithmetic_v<Value>) {
+        const auto count = static_cast<std::size_t>(range.count());
+        if (range.first >= 1 && x.covers(range.last) &&
+            sortNumbers(x.plain().data() + zeroBased(range.first), count, direction))
+            return;
+        if (detail::sortedInColumns(range, direction, x, SortedKeys::written))
+            return;
+    }
     placeInStableOrder(
-        range, direction, [&](int number) { return typename Vector::Value(x.get(zeroBased(number))); },
+        range, direction, [&](int number) { return Value(x.get(zeroBased(number))); },
         [&](int number, auto& element) { x.set(zeroBased(number), std::move(element)); });
 }
 

@@ -76,8 +76,8 @@ struct RowSort
     {
         if constexpr (isNumber<Element>)
             if (areApart(data, key, companion))
-                return SortQ(viewed(data, nRows, nCols).reference(), nRows, nCols, first, last,
-                             viewed(key, nRows, 1).reference(), viewed(companion, nRows, nCompanionCols).reference(),
+                return SortQ(View(data, nRows, nCols).reference(), nRows, nCols, first, last,
+                             View(key, nRows, 1).reference(), View(companion, nRows, nCompanionCols).reference(),
                              nCompanionCols, descending, writeKeys);
         auto table = copied(data, nRows, nCols);
         run(table.reference(), key, companion);
@@ -100,7 +100,7 @@ private:
 /// The keys are sorted in a private copy. Numbers change places where they are.
 int sortByIndicator(double* data, int n, int nCols, double* key)
 {
-    return SortDataBy01(viewed(data, n, atLeastOne(nCols)).reference(), n, atLeastOne(nCols),
+    return SortDataBy01(View(data, n, atLeastOne(nCols)).reference(), n, atLeastOne(nCols),
                         copied(key, n, 1).reference());
 }
 
@@ -116,12 +116,12 @@ int sortByIndicator(short* data, int n, int nCols, double* key)
 
 int VB_SortQVectorDbl(double* x, int n, int first, int last, short descending)
 {
-    return SortQVector(viewed(x, n, 1).reference(), n, first, last, descending);
+    return SortQVector(x, n, first, last, descending);
 }
 
 int VB_SortQVectorLng(int* x, int n, int first, int last, short descending)
 {
-    return SortQVector(viewed(x, n, 1).reference(), n, first, last, descending);
+    return SortQVector(x, n, first, last, descending);
 }
 
 int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending)
@@ -134,7 +134,7 @@ int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending)
 
 int VB_SortQMatrixCol(double* table, int nRows, int nCols, int col, int first, int last, short descending)
 {
-    return SortQMatrixCol(viewed(table, nRows, nCols).reference(), nRows, nCols, col, first, last, descending);
+    return SortQMatrixCol(View(table, nRows, nCols).reference(), nRows, nCols, col, first, last, descending);
 }
 
 int VB_SortQMatrixColStr(wchar_t** table, int nRows, int nCols, int col, int first, int last, short descending)
@@ -163,12 +163,12 @@ int VB_SortMatrixSeqQLng(int* table, int nRows, int nCols, short lastToFirst)
 
 int VB_SortMatrixSeqQP1toP2Dbl(double* table, int nRows, int nCols, int firstCol, int lastCol, short lastToFirst)
 {
-    return SortMatrixSeqQP1toP2(viewed(table, nRows, nCols), nRows, nCols, firstCol, lastCol, lastToFirst);
+    return SortMatrixSeqQP1toP2(View(table, nRows, nCols), nRows, nCols, firstCol, lastCol, lastToFirst);
 }
 
 int VB_SortMatrixSeqQP1toP2Lng(int* table, int nRows, int nCols, int firstCol, int lastCol, short lastToFirst)
 {
-    return SortMatrixSeqQP1toP2(viewed(table, nRows, nCols), nRows, nCols, firstCol, lastCol, lastToFirst);
+    return SortMatrixSeqQP1toP2(View(table, nRows, nCols), nRows, nCols, firstCol, lastCol, lastToFirst);
 }
 
 int VB_SortQDbl(double* data, int nRows, int nCols, int first, int last, double* key, double* companion,

@@ -2,7 +2,9 @@
 
 #include "../elementary/kernels/scratch.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace vecmat {
 
@@ -12,7 +14,7 @@ namespace {
 bool sortByBits(std::vector<pairToSort>& records)
 {
     const std::size_t n = records.size();
-    if (n < static_cast<std::size_t>(fewestKeysToCount))
+    if (n < fewestForDigits)
         return false;
     const Scratch keys(n);
     const std::unique_ptr<pairToSort[]> sorted(new (std::nothrow) pairToSort[n]);
@@ -20,7 +22,7 @@ bool sortByBits(std::vector<pairToSort>& records)
     if (!keys || !sorted)
         return false;
     std::transform(records.begin(), records.end(), keys.data(), [](const pairToSort& record) { return record.key; });
-    const RowOrder order = orderByBits(keys.data(), n, Direction::ascending, spare);
+    const RowOrder order = stableOrder(keys.data(), n, Direction::ascending, spare.data());
     if (!order)
         return false;
     for (std::size_t k = 0; k < n; ++k)
@@ -35,6 +37,27 @@ void sortStably(std::vector<pairToSort>& records)
 {
     if (!sortByBits(records))
         std::stable_sort(records.begin(), records.end());
+}
+
+RowOrder ascendingRows(matrix* x, int n)
+{
+    const std::size_t count = countOf(n);
+    const auto elements = linear(x);
+    if (elements.covers(n)) {
+        const auto spare = count < fewestForDigits ? std::nullopt : std::optional<Scratch>(count);
+        if (auto rows = stableOrder(x->X, count, Direction::ascending, spare ? spare->data() : nullptr))
+            return rows;
+    }
+    auto rows = std::make_unique_for_overwrite<std::uint64_t[]>(count);
+    placeInStableOrder(
+        {1, n}, Direction::ascending,
+        [&](int number) {
+            return pairToSort{number, elements.get(zeroBased(number))};
+        },
+        [&](int number, const pairToSort& record) {
+            rows[countOf(zeroBased(number))] = countOf(zeroBased(record.position));
+        });
+    return RowOrder(std::move(rows));
 }
 
 } // namespace vecmat

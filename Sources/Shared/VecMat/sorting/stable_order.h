@@ -90,6 +90,9 @@ void placeInStableOrder(RowRange range, Direction direction, Load load, Place pl
         place(range.at(k), records[static_cast<std::size_t>(backwards ? count - 1 - k : k)]);
 }
 
+/// The rows of a vector of n in ascending order of its elements. An element beyond the table is -1.0.
+RowOrder ascendingRows(matrix* x, int n);
+
 /// The rows of one table that follow a sort. Keeps a working copy of the range, row after row, so that a row that is
 /// fetched from anywhere costs one stretch of memory however many columns there are.
 ///
