@@ -8,22 +8,26 @@ using namespace vecmat;
 
 namespace {
 
-/// The source of a result: the caller's array, or a copy where the result lies over it.
+/// Into another array, or over the source, which is copied then.
 template <class Number>
-auto unmixed(Number* x, int nRows, int nCols, const Number* out)
+void applyToArrays(Number* source, int nRows, int nCols, double* order, Number* out)
 {
     Stretches arrays;
-    arrays.add(x, elementCount(nRows, nCols));
+    arrays.add(source, elementCount(nRows, nCols));
     arrays.add(out, elementCount(nRows, nCols));
-    return arrays.areApart() ? View(x, nRows, nCols) : copied(x, nRows, nCols);
+    View result(out, nRows, nCols);
+    View rows(order, nRows, 1);
+    if (arrays.areApart())
+        SortApply(View(source, nRows, nCols), nRows, nCols, rows, result.reference());
+    else
+        SortApply(copied(source, nRows, nCols), nRows, nCols, rows, result.reference());
 }
 
 } // namespace
 
 void VB_SortApply(double* source, int nRows, int nCols, double* order, double* out)
 {
-    View result(out, nRows, nCols);
-    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, View(order, nRows, 1), result.reference());
+    applyToArrays(source, nRows, nCols, order, out);
 }
 
 void VB_SortApply2(double* table, int nRows, int nCols, double* order)
@@ -33,8 +37,7 @@ void VB_SortApply2(double* table, int nRows, int nCols, double* order)
 
 void VB_SortApplyLng(int* source, int nRows, int nCols, double* order, int* out)
 {
-    View result(out, nRows, nCols);
-    SortApply(unmixed(source, nRows, nCols, out), nRows, nCols, View(order, nRows, 1), result.reference());
+    applyToArrays(source, nRows, nCols, order, out);
 }
 
 void VB_SortApply2Lng(int* table, int nRows, int nCols, double* order)
