@@ -121,6 +121,12 @@ public:
     View(Element* x, int rows, int cols) : table_(rows, cols, x, true), pointer_(x != nullptr ? &table_ : nullptr)
     {
     }
+    /// Of a null array the callee may have made a table.
+    ~View()
+    {
+        if (pointer_ != &table_)
+            delete pointer_;
+    }
     View(const View&) = delete;
     View& operator=(const View&) = delete;
 
