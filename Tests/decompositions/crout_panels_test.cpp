@@ -1,10 +1,8 @@
 // Tables that are large enough for panels are factored to the bits of the plain steps: at orders around the edges of a
 // tile and of a strip, with ties, zeros of both signs and numbers that are none.
 #include "decompositions/determinants.h"
-#include "decompositions/lu.h"
 
-#include "decompositions/crout_reference.h"
-#include "decompositions/residuals.h"
+#include "decompositions/lu_calls.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/random_data.h"
@@ -31,42 +29,10 @@ std::size_t squared(int n)
     return static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
 }
 
-struct Factors
-{
-    std::vector<double> cells;
-    std::vector<int> index;
-    double d;
-    short status;
-};
-
-Factors factored(Owned<matrix> a, int n)
-{
-    Owned<matrixInt> index;
-    Factors result{{}, {}, 77.0, 77};
-    M_LUDecomp(a, n, index, &result.d, &result.status);
-    result.cells = cellsOf(a);
-    result.index = cellsOf(index);
-    return result;
-}
-
-Factors referenceOf(matrix* a, int n, Tie tie = Tie::last)
-{
-    matrix w(*a);
-    ReferencePivots pivots;
-    const int status = referenceLU(w, n, pivots, tie);
-    pivots.partner.resize(static_cast<std::size_t>(n), 0);
-    return {cellsOf(&w), pivots.partner, pivots.parity, static_cast<short>(status)};
-}
-
 void expectPlainSteps(const std::vector<double>& cells, int n)
 {
     SCOPED_TRACE(n);
-    const Factors expected = referenceOf(table(n, n, cells), n);
-    const Factors actual = factored(table(n, n, cells), n);
-    EXPECT_THAT(actual.cells, SameBits(expected.cells));
-    EXPECT_EQ(actual.index, expected.index);
-    EXPECT_THAT(actual.d, SameBits(expected.d));
-    EXPECT_EQ(actual.status, expected.status);
+    expectSame(factored(table(n, n, cells), n), referenceOf(table(n, n, cells), n));
 }
 
 TEST(CroutByPanels, HasTheBitsOfThePlainSteps)

@@ -2,6 +2,7 @@
 #include "decompositions/inversion.h"
 
 #include "decompositions/crout_reference.h"
+#include "decompositions/triangular_reference.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/random_data.h"
@@ -176,21 +177,6 @@ TEST(InverseSideBySide, WithoutMemoryForItIsThePlainForm)
 
 // ---- triangular tables ----------------------------------------------------------------------------------------------
 
-void referenceTriangle(matrix& a, int n, bool lower, matrix& out)
-{
-    for (int i = 1; i <= n; ++i)
-        out.vbset(i, i, 1.0 / a.vbget(i, i));
-    for (int step = 2; step <= n; ++step) {
-        const int i = lower ? step : n + 1 - step;
-        for (int j = lower ? 1 : i + 1; j <= (lower ? i - 1 : n); ++j) {
-            double sum = 0.0;
-            for (int k = lower ? j : i + 1; k <= (lower ? i - 1 : j); ++k)
-                sum += a.vbget(i, k) * out.vbget(k, j);
-            out.vbset(i, j, -sum * out.vbget(i, i));
-        }
-    }
-}
-
 TEST(InverseSideBySide, OfATriangleHasTheBitsOfThePlainSteps)
 {
     RandomData data(1218);
@@ -206,7 +192,7 @@ TEST(InverseSideBySide, OfATriangleHasTheBitsOfThePlainSteps)
                 Owned<matrix> out = table(n, n, leftovers);
                 const Owned<matrix> expected = table(n, n, leftovers);
                 EXPECT_EQ(M_InverseTriang(a, n, lower ? -1 : 0, out, -1.0), 0);
-                referenceTriangle(*a, n, lower, *expected);
+                referenceTriangularInverse(*a, n, lower, *expected, -1.0);
                 EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected))) << n << lower << kind;
             }
 }
@@ -226,7 +212,7 @@ TEST(InverseSideBySide, OfATriangleOverItselfShowsTheOrderOfTheResults)
             if (cells == &memory)
                 M_InverseTriang(&a, n, lower ? -1 : 0, out, -1.0);
             else
-                referenceTriangle(a, n, lower, *out);
+                referenceTriangularInverse(a, n, lower, *out, -1.0);
         }
         EXPECT_THAT(memory, SameBits(expected)) << lower;
     }

@@ -2,6 +2,7 @@
 #include "decompositions/inversion.h"
 
 #include "decompositions/residuals.h"
+#include "decompositions/triangular_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
@@ -18,26 +19,6 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// The steps in their order, on checked cells.
-int reference(matrix& a, int n, bool lower, matrix& out, double tol)
-{
-    for (int i = 1; i <= n; ++i) {
-        if (std::fabs(a.vbget(i, i)) < tol)
-            return -1;
-        out.vbset(i, i, 1.0 / a.vbget(i, i));
-    }
-    for (int step = 2; step <= n; ++step) {
-        const int i = lower ? step : n + 1 - step;
-        for (int j = lower ? 1 : i + 1; j <= (lower ? i - 1 : n); ++j) {
-            double sum = 0.0;
-            for (int k = lower ? j : i + 1; k <= (lower ? i - 1 : j); ++k)
-                sum += a.vbget(i, k) * out.vbget(k, j);
-            out.vbset(i, j, -sum * out.vbget(i, i));
-        }
-    }
-    return 0;
-}
-
 TEST(M_InverseTriang, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(711);
@@ -50,7 +31,8 @@ TEST(M_InverseTriang, HasTheBitsOfTheStepsInTheirOrder)
             Owned<matrix> out = table(n, n, leftovers);
             const Owned<matrix> expected = table(n, n, leftovers);
             const Owned<matrix> a = table(n, n, cells);
-            EXPECT_EQ(M_InverseTriang(a, n, lower ? -1 : 0, out, 1e-12), reference(*a, n, lower, *expected, 1e-12));
+            EXPECT_EQ(M_InverseTriang(a, n, lower ? -1 : 0, out, 1e-12),
+                      referenceTriangularInverse(*a, n, lower, *expected, 1e-12));
             EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected))) << n << lower;
         }
 }
@@ -105,7 +87,7 @@ TEST(M_InverseTriang, ReadsMinusOneOutsideTheTables)
     const Owned<matrix> a = byColumns({{2.0, 1.0}});
     Owned<matrix> out = filled(2, 1, 77.0);
     const Owned<matrix> expected = filled(2, 1, 77.0);
-    EXPECT_EQ(M_InverseTriang(a, 2, -1, out, 1e-12), reference(*a, 2, true, *expected, 1e-12));
+    EXPECT_EQ(M_InverseTriang(a, 2, -1, out, 1e-12), referenceTriangularInverse(*a, 2, true, *expected, 1e-12));
     EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected)));
     // The written 1 / -1.0 is dropped, and read as -1.0 again.
     EXPECT_THAT(cellsOf(out), SameBits({0.5, -0.5 * -1.0}));

@@ -1,7 +1,7 @@
 // Triangular factors by Crout's method.
 #include "decompositions/lu.h"
 
-#include "decompositions/crout_reference.h"
+#include "decompositions/lu_calls.h"
 #include "decompositions/residuals.h"
 #include "support/bits.h"
 #include "support/guarded.h"
@@ -21,48 +21,6 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double tiny = std::bit_cast<double>(std::uint64_t{0x3bc79ca10c924223});
-
-struct Factors
-{
-    std::vector<double> cells;
-    std::vector<int> index;
-    double d;
-    short status;
-};
-
-Factors factored(Owned<matrix> a, int n)
-{
-    Owned<matrixInt> index;
-    Factors result{{}, {}, 77.0, 77};
-    M_LUDecomp(a, n, index, &result.d, &result.status);
-    result.cells = cellsOf(a);
-    result.index = cellsOf(index);
-    return result;
-}
-
-Factors factored(Owned<matrix> a)
-{
-    const int n = a->nRows;
-    return factored(std::move(a), n);
-}
-
-/// The steps in their order, with the index as the library hands it out.
-Factors referenceOf(const Owned<matrix>& a, int n, Tie tie = Tie::last)
-{
-    matrix w(*a.get());
-    ReferencePivots pivots;
-    const int status = referenceLU(w, n, pivots, tie);
-    pivots.partner.resize(static_cast<std::size_t>(n), 0);
-    return {cellsOf(&w), pivots.partner, pivots.parity, static_cast<short>(status)};
-}
-
-void expectSame(const Factors& actual, const Factors& expected)
-{
-    EXPECT_THAT(actual.cells, SameBits(expected.cells));
-    EXPECT_EQ(actual.index, expected.index);
-    EXPECT_THAT(actual.d, SameBits(expected.d));
-    EXPECT_EQ(actual.status, expected.status);
-}
 
 TEST(M_LUDecomp, HasTheBitsOfTheStepsInTheirOrder)
 {
