@@ -2,7 +2,7 @@
 //
 //     --only=REGEX      the workloads whose name matches
 //     --quick           each workload at its last size alone, with fewer repetitions
-//     --ours            the library alone (the bits are compared with the plain loop's all the same), at the last size
+//     --ours            the library alone (the bits are compared with the plain loop's all the same)
 //     --export=DIR      time nothing; write the data of each workload at its last size, and the library's result
 //
 // A benchmark is named workload/contender/size. Its counter "best" is the shortest run, in seconds of processor time:
@@ -216,11 +216,9 @@ void registerBenchmarks(const Suite& suite, const Options& options)
     for (const Entry& entry : suite.entries()) {
         if (!std::regex_search(entry.name, options.only))
             continue;
-        // Who takes part at which size is known to the stage alone; a small one has what the first size needs.
-        const bool lastAlone = options.quick || options.oursAlone;
-        for (std::size_t k = lastAlone ? entry.sizes.size() - 1 : 0; k < entry.sizes.size(); ++k) {
+        for (std::size_t k = options.quick ? entry.sizes.size() - 1 : 0; k < entry.sizes.size(); ++k) {
             const int size = entry.sizes[k];
-            const auto stage = entry.stage(size);
+            const auto stage = entry.stage(size); // for who takes part; the data are made anew when their turn comes
             const auto& contenders = stage->contest().contenders();
             const std::size_t taking = options.oursAlone ? 1 : contenders.size();
             for (std::size_t number = 0; number < taking; ++number) {

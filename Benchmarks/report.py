@@ -145,7 +145,7 @@ def growth_table(results):
             cells.append(", ".join(shown_time(seconds) if seconds else "-" for seconds in times))
             known = [pair for pair in zip(sizes, times) if pair[1]]
             cells.append(exponent(*known[-2:]) if len(known) > 1 else "")
-        lines.append(row(workload, ", ".join(f"{size:g}" for size in sizes), *cells))
+        lines.append(row(workload, ", ".join(f"{size:,}" for size in sizes), *cells))
     return lines
 
 
