@@ -45,7 +45,8 @@ RowOrder ascendingRows(matrix* x, int n)
     const auto elements = linear(x);
     if (elements.covers(n)) {
         const auto spare = count < fewestForDigits ? std::nullopt : std::optional<Scratch>(count);
-        if (auto rows = stableOrder(elements.plain().data(), count, Direction::ascending, spare ? spare->data() : nullptr))
+        if (auto rows =
+                stableOrder(elements.plain().data(), count, Direction::ascending, spare ? spare->data() : nullptr))
             return rows;
     }
     auto rows = std::make_unique_for_overwrite<std::uint64_t[]>(count);
