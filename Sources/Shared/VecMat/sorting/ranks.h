@@ -7,7 +7,8 @@
 //     V_GetRanksTiesInt  1, 2, 2, 4      the lowest of the places; a tie is plain equality
 //
 // Vectors are read in linear order; an element beyond its table reads -1.0 and takes part. No error is reported. With
-// NaN among the values the sort promises no order (see sort.h), and a NaN ties with nothing.
+// NaN among the values the sort promises no order (see sort.h), and a NaN ties with nothing. The scratch memory is four
+// vectors at most; nothing is written before everything is read.
 #pragma once
 
 #include "../frame/api.h"

@@ -10,8 +10,11 @@
 //     NaN keys the rows come in an order that nothing promises, each of them once.
 //   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty) and
 //     takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
-//     raised before a sort writes anything (a sort by several columns in turn may have finished some of them); the sort
-//     itself does without its buffer where memory is short.
+//     raised before a sort writes anything (a sort by several columns in turn may have finished some of them).
+//   - Numbers are sorted by the bits of their keys and moved column by column, with a column of scratch and 8 bytes for
+//     each row of the range; a vector of numbers with a copy of it. A merge of records serves for strings, for NaN and
+//     where that memory is short, at last without a buffer; rows beyond a table, and columns that share memory, are
+//     written row by row from a copy.
 #pragma once
 
 #include "../Smatrix.h"
@@ -94,7 +97,9 @@ VECMAT_API int SortQByCol(matrix*& data, int nRows, int nCols, int first, int la
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
 //
-// The arrays are column-major with the dimensions given. Nothing is written before an allocation can fail no more. String arrays come back as new BSTRs in every cell, also outside the range; what stood there is not released.
+// The arrays are column-major with the dimensions given. Numbers are sorted where they are; arrays that overlap, and
+// those whose cells have to be converted, are copied in, and copied back as a whole: the key, the companion, the data.
+// String arrays come back as new BSTRs in every cell, also outside the range; what stood there is not released.
 
 /// Vectors of `n`; in the string form any `descending` but 0 is descending.
 VECMAT_API int VB_SortQVectorDbl(double* x, int n, int first, int last, short descending);
