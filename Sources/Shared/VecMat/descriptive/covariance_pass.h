@@ -9,6 +9,7 @@
 #include "pair_pass.h"
 
 #include <array>
+#include <optional>
 
 namespace vecmat {
 

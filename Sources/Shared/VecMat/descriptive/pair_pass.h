@@ -15,7 +15,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <memory>
+#include <new>
 
 namespace vecmat {
 
@@ -138,8 +139,8 @@ public:
         : x_(x), y_(y), weight_(weight), options_(options)
     {
         if (q >= fewestColumns && options.n >= fewestRows) {
-            inStrips_.emplace(options.n, q, Mask(options.mask));
-            if (inStrips_->hasMemory())
+            inStrips_.reset(new (std::nothrow) Strips(options.n, q, Mask(options.mask)));
+            if (inStrips_ && inStrips_->hasMemory())
                 packStrips(q);
         }
     }
@@ -216,7 +217,7 @@ private:
     Y y_;
     Weight weight_;
     PairOptions options_;
-    std::optional<Strips> inStrips_;
+    std::unique_ptr<Strips> inStrips_;
 };
 
 template <class Sums, class X, class Y, class Weight>
