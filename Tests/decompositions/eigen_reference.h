@@ -1,5 +1,5 @@
-// Householder reduction and QL iteration step by step in the order in which they are told, with numbers from 1, on plain
-// vectors; and the variations of the published method from which it departs.
+// Householder reduction and QL iteration step by step in the order in which they are told, with numbers from 1, on
+// plain vectors; and the variations of the published method from which it departs.
 #pragma once
 
 #include <algorithm>

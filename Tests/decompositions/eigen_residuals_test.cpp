@@ -165,8 +165,8 @@ TEST(EigenSpectrum, OfRossersTable)
 
 TEST(EigenSpectrum, OfWilkinsonsTableHasItsPairs)
 {
-    // The two largest eigenvalues of the table of order 21 agree to fourteen digits (Wilkinson, The Algebraic Eigenvalue
-    // Problem, 1965, page 309).
+    // The two largest eigenvalues of the table of order 21 agree to fourteen digits (Wilkinson, The Algebraic
+    // Eigenvalue Problem, 1965, page 309).
     const Found found = decomposed(wilkinsonMatrix(21));
     EXPECT_NEAR(found.values[0], 10.746194182903393, 1e-13);
     EXPECT_NEAR(found.values[1], 10.746194182903322, 1e-13);

@@ -70,7 +70,8 @@ TEST(Eigen, HasThoseBitsForCellsOfAnySizeAndForCellsThatAreNoNumbers)
 
 TEST(Eigen, PassesARowOverOnlyWhereItIsExactlyZero)
 {
-    // A row of denormal numbers is reflected, though what stands beside the diagonal is negligible: the vectors show it.
+    // A row of denormal numbers is reflected, though what stands beside the diagonal is negligible: the vectors
+    // show it.
     const std::vector<double> tiny = symmetricOf(3, {1, 0, 2, 0, 1e-310, 3});
     const Decomposition reflected = decomposed(3, tiny);
     expectSame(reflected, eigenBySteps(tiny, 3));

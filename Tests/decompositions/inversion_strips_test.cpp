@@ -101,8 +101,8 @@ TEST(InverseSideBySide, HasThemForCellsThatAreNoNumbers)
 
 TEST(InverseSideBySide, KeepsTheTermsBeforeTheFirstOutOfTheSums)
 {
-    // L has an infinity below a pivot, as far down as the strip goes: times the zeros before the one of a unit vector it
-    // would make NaN of them.
+    // L has an infinity below a pivot, as far down as the strip goes: times the zeros before the one of a unit vector
+    // it would make NaN of them.
     for (const int n : {8, 40}) {
         std::vector<double> cells(squared(n), 0.0);
         for (int i = 0; i < n; ++i)

@@ -1,5 +1,5 @@
-// The nearest correlation matrix step by step in the order in which it is told, on plain vectors: nothing of the library
-// enters. The weights are the identity, whose root and whose inverse are the identity too.
+// The nearest correlation matrix step by step in the order in which it is told, on plain vectors: nothing of the
+// library enters. The weights are the identity, whose root and whose inverse are the identity too.
 #pragma once
 
 #include "decompositions/eigen_reference.h"
@@ -20,8 +20,8 @@ struct ReferenceNearest
     double ratio = 0.0; // of the last pass
 };
 
-/// `cells` is the full square, column after column. What may be done otherwise: the limit, and Dykstra's correction left
-/// out.
+/// `cells` is the full square, column after column. What may be done otherwise: the limit, and Dykstra's correction
+/// left out.
 class NearestBySteps
 {
 public:

@@ -1,5 +1,5 @@
-// The singular value decomposition step by step in the order in which it is told, with numbers from 1, on checked cells;
-// and the variations of the published method from which it departs.
+// The singular value decomposition step by step in the order in which it is told, with numbers from 1, on checked
+// cells; and the variations of the published method from which it departs.
 #pragma once
 
 #include <algorithm>

@@ -124,8 +124,8 @@ TEST(RunOLSBasic2Lg, ReservesForProductsThatItDoesNotMake)
 
 TEST(OLSBasic2Lg, HasAMissingCorrelationAcrossBlocksWithoutSpread)
 {
-    // The constant's cells are 0.0 within a block and missing across: after a sweep of the other column its own diagonal
-    // is minus infinity instead of 0. It stays out either way.
+    // The constant's cells are 0.0 within a block and missing across: after a sweep of the other column its own
+    // diagonal is minus infinity instead of 0. It stays out either way.
     const Problem problem = Problem::of({x1, std::vector<double>(8, 5.0)}, response);
     const Solution within = fittedByBlocks(problem, {2, 0, 0, 0, 0}), across = fittedByBlocks(problem, {1, 1, 0, 0, 0});
     for (const Solution& fit : {within, across}) {

@@ -1,7 +1,7 @@
-// The least squares fits against the certified values of the Statistical Reference Datasets of the National Institute of
-// Standards and Technology (linear regression, https://www.itl.nist.gov/div898/strd/lls/lls.shtml), as published there
-// to fifteen digits. The values of Longley and NoInt1 were also computed with exact fractions from the data below, and
-// are the same in all digits.
+// The least squares fits against the certified values of the Statistical Reference Datasets of the National Institute
+// of Standards and Technology (linear regression, https://www.itl.nist.gov/div898/strd/lls/lls.shtml), as published
+// there to fifteen digits. The values of Longley and NoInt1 were also computed with exact fractions from the data
+// below, and are the same in all digits.
 #include "regression_calls.h"
 
 #include <algorithm>
@@ -36,7 +36,8 @@ double fewestDigits(const std::vector<double>& actual, const std::vector<double>
 
 /// Employment of the United States, 1947 to 1962: the deflator of prices, the gross national product, unemployed, armed
 /// forces, population, year; then the employed. (Longley, J. W. (1967), An appraisal of least squares programs for the
-/// electronic computer from the point of view of the user, Journal of the American Statistical Association 62, 819-841.)
+/// electronic computer from the point of view of the user, Journal of the American Statistical Association 62,
+/// 819-841.)
 Problem longley()
 {
     return Problem::of(
@@ -104,8 +105,8 @@ Problem wampler1()
     return problem;
 }
 
-// The fifth power keeps 2.6e-5 of its spread besides the others, and the first moves the response by a few millionths of
-// its spread: together they take nine of the sixteen digits. The standard errors are certified as 0.
+// The fifth power keeps 2.6e-5 of its spread besides the others, and the first moves the response by a few millionths
+// of its spread: together they take nine of the sixteen digits. The standard errors are certified as 0.
 TEST(CertifiedValues, Wampler1)
 {
     const Solution fit = fitted(wampler1());

@@ -71,8 +71,8 @@ TEST(NewtonRaphson, FindsTheRootOfTwo)
 
 TEST(NewtonRaphson, WalksFromAfarInLimitedSteps)
 {
-    // From 10 the free steps are 4.9, 2.4, 1.0, 0.3, 3e-2, 3e-4, 3e-8, 2e-16. Of the limited ones eight are of 1, down to
-    // 2, then 0.5 and on as from there.
+    // From 10 the free steps are 4.9, 2.4, 1.0, 0.3, 3e-2, 3e-4, 3e-8, 2e-16. Of the limited ones eight are of 1, down
+    // to 2, then 0.5 and on as from there.
     const Minimum freely = minimised({10.0}, rootOfTwo);
     const Minimum limited = minimised({10.0}, rootOfTwo, {.limitStep = -1, .maxStep = 1.0});
     EXPECT_EQ(freely.calls, 8);
@@ -197,8 +197,9 @@ TEST(NewtonRaphson, FitsALogisticModel)
         }
         return at;
     };
-    // glm(am ~ wt, family = binomial(), data = mtcars). Its own errors are those of a scoring step earlier, and differ in
-    // the ninth digit; these are sqrt(diag(solve(t(X) %*% (X * m * (1 - m))))) at its coefficients, m its fitted shares.
+    // glm(am ~ wt, family = binomial(), data = mtcars). Its own errors are those of a scoring step earlier, and differ
+    // in the ninth digit; these are sqrt(diag(solve(t(X) %*% (X * m * (1 - m))))) at its coefficients, m its fitted
+    // shares.
     const Minimum minimum = minimised({0, 0}, likelihood);
     EXPECT_EQ(minimum.calls, 8);
     EXPECT_NEAR(minimum.x[0], 12.040369728657319, 1e-11);

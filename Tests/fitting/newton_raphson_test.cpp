@@ -32,7 +32,8 @@ struct Outcome
     std::vector<double> x, se, Hinv;
 };
 
-/// Through both forms, which must agree, over results that hold 77, and through the flat form, over ones that it clears.
+/// Through both forms, which must agree, over results that hold 77, and through the flat form, over ones
+/// that it clears.
 Outcome step(const Call& call)
 {
     const int n = static_cast<int>(call.x.size());

@@ -35,7 +35,8 @@ struct Answer
     std::vector<double> tolerance, vif;
 };
 
-/// Through both forms, which must agree, over results that hold 77, and through the flat form, over ones that it clears.
+/// Through both forms, which must agree, over results that hold 77, and through the flat form, over ones
+/// that it clears.
 Answer check(const Question& q)
 {
     const auto p = static_cast<std::size_t>(q.p);

@@ -26,7 +26,8 @@ int invertOrGeneralise(matrix* block, int order, matrix* inverse)
     short status = 0;
     if (block->inverse1(inverse, status, zeroTolerance) == 0)
         return 0;
-    // The g2 inverse replaces all that the first of the two writes: the sequence is settled, its result is the second's.
+    // The g2 inverse replaces all that the first of the two writes: the sequence is settled, its
+    // result is the second's.
     int rank = 0;
     M_InvGeneralized(block, order, inverse, zeroTolerance, &rank);
     M_InverseG2(block, order, zeroTolerance, inverse);

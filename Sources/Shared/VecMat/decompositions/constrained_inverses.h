@@ -1,9 +1,10 @@
 // Inverses and determinants of what linear constraints leave of a square table of order `n`.
 //
-// `constraints` has n entries: one above 0 removes row and column i, one of exactly 0 keeps them; there are no others. An
-// inverse goes to the kept rows of `out`, each over all n columns, with 0.0 in the columns that were removed; rows that
-// were removed keep what they held. `out` exists and is not prepared. One kept row has an inverse of its own: the
-// reciprocal of the cell, which counts as 1e-12 where it is exactly 0. The input survives. No test for the missing value.
+// `constraints` has n entries: one above 0 removes row and column i, one of exactly 0 keeps them; there are no others.
+// An inverse goes to the kept rows of `out`, each over all n columns, with 0.0 in the columns that were removed; rows
+// that were removed keep what they held. `out` exists and is not prepared. One kept row has an inverse of its own: the
+// reciprocal of the cell, which counts as 1e-12 where it is exactly 0. The input survives. No test for the missing
+// value.
 #pragma once
 
 #include "../frame/api.h"

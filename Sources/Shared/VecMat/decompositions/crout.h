@@ -94,8 +94,8 @@ bool scaleRows(Cells a, int n, std::vector<double>& scales)
     return true;
 }
 
-/// Takes columns `first` to j - 1 off column j in rows `first` to `end` - 1: cell i loses a(i, k) a(k, j) for each k below
-/// i and j, in the order of k.
+/// Takes columns `first` to j - 1 off column j in rows `first` to `end` - 1: cell i loses a(i, k) a(k, j) for each k
+/// below i and j, in the order of k.
 template <class Cells>
 void reduceColumn(Cells a, int first, int j, int end)
 {

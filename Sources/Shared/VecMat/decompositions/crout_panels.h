@@ -92,7 +92,8 @@ private:
     int first_;
 };
 
-/// The factorisation of a copy. Its scratch memory is a table of order n and two strips of as many columns as a tile has.
+/// The factorisation of a copy. Its scratch memory is a table of order n and two strips of as many columns as
+/// a tile has.
 template <class PivotRule>
 class PanelledCrout
 {
@@ -167,8 +168,8 @@ private:
         return std::nullopt;
     }
 
-    /// The same as `reduceColumn` for the rows from j on, as many side by side as a kernel has results. The last ones run
-    /// over into places behind the column.
+    /// The same as `reduceColumn` for the rows from j on, as many side by side as a kernel has results. The last ones
+    /// run over into places behind the column.
     void reduceDown(ColumnsFrom columns, int first, int j) const
     {
         for (int i = j; i < n_; i += rows_.width)

@@ -12,9 +12,9 @@
 namespace vecmat {
 
 /// An iteration rotates columns that it doesn't look at. Its rotations are gathered, and a batch of them is carried out
-/// on a panel of rows at a time, which stays in the cache. That is done bit by bit while the next batch is gathered: the
-/// iteration is one long chain of divisions and roots, and leaves the processor idle. Each row goes through the same
-/// rotations in the same order as without the delay.
+/// on a panel of rows at a time, which stays in the cache. That is done bit by bit while the next batch is gathered:
+/// the iteration is one long chain of divisions and roots, and leaves the processor idle. Each row goes through the
+/// same rotations in the same order as without the delay.
 ///
 /// The memory is that of the columns, copied into panels, and of 16 rotations for each column.
 class DelayedRotations

@@ -15,8 +15,8 @@ extern "C" {
 ///
 /// With S the sum of logarithms: 0.0 for S below -708; the determinant for S up to 709; beyond, `*status` is -1 and the
 /// result the positive twin of the missing value, but with `logOnOverflow` exactly -1 it is S with the sign of the
-/// determinant and `*status` stays 0. A NaN passes through. An exception, such as exhausted memory, ends here: `*status`
-/// is -1 and the result the positive twin.
+/// determinant and `*status` stays 0. A NaN passes through. An exception, such as exhausted memory, ends here:
+/// `*status` is -1 and the result the positive twin.
 VECMAT_API double M_Determinant(matrix* a, int n, short* status, short logOnOverflow);
 
 /// Logarithm of a determinant above 0; the missing value for a negative one and for a table with a row of zeros. Unlike

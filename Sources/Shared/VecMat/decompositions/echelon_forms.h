@@ -9,12 +9,12 @@
 
 extern "C" {
 
-/// Forward Doolittle reduction (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33,
-/// 149-158): the upper triangle of `a` becomes an upper echelon form in `out`, with pivots of 1 and rows of zeros where
-/// a pivot is up to 1e-12. `a` is read on and above the diagonal.
+/// Forward Doolittle reduction (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician
+/// 33, 149-158): the upper triangle of `a` becomes an upper echelon form in `out`, with pivots of 1 and rows of zeros
+/// where a pivot is up to 1e-12. `a` is read on and above the diagonal.
 ///
-/// It departs from the publication: when a pivot is taken off, the row right below it is divided at once by what its own
-/// diagonal becomes (or zeroed where that is up to 1e-12), while the rows beyond it are reduced without a division.
+/// It departs from the publication: when a pivot is taken off, the row right below it is divided at once by what its
+/// own diagonal becomes (or zeroed where that is up to 1e-12), while the rows beyond it are reduced without a division.
 VECMAT_API void M_ForwardDoolittle(matrix* a, int n, matrix* out);
 
 /// Hermite canonical form: the reduction above, with the cells above each pivot of 1, within 1e-12, brought to 0.

@@ -3,8 +3,8 @@
 // inverse, a g a = a and g a g = g, for symmetric tables without negative eigenvalues, but not that of Moore and
 // Penrose: the row and the column of each dependent parameter are 0.
 //
-// All access is checked: outside a table a read gives -1.0, which takes part, and a write is dropped. Results are written
-// in place, to tables that exist. No test for the missing value, and no failure.
+// All access is checked: outside a table a read gives -1.0, which takes part, and a write is dropped. Results are
+// written in place, to tables that exist. No test for the missing value, and no failure.
 #pragma once
 
 #include "../frame/api.h"
@@ -14,8 +14,8 @@
 extern "C" {
 
 /// One sweep of the full table `a` of order `n` on pivot `k`, 1-based, in place. A pivot below `tol` in absolute terms
-/// (one equal to `tol` is not) zeroes its row and its column; with a `tol` of 0 none is, and 0 divides. The row is divided
-/// by the pivot, the column by the pivot with its sign changed.
+/// (one equal to `tol` is not) zeroes its row and its column; with a `tol` of 0 none is, and 0 divides. The row is
+/// divided by the pivot, the column by the pivot with its sign changed.
 VECMAT_API void G2SweepStep(matrix* a, int n, int k, double tol);
 
 /// The sweeps of a copy of `a` on all pivots in order, each seeing what the ones before have left.

@@ -1,5 +1,6 @@
-// Moore-Penrose inverses of square tables that may be singular, from the singular value decomposition a = U S V' (Golub,
-// Kahan: Calculating the singular values and pseudo-inverse of a matrix, SIAM Journal on Numerical Analysis 2, 1965).
+// Moore-Penrose inverses of square tables that may be singular, from the singular value decomposition a = U S V'
+// (Golub, Kahan: Calculating the singular values and pseudo-inverse of a matrix, SIAM Journal on Numerical Analysis 2,
+// 1965).
 //
 // `out` of order `n` exists and is written in place. A singular value at or above `tol`, in absolute terms, is inverted
 // and the others count as 0; `*rank` is the number of those that were not left out. Returns 0, or -1 where the

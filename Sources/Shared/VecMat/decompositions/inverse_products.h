@@ -1,8 +1,8 @@
 // Products through the inverse of a square table, named by their formula: Tr is a transpose, inv an inverse.
 //
-// The inverse is that of `matrix::inverse1` with a positive tolerance, so that a pivot up to 1e-8 is singular; its order
-// is the row count of `b`. Nothing reports a singular `b`: its inverse then counts as 0.0 throughout, and the product
-// goes on with that. Access, sums and missing cells are those of the products of tables. The operands survive.
+// The inverse is that of `matrix::inverse1` with a positive tolerance, so that a pivot up to 1e-8 is singular; its
+// order is the row count of `b`. Nothing reports a singular `b`: its inverse then counts as 0.0 throughout, and the
+// product goes on with that. Access, sums and missing cells are those of the products of tables. The operands survive.
 #pragma once
 
 #include "../frame/api.h"

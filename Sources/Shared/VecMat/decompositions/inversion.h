@@ -16,8 +16,7 @@ extern "C" {
 /// and lubksb of Press, Flannery, Teukolsky, Vetterling: Numerical Recipes, 1st edition), but end where a row is all
 /// zeros, or where a pivot is at most 1e-8 in absolute terms; at most 2.220446049250313e-16 for a `tol` of 0 or below,
 /// of which nothing but the sign counts (a NaN is positive). Returns 0; -1 where it ends early, and then `out` is not
-/// touched. Order 0 succeeds. Scratch: two tables of n by n and up to 32
-/// columns.
+/// touched. Order 0 succeeds. Scratch: two tables of n by n and up to 32 columns.
 VECMAT_API int Inverse1SPV(matrix** a, matrix* out, int n, int count, int ignored, double tol);
 
 /// Inverse of a triangular table by substitution: lower triangular for any `lower` but 0, else upper. The other

@@ -8,17 +8,17 @@
 extern "C" {
 
 /// P a = L U of order `n` in place: L below the diagonal, its unit diagonal implied, U on and above it, of the rows as
-/// permuted. `index` goes through `matCheck`, n by 1: index(j) is the row, from 1, that was exchanged with row j at step
-/// j; `*d` is the parity of the exchanges, 1.0 or -1.0.
+/// permuted. `index` goes through `matCheck`, n by 1: index(j) is the row, from 1, that was exchanged with row j at
+/// step j; `*d` is the parity of the exchanges, 1.0 or -1.0.
 ///
 /// Crout's method with implicit scaled pivoting (ludcmp of Press, Flannery, Teukolsky, Vetterling: Numerical Recipes,
 /// 1st edition). Of equal candidates for a pivot the last wins. A pivot of exactly 0 becomes 1e-20, also the last one,
 /// so that a singular table is factored too.
 ///
-/// `*status`: 0; -1 where a row is all zeros (NaN counts as nothing), with `a` untouched, `index` 0 and `*d` 1.0; 1 where
-/// no candidate of the first column compares, all being NaN, with the same. All access is checked: outside the table a
-/// read gives -1.0, which takes part, and a write is dropped. No test for the missing value. Scratch: a
-/// table of the order and up to 16 columns, for large tables.
+/// `*status`: 0; -1 where a row is all zeros (NaN counts as nothing), with `a` untouched, `index` 0 and `*d` 1.0; 1
+/// where no candidate of the first column compares, all being NaN, with the same. All access is checked: outside the
+/// table a read gives -1.0, which takes part, and a write is dropped. No test for the missing value. Scratch: a table
+/// of the order and up to 16 columns, for large tables.
 VECMAT_API void M_LUDecomp(matrix*& a, int n, matrixInt*& index, double* d, short* status);
 
 /// Flat form: `a` n by n and `index` n, both in place. Returns 0.

@@ -29,8 +29,8 @@ VECMAT_API int Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n);
 /// Projects `a` on the positive semi-definite tables in the metric of the positive definite table `w`, both of order
 /// `n`, into the existing table `out`: the eigenvalues below 0 of S a S become 0.0, and the inverse of S goes on both
 /// sides again. S is what `M_SquareRoot` makes of w: the diagonal roots of its eigenvalues times its eigenvectors
-/// transposed; for the identity the identity. Failures on the way are not looked at: what a failed step left is computed
-/// on with, 0.0 throughout where it left nothing. No missing test but that of the eigenvalues.
+/// transposed; for the identity the identity. Failures on the way are not looked at: what a failed step left is
+/// computed on with, 0.0 throughout where it left nothing. No missing test but that of the eigenvalues.
 VECMAT_API void M_SProject(matrix* a, int n, matrix* w, matrix* out);
 
 /// `a` with 1.0 on the diagonal, into the existing `out`: a table, an array of columns, a triangle of columns.

@@ -1,5 +1,5 @@
-// Models with linear constraints mark parameters as fixed: their rows and columns are taken out of a square table, and a
-// result for what remains goes back to the places that it came from.
+// Models with linear constraints mark parameters as fixed: their rows and columns are taken out of a square table, and
+// a result for what remains goes back to the places that it came from.
 #pragma once
 
 #include "../frame/cells.h"

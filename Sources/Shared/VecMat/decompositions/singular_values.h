@@ -20,9 +20,9 @@ extern "C" {
 /// the values from m + 1 on are final, and the rest is in the state of the interruption; `*info` is 0 otherwise. A norm
 /// counts as zero up to 1e-31. An entry is negligible where adding it changes a sum of its neighbours by less than
 /// 2.220446049250313e-16, in absolute terms. After 10000 turns for one value the iteration is given up in the same way.
-/// There is no missing test. Scratch: a copy of x, p and n doubles, and from 12 rows and 8 columns on two copies of each of
-/// the tables of vectors asked for and about 50 doubles for each of their columns; where memory for these is short, the
-/// work is done without them, more slowly and with the same result.
+/// There is no missing test. Scratch: a copy of x, p and n doubles, and from 12 rows and 8 columns on two copies of
+/// each of the tables of vectors asked for and about 50 doubles for each of their columns; where memory for these is
+/// short, the work is done without them, more slowly and with the same result.
 VECMAT_API void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info);
 
 /// The same over arrays of columns.

@@ -11,9 +11,9 @@ extern "C" {
 /// V enters through V'V, so that its columns are brought to unit length once more and what is left off the diagonal of
 /// V'V stays in.
 ///
-/// Returns 0; -1 for an eigenvalue not above -1e-12, also where the eigenvalues cannot be had because a cell is missing;
-/// -2 for a column of V whose length is not above 0. Then `out` is untouched. That the eigenvalues did not converge is
-/// not looked at. The input survives.
+/// Returns 0; -1 for an eigenvalue not above -1e-12, also where the eigenvalues cannot be had because a cell is
+/// missing; -2 for a column of V whose length is not above 0. Then `out` is untouched. That the eigenvalues did not
+/// converge is not looked at. The input survives.
 VECMAT_API int M_SquareRoot(matrix* a, int n, matrix*& out);
 
 /// Flat form: n by n arrays, the result in place.

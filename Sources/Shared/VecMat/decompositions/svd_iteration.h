@@ -38,7 +38,8 @@ void reflectColumns(Store store, int l, int first, int last, int row, int count,
     }
 }
 
-/// The rows of columns `first` to `last`, from row `first` on, less their parts along the reflection that stands in `e`.
+/// The rows of columns `first` to `last`, from row `first` on, less their parts along the reflection that
+/// stands in `e`.
 template <class Store>
 void reflectRows(Store store, int first, int last, int count, TableStore e, TableStore work)
 {

@@ -127,8 +127,8 @@ int endOfBlock(Vector e, int l, int n)
     return m;
 }
 
-/// One pass of QL over the block from l to m. `rotate(i, c, s)` rotates columns i + 1 and i of the vectors: x' = c x + s y
-/// and y' = c y - s x.
+/// One pass of QL over the block from l to m. `rotate(i, c, s)` rotates columns i + 1 and i of the vectors:
+/// x' = c x + s y and y' = c y - s x.
 template <class Diagonal, class Vector, class Rotate>
 void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
 {

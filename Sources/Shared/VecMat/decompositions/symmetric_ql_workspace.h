@@ -59,8 +59,8 @@ private:
     }
 
     /// A row's reflection asks for an update of the block before it, a(j, k) = a(j, k) - (x(j) y(k) + y(j) x(k)). It
-    /// waits until the next row's Householder vector is known: the block is then gone through once, to be updated and to
-    /// be multiplied by that vector. Only the next row itself doesn't wait.
+    /// waits until the next row's Householder vector is known: the block is then gone through once, to be updated and
+    /// to be multiplied by that vector. Only the next row itself doesn't wait.
     void reduce(double* d, double* e)
     {
         const double* x = nullptr;

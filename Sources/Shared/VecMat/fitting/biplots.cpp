@@ -77,8 +77,8 @@ void biplot(Storage rows, matrix* sup, Storage cols, int nA, int nB, int m, int 
         M_ScalarsA2(var, m, k, sqr(factor));
 }
 
-/// `squares` holds the sum of squares of each row. By rows: in a result with fewer than n rows a point runs over into the
-/// next column, and the last one to be written stands.
+/// `squares` holds the sum of squares of each row. By rows: in a result with fewer than n rows a point runs over into
+/// the next column, and the last one to be written stands.
 template <class From>
 void cosines(From a, matrix* squares, int n, int k, matrix* out)
 {

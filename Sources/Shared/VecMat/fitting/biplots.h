@@ -18,9 +18,9 @@
 ///     obs    nA + nB by k (`matCheck`): each row of `rows` (nA by k), then each of `sup` (nB by k), times
 ///            pow(eigen, alpha/2 - 1/2) of its axis. An eigenvalue of 0 thus gives an infinite factor for `alpha` below
 ///            1, and 1.0 for 1.
-///     var    m by k (`matCheck`): each row of `cols` (m by k) times pow(eigen, -alpha/2) of its axis, or times 0.0 where
-///            the eigenvalue is exactly 0. With `alpha` exactly 0 they are the cells themselves. Then, unless `factor` is
-///            exactly 1.0, `M_ScalarsA2` by the root of `factor`, which leaves a larger var as m by k.
+///     var    m by k (`matCheck`): each row of `cols` (m by k) times pow(eigen, -alpha/2) of its axis, or times 0.0
+///            where the eigenvalue is exactly 0. With `alpha` exactly 0 they are the cells themselves. Then, unless
+///            `factor` is exactly 1.0, `M_ScalarsA2` by the root of `factor`, which leaves a larger var as m by k.
 ///
 /// A missing cell stays missing. With nB below 1 there are no supplementary observations and `sup` may be null. In the
 /// second form `rows` and `cols` are arrays of k columns.
@@ -42,14 +42,15 @@ VECMAT_API void cComputeCosinesSPV(matrix** a, int n, int k, matrix*& out);
 VECMAT_API void M_BoldCosines(matrixInt* best, int n, matrixInt* flags);
 
 /// The largest distance to the origin among the n rows of a in k dimensions, and its 1-based row: the first of equal
-/// ones; 0.0 and row 0 where no distance is above 0.0. No test for the missing value: its distance is infinite and wins.
+/// ones; 0.0 and row 0 where no distance is above 0.0. No test for the missing value: its distance is infinite and
+/// wins.
 VECMAT_API void M_GetMaxDistToOrigin(matrix* a, int n, int k, double* maxDistance, int* row);
 
 // ---- flat forms: results in place in the caller's arrays ------------------------------------------------------------
 
-/// `obs` has nA + nB by k elements, without nB where it is below 1: then `sup` is not read. The second form takes arrays
-/// of `storedAxes` columns and `sup` as nB by `storedAxes`; the first k of these axes are used, and k must not be above
-/// `storedAxes`.
+/// `obs` has nA + nB by k elements, without nB where it is below 1: then `sup` is not read. The second form takes
+/// arrays of `storedAxes` columns and `sup` as nB by `storedAxes`; the first k of these axes are used, and k must not
+/// be above `storedAxes`.
 VECMAT_API void VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m, int k, double* eigen,
                                    double factor, double alpha, double* obs, double* var);
 VECMAT_API void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m,

@@ -30,9 +30,9 @@ struct ColumnCensus
     int missingCells = 0;
 };
 
-/// The residual table, the missing value where a cell is missing. It is held twice, in columns and in strips of columns,
-/// for the regressions of the rows and for those of the columns; rows and columns without cells fill it up to what these
-/// work on at a time.
+/// The residual table, the missing value where a cell is missing. It is held twice, in columns and in strips of
+/// columns, for the regressions of the rows and for those of the columns; rows and columns without cells fill it up to
+/// what these work on at a time.
 class Residual
 {
 public:

@@ -33,8 +33,8 @@ extern "C" {
 /// that variance is not a number, and the second pass is the last. A component that does not settle, as with a negative
 /// `tol` or one below what the arithmetic can reach, is taken as it stands after 100000 passes.
 ///
-/// Works in two tables of the size of X. The dimensions drive the loops; the table's own row count is its stride. A read outside a table yields -1.0, which
-/// takes part. Without rows or columns nothing is done and 0 is returned.
+/// Works in two tables of the size of X. The dimensions drive the loops; the table's own row count is its stride. A
+/// read outside a table yields -1.0, which takes part. Without rows or columns nothing is done and 0 is returned.
 VECMAT_API int NIPALS(int n, int p, matrix* X, matrix* w, double tol, int components, double maxColumnShare,
                       double maxTotalShare);
 
