@@ -2,6 +2,7 @@
 // tile and of a strip, with ties, zeros of both signs and numbers that are none.
 #include "decompositions/determinants.h"
 
+#include "decompositions/crout_cases.h"
 #include "decompositions/lu_calls.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
@@ -24,11 +25,6 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 // Multiples of 4, 8, 12, 16, 24 and 32, and their neighbours, from below the least order of the panels on.
 constexpr std::array orders = {30, 31, 32, 33, 35, 36, 37, 39, 40, 41, 47, 48, 49, 63, 64, 65, 71, 72, 73, 95, 96, 97};
 
-std::size_t squared(int n)
-{
-    return static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
-}
-
 void expectPlainSteps(const std::vector<double>& cells, int n)
 {
     SCOPED_TRACE(n);
@@ -48,10 +44,7 @@ TEST(CroutByPanels, TakesTheLastOfEqualCandidatesAndReplacesZeroPivots)
     RandomData data(1202);
     SCOPED_TRACE(data);
     for (const int n : orders) {
-        std::vector<double> cells = data.wholes(squared(n), -1, 1);
-        for (double& x : cells)
-            if (x == 0.0 && data.chance(0.5))
-                x = -0.0;
+        std::vector<double> cells = tiesAndZeros(n, data);
         expectPlainSteps(cells, n);
         // A column that occurs again leaves nothing of itself.
         std::copy_n(cells.begin() + n, n, cells.begin() + std::ptrdiff_t{n} * (n / 2));

@@ -1,6 +1,7 @@
 // Inverses of tables that are large enough for several columns side by side have the bits of the plain steps.
 #include "decompositions/inversion.h"
 
+#include "decompositions/crout_cases.h"
 #include "decompositions/crout_reference.h"
 #include "decompositions/triangular_reference.h"
 #include "support/bits.h"
@@ -25,11 +26,6 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 // Around the multiples of 8, 16, 24 and 32, and small ones.
 constexpr std::array orders = {3, 5, 6, 7, 9, 15, 16, 17, 31, 32, 33, 47, 48, 49, 63, 64, 65, 95, 96, 97};
-
-std::size_t squared(int n)
-{
-    return static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
-}
 
 struct Inversion
 {
@@ -75,11 +71,7 @@ TEST(InverseSideBySide, HasThemWithTiesAndZerosOfBothSigns)
     RandomData data(1212);
     SCOPED_TRACE(data);
     for (const int n : orders) {
-        std::vector<double> cells = data.wholes(squared(n), -1, 1);
-        for (double& x : cells)
-            if (x == 0.0 && data.chance(0.5))
-                x = -0.0;
-        expectPlainSteps(cells, n);
+        expectPlainSteps(tiesAndZeros(n, data), n);
         // Nearly all zeros: a permutation of a diagonal, with a few cells besides.
         std::vector<double> sparse(squared(n), -0.0);
         for (int i = 0; i < n; ++i) {

@@ -10,6 +10,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace vecmat::test {
@@ -221,14 +222,14 @@ TEST(Daxpy, TouchesNothingForAFactorOfExactlyZero)
     EXPECT_THAT(cellsOf(y), SameBits({notANumber, 5e-324, M}));
 }
 
-TEST(Drot, HasTheBitsOfThePlainLoop)
+/// Each round draws a kernel on two columns, in some rounds of one table, and what it does to two elements.
+template <class Draw>
+void comparedOnTwoColumns(RandomData& data, Draw drawKernel)
 {
-    RandomData data(8145);
     SCOPED_TRACE(data);
     for (int round = 0; round < rounds; ++round) {
         const Places at = drawnPlaces(data);
-        const double c = data.uniform(-1, 1);
-        const double s = data.uniform(-1, 1);
+        const auto [onColumns, onElements] = drawKernel(data);
         const bool oneTable = round % 3 == 0;
         const Owned<matrix> x = table(5, 4, data.normals(20));
         const Owned<matrix> y = table(3, 6, data.normals(18));
@@ -237,14 +238,26 @@ TEST(Drot, HasTheBitsOfThePlainLoop)
         const Walk first(&expectedX, at.count, at.incx, 1, at.colx);
         const Walk second(oneTable ? &expectedX : &expectedY, at.count, at.incy, 1, at.coly);
         for (int k = 1; k <= at.count; ++k) {
-            const double turned = c * first.get(k) + s * second.get(k);
-            second.set(k, c * second.get(k) - s * first.get(k));
-            first.set(k, turned);
+            const auto [newFirst, newSecond] = onElements(first.get(k), second.get(k));
+            second.set(k, newSecond);
+            first.set(k, newFirst);
         }
-        drot(at.count, x, at.incx, oneTable ? x : y, at.incy, c, s, at.colx, at.coly);
+        onColumns(at, x.get(), oneTable ? x.get() : y.get());
         EXPECT_THAT(cellsOf(x), SameBits(cellsOf<matrix>(&expectedX))) << round;
         EXPECT_THAT(cellsOf(y), SameBits(cellsOf<matrix>(&expectedY))) << round;
     }
+}
+
+TEST(Drot, HasTheBitsOfThePlainLoop)
+{
+    RandomData seeded(8145);
+    comparedOnTwoColumns(seeded, [](RandomData& data) {
+        const double c = data.uniform(-1, 1);
+        const double s = data.uniform(-1, 1);
+        return std::pair([=](const Places& at, matrix* x,
+                             matrix* y) { drot(at.count, x, at.incx, y, at.incy, c, s, at.colx, at.coly); },
+                         [=](double a, double b) { return std::pair(c * a + s * b, c * b - s * a); });
+    });
 }
 
 TEST(Drot, TurnsTheColumnsOfOneTable)
@@ -258,26 +271,12 @@ TEST(Drot, TurnsTheColumnsOfOneTable)
 
 TEST(SwapVectors, HasTheBitsOfThePlainLoop)
 {
-    RandomData data(8146);
-    SCOPED_TRACE(data);
-    for (int round = 0; round < rounds; ++round) {
-        const Places at = drawnPlaces(data);
-        const bool oneTable = round % 3 == 0;
-        const Owned<matrix> x = table(5, 4, data.normals(20));
-        const Owned<matrix> y = table(3, 6, data.normals(18));
-        matrix expectedX(*x);
-        matrix expectedY(*y);
-        const Walk first(&expectedX, at.count, at.incx, 1, at.colx);
-        const Walk second(oneTable ? &expectedX : &expectedY, at.count, at.incy, 1, at.coly);
-        for (int k = 1; k <= at.count; ++k) {
-            const double kept = first.get(k);
-            first.set(k, second.get(k));
-            second.set(k, kept);
-        }
-        M_SwapVectors(at.count, x, at.incx, oneTable ? x : y, at.incy, at.colx, at.coly);
-        EXPECT_THAT(cellsOf(x), SameBits(cellsOf<matrix>(&expectedX))) << round;
-        EXPECT_THAT(cellsOf(y), SameBits(cellsOf<matrix>(&expectedY))) << round;
-    }
+    RandomData seeded(8146);
+    comparedOnTwoColumns(seeded, [](RandomData&) {
+        return std::pair([](const Places& at, matrix* x,
+                            matrix* y) { M_SwapVectors(at.count, x, at.incx, y, at.incy, at.colx, at.coly); },
+                         [](double a, double b) { return std::pair(b, a); });
+    });
 }
 
 TEST(Kernels, WalkOnIntoTheNextColumn)

@@ -81,6 +81,26 @@ TEST(SVDecompOfColumns, NeedsNoArraysForWhatIsNotWanted)
 
 // ---- flat forms ----
 
+/// Are the results those of the plain form, and is what wasn't asked for as it was? `cellsOf` reads an array of the kind
+/// of x, u and v.
+template <class Array, class CellsOf>
+void expectPlainForm(const Svd& plain, int job, int info, const Array& x, const Guarded<double>& s, const Array& u,
+                     const Array& v, CellsOf cellsOf)
+{
+    SCOPED_TRACE(job);
+    EXPECT_EQ(info, 0);
+    EXPECT_TRUE(x.untouched());
+    EXPECT_THAT(s.values(), SameBits(plain.s));
+    if (job >= 10)
+        EXPECT_THAT(cellsOf(u), SameBits(plain.u));
+    else
+        EXPECT_TRUE(u.untouched());
+    if (job % 10 != 0)
+        EXPECT_THAT(cellsOf(v), SameBits(plain.v));
+    else
+        EXPECT_TRUE(v.untouched());
+}
+
 TEST(FlatSVDecomp, WritesTheCallersArrays)
 {
     RandomData data(8209);
@@ -95,19 +115,8 @@ TEST(FlatSVDecomp, WritesTheCallersArrays)
             Guarded<double> v(cellCount(p, job % 10 == 0 ? 1 : p), leftover);
             int info = 7;
             EXPECT_EQ(VB_M_SVDecomp(x, n, p, s, u, n, v, p, job, &info), 0);
-            const Svd plain = decomposed(n, p, cells, job);
-            SCOPED_TRACE(job);
-            EXPECT_EQ(info, 0);
-            EXPECT_TRUE(x.untouched());
-            EXPECT_THAT(s.values(), SameBits(plain.s));
-            if (job >= 10)
-                EXPECT_THAT(u.values(), SameBits(plain.u));
-            else
-                EXPECT_TRUE(u.untouched());
-            if (job % 10 != 0)
-                EXPECT_THAT(v.values(), SameBits(plain.v));
-            else
-                EXPECT_TRUE(v.untouched());
+            expectPlainForm(decomposed(n, p, cells, job), job, info, x, s, u, v,
+                            [](const Guarded<double>& array) { return array.values(); });
             if (p > n) {
                 EXPECT_EQ(s.values().back(), 0.0) << "the value beyond the rows";
             }
@@ -147,19 +156,8 @@ TEST(FlatSVDecompOfColumns, WritesTheCallersColumns)
             Guarded<double> s(static_cast<std::size_t>(valueCount(n, p)), leftover);
             int info = 7;
             EXPECT_EQ(VB_M_SVDecompSPV(x, n, p, s, u, n, v, p, job, &info), 0);
-            const Svd plain = decomposed(n, p, cells, job);
-            SCOPED_TRACE(job);
-            EXPECT_EQ(info, 0);
-            EXPECT_TRUE(x.untouched());
-            EXPECT_THAT(s.values(), SameBits(plain.s));
-            if (job >= 10)
-                EXPECT_THAT(u.numbers(), SameBits(plain.u));
-            else
-                EXPECT_TRUE(u.untouched());
-            if (job % 10 != 0)
-                EXPECT_THAT(v.numbers(), SameBits(plain.v));
-            else
-                EXPECT_TRUE(v.untouched());
+            expectPlainForm(decomposed(n, p, cells, job), job, info, x, s, u, v,
+                            [](const ArrayOfColumns& array) { return array.numbers(); });
         }
 }
 

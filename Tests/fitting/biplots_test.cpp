@@ -84,12 +84,15 @@ Owned<matrix> eigenvalues(Cases& c, int k)
     return column(c.data.withSpecials(values, c.data.integer(0, 1) * 0.1));
 }
 
-TEST(BiplotTransData, FollowsThePlainLoopOnTables)
+/// `operand(c, rows, cols)` draws what holds the observations or the variables.
+template <class Operand>
+void followThePlainLoop(Operand operand)
 {
-    forCases(600, [](Cases& c) {
+    forCases(600, [operand](Cases& c) {
         const int nA = c.count(), nB = c.count(), m = c.count(), k = c.count();
         const Options options(c);
-        const auto rows = c.operand(nA, k), sup = c.operand(nB, k), cols = c.operand(m, k), eigen = eigenvalues(c, k);
+        auto rows = operand(c, nA, k), cols = operand(c, m, k);
+        const auto sup = c.operand(nB, k), eigen = eigenvalues(c, k);
         auto obs = c.toPrepare(nA + nB, k), expectedObs = copyOf(obs);
         auto var = c.toPrepare(m, k), expectedVar = copyOf(var);
         BiplotTransData(rows, sup, cols, nA, nB, m, k, eigen, options.factor, options.alpha, obs, var);
@@ -100,21 +103,14 @@ TEST(BiplotTransData, FollowsThePlainLoopOnTables)
     });
 }
 
+TEST(BiplotTransData, FollowsThePlainLoopOnTables)
+{
+    followThePlainLoop([](Cases& c, int rows, int cols) { return c.operand(rows, cols); });
+}
+
 TEST(BiplotTransData, FollowsThePlainLoopOnColumns)
 {
-    forCases(600, [](Cases& c) {
-        const int nA = c.count(), nB = c.count(), m = c.count(), k = c.count();
-        const Options options(c);
-        auto rows = c.columnOperand(nA, k), cols = c.columnOperand(m, k);
-        const auto sup = c.operand(nB, k), eigen = eigenvalues(c, k);
-        auto obs = c.toPrepare(nA + nB, k), expectedObs = copyOf(obs);
-        auto var = c.toPrepare(m, k), expectedVar = copyOf(var);
-        BiplotTransData(rows, sup, cols, nA, nB, m, k, eigen, options.factor, options.alpha, obs, var);
-        referenceBiplot(rows.get(), sup, cols.get(), nA, nB, m, k, eigen, options.factor, options.alpha, expectedObs,
-                        expectedVar);
-        expectSame(obs, expectedObs);
-        expectSame(var, expectedVar);
-    });
+    followThePlainLoop([](Cases& c, int rows, int cols) { return c.columnOperand(rows, cols); });
 }
 
 // ---- the rules ------------------------------------------------------------------------------------------------------
