@@ -1,7 +1,6 @@
 // Look-ups among many categories against the plain walks that they stand for.
 #include "qualitative/disjunctive_tables.h"
 #include "qualitative/distinct.h"
-#include "qualitative/labels.h"
 #include "qualitative/modes.h"
 #include "summary_tables.h"
 
@@ -157,40 +156,6 @@ TEST(ManyCategories, DisjunctiveTablesAreThePlainWalk)
         BuildDisjunctiveTable(strings, rows, in.cols, total, intColumn(counts), known, f, out, coding, keepBaseline);
         EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected)));
     });
-}
-
-TEST(ManyCategories, LabelsMadeUniqueAreThePlainWalk)
-{
-    for (std::uint64_t seed = 1; seed <= 300; ++seed) {
-        RandomData data(seed);
-        SCOPED_TRACE(data);
-        Texts labels(static_cast<std::size_t>(data.integer(0, 90)));
-        for (std::wstring& label : labels) {
-            label = data.chance(0.2) ? L"" : std::wstring(1, data.chance(0.6) ? L'a' : L'b');
-            for (int digits = data.integer(0, 3); digits > 0; --digits)
-                label += static_cast<wchar_t>(L'1' + data.integer(1, 2));
-        }
-        Texts expected = labels;
-        for (std::size_t i = 0; i < expected.size(); ++i) {
-            int counter = 1;
-            for (std::size_t j = i + 1; j < expected.size(); ++j) {
-                if (expected[j] != expected[i])
-                    continue;
-                std::wstring text;
-                bool taken = true;
-                while (taken) {
-                    text = expected[j] + std::to_wstring(++counter);
-                    taken = false;
-                    for (std::size_t k = j + 1; k < expected.size(); ++k)
-                        taken = taken || expected[k] == text;
-                }
-                expected[j] = text;
-            }
-        }
-        const auto table = stringColumn(labels);
-        V_ReplaceDoubles(table, static_cast<int>(labels.size()));
-        ASSERT_EQ(cellsOf(table), expected);
-    }
 }
 
 } // namespace

@@ -112,7 +112,7 @@ TEST(GroupBy, RangeNeedsAMaximumAboveTheMissingValue)
     EXPECT_THAT(aggregateOf({1, infinity}, 7), SameBits(infinity));
 }
 
-// ---- the row after the group ------------------------------------------------------------------------------------------
+// ---- the row after the group ----------------------------------------------------------------------------------------
 
 TEST(GroupBy, RowAfterIsTheFirstOfTheNextGroup)
 {
@@ -146,7 +146,7 @@ TEST(GroupBy, RowAfterTheLastGroupInATallerTableIsTheCellBelow)
     EXPECT_THAT(cellsOf(out), SameBits({1, 1, 77, 88, 11, 88}));
 }
 
-// ---- keys -------------------------------------------------------------------------------------------------------------
+// ---- keys -----------------------------------------------------------------------------------------------------------
 
 TEST(GroupBy, MissingKeysAreOneGroupAndComeFirst)
 {
@@ -184,7 +184,7 @@ TEST(GroupBy, AKeyColumnOutsideTheTableMakesOneGroup)
     }
 }
 
-// ---- qualitative columns ----------------------------------------------------------------------------------------------
+// ---- qualitative columns --------------------------------------------------------------------------------------------
 
 TEST(GroupBy, AQualitativeColumnGetsItsModeWhateverTheAggregate)
 {
@@ -225,7 +225,7 @@ TEST(GroupBy, OtherCodesWriteNothing)
     }
 }
 
-// ---- dimensions -------------------------------------------------------------------------------------------------------
+// ---- dimensions -----------------------------------------------------------------------------------------------------
 
 TEST(GroupBy, OneRow)
 {

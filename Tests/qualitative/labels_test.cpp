@@ -85,6 +85,29 @@ TEST(ReplaceDoubles, OnlyTheFirstCells)
     EXPECT_EQ(cellsOf(shorter), (Texts{L"", L"b"})) << "the empty strings beyond are repeats that are not written";
 }
 
+/// Label by label, each against all behind it.
+Texts numberedByTheWalk(Texts labels)
+{
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        int counter = 1;
+        for (std::size_t j = i + 1; j < labels.size(); ++j) {
+            if (labels[j] != labels[i])
+                continue;
+            std::wstring text;
+            bool taken = true;
+            while (taken) {
+                ++counter;
+                text = labels[j] + std::to_wstring(counter);
+                taken = false;
+                for (std::size_t k = j + 1; k < labels.size(); ++k)
+                    taken = taken || labels[k] == text;
+            }
+            labels[j] = text;
+        }
+    }
+    return labels;
+}
+
 TEST(ReplaceDoubles, IsThePlainWalk)
 {
     for (std::uint64_t seed = 1; seed <= 1000; ++seed) {
@@ -94,29 +117,26 @@ TEST(ReplaceDoubles, IsThePlainWalk)
         for (int n = random.integer(0, 12); n > 0; --n)
             labels.push_back(std::wstring(1, random.chance(0.7) ? L'a' : L'b') +
                              (random.chance(0.5) ? L"" : std::to_wstring(random.integer(2, 4))));
-        Texts expected = labels;
-        for (std::size_t i = 0; i < expected.size(); ++i) {
-            int counter = 1;
-            for (std::size_t j = i + 1; j < expected.size(); ++j) {
-                if (expected[j] != expected[i])
-                    continue;
-                std::wstring text;
-                bool taken = true;
-                while (taken) {
-                    ++counter;
-                    text = expected[j] + std::to_wstring(counter);
-                    taken = false;
-                    for (std::size_t k = j + 1; k < expected.size(); ++k)
-                        taken = taken || expected[k] == text;
-                }
-                expected[j] = text;
-            }
-        }
-        EXPECT_EQ(madeUnique(labels), expected);
+        EXPECT_EQ(madeUnique(labels), numberedByTheWalk(labels));
     }
 }
 
-// ---- joined rows ------------------------------------------------------------------------------------------------------
+TEST(ReplaceDoubles, OfManyLabelsIsThePlainWalk)
+{
+    for (std::uint64_t seed = 1; seed <= 300; ++seed) {
+        RandomData data(seed);
+        SCOPED_TRACE(data);
+        Texts labels(static_cast<std::size_t>(data.integer(0, 90)));
+        for (std::wstring& label : labels) {
+            label = data.chance(0.2) ? L"" : std::wstring(1, data.chance(0.6) ? L'a' : L'b');
+            for (int digits = data.integer(0, 3); digits > 0; --digits)
+                label += static_cast<wchar_t>(L'1' + data.integer(1, 2));
+        }
+        ASSERT_EQ(madeUnique(labels), numberedByTheWalk(labels));
+    }
+}
+
+// ---- joined rows ----------------------------------------------------------------------------------------------------
 
 Texts joined(int rows, int cols, const Texts& cells, const std::wstring& separator)
 {

@@ -54,7 +54,7 @@ void expectRows(const Sample& sample, const Population& S, const Cells& ids, con
     expectSame(sample, {rowsOf(S, rows), keptLabels(ids, rows)});
 }
 
-// ---- systematic, centred ----------------------------------------------------------------------------------------------
+// ---- systematic, centred --------------------------------------------------------------------------------------------
 
 TEST(CentredSampling, StartsInTheMiddleOfTheMargin)
 {
@@ -151,7 +151,7 @@ TEST(CentredSampling, FewerLabelsThanRows)
     EXPECT_THAT(cellsOf(ids), SameBits({101.0, 5.0}));
 }
 
-// ---- systematic, from a random start ------------------------------------------------------------------------------------
+// ---- systematic, from a random start --------------------------------------------------------------------------------
 
 TEST(RandomStartSampling, StartsWithinTheMargin)
 {
@@ -243,7 +243,7 @@ TEST(SystematicSampling, AgreesWithAPlainSecondForm)
     }
 }
 
-// ---- one random row for each interval -------------------------------------------------------------------------------------
+// ---- one random row for each interval -------------------------------------------------------------------------------
 
 TEST(IntervalSampling, OneRowOfEachSpan)
 {

@@ -22,7 +22,7 @@ using Texts = std::vector<std::wstring>;
 /// They send items 1 to 5 to places 3, 1, 5, 2, 4: the order of the items is 2, 4, 1, 5, 3.
 const Cells fiveKeys = {0.4, 0.1, 0.9, 0.2, 0.6};
 
-// ---- permutations: all of them, by the same keys ----------------------------------------------------------------------
+// ---- permutations: all of them, by the same keys --------------------------------------------------------------------
 
 struct Permuted
 {
@@ -217,7 +217,7 @@ TEST(Permutations, AreSortsByTheKeys)
     }
 }
 
-// ---- permutations of rows ---------------------------------------------------------------------------------------------
+// ---- permutations of rows -------------------------------------------------------------------------------------------
 
 const Cells threeColumns = {11, 21, 31, 41, 51, /**/ 12, M, 32, 42, 52, /**/ 13, 23, 33, -0.0, 53};
 const Cells threeColumnsPermuted = {21, 41, 11, 51, 31, /**/ M, 42, 12, 52, 32, /**/ 23, -0.0, 13, 53, 33};

@@ -1,5 +1,5 @@
-// Sampling with replacement against the plain walk where the order of the writes can be seen: a sample that is, or shares
-// a column with, its population, and tables of other sizes than the sample.
+// Sampling with replacement against the plain walk where the order of the writes can be seen: a sample that is, or
+// shares a column with, its population, and tables of other sizes than the sample.
 #include "randomisation/sampling_with_repeats.h"
 
 #include "scripted_draws.h"

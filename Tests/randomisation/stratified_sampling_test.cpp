@@ -115,7 +115,7 @@ Sample sampled(const Survey& survey, const Cells& draws, const std::vector<int>&
     return agreed(sampledInBothStorages(survey, draws, seriesDraws, flag));
 }
 
-// ---- how many of each stratum -----------------------------------------------------------------------------------------
+// ---- how many of each stratum ---------------------------------------------------------------------------------------
 
 TEST(StratifiedSampling, LastStratumTakesWhatIsMissing)
 {
@@ -166,7 +166,7 @@ TEST(StratifiedSampling, StratumOfNothingStillDrawsItsKeys)
     EXPECT_THAT(sampled(survey, {0.9, 0.1, 0.5}, {2, 1}).ids, SameBits({30.0}));
 }
 
-// ---- without replacement ------------------------------------------------------------------------------------------------
+// ---- without replacement --------------------------------------------------------------------------------------------
 
 TEST(StratifiedSampling, SmallestKeysInTheOrderOfTheLabels)
 {
@@ -206,7 +206,7 @@ TEST(StratifiedSampling, MissingStratumLabelsComeFirst)
     EXPECT_THAT(sampled(survey, {0.1, 0.2, 0.1, 0.2}, {2, 2}).ids, SameBits({20.0, 10.0}));
 }
 
-// ---- with replacement -----------------------------------------------------------------------------------------------------
+// ---- with replacement -----------------------------------------------------------------------------------------------
 
 TEST(StratifiedSampling, QuotaAboveTheSizeGivesRepeats)
 {
@@ -264,7 +264,7 @@ TEST(StratifiedSampling, StratumWithoutRows)
     EXPECT_THAT(sampled(fraction, {0.2, 0.1}, {0, 2}).ids, SameBits({20.0}));
 }
 
-// ---- the seed -----------------------------------------------------------------------------------------------------------
+// ---- the seed -------------------------------------------------------------------------------------------------------
 
 TEST(StratifiedSampling, OnlyTheFirstStratumHasTheCallersFlag)
 {
@@ -305,7 +305,7 @@ TEST(StratifiedSampling, NoStrataSortOnly)
     EXPECT_THAT(cellsOf(strata), SameBits({1.0, 2.0}));
 }
 
-// ---- sizes that do not fit ------------------------------------------------------------------------------------------------
+// ---- sizes that do not fit ------------------------------------------------------------------------------------------
 
 TEST(StratifiedSampling, EmptyPopulation)
 {
@@ -417,7 +417,7 @@ TEST(StratifiedSampling, WorksOnTheCornerNamed)
     EXPECT_THAT(cellsOf(outIds), SameBits({1.0, M}));
 }
 
-// ---- against a plain second form ------------------------------------------------------------------------------------------
+// ---- against a plain second form ------------------------------------------------------------------------------------
 
 /// A row of the population; number 0 is none.
 struct Row

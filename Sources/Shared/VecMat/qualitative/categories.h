@@ -3,8 +3,9 @@
 //
 // Each column of the table is a variable; `nRows` and `nCols` drive the loops. Texts are compared as plain wide
 // strings: case matters, and 1 and 1.0 differ. The empty string is the missing one and is no category, but for the
-// column without data. `weights` holds nRows row weights, must be given, and is used as it is: a weight of zero or below
-// still opens its category and adds to it, and one beyond the table is -1.0. Results have a row for each variable:
+// column without data. `weights` holds nRows row weights, must be given, and is used as it is: a weight of zero or
+// below still opens its category and adds to it, and one beyond the table is -1.0. Results have a row for each
+// variable:
 //
 //     modes        nCols by 1    the modal category
 //     modeWeights  nCols by 1    its weight

@@ -7,8 +7,8 @@
 // Without rows there are no groups.
 //
 // A column whose entry of `colTypes` (nCols of them) is not 0, or is beyond that table, gets the mode of its codes
-// (`V_ModeCat`), whatever `aggregate` says: there a code counts where it lies below the number of rows of its group, and
-// a group of one row gives 0. The others, by `aggregate`:
+// (`V_ModeCat`), whatever `aggregate` says: there a code counts where it lies below the number of rows of its group,
+// and a group of one row gives 0. The others, by `aggregate`:
 //
 //     0  sum         V_Sum2         with weights V_Sum
 //     1  mean        V_Mean2        with weights V_Mean

@@ -25,7 +25,8 @@ public:
             append(place);
     }
 
-    /// Takes the repeats of the label at `place` out of the list, and gives the first of them. They are no longer found.
+    /// Takes the repeats of the label at `place` out of the list, and gives the first of them. They are no longer
+    /// found.
     int takeRepeatsOf(int place)
     {
         Chain& chain = chains_.value(chains_.find(labels_[place]));

@@ -2,8 +2,8 @@
 //
 // In the functions over categories row j of `categories` lists the categories of column j of the table, of which the
 // first nCats[j] are searched in their order: the first match gives the code. An empty cell matches an empty category,
-// also a place beyond the table of categories. `out` is nRows by nCols and must exist: no function here prepares it, and
-// a cell that is not written keeps what it held. Looking a text up costs no walk over the categories.
+// also a place beyond the table of categories. `out` is nRows by nCols and must exist: no function here prepares it,
+// and a cell that is not written keeps what it held. Looking a text up costs no walk over the categories.
 #pragma once
 
 #include "../Smatrix.h"

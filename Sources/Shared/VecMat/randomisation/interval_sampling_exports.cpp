@@ -6,17 +6,13 @@ using namespace vecmat;
 void VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
                                     short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, N, [&](Smatrix* population, Smatrix* sample, matrix* rows) {
-        M_SamplingSystematicRdStart(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingSystematicRdStart, S, N, p, n, Z, ids, N, seed, seedFlag, seedOut);
 }
 
 void VB_M_SamplingSystematicRdStartSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
                                        short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, N, [&](Smatrix** population, Smatrix** sample, matrix* rows) {
-        M_SamplingSystematicRdStartSPV(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingSystematicRdStartSPV, S, N, p, n, Z, ids, N, seed, seedFlag, seedOut);
 }
 
 void VB_M_SamplingSystematicCentered(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids)
@@ -36,15 +32,11 @@ void VB_M_SamplingSystematicCenteredSPV(SAFEARRAY** S, int N, int p, int n, SAFE
 void VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
                                    short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, N, [&](Smatrix* population, Smatrix* sample, matrix* rows) {
-        M_SamplingRandomStratified(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingRandomStratified, S, N, p, n, Z, ids, N, seed, seedFlag, seedOut);
 }
 
 void VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
                                       short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, N, [&](Smatrix** population, Smatrix** sample, matrix* rows) {
-        M_SamplingRandomStratifiedSPV(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingRandomStratifiedSPV, S, N, p, n, Z, ids, N, seed, seedFlag, seedOut);
 }

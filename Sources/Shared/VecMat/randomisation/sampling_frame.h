@@ -5,8 +5,8 @@
 
 namespace vecmat {
 
-/// A caller without rows may have no array either: that is a table without cells, which can be read and written like any
-/// other. A design visits cells also where there are no rows.
+/// A caller without rows may have no array either: that is a table without cells, which can be read and written like
+/// any other. A design visits cells also where there are no rows.
 inline StringTableHandle copiedOrEmpty(wchar_t** x, int rows, int cols)
 {
     return x != nullptr ? copied(x, rows, cols) : freshStrings(0, 0);
@@ -40,6 +40,16 @@ void sampleInto(SAFEARRAY** S, int N, int p, SAFEARRAY** Z, int n, double* ids, 
     design(population, sample, rows);
     SaveSAFEARRAY(sample, p, n, Z);
     handBack(rows, ids);
+}
+
+/// The same, over either kind of array, for the designs that draw `n` rows in one series: their arguments are alike.
+template <class Design, class Strings>
+void drawInto(Design design, Strings S, int N, int p, int n, Strings Z, double* ids, int nIds, int* seed,
+              short seedFlag, int* seedOut)
+{
+    sampleInto(S, N, p, Z, n, ids, nIds, [&](const auto& population, const auto& sample, matrix* rows) {
+        design(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
+    });
 }
 
 } // namespace vecmat

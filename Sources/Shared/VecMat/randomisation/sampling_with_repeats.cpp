@@ -22,8 +22,8 @@ void addStorage(Smatrix** columns, int cols, Stretches& stretches)
         stretches.add(columns[j]->X, columns[j]->nElems);
 }
 
-/// Does each row of the sample have cells of its own, of which the population has none? Then all that is read is what the
-/// population holds from the start, and it plays no part in which order the rows are written.
+/// Does each row of the sample have cells of its own, of which the population has none? Then all that is read is what
+/// the population holds from the start, and it plays no part in which order the rows are written.
 template <class Rows>
 bool rowsStandApart(Rows S, Rows Z, int n, int p)
 {
@@ -65,11 +65,11 @@ void sampleByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* ids)
     const auto count = linear(freq);
     const auto id = linear(ids);
     unsigned copies = 0;
-    for (int i = 1; i <= N; ++i)
-        for (int left = truncated(count.get(zeroBased(i))); left > 0; --left) {
+    for (int i = 0; i < N; ++i)
+        for (int left = truncated(count.get(i)); left > 0; --left) {
             const int target = static_cast<int>(++copies);
-            copyRow(cells(S), i, cells(Z), target, p);
-            id.set(zeroBased(target), i);
+            copyRow(cells(S), i + 1, cells(Z), target, p);
+            id.set(zeroBased(target), i + 1.0);
         }
 }
 

@@ -1,9 +1,10 @@
-// Samples in which a row may stand more than once: drawn with replacement, or copied as often as a table of counts says.
+// Samples in which a row may stand more than once: drawn with replacement, or copied as often as a table of counts
+// says.
 //
 // Common to the sampling designs, here and in the units beside this one:
-//   - The population `S` is a table of strings of `N` rows and `p` columns, the sample `Z` one of as many columns, which
-//     must exist. In the SPV forms both are arrays of `p` tables of one column. Cells are copied as they are, empty ones
-//     too. `S` is not written, unless a function says so.
+//   - The population `S` is a table of strings of `N` rows and `p` columns, the sample `Z` one of as many columns,
+//     which must exist. In the SPV forms both are arrays of `p` tables of one column. Cells are copied as they are,
+//     empty ones too. `S` is not written, unless a function says so.
 //   - Row numbers are 1-based and stand in tables of doubles, which must exist and are not prepared.
 //   - `seed`, `seedFlag` and `seedOut` are the frame of a series of draws, as in permutations.h.
 //   - Nothing is tested and no error is reported. Beyond a table a cell reads -1.0, or empty, and is not written; in a
@@ -28,8 +29,9 @@ VECMAT_API void M_SamplingWithReplacementSPV(Smatrix** S, int N, int p, int n, S
                                              short seedFlag, int* seedOut);
 
 /// Copy row i of the population f times, f being cell i of `freq` truncated to an integer, and not at all where that is
-/// not above 0; so a missing, infinite or NaN count is none. `Z` and `ids`, which receives the number of the row copied,
-/// have a row for each copy; rows beyond the copies stay as they were. With `N` below 1 nothing is done. No draw.
+/// not above 0; so a missing, infinite or NaN count is none. `Z` and `ids`, which receives the number of the row
+/// copied, have a row for each copy; rows beyond the copies stay as they were. With `N` below 1 nothing is done. No
+/// draw.
 VECMAT_API void M_SampleUserDefined(Smatrix* S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids);
 VECMAT_API void M_SampleUserDefinedSPV(Smatrix** S, int N, int p, Smatrix** Z, matrix* freq, matrix* ids);
 

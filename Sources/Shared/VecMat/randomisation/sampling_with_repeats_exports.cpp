@@ -17,17 +17,13 @@ int sampleSize(matrix* counts, int N)
 void VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed, short seedFlag,
                                   int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix* population, Smatrix* sample, matrix* rows) {
-        M_SamplingWithReplacement(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingWithReplacement, S, N, p, n, Z, ids, n, seed, seedFlag, seedOut);
 }
 
 void VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
                                      short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, n, [&](Smatrix** population, Smatrix** sample, matrix* rows) {
-        M_SamplingWithReplacementSPV(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
-    });
+    drawInto(M_SamplingWithReplacementSPV, S, N, p, n, Z, ids, n, seed, seedFlag, seedOut);
 }
 
 void VB_M_SampleUserDefined(wchar_t** S, int N, int p, wchar_t** Z, double* freq, double* ids)

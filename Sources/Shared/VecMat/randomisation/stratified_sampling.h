@@ -38,9 +38,9 @@ VECMAT_API void M_SamplingRandomStratifiedByStrSPV(Smatrix** S, int N, int p, in
                                                    matrix* outIds, matrix* strata, matrix* quota, matrix* sizes,
                                                    int nStrata, int* seed, short seedFlag, int* seedOut);
 
-/// Flat forms: `rowIds` and `strata` of `N` cells, `outIds` of `n`, `quota` and `sizes` of `nStrata`. `Z` (every element
-/// a new BSTR that the caller owns), `outIds` and `rowIds`, the latter in sorted order, come back; the caller's `S` and
-/// `strata` stay as they were.
+/// Flat forms: `rowIds` and `strata` of `N` cells, `outIds` of `n`, `quota` and `sizes` of `nStrata`. `Z` (every
+/// element a new BSTR that the caller owns), `outIds` and `rowIds`, the latter in sorted order, come back; the caller's
+/// `S` and `strata` stay as they were.
 VECMAT_API void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar_t** Z, double* rowIds,
                                                     double* outIds, double* strata, double* quota, double* sizes,
                                                     int nStrata, int* seed, short seedFlag, int* seedOut);
