@@ -83,6 +83,8 @@ private:
     static constexpr int longestStretch = 256;
     /// Panels of the left operand that are used for one panel of the right one while they are in the cache.
     static constexpr std::size_t panelsInCache = 12;
+    /// Cells in a line of the cache, which are used while they are there, whichever way an operand is stored.
+    static constexpr int cacheLine = 8;
 
     /// Panels of the width of a tile, which is above 0.
     static std::size_t panels(int count, int width)
@@ -123,16 +125,19 @@ private:
     {
         for (int first = 0; first < lines; first += width, panel += panelSize) {
             const int inside = std::min(width, lines - first);
-            for (int k = 0; k < count; ++k) {
-                double* to = panel + std::ptrdiff_t{k} * width;
-                for (int r = 0; r < inside; ++r) {
-                    to[r] = read(first + r, k);
-                    if constexpr (missing == MissingFactor::makesResultMissing)
-                        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): there is a flag for each line
-                        isMissingLine[first + r] |= isMissing(to[r]);
-                }
-                std::fill(to + inside, to + width, 0.0);
+            for (int k0 = 0; k0 < count; k0 += cacheLine) {
+                for (int r = 0; r < inside; ++r)
+                    for (int k = k0; k < std::min(k0 + cacheLine, count); ++k) {
+                        const double x = read(first + r, k);
+                        panel[std::ptrdiff_t{k} * width + r] = x;
+                        if constexpr (missing == MissingFactor::makesResultMissing)
+                            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): there is a flag for each line
+                            isMissingLine[first + r] |= isMissing(x);
+                    }
             }
+            if (inside < width)
+                for (int k = 0; k < count; ++k)
+                    std::fill_n(panel + std::ptrdiff_t{k} * width + inside, width - inside, 0.0);
         }
     }
 
@@ -142,21 +147,24 @@ private:
         const int col0 = static_cast<int>(colPanel) * kernels_.cols;
         const int rows = std::min(kernels_.rows, shape_.rows - row0);
         const int cols = std::min(kernels_.cols, shape_.cols - col0);
+        const auto result = [&](int r, int c) {
+            const double sum = tile[c * kernels_.rows + r];
+            if constexpr (missing == MissingFactor::makesResultMissing)
+                return rowIsMissing_[row0 + r] || colIsMissing_[col0 + c] ? missingValue : sum;
+            else
+                return sum;
+        };
         for (int c = 0; c < cols; ++c)
+            for (int r = firstRow(row0, col0 + c); r < rows; ++r)
+                storeNumber(out_, row0 + r, col0 + c, result(r, c));
+        if constexpr (part == ResultPart::lowerMirrored)
             for (int r = 0; r < rows; ++r)
-                writeCell(row0 + r, col0 + c, tile[c * kernels_.rows + r]);
+                for (int c = 0; c < std::min(cols, row0 + r + 1 - col0); ++c)
+                    storeNumber(out_, col0 + c, row0 + r, result(r, c));
     }
 
-    void writeCell(int i, int j, double sum) const
-    {
-        if constexpr (missing == MissingFactor::makesResultMissing)
-            sum = rowIsMissing_[i] || colIsMissing_[j] ? missingValue : sum;
-        if (part == ResultPart::lowerMirrored && j > i)
-            return;
-        storeNumber(out_, i, j, sum);
-        if (part == ResultPart::lowerMirrored)
-            storeNumber(out_, j, i, sum);
-    }
+    /// Of the rows of a tile that starts at row0, the first whose result in column j is stored there.
+    static int firstRow(int row0, int j) { return part == ResultPart::lowerMirrored ? std::max(j - row0, 0) : 0; }
 
     const TileKernels& kernels_ = tileKernels();
     const Left& left_;
