@@ -7,7 +7,7 @@ function(vecmat_shared_library name)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
     target_compile_features(${name} PUBLIC cxx_std_20)
-    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:vecmat_options>)
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:library_options>)
     if(APPLE) # whose linker binds calls inside a library, and calls to others to the library that has them
         return()
     endif()
@@ -63,7 +63,7 @@ foreach(set IN LISTS instruction_sets)
     target_compile_features(vecmat_kernels_${set} PRIVATE cxx_std_20)
     target_compile_definitions(vecmat_kernels_${set} PRIVATE VECMAT_INSTRUCTION_SET=${set})
     target_compile_options(vecmat_kernels_${set} PRIVATE ${vecmat_kernel_options} ${${set}_options})
-    target_link_libraries(vecmat_kernels_${set} PRIVATE vecmat_options)
+    target_link_libraries(vecmat_kernels_${set} PRIVATE library_options)
     target_sources(VecMat PRIVATE $<TARGET_OBJECTS:vecmat_kernels_${set}>)
 endforeach()
 
