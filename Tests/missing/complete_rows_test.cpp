@@ -1,12 +1,10 @@
 #include "missing/complete_rows.h"
 
-#include "support/bits.h"
-#include "support/guarded.h"
+#include "special_numbers.h"
 #include "support/random_data.h"
 #include "support/strings.h"
 #include "support/tables.h"
 
-#include <cmath>
 #include <limits>
 
 namespace vecmat::test {
@@ -15,12 +13,7 @@ namespace {
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
 constexpr int missingInt = std::numeric_limits<int>::min();
-
-using Flags = Guarded<short>;
 
 // ---- removal --------------------------------------------------------------------------------------------------------
 

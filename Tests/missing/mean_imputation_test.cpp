@@ -1,23 +1,14 @@
 #include "missing/mean_imputation.h"
 
 #include "descriptive/means.h"
-#include "support/bits.h"
-#include "support/guarded.h"
+#include "special_numbers.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
 #include "support/tables.h"
 
-#include <cmath>
-#include <limits>
-
 namespace vecmat::test {
 namespace {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-
-using Flags = Guarded<short>;
 using Cells = std::vector<double>;
 
 /// All forms that take the statistics from the data itself, over a table of one column or more.

@@ -1,19 +1,11 @@
 #include "missing/missing_arithmetic.h"
 
-#include "support/bits.h"
-#include "support/guarded.h"
+#include "special_numbers.h"
 #include "support/random_data.h"
 #include "support/tables.h"
 
-#include <cmath>
-#include <limits>
-
 namespace vecmat::test {
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
 
 // ---- minimum --------------------------------------------------------------------------------------------------------
 

@@ -1,7 +1,6 @@
 #include "missing/missing_counts.h"
 
-#include "support/bits.h"
-#include "support/guarded.h"
+#include "special_numbers.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
 #include "support/strings.h"
@@ -16,9 +15,6 @@ namespace {
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
 const double aboveMissing = std::nextafter(M, inf);
 
 // ---- single values --------------------------------------------------------------------------------------------------

@@ -80,7 +80,8 @@ TEST(ModeImputation, ColumnWithoutACategoryTakesTheTextThatFollowsInStorage)
 
 TEST(ModeImputation, ModesAreFoundBeforeACellIsFilled)
 {
-    // Were column 1 filled first, nothing would change; were the modes found as cells are filled, "a" would gain weight.
+    // Were column 1 filled first, nothing would change; were the modes found as cells are filled, "a" would gain
+    // weight.
     EXPECT_THAT(filledByModes(5, 1, {L"a", L"", L"", L"b", L"b"}, {1, 5, 5, 1, 1}),
                 ElementsAre(L"a", L"b", L"b", L"b", L"b"));
 }

@@ -43,7 +43,7 @@ NeighbourTable filled(Texts p, const Parts& parts)
     return filledTexts(c);
 }
 
-// ---- the row passed over ----------------------------------------------------------------------------------------------
+// ---- the row passed over --------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, RowNumberedAsTheColumnIsPassedOverInTheSecondBlock)
 {
@@ -75,7 +75,7 @@ TEST(NearestNeighbourRules, OnlyThatRowLeftMeansNoNeighbour)
                 SameBits({10, 40, 25, 5, 9, 5}));
 }
 
-// ---- the own cell -----------------------------------------------------------------------------------------------------
+// ---- the own cell ---------------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, WithPrimaryColumnsAloneARowWithoutTheValueCanWin)
 {
@@ -122,7 +122,7 @@ TEST(NearestNeighbourRules, NeverInTheStringBlock)
               L"far");
 }
 
-// ---- missing cells of a candidate -------------------------------------------------------------------------------------
+// ---- missing cells of a candidate -----------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, MissingCellOfAnyOtherColumnRejects)
 {
@@ -188,7 +188,7 @@ TEST(NearestNeighbourRules, PrimaryBlockTakesNoPartInTheOtherSearches)
     }
 }
 
-// ---- a term is needed -------------------------------------------------------------------------------------------------
+// ---- a term is needed -----------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, PrimaryCandidateWithNothingToCompareCannotWin)
 {
@@ -264,7 +264,7 @@ TEST(NearestNeighbourRules, OtherSearchesNeverForget)
     EXPECT_THAT(filled({.mask = {-1, 0, 0, -1}, .colsY = 2, .y = complete}).y, SameBits({24, 20, 31, 25, 5, 6, 9, 9}));
 }
 
-// ---- statistics -------------------------------------------------------------------------------------------------------
+// ---- statistics -----------------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, DivisorsOfThePrimaryAndTheSecondBlockDiffer)
 {

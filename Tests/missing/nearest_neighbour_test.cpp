@@ -31,7 +31,7 @@ void addS(NeighbourCase& c, int cols, Texts cells)
     c.target.s = std::move(cells);
 }
 
-// ---- the neighbour ----------------------------------------------------------------------------------------------------
+// ---- the neighbour --------------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbour, CopiesTheValueOfTheNearestRow)
 {
@@ -126,7 +126,7 @@ TEST(NearestNeighbour, ColumnWithoutVarianceInTheStatisticsIsLeftOut)
     EXPECT_THAT(filledByTables(c, statistics).x, SameBits({30, 20, 30, 0, 1000, 0, 5, 5, 6}));
 }
 
-// ---- without a neighbour ----------------------------------------------------------------------------------------------
+// ---- without a neighbour --------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbour, WithAllRowsFlaggedCellsTakeTheStatistics)
 {
@@ -194,7 +194,7 @@ TEST(NearestNeighbour, NeighboursAreRowsOfTheTargetOnly)
     EXPECT_THAT(filledByTables(c, statistics).x, SameBits({20, 20, 5, 9}));
 }
 
-// ---- what is missing --------------------------------------------------------------------------------------------------
+// ---- what is missing ------------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbour, NumbersAtOrBelowTheMissingValueAreMissing)
 {
@@ -223,7 +223,7 @@ TEST(NearestNeighbour, NanIsPresentAndItsDistanceNeverWins)
     EXPECT_THAT(filledByTables(c, statistics).x, SameBits({2.5, 20, 30, nan, 5, nan, 9, 5}));
 }
 
-// ---- shapes -----------------------------------------------------------------------------------------------------------
+// ---- shapes ---------------------------------------------------------------------------------------------------------
 
 TEST(NearestNeighbour, WithoutRowsNothingHappens)
 {

@@ -58,7 +58,7 @@ inline void expectSame(const NeighbourTable& actual, const NeighbourTable& expec
     EXPECT_EQ(actual.s, expected.s);
 }
 
-// ---- the four functions -----------------------------------------------------------------------------------------------
+// ---- the four functions ---------------------------------------------------------------------------------------------
 
 inline NeighbourTable filledByTables(const NeighbourCase& c, const NeighbourTable& statistics)
 {
@@ -113,7 +113,7 @@ inline NeighbourTable filledByColumns2(const NeighbourCase& c, const NeighbourTa
     return {t.rows, X.cells(), {}, Y.cells(), cellsOf(S)};
 }
 
-// ---- the flat forms ---------------------------------------------------------------------------------------------------
+// ---- the flat forms -------------------------------------------------------------------------------------------------
 
 /// The caller's arrays of one call.
 struct FlatArrays

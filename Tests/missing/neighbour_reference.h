@@ -1,5 +1,5 @@
-// Nearest-neighbour imputation in plain form: one search after the other, written out, on 1-based cells. And random tables
-// for it.
+// Nearest-neighbour imputation in plain form: the searches written out, on 1-based cells. And random
+// tables for it.
 #pragma once
 
 #include "neighbour_cases.h"
@@ -170,32 +170,18 @@ private:
 
     int secondSearch(int t, int j)
     {
-        int best = 0;
-        double least = positiveTwin;
-        for (int c = 1; c <= out_.rows; ++c) {
-            if (c == j || flagged(c))
-                continue;
-            distance_ = 0.0;
-            bool rejected = false;
-            for (int k = 1; k <= c_.colsY && !rejected; ++k) {
-                rejected = k != j && absent(Y(c, k));
-                if (!rejected)
-                    numericTerm(Y(t, k), Y(c, k), varY_[index(k)]);
-            }
-            for (int k = 1; k <= c_.colsS && !rejected; ++k) {
-                rejected = S(c, k).empty() || absent(Y(c, j));
-                if (!rejected)
-                    stringTerm(S(t, k), S(c, k));
-            }
-            if (!rejected && distance_ < least && anyTerm_) {
-                best = c;
-                least = distance_;
-            }
-        }
-        return best;
+        return searchInYAndS(t, j, [&](int c) { return absent(Y(c, j)); });
     }
 
     int stringSearch(int t, int j)
+    {
+        return searchInYAndS(t, j, [&](int c) { return S(c, j).empty(); });
+    }
+
+    /// The two differ in the cell that would be copied alone: also where strings are filled, column number j of Y may
+    /// be missing.
+    template <class OwnAbsent>
+    int searchInYAndS(int t, int j, OwnAbsent ownAbsent)
     {
         int best = 0;
         double least = positiveTwin;
@@ -210,7 +196,7 @@ private:
                     numericTerm(Y(t, k), Y(c, k), varY_[index(k)]);
             }
             for (int k = 1; k <= c_.colsS && !rejected; ++k) {
-                rejected = S(c, k).empty() || S(c, j).empty();
+                rejected = S(c, k).empty() || ownAbsent(c);
                 if (!rejected)
                     stringTerm(S(t, k), S(c, k));
             }
@@ -240,7 +226,7 @@ private:
     bool anyTerm_ = false;
 };
 
-// ---- random tables ----------------------------------------------------------------------------------------------------
+// ---- random tables --------------------------------------------------------------------------------------------------
 
 inline Numbers randomNumbers(RandomData& data, int rows, int cols)
 {

@@ -1,24 +1,16 @@
 #include "missing/replacement.h"
 
-#include "support/bits.h"
-#include "support/guarded.h"
+#include "special_numbers.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
 #include "support/strings.h"
 #include "support/tables.h"
-
-#include <cmath>
-#include <limits>
 
 namespace vecmat::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::ElementsAreArray;
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
 
 // ---- by a value -----------------------------------------------------------------------------------------------------
 

@@ -73,7 +73,8 @@ TEST(TimeIntervalSize, isTheFirstStepOfAnEvenSeries)
 
 TEST(TimeIntervalSize, everyStepIsComparedWithTheFirst)
 {
-    // Each step is longer than the one before by less than the tolerance, but the last two differ from the first by more.
+    // Each step is longer than the one before by less than the tolerance, but the last two differ from the first by
+    // more.
     const double d = 0.6e-6;
     EXPECT_THAT(step({0, 1, 2 + d}), SameBits(1.0));
     EXPECT_THAT(step({0, 1, 2 + d, 3 + 3 * d}), SameBits(M));

@@ -134,8 +134,7 @@ TEST_P(SortApplyToManyRows, ofOtherHeightsAndTypes)
 
 TEST_P(SortApplyToManyRows, ofSharedMemory)
 {
-    // The order and the source lie somewhere in the result: the flat form copies the source, and reads the order row by
-    // row; tables are read cell by cell.
+    // The order and the source lie somewhere in the result: the flat form copies both; tables are read cell by cell.
     const std::vector<double> shared = random.wholes(rows * (2 * cols + 1), 1, n);
     const auto total = static_cast<std::ptrdiff_t>(shared.size());
     for (const std::ptrdiff_t at : {std::ptrdiff_t{0}, std::ptrdiff_t{1}, std::ptrdiff_t{n / 2},
@@ -152,7 +151,7 @@ TEST_P(SortApplyToManyRows, ofSharedMemory)
         actual = expected = shared;
         VB_SortApply(actual.data() + std::ptrdiff_t{n} * (cols + 1), n, cols, actual.data() + at, actual.data());
         const std::vector<double> behind(shared.begin() + std::ptrdiff_t{n} * (cols + 1), shared.end());
-        applyRowByRow(behind.data(), behind.size(), n, n, cols, expected.data() + at, expected.data(), n, unchanged);
+        applyRowByRow(behind.data(), behind.size(), n, n, cols, shared.data() + at, expected.data(), n, unchanged);
         EXPECT_THAT(actual, SameBits(expected)) << at;
 
         actual = expected = shared;

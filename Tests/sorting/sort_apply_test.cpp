@@ -132,6 +132,19 @@ TEST(VbSortApply, givesTheRowsInAnotherArray)
     EXPECT_TRUE(source.untouched() && order.untouched() && ints.untouched());
 }
 
+TEST(VbSortApply, theResultMayBeTheOrderOrTheSource)
+{
+    Guarded<double> source({10, 20, 30});
+    Guarded<double> order({3, 1, 2});
+    VB_SortApply(source, 3, 1, order, order);
+    EXPECT_THAT(order.values(), SameBits({30, 10, 20}));
+    EXPECT_TRUE(source.untouched());
+    Guarded<double> again({3, 1, 2});
+    VB_SortApply(source, 3, 1, again, source);
+    EXPECT_THAT(source.values(), SameBits({30, 10, 20}));
+    EXPECT_TRUE(again.untouched());
+}
+
 TEST(VbSortApply2, worksInPlace)
 {
     Guarded<double> table({1, 2, 3, 4, M, 6});

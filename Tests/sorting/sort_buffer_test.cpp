@@ -55,12 +55,11 @@ namespace {
 constexpr int n = 3000;
 constexpr std::size_t rows = n;
 
-class WithoutBuffer : public testing::Test
+class WithoutBuffer : public WithTiedKeys
 {
 protected:
-    RandomData random{12};
-    testing::ScopedTrace trace{__FILE__, __LINE__, random.seed()};
-    const std::vector<double> keys = tiedKeys(random, rows);
+    WithoutBuffer() : WithTiedKeys(12, rows) {}
+
     const std::vector<double> cells = countedCells(rows);
 
     template <class Sort>

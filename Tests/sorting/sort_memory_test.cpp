@@ -16,12 +16,11 @@ namespace {
 constexpr int n = 50;
 constexpr std::size_t rows = n;
 
-class ShortMemory : public testing::Test
+class ShortMemory : public WithTiedKeys
 {
 protected:
-    RandomData random{11};
-    testing::ScopedTrace trace{__FILE__, __LINE__, random.seed()};
-    const std::vector<double> keys = tiedKeys(random, rows);
+    ShortMemory() : WithTiedKeys(11, rows) {}
+
     const std::vector<double> sorted = withRows(keys, sortedSources(keys, {1, n, 0}));
     std::vector<double> data = keys;
 

@@ -4,8 +4,11 @@
 #include "support/bits.h"
 #include "support/random_data.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <numeric>
 #include <string>
 #include <vector>
@@ -64,6 +67,17 @@ inline std::vector<double> tiedKeys(RandomData& data, std::size_t n)
             key = data.chance(0.4) ? M : data.chance(0.5) ? 0.0 : -0.0;
     return keys;
 }
+
+/// A test over one vector of such keys.
+class WithTiedKeys : public testing::Test
+{
+protected:
+    WithTiedKeys(std::uint64_t seed, std::size_t n) : random(seed), keys(tiedKeys(random, n)) {}
+
+    RandomData random;
+    testing::ScopedTrace trace{__FILE__, __LINE__, random.seed()};
+    const std::vector<double> keys;
+};
 
 /// 1.0, 2.0, ...: every cell tells where it came from.
 template <class Value = double>

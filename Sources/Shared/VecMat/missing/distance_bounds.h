@@ -1,10 +1,10 @@
-// Which rows need not be looked at in a search for the nearest: bounds of their distances, for all of them side by side.
-// Internal to the library.
+// Which rows need not be looked at in a search for the nearest: bounds of their distances, for all of them side by
+// side. Internal to the library.
 //
-// A distance is a sum of terms d d / variance and of whole numbers. A bound is the sum of the terms of numbers alone, with
-// the variances turned into factors beforehand. It is no part of any result: no term is negative and no sum falls as
-// terms are added, so that a row whose bound is clearly above the least distance found cannot be nearer, and all others
-// are compared by the distance as it is told.
+// A distance is a sum of terms d d / variance and of whole numbers. A bound is the sum of the terms of numbers alone,
+// with the variances turned into factors beforehand. It is no part of any result: no term is negative and no sum falls
+// as terms are added, so that a row whose bound is clearly above the least distance found cannot be nearer, and all
+// others are compared by the distance as it is told.
 #pragma once
 
 #include "../elementary/kernels/distance_kernels.h"
@@ -73,8 +73,8 @@ public:
     /// From row k on, the first that may be as near as `shortest`; the count of rows where there is none.
     std::size_t nextWithin(double shortest, std::size_t k) const
     {
-        // Far above what rounding does to sums of as many terms as there may be columns, and to the smallest numbers. Where
-        // no row has won yet it is infinite.
+        // Far above what rounding does to sums of as many terms as there may be columns, and to the smallest numbers.
+        // Where no row has won yet it is infinite.
         const double limit = shortest * (1.0 + 1e-5) + 1e-290;
         while (k < rowCount_ && distances_.data()[k] > limit)
             ++k;

@@ -18,8 +18,8 @@ using vecmat::triangle;
 
 namespace {
 
-// A census is taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller names
-// may have more cells than an int counts.
+// A census is taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller
+// names may have more cells than an int counts.
 
 /// Columns whose cells are asked one by one: `missing(i, j)`.
 template <class Missing>

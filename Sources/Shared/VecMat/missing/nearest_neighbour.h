@@ -40,8 +40,8 @@
 // the last candidate row of the last primary search was reached, so that a row without anything to compare can win
 // there at distance 0.0.
 //
-// With 50 rows or more the search works in a copy of the numbers of the rows that are not flagged, to pass over those that
-// are too far away; where memory is short it does without, with the same result.
+// With 50 rows or more the search works in a copy of the numbers of the rows that are not flagged, to pass over those
+// that are too far away; where memory is short it does without, with the same result.
 #pragma once
 
 #include "../Smatrix.h"

@@ -15,6 +15,22 @@ vecmat::ColumnsHandle<matrix> columnsIfAny(SAFEARRAY** x, int nCols, int n)
     return columns(nCols > 0 ? x : nullptr, nCols, n);
 }
 
+/// Fills copies of the target's blocks by `estimate`, and hands them back. The primary block is of either kind.
+template <class Estimate, class Element>
+void predict(Estimate estimate, Element* statX, int nStat, Element* X, int nRows, int nColsX, short* mask,
+             double* statY, double* Y, int nColsY, wchar_t** statS, wchar_t** S, int nColsS, double* weights)
+{
+    auto primary = copied(X, nRows, nColsX);
+    auto second = copied(Y, nRows, nColsY);
+    auto strings = copied(S, nRows, nColsS);
+    estimate(copied(statX, nStat, nColsX), nStat, primary.reference(), nRows, nColsX, mask,
+             copied(statY, nStat, nColsY), second.reference(), nColsY, copied(statS, nStat, nColsS),
+             strings.reference(), nColsS, viewed(weights, nStat, 1));
+    handBack(primary, X);
+    handBack(second, Y);
+    handBack(strings, S);
+}
+
 } // namespace
 
 void VB_EstimateRowsWithMissingNN(double* X, int n, int nColsX, short* mask, double* Y, int nColsY, wchar_t** S,
@@ -64,28 +80,14 @@ void VB_EstimateRowsWithMissingNNPred(double* statX, int nStat, double* X, int n
                                       double* statY, double* Y, int nColsY, wchar_t** statS, wchar_t** S, int nColsS,
                                       double* weights)
 {
-    auto primary = copied(X, nRows, nColsX);
-    auto second = copied(Y, nRows, nColsY);
-    auto strings = copied(S, nRows, nColsS);
-    EstimateRowsWithMissingNN(copied(statX, nStat, nColsX), nStat, primary.reference(), nRows, nColsX, mask,
-                              copied(statY, nStat, nColsY), second.reference(), nColsY, copied(statS, nStat, nColsS),
-                              strings.reference(), nColsS, viewed(weights, nStat, 1));
-    handBack(primary, X);
-    handBack(second, Y);
-    handBack(strings, S);
+    predict(EstimateRowsWithMissingNN, statX, nStat, X, nRows, nColsX, mask, statY, Y, nColsY, statS, S, nColsS,
+            weights);
 }
 
 void VB_EstimateRowsWithMissingNNStrPred(wchar_t** statX, int nStat, wchar_t** X, int nRows, int nColsX, short* mask,
                                          double* statY, double* Y, int nColsY, wchar_t** statS, wchar_t** S, int nColsS,
                                          double* weights)
 {
-    auto primary = copied(X, nRows, nColsX);
-    auto second = copied(Y, nRows, nColsY);
-    auto strings = copied(S, nRows, nColsS);
-    EstimateRowsWithMissingNNStr(copied(statX, nStat, nColsX), nStat, primary.reference(), nRows, nColsX, mask,
-                                 copied(statY, nStat, nColsY), second.reference(), nColsY, copied(statS, nStat, nColsS),
-                                 strings.reference(), nColsS, viewed(weights, nStat, 1));
-    handBack(primary, X);
-    handBack(second, Y);
-    handBack(strings, S);
+    predict(EstimateRowsWithMissingNNStr, statX, nStat, X, nRows, nColsX, mask, statY, Y, nColsY, statS, S, nColsS,
+            weights);
 }

@@ -190,9 +190,9 @@ private:
             best = {c, distance_.sum};
     }
 
-    /// Visits the rows that are not flagged but for those too far away. That these are left out shows nowhere: before a row
-    /// has won none is too far, and when one has won a term has been added; and where each row has a flag of its own, it
-    /// is the one of the last row that stays.
+    /// Visits the rows that are not flagged but for those too far away. That these are left out shows nowhere: before a
+    /// row has won none is too far, and when one has won a term has been added; and where each row has a flag of its
+    /// own, it is the one of the last row that stays.
     template <const SearchRules& rules, class Own>
     void visitNear(const Own& own, int t, int j, Nearest& best)
     {
@@ -260,7 +260,8 @@ private:
                 bounds_->copy(block);
     }
 
-    /// Does no row share a cell with another? Only then do those that are copied stay as they are while others are filled.
+    /// Does no row share a cell with another? Only then do those that are copied stay as they are while others are
+    /// filled.
     bool rowsStandApart() const
     {
         Stretches columns;

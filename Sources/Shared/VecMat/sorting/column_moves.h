@@ -1,8 +1,8 @@
-// Numbers that follow a sort, column by column: each column is read in the new order and written back by itself, so that
-// the scratch is one column however many there are.
+// Numbers that follow a sort, column by column: each column is read in the new order and written back by itself, so
+// that the scratch is one column however many there are.
 //
-// The rows of a table can be placed one after another too (`placeInStableOrder`). That is the way where the order of the
-// writes can be seen: where rows lie beyond a table, or two columns share memory.
+// The rows of a table can be placed one after another too (`placeInStableOrder`). That is the way where the order of
+// the writes can be seen: where rows lie beyond a table, or two columns share memory.
 #pragma once
 
 #include "../elementary/kernels/scratch.h"
@@ -64,8 +64,8 @@ private:
     Scratch moved_;
 };
 
-/// Sorts the rows of a range, not before the first, by a column of keys in plain storage. False where that has to be done row by row; nothing
-/// is done then.
+/// Sorts the rows of a range, not before the first, by a column of keys in plain storage. False where that has to be
+/// done row by row; nothing is done then.
 template <class Number, class... Plain>
 bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys keys, Following<Plain>... tables)
 {

@@ -158,8 +158,8 @@ Item* sortByDigits(Item* from, Item* to, std::size_t n, int passes, WindowOf win
 } // namespace detail
 
 /// Sorts n items stably by their windows, numbers of so many bits, from the lowest digit to the highest; a digit that
-/// all have in common needs no pass. The items come in `from`, go to and fro between the two, and end up in the one that
-/// is returned: after an even number of passes, `passCount` if none falls away, where they came from.
+/// all have in common needs no pass. The items come in `from`, go to and fro between the two, and end up in the one
+/// that is returned: after an even number of passes, `passCount` if none falls away, where they came from.
 template <class Item, class WindowOf>
 Item* sortByDigits(Item* from, Item* to, std::size_t n, int bits, WindowOf windowOf)
 {

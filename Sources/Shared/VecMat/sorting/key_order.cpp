@@ -40,7 +40,7 @@ public:
             sortByWindow([](std::size_t k) { return k; }, words, spare, n);
     }
 
-    /// Sorts words whose numbers ascend. `spare` is not used for few.
+    /// Sorts words whose numbers ascend. `spare` is not used for few, and may be null.
     void sort(Word* words, Word* spare, std::size_t n) const
     {
         if (n <= mostToInsert)
@@ -77,7 +77,9 @@ private:
         if (start > spread.common)
             forEachTie(
                 words, n, [](Word left, Word right) { return windowIn(left) == windowIn(right); },
-                [&](std::size_t first, std::size_t count) { sort(words + first, spare + first, count); });
+                [&](std::size_t first, std::size_t count) {
+                    sort(words + first, n < fewestForDigits ? nullptr : spare + first, count);
+                });
     }
 
     void insertEach(Word* words, std::size_t n) const
@@ -102,8 +104,8 @@ RowOrder orderOver(std::size_t n, const void* spare)
     return n < fewestForDigits || spare != nullptr ? RowOrder(n) : RowOrder();
 }
 
-/// Numbers the keys in words in their order, but those of the missing keys, which tie, at the end where they belong. The
-/// words of the others.
+/// Numbers the keys in words in their order, but those of the missing keys, which tie, at the end where they belong.
+/// The words of the others.
 Word* numberMissingApart(const double* keys, std::size_t n, std::size_t missing, Direction direction, Word* words)
 {
     const bool ascending = direction == Direction::ascending;

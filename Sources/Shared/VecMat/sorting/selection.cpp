@@ -21,7 +21,7 @@ struct Bounds
     double high = std::numeric_limits<double>::infinity();
 };
 
-/// Bounds between which the places asked for will lie, most likely, from numbers at even steps. `sample` has room for n.
+/// Bounds between which the places asked for most likely lie, from numbers at even steps. `sample` has room for n.
 Bounds likelyBounds(const double* x, std::size_t n, std::size_t place, double* sample)
 {
     const double root = std::cbrt(static_cast<double>(n));

@@ -1,15 +1,15 @@
 // The stable sorts: of a vector, of rows by a separate key or by a column of their own, of columns by a key.
 //
 // Common to all of them, unless the comment of a function says otherwise:
-//   - The range `first` to `last` is 1-based with both ends included, and need not be the whole table: what lies outside
-//     stays as it was, in the data, the companion and the key. A `last` below `first` changes nothing.
-//   - `descending` is exactly -1 for a descending sort; every other value, 1 too, is ascending. Rows with equal keys keep
-//     the order of the input in both directions.
-//   - The order is the plain less-than: 0.0 and -0.0 tie. Missing keys are the smallest, so they come first ascending and
-//     last descending, and so do empty strings; strings go by the numbers of their characters, without a locale. With
-//     NaN keys the rows come in an order that nothing promises, each of them once.
-//   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty) and
-//     takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
+//   - The range `first` to `last` is 1-based with both ends included, and need not be the whole table: what lies
+//     outside stays as it was, in the data, the companion and the key. A `last` below `first` changes nothing.
+//   - `descending` is exactly -1 for a descending sort; every other value, 1 too, is ascending. Rows with equal keys
+//     keep the order of the input in both directions.
+//   - The order is the plain less-than: 0.0 and -0.0 tie. Missing keys are the smallest, so they come first ascending
+//     and last descending, and so do empty strings; strings go by the numbers of their characters, without a locale.
+//     With NaN keys the rows come in an order that nothing promises, each of them once.
+//   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty)
+//     and takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
 //     raised before a sort writes anything (a sort by several columns in turn may have finished some of them).
 //   - Numbers are sorted by the bits of their keys and moved column by column, with a column of scratch and 8 bytes for
 //     each row of the range; a vector of numbers with a copy of it. A merge of records serves for strings, for NaN and

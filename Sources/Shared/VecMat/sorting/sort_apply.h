@@ -30,7 +30,8 @@ extern "C" {
 VECMAT_API void SortApplyStr(Smatrix* source, int nRows, int nCols, matrix* order, Smatrix* out);
 
 /// Flat forms over column-major arrays of `nRows` by `nCols` and an order of `nRows`. The forms with a 2 work in place.
-/// Strings are stored as new BSTRs in every cell; what stood there is not released.
+/// The result may share memory with the source and the order, which then are copied first. Strings are stored as new
+/// BSTRs in every cell; what stood there is not released.
 VECMAT_API void VB_SortApply(double* source, int nRows, int nCols, double* order, double* out);
 VECMAT_API void VB_SortApply2(double* table, int nRows, int nCols, double* order);
 VECMAT_API void VB_SortApplyLng(int* source, int nRows, int nCols, double* order, int* out);

@@ -8,19 +8,19 @@ using namespace vecmat;
 
 namespace {
 
-/// Into another array, or over the source, which is copied then.
+/// Into another array, or over the source or the order, which are copied then.
 template <class Number>
 void applyToArrays(Number* source, int nRows, int nCols, double* order, Number* out)
 {
     Stretches arrays;
     arrays.add(source, elementCount(nRows, nCols));
+    arrays.add(order, elementCount(nRows, 1));
     arrays.add(out, elementCount(nRows, nCols));
     View result(out, nRows, nCols);
-    View rows(order, nRows, 1);
     if (arrays.areApart())
-        SortApply(View(source, nRows, nCols), nRows, nCols, rows, result.reference());
+        SortApply(View(source, nRows, nCols), nRows, nCols, View(order, nRows, 1), result.reference());
     else
-        SortApply(copied(source, nRows, nCols), nRows, nCols, rows, result.reference());
+        SortApply(copied(source, nRows, nCols), nRows, nCols, copied(order, nRows, 1), result.reference());
 }
 
 } // namespace
