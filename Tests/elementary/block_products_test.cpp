@@ -3,17 +3,16 @@
 #include "elementary/matrix_products.h"
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <algorithm>
 #include <functional>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 600;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// A block diagonal table as it is handed over, with the sizes as they will be read.
 struct Blocks
@@ -201,14 +200,14 @@ TEST(BlockProducts, OneBlockIsThePlainProduct)
 
 TEST(BlockProducts, OneBlockSkipsNoCell)
 {
-    const auto diagonal = byRows({{2, 0}, {0, 3}}), a = byRows({{1, 1}, {inf, 1}}), ints = byRows({{5}});
+    const auto diagonal = byRows({{2, 0}, {0, 3}}), a = byRows({{1, 1}, {infinity, 1}}), ints = byRows({{5}});
     matrix* blocks[] = {diagonal.get(), ints.get()};
     auto plain = filled(2, 2, 7.0), structured = filled(3, 2, 7.0);
     M_BlockProductBckA(blocks, 1, intColumn({2}), a.get(), 2, plain.get());
-    EXPECT_THAT(cellsOf(plain), SameBits({notANumber, inf, 2.0, 3.0}));
-    const auto taller = byRows({{1, 1}, {inf, 1}, {1, 1}});
+    EXPECT_THAT(cellsOf(plain), SameBits({notANumber, infinity, 2.0, 3.0}));
+    const auto taller = byRows({{1, 1}, {infinity, 1}, {1, 1}});
     M_BlockProductBckA(blocks, 2, intColumn({2, 1}), taller.get(), 2, structured.get());
-    EXPECT_THAT(cellsOf(structured), SameBits({2.0, inf, 5.0, 2.0, 3.0, 5.0}));
+    EXPECT_THAT(cellsOf(structured), SameBits({2.0, infinity, 5.0, 2.0, 3.0, 5.0}));
 }
 
 TEST(BlockProducts, OneBlockClearsTheHeadOfALargerResult)

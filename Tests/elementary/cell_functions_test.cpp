@@ -2,17 +2,16 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Square, TakesTheHeadOfTheBlockInLinearOrder)
 {
@@ -34,9 +33,9 @@ TEST(Square, TakesTheHeadOfTheBlockInLinearOrder)
 
 TEST(Square, KeepsMissingCells)
 {
-    auto a = byRows({{M, -3, -inf}});
+    auto a = byRows({{M, -3, -infinity}});
     M_Square(a, 1, 3);
-    EXPECT_THAT(cellsOf(a), SameBits({M, 9.0, inf}));
+    EXPECT_THAT(cellsOf(a), SameBits({M, 9.0, infinity}));
 }
 
 TEST(SquareRootAij, StopsAtTheFirstCellItCannotTake)
@@ -77,8 +76,8 @@ TEST(SquareRootAij, GoesRowByRowAndLeavesLaterCells)
     EXPECT_THAT(M_SquareRootAij(byRows({{4, notANumber}, {1, 16}}), 2, 2, out.get()), SameBits(-1.0));
     EXPECT_THAT(M_SquareRootAij(byRows({{4, 9}}), 2, 2, filled(2, 2, 0.0)),
                 SameBits(-1.0)); // the second row is outside
-    EXPECT_THAT(M_SquareRootAij(byRows({{-0.0, inf}, {0, 16}}), 2, 2, out.get()), SameBits(0.0));
-    EXPECT_THAT(cellsOf(out), SameBits({-0.0, 0.0, inf, 4.0}));
+    EXPECT_THAT(M_SquareRootAij(byRows({{-0.0, infinity}, {0, 16}}), 2, 2, out.get()), SameBits(0.0));
+    EXPECT_THAT(cellsOf(out), SameBits({-0.0, 0.0, infinity, 4.0}));
     EXPECT_THAT(M_SquareRootAij(byRows({{-1}}), 0, 1, out.get()), SameBits(0.0));
 }
 
@@ -104,10 +103,10 @@ TEST(LogMatrix, TakesThePresentCellsOfTheRowsKept)
 
 TEST(LogMatrix, HasNoGuardForZeroAndNegativeCells)
 {
-    auto a = byRows({{1, 0, -1, M, std::nextafter(M, -inf)}});
+    auto a = byRows({{1, 0, -1, M, belowMissing}});
     short keep[] = {0};
     M_LogMatrix(a, 1, 5, keep);
-    EXPECT_THAT(cellsOf(a), SameBits({0.0, -inf, notANumber, M, notANumber}));
+    EXPECT_THAT(cellsOf(a), SameBits({0.0, -infinity, notANumber, M, notANumber}));
     M_LogMatrix(a, 0, 5, nullptr);
 }
 
@@ -125,7 +124,7 @@ TEST(Log10Matrix, TakesThePresentCells)
     });
     auto a = byRows({{1000, M, 0}});
     M_Log10Matrix(a.get(), 1, 3);
-    EXPECT_THAT(cellsOf(a), SameBits({3.0, M, -inf}));
+    EXPECT_THAT(cellsOf(a), SameBits({3.0, M, -infinity}));
 }
 
 TEST(CellFunctionExports, WorkOnTheCallersArray)

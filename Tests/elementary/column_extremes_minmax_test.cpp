@@ -4,19 +4,15 @@
 #include "support/guarded.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <cmath>
 #include <functional>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
 
 struct Results
 {
@@ -94,8 +90,8 @@ TEST(MMinMax, ModeMinusOneLeavesMissingCellsOutAndReadsNoMask)
 
 TEST(MMinMax, ModeMinusOneTestsForEquality)
 {
-    const Results both = fullResults(3, 3, {2, belowMissing, 1, -inf, M, M, M, M, M}, {0, 0, 0}, -1);
-    EXPECT_THAT(both.min, SameBits({belowMissing, -inf, M}));
+    const Results both = fullResults(3, 3, {2, belowMissing, 1, -infinity, M, M, M, M, M}, {0, 0, 0}, -1);
+    EXPECT_THAT(both.min, SameBits({belowMissing, -infinity, M}));
     EXPECT_THAT(both.max, SameBits({2.0, M, M}));
 }
 
@@ -179,8 +175,7 @@ TEST(MMinMax, NoRowsOrColumns)
     EXPECT_TRUE(out.untouched());
 }
 
-// ---- triangle
-// --------------------------------------------------------------------------------------------------------
+// ---- triangle -------------------------------------------------------------------------------------------------------
 
 TEST(MMinMaxSPVT, ColumnJHasJCellsLess)
 {
@@ -225,7 +220,7 @@ TEST(MMinMaxSPVT, MoreColumnsThanRowsHaveNoCells)
     M_MinMaxSPV_T(triangle, 2, 3, min, max, nullptr, -1);
     EXPECT_THAT(cellsOf(min), SameBits({4.0, 9.0, M}));
     EXPECT_THAT(cellsOf(max), SameBits({5.0, 9.0, M}));
-    M_MinMaxSPV_T(triangle, std::numeric_limits<int>::min(), 3, min, max, nullptr, -1);
+    M_MinMaxSPV_T(triangle, lowestInt, 3, min, max, nullptr, -1);
     EXPECT_THAT(cellsOf(min), SameBits({M, M, M}));
 }
 
@@ -256,8 +251,7 @@ TEST(VBMMinMaxSPVT, LoadsATriangle)
     EXPECT_TRUE(array.untouched() && mask.untouched());
 }
 
-// ---- all storages against the plain loop
-// -----------------------------------------------------------------------------
+// ---- all storages against the plain loop ----------------------------------------------------------------------------
 
 TEST(MMinMax, AgreesWithThePlainLoop)
 {

@@ -3,19 +3,12 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-constexpr int lowestInt = std::numeric_limits<int>::min();
 
 std::vector<double> minByColumn(const Owned<matrix>& a, int rows, int cols)
 {
@@ -31,8 +24,7 @@ std::vector<double> maxByColumn(const Owned<matrix>& a, int rows, int cols)
     return cellsOf(out);
 }
 
-// ---- M_Min, M_Max
-// ----------------------------------------------------------------------------------------------------
+// ---- M_Min, M_Max ---------------------------------------------------------------------------------------------------
 
 TEST(MMinMMax, MissingCellBehindTheFirstValueWinsTheMinimumOnly)
 {
@@ -44,8 +36,8 @@ TEST(MMinMMax, MissingCellBehindTheFirstValueWinsTheMinimumOnly)
 
 TEST(MMinMMax, FirstUsableCellIsFoundByOrder)
 {
-    EXPECT_THAT(minByColumn(column({belowMissing, -inf, notANumber, 3, 2}), 5, 1), SameBits({2.0}));
-    EXPECT_THAT(maxByColumn(column({belowMissing, -inf, notANumber, 3, 4}), 5, 1), SameBits({4.0}));
+    EXPECT_THAT(minByColumn(column({belowMissing, -infinity, notANumber, 3, 2}), 5, 1), SameBits({2.0}));
+    EXPECT_THAT(maxByColumn(column({belowMissing, -infinity, notANumber, 3, 4}), 5, 1), SameBits({4.0}));
     EXPECT_THAT(minByColumn(column({3, belowMissing}), 2, 1), SameBits({belowMissing}));
     EXPECT_THAT(minByColumn(column({3, notANumber, 2}), 3, 1), SameBits({2.0}));
     EXPECT_THAT(maxByColumn(column({3, notANumber, 4}), 3, 1), SameBits({4.0}));
@@ -53,7 +45,7 @@ TEST(MMinMMax, FirstUsableCellIsFoundByOrder)
 
 TEST(MMinMMax, NoUsableCellGivesTheMissingValue)
 {
-    const auto a = byColumns({{M, M}, {belowMissing, -inf}, {notANumber, notANumber}});
+    const auto a = byColumns({{M, M}, {belowMissing, -infinity}, {notANumber, notANumber}});
     EXPECT_THAT(minByColumn(a, 2, 3), SameBits({M, M, M}));
     EXPECT_THAT(maxByColumn(a, 2, 3), SameBits({M, M, M}));
     EXPECT_THAT(minByColumn(a, 0, 3), SameBits({M, M, M}));
@@ -87,8 +79,7 @@ TEST(MMinMMax, ResultsThatDoNotFitAreDropped)
     EXPECT_THAT(cellsOf(row), SameBits({1.0, 3.0, 55.0}));
 }
 
-// ---- M_MinAll
-// --------------------------------------------------------------------------------------------------------
+// ---- M_MinAll -------------------------------------------------------------------------------------------------------
 
 TEST(MMinAll, SmallestOfAllWithNoTest)
 {
@@ -104,11 +95,10 @@ TEST(MMinAll, StartsFromThePositiveTwin)
     EXPECT_THAT(M_MinAll(column({1}), 0, 1), SameBits(positiveTwin));
     EXPECT_THAT(M_MinAll(column({1}), -1, 1), SameBits(positiveTwin));
     EXPECT_THAT(M_MinAll(column({1}), 1, 0), SameBits(positiveTwin));
-    EXPECT_THAT(M_MinAll(column({inf}), 1, 1), SameBits(positiveTwin));
+    EXPECT_THAT(M_MinAll(column({infinity}), 1, 1), SameBits(positiveTwin));
 }
 
-// ---- M_MaxPosByRow
-// ---------------------------------------------------------------------------------------------------
+// ---- M_MaxPosByRow --------------------------------------------------------------------------------------------------
 
 std::vector<int> positionsOf(const Owned<matrix>& a, int rows, int cols)
 {
@@ -119,7 +109,7 @@ std::vector<int> positionsOf(const Owned<matrix>& a, int rows, int cols)
 
 TEST(MMaxPosByRow, FirstOfTheLargestCells)
 {
-    const auto a = byRows({{1, 3, 2}, {4, 4, 4}, {M, M, -1}, {M, -inf, M}, {2, 5, 5}});
+    const auto a = byRows({{1, 3, 2}, {4, 4, 4}, {M, M, -1}, {M, -infinity, M}, {2, 5, 5}});
     EXPECT_EQ(positionsOf(a, 5, 3), (std::vector<int>{2, 1, 3, 1, 2}));
     EXPECT_EQ(positionsOf(a, 2, 1), (std::vector<int>{1, 1}));
 }
@@ -141,8 +131,7 @@ TEST(MMaxPosByRow, BeyondTheTables)
     EXPECT_EQ(cellsOf(out), (std::vector<int>{2}));
 }
 
-// ---- flat forms
-// ------------------------------------------------------------------------------------------------------
+// ---- flat forms -----------------------------------------------------------------------------------------------------
 
 TEST(ColumnExtremesFlat, KnownValues)
 {

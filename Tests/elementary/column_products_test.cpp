@@ -2,15 +2,15 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <algorithm>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 500;
-constexpr double inf = std::numeric_limits<double>::infinity();
 constexpr double eps = 2.220446049250313e-16;
 
 TEST(ProductByElement, FollowsThePlainLoop)
@@ -72,7 +72,7 @@ TEST(ProductHorizAB2, AloneOfThePairKeepsMissingCells)
 {
     auto out = filled(1, 2, 7.0);
     M_ProductHorizAB(byRows({{M}}), 1, 1, byRows({{0.5, M}}), 2, out);
-    EXPECT_THAT(cellsOf(out), SameBits({M * 0.5, inf}));
+    EXPECT_THAT(cellsOf(out), SameBits({M * 0.5, infinity}));
     auto a = byRows({{M, 7.0}});
     int cols = 1;
     M_ProductHorizAB2(a.get(), 1, &cols, byRows({{0.5, M}}), 2);
@@ -118,7 +118,7 @@ void referenceDesign(matrix* a, int rows, int* cols, matrix* b, int colsB, int m
 
 TEST(ProductDesignAB2, FollowsThePlainLoop)
 {
-    const double codes[] = {1.0, -1.0, 0.0, -0.0, 1.0 + eps, eps, -eps, 2 * eps, -2 * eps, M, inf};
+    const double codes[] = {1.0, -1.0, 0.0, -0.0, 1.0 + eps, eps, -eps, 2 * eps, -2 * eps, M, infinity};
     forCases(caseCount, [&](Cases& c) {
         const int rows = c.count(), cols = std::max(c.count(), 0), colsB = std::max(c.count(), 0);
         const int mode = c.data.integer(2, 4), kinds = c.data.chance(0.6) ? 2 : 10;

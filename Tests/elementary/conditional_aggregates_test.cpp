@@ -3,22 +3,14 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-constexpr int lowestInt = std::numeric_limits<int>::min();
-
-// ---- counts
-// ----------------------------------------------------------------------------------------------------------
+// ---- counts ---------------------------------------------------------------------------------------------------------
 
 TEST(VNbIf, CountsEqualCells)
 {
@@ -69,8 +61,7 @@ TEST(VNbIfW, BeyondTheTables)
     EXPECT_THAT(V_NbIfW(column({1}), 3, column({2, 3, 4}), -1.0), SameBits(7.0)) << "the cells there are -1.0";
 }
 
-// ---- sums
-// ------------------------------------------------------------------------------------------------------------
+// ---- sums -----------------------------------------------------------------------------------------------------------
 
 TEST(VSumIf, AddsSelectedCells)
 {
@@ -132,8 +123,7 @@ TEST(VSumIfW, BeyondTheTables)
     EXPECT_THAT(V_SumIfW(column({1}), 3, column({7, 7, 7}), column({1, 2, 3}), 7.0), SameBits(-4.0));
 }
 
-// ---- extremes
-// --------------------------------------------------------------------------------------------------------
+// ---- extremes -------------------------------------------------------------------------------------------------------
 
 TEST(VMaxIfVMinIf, ExtremeOfTheSelectedCells)
 {
@@ -167,9 +157,9 @@ TEST(VMaxIfVMinIf, NothingSelectedGivesTheMissingValue)
 TEST(VMaxIfVMinIf, NeverFindWhatTheyStartFrom)
 {
     auto key = column({7});
-    EXPECT_THAT(V_MaxIf(column({-inf}), 1, key, 7.0), SameBits(M));
+    EXPECT_THAT(V_MaxIf(column({-infinity}), 1, key, 7.0), SameBits(M));
     EXPECT_THAT(V_MaxIf(column({belowMissing}), 1, key, 7.0), SameBits(M));
-    EXPECT_THAT(V_MinIf(column({inf}), 1, key, 7.0), SameBits(M));
+    EXPECT_THAT(V_MinIf(column({infinity}), 1, key, 7.0), SameBits(M));
     EXPECT_THAT(V_MinIf(column({positiveTwin}), 1, key, 7.0), SameBits(M));
     EXPECT_THAT(V_MinIf(column({belowMissing}), 1, key, 7.0), SameBits(belowMissing));
     EXPECT_THAT(V_MinIf(column({notANumber}), 1, key, 7.0), SameBits(M));
@@ -183,8 +173,7 @@ TEST(VMaxIfVMinIf, ReadsOutsideGiveMinusOne)
     EXPECT_THAT(V_MaxIf(column({5, 6}), 2, intColumn({7}), -1.0), SameBits(6.0));
 }
 
-// ---- flat forms
-// ------------------------------------------------------------------------------------------------------
+// ---- flat forms -----------------------------------------------------------------------------------------------------
 
 TEST(ConditionalAggregatesFlat, KnownValues)
 {

@@ -2,14 +2,13 @@
 
 #include "product_cases.h"
 
-#include <limits>
+#include "support/special_values.h"
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
 
 // ---- with the diagonal of a table -----------------------------------------------------------------------------------
 
@@ -63,7 +62,7 @@ TEST(ProductWithDiagonal, ScalesColumns)
 TEST(ProductWithDiagonal, ReadsNothingBesideTheDiagonal)
 {
     Owned<matrix> out;
-    M_ProductADiag(byRows({{1, 2}}), 1, 2, byRows({{3, inf}, {M, 5}}), out);
+    M_ProductADiag(byRows({{1, 2}}), 1, 2, byRows({{3, infinity}, {M, 5}}), out);
     EXPECT_THAT(cellsOf(out), SameBits({3.0, 10.0}));
 }
 
@@ -73,7 +72,8 @@ TEST(ProductWithDiagonal, LowerTriangleIsComputed)
     const double big = 1e200;
     Owned<matrix> out;
     M_ProductADTrA(byRows({{1e-200}, {big}}), 2, 1, filled(1, 1, big), out);
-    EXPECT_THAT(cellsOf(out), SameBits({1e-200 * big * 1e-200, inf, inf, inf})); // (2,1): big times big came first
+    EXPECT_THAT(cellsOf(out),
+                SameBits({1e-200 * big * 1e-200, infinity, infinity, infinity})); // (2,1): big times big came first
 }
 
 // ---- with a vector as the diagonal ----------------------------------------------------------------------------------

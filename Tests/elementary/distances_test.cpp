@@ -2,16 +2,15 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 500;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 template <class Coordinate>
 void referenceDistances(matrix* out, matrix* w, int coordinates, int points, Coordinate coordinate)
@@ -69,7 +68,7 @@ TEST(EuclidDist2, MissingCellsAreNumbers)
 {
     auto out = filled(3, 3, 7.0);
     M_EuclidDist2(byRows({{M, M, 0}}), 1, 3, out.get(), column({1}), 0, 1);
-    EXPECT_THAT(cellsOf(out), SameBits({0.0, 0.0, inf, 0.0, 0.0, inf, inf, inf, 0.0}));
+    EXPECT_THAT(cellsOf(out), SameBits({0.0, 0.0, infinity, 0.0, 0.0, infinity, infinity, infinity, 0.0}));
 }
 
 template <class Coordinate>
@@ -111,9 +110,8 @@ TEST(EuclidDistToVector, FollowsThePlainLoopEitherWay)
 TEST(EuclidDistToVector, CountsTheCoordinatesAboveTheMissingValue)
 {
     auto out = filled(1, 1, 7.0);
-    const double below = std::nextafter(M, -inf);
-    M_EuclidDistToVector(byColumns({{1, M, below, -inf, notANumber, 5}}), 6, 1, column({4, 0, 0, 0, 0, 1}), 0,
-                         out.get());
+    M_EuclidDistToVector(byColumns({{1, M, belowMissing, -infinity, notANumber, 5}}), 6, 1, column({4, 0, 0, 0, 0, 1}),
+                         0, out.get());
     EXPECT_THAT(cellsOf(out), SameBits({std::sqrt(25.0 / 2.0)}));
     M_EuclidDistToVector(byColumns({{1, 2, 3}}), 3, 1, column({M, notANumber, 1}), 0, out.get());
     EXPECT_THAT(cellsOf(out), SameBits({2.0}));

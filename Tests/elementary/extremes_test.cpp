@@ -3,19 +3,12 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
-
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-constexpr int lowestInt = std::numeric_limits<int>::min();
 
 struct Both
 {
@@ -41,8 +34,7 @@ double maxOf(const std::vector<double>& x, std::vector<short> mask)
     return V_Max(column(x), static_cast<int>(x.size()), mask.data());
 }
 
-// ---- V_Min, V_Max over doubles
-// ---------------------------------------------------------------------------------------
+// ---- V_Min, V_Max over doubles --------------------------------------------------------------------------------------
 
 TEST(VMinVMax, SkipMissingCells)
 {
@@ -109,8 +101,8 @@ TEST(VMinVMax, CellsBeyondTheTableCountAsMinusOne)
 TEST(VMinVMax, OnlyTheExactPatternIsMissing)
 {
     EXPECT_THAT(minOf({1, belowMissing}, {0, 0}), SameBits(belowMissing));
-    EXPECT_THAT(minOf({1, -inf}, {0, 0}), SameBits(-inf));
-    EXPECT_THAT(maxOf({-inf}, {0}), SameBits(-inf));
+    EXPECT_THAT(minOf({1, -infinity}, {0, 0}), SameBits(-infinity));
+    EXPECT_THAT(maxOf({-infinity}, {0}), SameBits(-infinity));
     EXPECT_THAT(maxOf({belowMissing, M}, {0, 0}), SameBits(belowMissing));
 }
 
@@ -135,8 +127,7 @@ TEST(VMinVMax, WalkATableInLinearOrderUpToN)
     EXPECT_THAT(V_Max2(byColumns({{1, 2}, {3, 4}}), 3), SameBits(3.0));
 }
 
-// ---- V_Min2, V_Max2 over doubles
-// -------------------------------------------------------------------------------------
+// ---- V_Min2, V_Max2 over doubles ------------------------------------------------------------------------------------
 
 TEST(VMin2VMax2, SkipMissingCells)
 {
@@ -147,8 +138,7 @@ TEST(VMin2VMax2, SkipMissingCells)
     EXPECT_THAT(V_Min2(column({4}), 2), SameBits(-1.0));
 }
 
-// ---- ints
-// ------------------------------------------------------------------------------------------------------------
+// ---- ints -----------------------------------------------------------------------------------------------------------
 
 TEST(VMinVMaxLng, NoIntIsMissing)
 {
@@ -178,8 +168,7 @@ TEST(VMinVMaxLng, PlainFormsScanFromTheFirstCell)
     static_assert(std::is_same_v<decltype(V_Min2(static_cast<matrixInt*>(nullptr), 0)), double>);
 }
 
-// ---- V_MinMax
-// --------------------------------------------------------------------------------------------------------
+// ---- V_MinMax -------------------------------------------------------------------------------------------------------
 
 TEST(VMinMax, BothExtremesOfTheSameCells)
 {
@@ -211,8 +200,7 @@ TEST(VMinMax, CellsBeyondTheTableCountAsMinusOne)
     EXPECT_THAT(bothOf(intColumn({-4}), 2, {0, 0}).max, SameBits(-1.0));
 }
 
-// ---- positions
-// -------------------------------------------------------------------------------------------------------
+// ---- positions ------------------------------------------------------------------------------------------------------
 
 TEST(VMinAndMinPos, MissingCellsTakePart)
 {
@@ -275,8 +263,7 @@ TEST(VMinAndMinPos, NaNInTheFirstPlaceStays)
     EXPECT_EQ(pos, 3);
 }
 
-// ---- flat forms
-// ------------------------------------------------------------------------------------------------------
+// ---- flat forms -----------------------------------------------------------------------------------------------------
 
 TEST(ExtremesFlat, KnownValues)
 {

@@ -2,15 +2,14 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <cmath>
-#include <limits>
 #include <vector>
 
 using namespace vecmat::test;
 
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// The told steps on checked access, with marks and notes of the pivots.
 int referenceGauss(matrix* a, int n, int m, matrix* b, bool noSwap, bool noPivot)

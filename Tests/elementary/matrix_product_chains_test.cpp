@@ -2,16 +2,15 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <functional>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 // ---- a' a and a a' --------------------------------------------------------------------------------------------------
 
@@ -67,7 +66,7 @@ TEST(ProductTrAA, IntsAreSummedInDoublesAndTruncatedAtTheEnd)
     M_ProductTrAA(large.get(), 2, 1, doubles.reference());
     M_ProductTrAA(large.get(), 2, 1, ints.reference());
     EXPECT_THAT(cellsOf(doubles), SameBits({7.2e9}));
-    EXPECT_EQ(cellsOf(ints), std::vector<int>{std::numeric_limits<int>::min()});
+    EXPECT_EQ(cellsOf(ints), std::vector<int>{lowestInt});
     M_ProductTrAA(column({0.9, 1.2}).get(), 2, 1, ints.reference());
     EXPECT_EQ(cellsOf(ints), std::vector<int>{2}); // 0.81 + 1.44
 }
@@ -233,21 +232,21 @@ TEST(ProductABC, SkippedCellsDoNotCount)
     const auto identity = byRows({{1, 0}, {0, 1}});
     auto out = filled(2, 2, 7.0);
     // A row of zeros on the left, a column of zeros on the right.
-    M_ProductABC(byRows({{0, 0}, {1, 1}}), 2, 2, byRows({{inf, 0}, {notANumber, -0.0}}), 2, identity.get(), 2,
+    M_ProductABC(byRows({{0, 0}, {1, 1}}), 2, 2, byRows({{infinity, 0}, {notANumber, -0.0}}), 2, identity.get(), 2,
                  out.get());
     EXPECT_THAT(cellsOf(out), SameBits({0.0, notANumber, 0.0, 0.0}));
     // Diagonal on the left: one product, so that a negative zero shows and an infinity elsewhere does not.
-    M_ProductABC(byRows({{-1, 0}, {0, 2}}), 2, 2, byRows({{0, 1}, {inf, 1}}), 2, identity.get(), 2, out.get());
-    EXPECT_THAT(cellsOf(out), SameBits({-0.0, inf, -1.0, 2.0}));
+    M_ProductABC(byRows({{-1, 0}, {0, 2}}), 2, 2, byRows({{0, 1}, {infinity, 1}}), 2, identity.get(), 2, out.get());
+    EXPECT_THAT(cellsOf(out), SameBits({-0.0, infinity, -1.0, 2.0}));
     // Diagonal on the right.
-    M_ProductABC(byRows({{0, 1}, {inf, 1}}), 2, 2, byRows({{-1, 0}, {0, 2}}), 2, identity.get(), 2, out.get());
-    EXPECT_THAT(cellsOf(out), SameBits({-0.0, -inf, 2.0, 2.0}));
+    M_ProductABC(byRows({{0, 1}, {infinity, 1}}), 2, 2, byRows({{-1, 0}, {0, 2}}), 2, identity.get(), 2, out.get());
+    EXPECT_THAT(cellsOf(out), SameBits({-0.0, -infinity, 2.0, 2.0}));
 }
 
 TEST(ProductABC, StructureOfALeftOperandThatIsNotSquareIsNotUsed)
 {
     auto out = filled(1, 1, 7.0);
-    M_ProductABC(byRows({{-1, 0}}), 1, 2, byRows({{0}, {inf}}), 1, byRows({{1}}), 1, out.get());
+    M_ProductABC(byRows({{-1, 0}}), 1, 2, byRows({{0}, {infinity}}), 1, byRows({{1}}), 1, out.get());
     EXPECT_THAT(cellsOf(out), SameBits({notANumber})); // 0 times infinity took part
 }
 

@@ -2,6 +2,8 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <limits>
 
 using namespace vecmat::test;
@@ -9,8 +11,6 @@ using namespace vecmat::test;
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 // ---- a b ------------------------------------------------------------------------------------------------------------
 
@@ -195,10 +195,10 @@ TEST(ProductABMissing, FactorInEitherTableMakesTheCellMissing)
 
 TEST(ProductABMissing, OnlyTheExactPatternEndsTheSum)
 {
-    Columns<matrix> a(3, 1, {-inf, notANumber, std::numeric_limits<double>::lowest()});
+    Columns<matrix> a(3, 1, {-infinity, notANumber, std::numeric_limits<double>::lowest()});
     Owned<matrix> out;
     M_ProductABMissingSPV(a, 3, 1, column({1}), 1, out);
-    EXPECT_THAT(cellsOf(out), SameBits({-inf, notANumber, std::numeric_limits<double>::lowest()}));
+    EXPECT_THAT(cellsOf(out), SameBits({-infinity, notANumber, std::numeric_limits<double>::lowest()}));
 }
 
 // ---- transposes -----------------------------------------------------------------------------------------------------

@@ -81,7 +81,7 @@ TEST(ProductAsymBsym, GivesTheLowerTriangleOfTheProductThatIsNotSymmetric)
 
 TEST(ProductAsymBsym, OrderIsTheFloorOfTheRoot)
 {
-    // Four cells give order 2, and the fourth is (3, 1): the sum runs over two terms, and the second factor of the last
+    // Four cells give order 2, and the fourth is (3, 1): the sum runs over two terms, and the first factor of the last
     // is read at (3, 2), outside.
     auto out = filled(4, 1, 7.0);
     MV_ProductAsymBsym(column({1, 2, 3, 4}), 4, column({5, 7, 11, 13}), out.get());

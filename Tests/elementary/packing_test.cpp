@@ -3,15 +3,12 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
-
-const double nan = std::numeric_limits<double>::quiet_NaN();
 
 TEST(MatToVect, StacksTheColumnsWithTheGivenRows)
 {
@@ -39,7 +36,7 @@ TEST(VectToMat, FillsTheShortColumnsWithTheMissingValue)
 TEST(VectToMat, CountsAreComparedAsTheyAre)
 {
     auto out = filled(3, 3, 7.0);
-    VectToMat(column({1, 2, 3, 4}), column({1.9, nan, 2.0}), 3, 3, out);
+    VectToMat(column({1, 2, 3, 4}), column({1.9, notANumber, 2.0}), 3, 3, out);
     EXPECT_THAT(cellsOf(out), SameBits({1, M, M, M, M, M, 2, 3, M}));
     VectToMat(column({1, 2, 3, 4}), column({M, 9}), 3, 3, out); // a count above the rows, a third that is not there
     EXPECT_THAT(cellsOf(out), SameBits({M, M, M, 1, 2, 3, M, M, M}));

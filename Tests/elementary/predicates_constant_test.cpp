@@ -3,19 +3,16 @@
 #include "support/guarded.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
 
 namespace {
 
 using namespace vecmat::test;
-
-const double NaN = std::numeric_limits<double>::quiet_NaN();
-const double infinity = std::numeric_limits<double>::infinity();
 
 // ---- a vector -------------------------------------------------------------------------------------------------------
 
@@ -89,12 +86,12 @@ TEST(VIsConstant, NoCellsAndOneCell)
 
 TEST(VIsConstant, FormsDifferInANanAsTheFirstCell)
 {
-    EXPECT_EQ(tableForm({NaN}, 0), 0) << "all cells are compared with the first, itself included";
-    EXPECT_EQ(flatForm({NaN}, 0), -1) << "compared from the second element on";
-    EXPECT_EQ(bothForms({NaN, NaN}, 0), 0);
-    EXPECT_EQ(bothForms({NaN}, -1), -1);
-    EXPECT_EQ(bothForms({NaN, M}, -1), -1) << "the first cell is not compared with itself";
-    EXPECT_EQ(bothForms({M, NaN}, -1), 0) << "a later reference is";
+    EXPECT_EQ(tableForm({notANumber}, 0), 0) << "all cells are compared with the first, itself included";
+    EXPECT_EQ(flatForm({notANumber}, 0), -1) << "compared from the second element on";
+    EXPECT_EQ(bothForms({notANumber, notANumber}, 0), 0);
+    EXPECT_EQ(bothForms({notANumber}, -1), -1);
+    EXPECT_EQ(bothForms({notANumber, M}, -1), -1) << "the first cell is not compared with itself";
+    EXPECT_EQ(bothForms({M, notANumber}, -1), 0) << "a later reference is";
 }
 
 TEST(VIsConstant, CellsBeyondTheTableAreMinusOne)
@@ -122,7 +119,7 @@ TEST(VIsConstantLng, ModeHasNoEffect)
     for (const short mode : {short{0}, short{-1}, short{1}}) {
         EXPECT_EQ(VB_V_IsConstantLng(Guarded<int>{4, 4, 4}, 3, mode), -1);
         EXPECT_EQ(VB_V_IsConstantLng(Guarded<int>{4, 4, 5}, 3, mode), 0);
-        EXPECT_EQ(VB_V_IsConstantLng(Guarded<int>{4, std::numeric_limits<int>::min()}, 2, mode), 0);
+        EXPECT_EQ(VB_V_IsConstantLng(Guarded<int>{4, lowestInt}, 2, mode), 0);
         EXPECT_EQ(VB_V_IsConstantLng(Guarded<int>{4}, 1, mode), -1);
         EXPECT_EQ(VB_V_IsConstantLng(nullptr, 0, mode), -1);
         EXPECT_EQ(VB_V_IsConstantLng(nullptr, -1, mode), -1);
@@ -189,7 +186,7 @@ TEST(MIsConstant, CellsBeyondTheTableAreMinusOne)
 
 TEST(MIsConstant, NanEqualsNothing)
 {
-    auto a = filled(1, 1, NaN);
+    auto a = filled(1, 1, notANumber);
     EXPECT_EQ(M_IsConstant(a, 1, 0), 0);
     EXPECT_EQ(M_IsConstant(a, 1, -1), 0);
 }
@@ -238,7 +235,7 @@ TEST(MEachColIsConstant, MissingCellsAndShortColumns)
     EXPECT_EQ(M_EachColIsConstant(minusOne.get(), 3, 2), -1);
     Columns<matrix> two(2, 2, {2, 2, 2, 2});
     EXPECT_EQ(M_EachColIsConstant(two.get(), 3, 2), 0);
-    Columns<matrix> nan(1, 2, {NaN, 1});
+    Columns<matrix> nan(1, 2, {notANumber, 1});
     EXPECT_EQ(M_EachColIsConstant(nan.get(), 1, 2), 0);
 }
 
@@ -335,7 +332,7 @@ TEST(MIsDiagConstant, ComparesWithTheFirstCell)
     auto a = byRows({{3, 1, 1}, {2, 3, 1}, {2, 2, 4}});
     EXPECT_EQ(M_IsDiagConstant(a, 2), -1);
     EXPECT_EQ(M_IsDiagConstant(a, 3), 0);
-    auto nan = byRows({{NaN, 1}, {1, NaN}});
+    auto nan = byRows({{notANumber, 1}, {1, notANumber}});
     EXPECT_EQ(M_IsDiagConstant(nan, 1), -1);
     EXPECT_EQ(M_IsDiagConstant(nan, 0), -1);
     EXPECT_EQ(M_IsDiagConstant(nan, -1), -1);

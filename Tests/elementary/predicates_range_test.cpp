@@ -3,19 +3,16 @@
 #include "support/guarded.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
 
 namespace {
 
 using namespace vecmat::test;
-
-const double NaN = std::numeric_limits<double>::quiet_NaN();
-const double infinity = std::numeric_limits<double>::infinity();
 
 // ---- positive -------------------------------------------------------------------------------------------------------
 
@@ -48,7 +45,7 @@ TEST(VIsPositive, MissingCellsAreLeftOut)
     EXPECT_EQ(vectorIsPositive({1, M}, -1), -1);
     EXPECT_EQ(vectorIsPositive({M, M}, -1), -1);
     EXPECT_EQ(vectorIsPositive({1, -infinity}, 0), 0) << "missing is the equality test";
-    EXPECT_EQ(vectorIsPositive({NaN}, -1), -1) << "a NaN is not at or below 0.0";
+    EXPECT_EQ(vectorIsPositive({notANumber}, -1), -1) << "a NaN is not at or below 0.0";
 }
 
 TEST(VIsPositive, NoCellsAndCellsBeyondTheTable)
@@ -95,7 +92,7 @@ TEST(MIsPositive, MissingCellsFail)
 {
     EXPECT_EQ(tableIsPositive(1, 2, {1, M}, {0}, 0), 0);
     EXPECT_EQ(tableIsPositive(1, 2, {1, M}, {0}, -1), 0);
-    EXPECT_EQ(tableIsPositive(1, 1, {NaN}, {0}, -1), -1);
+    EXPECT_EQ(tableIsPositive(1, 1, {notANumber}, {0}, -1), -1);
 }
 
 TEST(MIsPositive, CellsBeyondTheTableFail)
@@ -105,6 +102,7 @@ TEST(MIsPositive, CellsBeyondTheTableFail)
     EXPECT_EQ(M_IsPositive(a, 2, 3, mask, 0), 0);
     short masked[] = {-1, -1};
     EXPECT_EQ(M_IsPositive(a, 2, 3, masked, 0), -1);
+    EXPECT_EQ(M_IsPositive(a, 2, 3, nullptr, 0), 0) << "without a mask no row is left out";
     EXPECT_EQ(M_IsPositive(a, 0, 2, mask, 0), -1);
     EXPECT_EQ(M_IsPositive(a, 2, 0, mask, 0), -1);
 }
@@ -143,7 +141,7 @@ TEST(MIsIn01, EndsIncluded)
     EXPECT_EQ(tableIsIn01(2, 2, {0, 1, 0.5, 0x1.0000000000001p+0}), 0);
     EXPECT_EQ(tableIsIn01(2, 2, {0, 1, -5e-324, 0.5}), 0);
     EXPECT_EQ(tableIsIn01(1, 1, {M}), 0);
-    EXPECT_EQ(tableIsIn01(1, 1, {NaN}), 0);
+    EXPECT_EQ(tableIsIn01(1, 1, {notANumber}), 0);
     EXPECT_EQ(tableIsIn01(0, 2, {}), -1);
     auto a = table(1, 1, {0.5});
     EXPECT_EQ(M_IsIn01(a, 1, 2), 0);
@@ -211,7 +209,7 @@ TEST(IsInInterval, MissingCellsAreLeftOutForExactlyMinusOne)
     EXPECT_EQ(vectorIsIn({3, M}, 2, 5, 0, 1), 0);
     EXPECT_EQ(vectorIsIn({3, M}, M, 5, 0, 0), -1) << "a number like any other";
     EXPECT_EQ(vectorIsIn({3, -infinity}, 2, 5, 0, -1), 0) << "missing is the equality test";
-    EXPECT_EQ(vectorIsIn({NaN}, -infinity, infinity, 0, -1), 0);
+    EXPECT_EQ(vectorIsIn({notANumber}, -infinity, infinity, 0, -1), 0);
 }
 
 TEST(IsInInterval, NoCellsAndCellsBeyondTheTable)

@@ -2,17 +2,16 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr int lowestInt = std::numeric_limits<int>::min();
 
 double scaled(double s, double x)
 {
@@ -45,10 +44,10 @@ TEST(ScalarsA, FollowsThePlainLoopInPlaceAndTransposed)
 TEST(ScalarsA, KeepsAMissingCellWhileAPlusValDoesNot)
 {
     auto out = filled(1, 3, 7.0);
-    M_ScalarsA(byRows({{M, 2, -inf}}), 1, 3, 0.5, out);
-    EXPECT_THAT(cellsOf(out), SameBits({M, 1.0, -inf}));
-    M_APlusVal(byRows({{M, 2, -inf}}).get(), 1, 3, 1e307, out.reference());
-    EXPECT_THAT(cellsOf(out), SameBits({M + 1e307, 1e307, -inf}));
+    M_ScalarsA(byRows({{M, 2, -infinity}}), 1, 3, 0.5, out);
+    EXPECT_THAT(cellsOf(out), SameBits({M, 1.0, -infinity}));
+    M_APlusVal(byRows({{M, 2, -infinity}}).get(), 1, 3, 1e307, out.reference());
+    EXPECT_THAT(cellsOf(out), SameBits({M + 1e307, 1e307, -infinity}));
     EXPECT_NE(out->vbget(1, 1), M);
 }
 

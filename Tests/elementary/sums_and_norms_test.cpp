@@ -2,16 +2,15 @@
 
 #include "product_cases.h"
 
+#include "support/special_values.h"
+
 #include <algorithm>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 500;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Trace, AddsTheDiagonalWithoutATest)
 {
@@ -96,8 +95,8 @@ TEST(SumByColsAndRows, LineWithoutPresentCellsIsMissingWhileTheTotalIsZero)
     EXPECT_THAT(M_Sum2(a.get(), 2, 2), SameBits(0.0));
     M_SumByCols(a.get(), 0, 2, out.get());
     EXPECT_THAT(cellsOf(out), SameBits({M, M}));
-    M_SumByCols(byRows({{-inf, notANumber}}), 1, 2, out.get());
-    EXPECT_THAT(cellsOf(out), SameBits({-inf, notANumber}));
+    M_SumByCols(byRows({{-infinity, notANumber}}), 1, 2, out.get());
+    EXPECT_THAT(cellsOf(out), SameBits({-infinity, notANumber}));
 }
 
 TEST(SumOfElem, IsTheSumOfASquareTable)
@@ -190,7 +189,7 @@ TEST(SquaredRowsAndColumns, OnlyRowsHeedTheMissingValue)
     M_SquaredRows(a.get(), 2, 2, rows);
     M_SquaredColumns(a.get(), 2, 2, columns);
     EXPECT_THAT(cellsOf(rows), SameBits({M, 25.0}));
-    EXPECT_THAT(cellsOf(columns), SameBits({10.0, inf}));
+    EXPECT_THAT(cellsOf(columns), SameBits({10.0, infinity}));
 }
 
 TEST(SquaredRowsAndColumns, ResultIsNotPrepared)

@@ -3,20 +3,17 @@
 #include "support/guarded.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
 
 namespace {
 
 using namespace vecmat::test;
 using Cells = std::vector<double>;
-
-const double NaN = std::numeric_limits<double>::quiet_NaN();
-const double infinity = std::numeric_limits<double>::infinity();
 
 /// Runs the four forms of a function on a square table and expects that all answer and leave the cells alike.
 template <class Table, class Array, class Flat, class Arrays>
@@ -82,10 +79,10 @@ TEST(IsSymmetric, ComparesAllPairs)
     EXPECT_EQ(isSymmetric(3, {1, 2, 3, 2, 4, 5, 3, 5.5, 6}), 0);
     EXPECT_EQ(isSymmetric(2, {1, M, M, 1}), -1) << "a missing value equals itself";
     EXPECT_EQ(isSymmetric(2, {1, M, 0, 1}), 0);
-    EXPECT_EQ(isSymmetric(2, {1, NaN, NaN, 1}), 0) << "a NaN does not";
-    EXPECT_EQ(isSymmetric(2, {NaN, 1, 1, NaN}), -1) << "the diagonal is no pair";
+    EXPECT_EQ(isSymmetric(2, {1, notANumber, notANumber, 1}), 0) << "a NaN does not";
+    EXPECT_EQ(isSymmetric(2, {notANumber, 1, 1, notANumber}), -1) << "the diagonal is no pair";
     EXPECT_EQ(isSymmetric(2, {1, 0.0, -0.0, 1}), -1);
-    EXPECT_EQ(isSymmetric(1, {NaN}), -1);
+    EXPECT_EQ(isSymmetric(1, {notANumber}), -1);
     EXPECT_EQ(isSymmetric(0, {}), -1);
     auto a = byRows({{1, 2}, {3, 4}});
     EXPECT_EQ(M_IsSymmetric(a, -1), -1);
@@ -190,7 +187,7 @@ TEST(IsTriangular, MissingAndZerosOfBothSignsAreEmpty)
     EXPECT_EQ(triangular(2, {1, 5, M, 1}, 0).kind, 1);
     EXPECT_EQ(triangular(2, {1, -0.0, 5, 1}, 0).kind, 2);
     EXPECT_EQ(triangular(2, {1, -infinity, 5, 1}, 0).kind, 0) << "missing is the equality test";
-    EXPECT_EQ(triangular(2, {1, NaN, 0, 1}, 0).kind, 1) << "a NaN is not empty";
+    EXPECT_EQ(triangular(2, {1, notANumber, 0, 1}, 0).kind, 1) << "a NaN is not empty";
     EXPECT_EQ(triangular(2, {1, 5e-324, 6, 1}, 0).kind, 0);
 }
 

@@ -1,12 +1,12 @@
 #include "matrix.h"
 #include "support/bits.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace {
@@ -14,8 +14,6 @@ namespace {
 using namespace vecmat::test;
 
 using Cells = std::vector<double>;
-
-const double infinity = std::numeric_limits<double>::infinity();
 
 TEST(Sqr2, IsTheRootOrTheMissingValue)
 {

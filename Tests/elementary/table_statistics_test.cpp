@@ -1,19 +1,17 @@
 #include "matrix.h"
 #include "support/bits.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <vector>
 
 namespace {
 
 using namespace vecmat::test;
-
-const double infinity = std::numeric_limits<double>::infinity();
 
 struct Reference
 {

@@ -1,5 +1,5 @@
-// Products that are large enough for tiles give the bits of the plain sums: at sizes around the edges of a tile and of a
-// stretch of the inner index, with special values among the cells, and where the result lies over an operand.
+// Products that are large enough for tiles give the bits of the plain sums: at sizes around the edges of a tile and of
+// a stretch of the inner index, with special values among the cells, and where the result lies over an operand.
 #include "elementary/diagonal_products.h"
 #include "elementary/matrix_products.h"
 #include "missing/missing_arithmetic.h"

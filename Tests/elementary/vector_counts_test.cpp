@@ -1,15 +1,12 @@
 #include "elementary/vector_counts.h"
 
 #include "support/guarded.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
-
-constexpr int lowestInt = std::numeric_limits<int>::min();
 
 TEST(VNbTrue, CountsOnlyMinusOne)
 {

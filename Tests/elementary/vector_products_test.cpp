@@ -2,15 +2,13 @@
 
 #include "product_cases.h"
 
-#include <limits>
+#include "support/special_values.h"
 
 using namespace vecmat::test;
 
 namespace {
 
 constexpr int caseCount = 400;
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// Element i, 1-based, of a vector by checked access.
 double el(const Owned<matrix>& v, int i)
@@ -118,7 +116,7 @@ TEST(ProductHorizV1V22, MissingCellMultiplies)
     auto a = column({0.5, M, 0, 0});
     int n = 2;
     V_ProductHorizV1V22(a.get(), &n, column({M, 0.25}), 2);
-    EXPECT_THAT(cellsOf(a), SameBits({0.5 * M, 0.5 * 0.25, inf, M * 0.25}));
+    EXPECT_THAT(cellsOf(a), SameBits({0.5 * M, 0.5 * 0.25, infinity, M * 0.25}));
 }
 
 TEST(Product1toN, StartsAtOneAndTestsNothing)
@@ -135,7 +133,7 @@ TEST(Product1toN, StartsAtOneAndTestsNothing)
         EXPECT_THAT(V_Product1toN(x.get(), n), SameBits(product));
         EXPECT_THAT(V_Product1toN(ints.get(), n), SameBits(ofInts));
     });
-    EXPECT_THAT(V_Product1toN(column({2, M}), 2), SameBits(-inf));
+    EXPECT_THAT(V_Product1toN(column({2, M}), 2), SameBits(-infinity));
     EXPECT_THAT(V_Product1toN(column({5}), 0), SameBits(1.0));
     EXPECT_THAT(V_Product1toN(intColumn({100000, 100000}), 2), SameBits(1e10));
     EXPECT_THAT(V_Product1toN(intColumn({3}), 2), SameBits(-3.0));
@@ -227,7 +225,7 @@ TEST(VectorProductExports, ProductOfIntsIsTruncated)
 {
     Guarded<int> x({50000, -40000, 3});
     EXPECT_EQ(VB_V_Product1toNLng(x, 2), -2000000000);
-    EXPECT_EQ(VB_V_Product1toNLng(x, 3), std::numeric_limits<int>::min());
+    EXPECT_EQ(VB_V_Product1toNLng(x, 3), lowestInt);
     EXPECT_EQ(VB_V_Product1toNLng(x, 0), 1);
     EXPECT_TRUE(x.untouched());
 }

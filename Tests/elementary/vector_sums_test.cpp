@@ -3,23 +3,14 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
-
-#include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-constexpr int lowestInt = std::numeric_limits<int>::min();
-constexpr int highestInt = std::numeric_limits<int>::max();
-
-// ---- V_Sum
-// -----------------------------------------------------------------------------------------------------------
+// ---- V_Sum ----------------------------------------------------------------------------------------------------------
 
 TEST(VSum, AddsWeightedCellsThatAreKeptAndPresent)
 {
@@ -42,7 +33,7 @@ TEST(VSum, MaskAndWeightsMayBeNull)
 TEST(VSum, ZeroAndNegativeWeightsCount)
 {
     EXPECT_THAT(V_Sum(column({1, 2, 3}), 3, nullptr, column({0, -2, 1})), SameBits(-1.0));
-    EXPECT_THAT(V_Sum(column({inf, 1}), 2, nullptr, column({0, 1})), SameBits(notANumber));
+    EXPECT_THAT(V_Sum(column({infinity, 1}), 2, nullptr, column({0, 1})), SameBits(notANumber));
 }
 
 TEST(VSum, CellsAndWeightsOutsideReadMinusOne)
@@ -56,7 +47,7 @@ TEST(VSum, OnlyTheExactPatternIsMissing)
 {
     EXPECT_THAT(V_Sum(column({1, notANumber}), 2, nullptr, nullptr), SameBits(notANumber));
     EXPECT_THAT(V_Sum(column({1, belowMissing}), 2, nullptr, nullptr), SameBits(belowMissing));
-    EXPECT_THAT(V_Sum(column({1, -inf}), 2, nullptr, nullptr), SameBits(-inf));
+    EXPECT_THAT(V_Sum(column({1, -infinity}), 2, nullptr, nullptr), SameBits(-infinity));
     EXPECT_THAT(V_Sum(column({1, 2}), 2, nullptr, column({1, notANumber})), SameBits(notANumber));
 }
 
@@ -70,8 +61,7 @@ TEST(VSum, NothingToAddIsPositiveZero)
     EXPECT_THAT(V_Sum(column({M}), 1, nullptr, nullptr), SameBits(0.0));
 }
 
-// ---- V_Sum2
-// ----------------------------------------------------------------------------------------------------------
+// ---- V_Sum2 ---------------------------------------------------------------------------------------------------------
 
 TEST(VSum2, SkipsMissingCells)
 {
@@ -115,13 +105,12 @@ TEST(VSum2, FlatIntFormIsOneElementLate)
     EXPECT_THAT(V_Sum2(large, 2), SameBits(2.0 * highestInt));
 }
 
-// ---- squares
-// ---------------------------------------------------------------------------------------------------------
+// ---- squares --------------------------------------------------------------------------------------------------------
 
 TEST(VSq, MakesNoTest)
 {
     EXPECT_THAT(V_Sq(column({1, 2, 3}), 3), SameBits(14.0));
-    EXPECT_THAT(V_Sq(column({1, M}), 2), SameBits(inf));
+    EXPECT_THAT(V_Sq(column({1, M}), 2), SameBits(infinity));
     EXPECT_THAT(V_Sq(column({2}), 3), SameBits(6.0));
     EXPECT_THAT(V_Sq(column({2}), 0), SameBits(0.0));
 }
@@ -129,7 +118,7 @@ TEST(VSq, MakesNoTest)
 TEST(VSumSq, SkipsMissingCells)
 {
     EXPECT_THAT(V_SumSq(column({1, M, 3}), 3), SameBits(10.0));
-    EXPECT_THAT(V_SumSq(column({1, belowMissing}), 2), SameBits(inf));
+    EXPECT_THAT(V_SumSq(column({1, belowMissing}), 2), SameBits(infinity));
     EXPECT_THAT(V_SumSq(column({1, notANumber}), 2), SameBits(notANumber));
     EXPECT_THAT(V_SumSq(column({2}), 3), SameBits(6.0));
     EXPECT_THAT(V_SumSq(column({M}), 1), SameBits(0.0));
@@ -164,14 +153,13 @@ TEST(VSumSqW, ReadsOutsideGiveMinusOne)
     EXPECT_THAT(V_SumSqW(column({1}), lowestInt, column({5})), SameBits(0.0));
 }
 
-// ---- squared differences
-// ---------------------------------------------------------------------------------------------
+// ---- squared differences --------------------------------------------------------------------------------------------
 
 TEST(VDiffSq, AddsSquaredDifferencesWithNoTest)
 {
     EXPECT_THAT(V_DiffSq(column({1, 5, 2}), 3, column({3, 2, 2})), SameBits(13.0));
     EXPECT_THAT(V_DiffSq(column({1, M}), 2, column({1, M})), SameBits(0.0));
-    EXPECT_THAT(V_DiffSq(column({1, M}), 2, column({1, 0})), SameBits(inf));
+    EXPECT_THAT(V_DiffSq(column({1, M}), 2, column({1, 0})), SameBits(infinity));
     EXPECT_THAT(V_DiffSq(column({1}), 0, column({3})), SameBits(0.0));
 }
 
@@ -215,8 +203,7 @@ TEST(VDiffSqStart, StartBelowOneIsTheFirstCell)
     EXPECT_THAT(V_DiffSqStart(a, 2, b, lowestInt), SameBits(8.0));
 }
 
-// ---- flat forms
-// ------------------------------------------------------------------------------------------------------
+// ---- flat forms -----------------------------------------------------------------------------------------------------
 
 TEST(VectorSumsFlat, SameResultsAndUntouchedArrays)
 {
@@ -303,8 +290,7 @@ TEST(VBVSumFromToLng, AddsARangeIn32Bits)
     EXPECT_EQ(VB_V_SumFromToLng(x, 0, 4, 4), 8) << "the count is not used";
 }
 
-// ---- both ways of reaching a cell
-// ------------------------------------------------------------------------------------
+// ---- both ways of reaching a cell -----------------------------------------------------------------------------------
 
 TEST(VectorSums, OrderOfAdditionIsThatOfThePlainLoop)
 {

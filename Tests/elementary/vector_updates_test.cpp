@@ -3,22 +3,16 @@
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"
+#include "support/special_values.h"
 #include "support/tables.h"
 
 #include <cmath>
-#include <limits>
 
 using namespace vecmat::test;
 
 namespace {
 
-constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-const double belowMissing = std::nextafter(M, -inf);
-constexpr int lowestInt = std::numeric_limits<int>::min();
-
-// ---- scaling
-// ---------------------------------------------------------------------------------------------------------
+// ---- scaling --------------------------------------------------------------------------------------------------------
 
 TEST(VNorm, DividesByTheRootOfTheSumOfSquares)
 {
@@ -68,10 +62,10 @@ TEST(VNorm, ZeroSumIsNotGuarded)
     EXPECT_THAT(cellsOf(zeros), SameBits({notANumber, notANumber}));
     auto missing = column({M});
     V_Norm(missing, 1);
-    EXPECT_THAT(cellsOf(missing), SameBits({-inf}));
+    EXPECT_THAT(cellsOf(missing), SameBits({-infinity}));
     auto weighted = column({0, 2});
     V_NormW(weighted, 2, column({0, 5}));
-    EXPECT_THAT(cellsOf(weighted), SameBits({notANumber, inf}));
+    EXPECT_THAT(cellsOf(weighted), SameBits({notANumber, infinity}));
     auto toVal = column({0.0});
     V_NormToVal(toVal, 1, 4.0);
     EXPECT_THAT(cellsOf(toVal), SameBits({notANumber}));
@@ -120,8 +114,7 @@ TEST(VNormToValW, TakesTheShiftedWeights)
     EXPECT_THAT(cellsOf(x), SameBits({factor, 2.0 * factor}));
 }
 
-// ---- adding
-// ----------------------------------------------------------------------------------------------------------
+// ---- adding ---------------------------------------------------------------------------------------------------------
 
 TEST(VPlusVal, MaskedCellsAreErased)
 {
@@ -148,9 +141,9 @@ TEST(VPlusVal, ChangesTheFirstCellsInRange)
 TEST(VPlusVal, OnlyTheExactPatternIsMissing)
 {
     short mask[] = {0, 0, 0};
-    auto x = column({notANumber, -inf, belowMissing});
+    auto x = column({notANumber, -infinity, belowMissing});
     V_PlusVal(x, 3, 1e308, mask);
-    EXPECT_THAT(cellsOf(x), SameBits({notANumber, -inf, belowMissing + 1e308}));
+    EXPECT_THAT(cellsOf(x), SameBits({notANumber, -infinity, belowMissing + 1e308}));
 }
 
 TEST(VPlusVal2, MissingCellsStay)
@@ -166,8 +159,7 @@ TEST(VPlusVal2, MissingCellsStay)
     EXPECT_THAT(cellsOf(shortTable), SameBits({3.0}));
 }
 
-// ---- replacing
-// -------------------------------------------------------------------------------------------------------
+// ---- replacing ------------------------------------------------------------------------------------------------------
 
 TEST(VReplaceVal, ReplacesEqualCells)
 {
@@ -216,8 +208,7 @@ TEST(VReplaceVal, TableMayBeItsOwnResult)
     EXPECT_THAT(cellsOf(x), SameBits({7.0, 2.0}));
 }
 
-// ---- flat forms
-// ------------------------------------------------------------------------------------------------------
+// ---- flat forms -----------------------------------------------------------------------------------------------------
 
 TEST(VectorUpdatesFlat, ScaleInPlace)
 {
@@ -310,7 +301,7 @@ TEST(VBVRemoveVal, ClosesTheGap)
 TEST(VBVRemoveVal, PositionOutsideStillWritesOneElementLess)
 {
     EXPECT_THAT(withoutElement(5), SameBits({1.0, M, 3.0}));
-    EXPECT_THAT(withoutElement(std::numeric_limits<int>::max()), SameBits({1.0, M, 3.0}));
+    EXPECT_THAT(withoutElement(highestInt), SameBits({1.0, M, 3.0}));
     EXPECT_THAT(withoutElement(0), SameBits({M, 3.0, 4.0}));
     EXPECT_THAT(withoutElement(lowestInt), SameBits({M, 3.0, 4.0}));
 }

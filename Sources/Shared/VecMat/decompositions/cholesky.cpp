@@ -1,10 +1,10 @@
 #include "cholesky.h"
 
+#include "../elementary/line_exchanges.h"
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 #include "../frame/handles.h"
 #include "cholesky_strips.h"
-#include "line_exchanges.h"
 #include "retained_block.h"
 
 #include <optional>

@@ -6,8 +6,8 @@
 // their rule, `ZeroPivotReplaced` or `SmallPivotRefused`; everything else is common to both.
 #pragma once
 
+#include "../elementary/line_exchanges.h"
 #include "../frame/cells.h"
-#include "line_exchanges.h"
 
 #include <cmath>
 #include <vector>

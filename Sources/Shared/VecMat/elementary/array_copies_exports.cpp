@@ -5,13 +5,7 @@
 
 #include <algorithm>
 
-using vecmat::copied;
-using vecmat::countOf;
-using vecmat::fresh;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 namespace {
 

@@ -136,8 +136,8 @@ bool mayRunDownColumns(const Source& source, const Target& target, int rows, int
         return false;
 }
 
-/// Copies a block of `rows` by `cols` cells, converted to the target's type. Nothing is copied from or to a storage that
-/// is not there.
+/// Copies a block of `rows` by `cols` cells, converted to the target's type. Nothing is copied from or to a storage
+/// that is not there.
 template <class Source, class Target>
 void copyCells(Source source, Target target, int rows, int cols)
 {

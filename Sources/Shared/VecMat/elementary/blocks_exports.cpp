@@ -3,17 +3,7 @@
 #include "block_copy.h"
 #include "blocks.h"
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::countFromTo;
-using vecmat::fresh;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::stringColumns;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::triangleColumns;
-using vecmat::viewed;
+using namespace vecmat;
 
 void VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst)
 {

@@ -5,14 +5,7 @@
 
 #include <functional>
 
-using vecmat::block;
-using vecmat::cells;
-using vecmat::isMissing;
-using vecmat::linear;
-using vecmat::Mask;
-using vecmat::missingValue;
-using vecmat::onBlocks;
-using vecmat::positiveTwin;
+using namespace vecmat;
 
 namespace {
 

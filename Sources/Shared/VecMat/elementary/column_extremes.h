@@ -42,8 +42,7 @@ VECMAT_API void M_MinMaxSPV(matrix** a, int rows, int cols, matrix* min, matrix*
 /// each column goes with entry i of `mask`.
 VECMAT_API void M_MinMaxSPV_T(matrix** a, int rows, int cols, matrix* min, matrix* max, short* mask, short mode);
 
-// ---- flat forms: results by column have `cols` elements, those by row `rows`; `a` is never written
-// -------------------
+// ---- flat forms: results by column have `cols` elements, those by row `rows`; `a` is never written ------------------
 
 VECMAT_API void VB_M_Max(double* a, int rows, int cols, double* out);
 VECMAT_API void VB_M_Min(double* a, int rows, int cols, double* out);

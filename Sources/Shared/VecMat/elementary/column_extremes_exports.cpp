@@ -2,14 +2,7 @@
 
 #include "../frame/handles.h"
 
-using vecmat::columns;
-using vecmat::ColumnsHandle;
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::freshInt;
-using vecmat::handBack;
-using vecmat::IntTableHandle;
-using vecmat::TableHandle;
+using namespace vecmat;
 
 namespace {
 

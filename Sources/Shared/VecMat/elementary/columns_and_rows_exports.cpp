@@ -4,13 +4,7 @@
 
 #include <algorithm>
 
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::TableHandle;
-using vecmat::viewed;
-using vecmat::zeroBased;
+using namespace vecmat;
 
 void VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol, short prepare)
 {

@@ -2,12 +2,7 @@
 
 #include "../frame/cells.h"
 
-using vecmat::block;
-using vecmat::isMissing;
-using vecmat::linear;
-using vecmat::missingValue;
-using vecmat::onBlocks;
-using vecmat::positiveTwin;
+using namespace vecmat;
 
 namespace {
 

@@ -34,8 +34,7 @@ VECMAT_API double V_NbIfW(matrix* x, int n, matrix* w, double val);
 /// value where none remains.
 VECMAT_API double V_SumIfW(matrix* x, int n, matrix* key, matrix* w, double val);
 
-// ---- flat forms: arrays have n elements and are never written
-// --------------------------------------------------------
+// ---- flat forms: arrays have n elements and are never written -------------------------------------------------------
 
 /// The functions of the same names; the count over ints is an int.
 VECMAT_API double VB_V_NbIf(double* x, int n, double val);

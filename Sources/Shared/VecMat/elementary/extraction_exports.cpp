@@ -2,19 +2,7 @@
 #include "block_copy.h"
 #include "extraction.h"
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::copyCells;
-using vecmat::countFromTo;
-using vecmat::fresh;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::stringColumns;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::viewed;
-using vecmat::window;
-using vecmat::zeroBased;
+using namespace vecmat;
 
 namespace {
 

@@ -5,14 +5,7 @@
 
 #include <functional>
 
-using vecmat::block;
-using vecmat::isMissing;
-using vecmat::linear;
-using vecmat::Mask;
-using vecmat::missingValue;
-using vecmat::onBlocks;
-using vecmat::outOfRangeValue;
-using vecmat::truncated;
+using namespace vecmat;
 
 namespace {
 

@@ -40,8 +40,7 @@ VECMAT_API double V_MinAndMinPos(matrix* x, int n, int* pos);
 VECMAT_API double V_MaxAndMaxPos(matrix* x, int n, int* pos);
 VECMAT_API double V_MaxAndMaxPos(matrixInt* x, int n, int* pos);
 
-// ---- flat forms: x has n elements and is never written
-// ---------------------------------------------------------------
+// ---- flat forms: x has n elements and is never written --------------------------------------------------------------
 
 extern "C" {
 

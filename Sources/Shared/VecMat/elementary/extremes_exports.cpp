@@ -5,9 +5,7 @@
 
 #include <vector>
 
-using vecmat::copied;
-using vecmat::countOf;
-using vecmat::truncated;
+using namespace vecmat;
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
-#include "kernels/operands.h"
+#include "line_exchanges.h"
 
 #include <algorithm>
 #include <cmath>
@@ -51,16 +51,6 @@ std::optional<Cell> largestFreeCell(Cells a, int n, const std::vector<bool>& use
 }
 
 template <class Cells>
-void swapRows(Cells a, int row1, int row2, int cols)
-{
-    for (int j = 0; j < cols; ++j) {
-        const double cell = a.get(row1, j);
-        a.set(row1, j, a.get(row2, j));
-        a.set(row2, j, cell);
-    }
-}
-
-template <class Cells>
 void scaleRow(Cells a, int row, int cols, double factor)
 {
     for (int j = 0; j < cols; ++j)
@@ -104,8 +94,8 @@ int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
             return singular;
         used[pivot->col] = true;
         if (pivoting == Pivoting::full && pivot->row != pivot->col) {
-            swapRows(a, pivot->row, pivot->col, n);
-            swapRows(b, pivot->row, pivot->col, m);
+            exchangeRows(a, pivot->row, pivot->col, n);
+            exchangeRows(b, pivot->row, pivot->col, m);
             exchanges.push_back(*pivot);
         }
         if (a.get(pivot->col, pivot->col) == 0.0)
@@ -114,7 +104,7 @@ int gaussJordan(Left a, Right b, int n, int m, Pivoting pivoting)
     }
     std::reverse(exchanges.begin(), exchanges.end());
     for (const Cell& exchange : exchanges)
-        swapRows(transposed(a), exchange.row, exchange.col, n); // the columns of a
+        exchangeColumns(a, exchange.row, exchange.col, n);
     return 0;
 }
 

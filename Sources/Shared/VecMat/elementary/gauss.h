@@ -7,11 +7,11 @@
 extern "C" {
 
 /// Gauss-Jordan elimination with full pivoting: a, `n` by `n`, becomes its inverse and b, `n` by `m`, the solutions;
-/// for complete pivoting see Golub and Van Loan, Matrix Computations, section 3.4. The pivot of a step is the cell of largest
-/// magnitude among the rows and columns not yet used; a cell replaces the largest so far only where it is above it by
-/// more than 1e-12, so that the first of nearly equal cells stays. With `noPivot` the pivots are the diagonal cells in
-/// order; with `noSwap` they are searched, but the diagonal cell of the column found takes the pivot's place, and no
-/// rows and columns are exchanged.
+/// for complete pivoting see Golub and Van Loan, Matrix Computations, section 3.4. The pivot of a step is the cell of
+/// largest magnitude among the rows and columns not yet used; a cell replaces the largest so far only where it is above
+/// it by more than 1e-12, so that the first of nearly equal cells stays. With `noPivot` the pivots are the diagonal
+/// cells in order; with `noSwap` they are searched, but the diagonal cell of the column found takes the pivot's place,
+/// and no rows and columns are exchanged.
 ///
 /// Returns 0, or -2 for a singular table, where no cell is found or the pivot is exactly 0.0: a and b are then left as
 /// the steps so far have made them. Cells outside a table read as -1.0, also as a pivot. A missing cell is a large

@@ -4,17 +4,7 @@
 
 #include <algorithm>
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::freshInt;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::IntTableHandle;
-using vecmat::shifted;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 void VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out)
 {

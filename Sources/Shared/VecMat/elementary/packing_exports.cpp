@@ -2,10 +2,7 @@
 #include "../frame/numbers.h"
 #include "packing.h"
 
-using vecmat::fresh;
-using vecmat::handBack;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 namespace {
 

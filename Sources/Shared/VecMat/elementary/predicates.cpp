@@ -2,6 +2,7 @@
 
 #include "../frame/cells.h"
 #include "../frame/companions.h"
+#include "../frame/masks.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
 #include "constancy.h"
@@ -15,6 +16,7 @@ using vecmat::equalsFirst;
 using vecmat::firstPresent;
 using vecmat::isMissing;
 using vecmat::linear;
+using vecmat::Mask;
 using vecmat::onBlocks;
 using vecmat::presentCellsAgree;
 
@@ -140,8 +142,8 @@ short V_IsPositive(matrix* x, int n, short strict)
 short M_IsPositive(matrix* a, int rows, int cols, short* mask, short strict)
 {
     const bool zeroFails = strict == -1;
-    return booleanOf(everyCell(cells(a), rows, cols, [zeroFails, mask](double cell, int row) {
-        return !(zeroFails ? cell <= 0.0 : cell < 0.0) || mask[row] != 0;
+    return booleanOf(everyCell(cells(a), rows, cols, [zeroFails, asked = Mask(mask)](double cell, int row) {
+        return !(zeroFails ? cell <= 0.0 : cell < 0.0) || !asked.keeps(row);
     }));
 }
 

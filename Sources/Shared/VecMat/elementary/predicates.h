@@ -51,7 +51,7 @@ VECMAT_API short V_IsPositive(matrix* x, int n, short strict);
 VECMAT_API short VB_V_IsPositive(double* x, int n, short strict);
 
 /// The same for a table, with other rules: only a `strict` of exactly -1 is strict, a missing cell fails, and so does
-/// one beyond the table. A row whose `mask` entry is not 0 passes whatever it holds.
+/// one beyond the table. A row whose `mask` entry is not 0 passes whatever it holds; without a mask no row does.
 VECMAT_API short M_IsPositive(matrix* a, int rows, int cols, short* mask, short strict);
 VECMAT_API short VB_M_IsPositive(double* a, int rows, int cols, short* mask, short strict);
 

@@ -5,6 +5,7 @@
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 #include "block_copy.h"
+#include "line_exchanges.h"
 #include "transposition.h"
 #include "vector_sums.h"
 
@@ -120,12 +121,7 @@ void M_RemoveRow(matrix* a, int rows, int cols, int row, matrix* out)
 
 void M_MoveRow(matrix*& a, int cols, int r1, int r2)
 {
-    const auto table = vecmat::cells(a);
-    for (int j = 0; j < cols; ++j) {
-        const double first = table.get(zeroBased(r1), j);
-        table.set(zeroBased(r1), j, table.get(zeroBased(r2), j));
-        table.set(zeroBased(r2), j, first);
-    }
+    vecmat::exchangeRows(vecmat::cells(a), zeroBased(r1), zeroBased(r2), cols);
 }
 
 void M_RemoveCols2(matrix*& a, int rows, int cols, int from, int to)

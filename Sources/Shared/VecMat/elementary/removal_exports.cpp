@@ -1,12 +1,7 @@
 #include "../frame/handles.h"
 #include "removal.h"
 
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::handBack;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 void VB_M_RemoveCol(double* a, int rows, int cols, int col, double* out)
 {

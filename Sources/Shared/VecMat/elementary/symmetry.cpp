@@ -169,6 +169,10 @@ bool diagonalIsConstant(Cells x, int n)
 template <Diagonal diagonal, class Checked>
 int proximityKind(Checked table, int rows, int cols, int kind)
 {
+    // Neither test is told by such a kind: the table, which may be none, is not read.
+    const bool withoutTheSecondTest = (kind & ~2) != 0;
+    if (kind >= 2 && withoutTheSecondTest)
+        return dissimilarities;
     return onBlocks(
         [=](auto x) {
             if (kind < 2) {
@@ -177,7 +181,7 @@ int proximityKind(Checked table, int rows, int cols, int kind)
                 if (kind == 1)
                     return neither;
             }
-            if ((kind & ~2) != 0)
+            if (withoutTheSecondTest)
                 return dissimilarities;
             const bool far = noneIsWrong<diagonal>(x, rows, cols, [](double cell, double own) { return cell < own; });
             return far && diagonalIsConstant(x, cols) ? dissimilarities : neither;

@@ -1,9 +1,7 @@
 #include "../frame/handles.h"
 #include "symmetry.h"
 
-using vecmat::columns;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 short VB_M_IsSymmetric(double* a, int n)
 {

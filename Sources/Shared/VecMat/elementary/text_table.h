@@ -145,8 +145,8 @@ private:
     std::vector<Slot> slots_; // at least half of them empty
 };
 
-/// Calls visit(i, text) for textAt(i), i from `first` to `end` - 1 in order. The texts and their places in `table` may be
-/// anywhere in memory: they are asked for some texts ahead.
+/// Calls visit(i, text) for textAt(i), i from `first` to `end` - 1 in order. The texts and their places in `table` may
+/// be anywhere in memory: they are asked for some texts ahead.
 template <class Value, class TextAt, class Visit>
 void forEachText(int first, int end, const TextTable<Value>& table, TextAt textAt, Visit visit)
 {

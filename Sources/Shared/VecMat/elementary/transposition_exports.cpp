@@ -1,16 +1,7 @@
 #include "../frame/handles.h"
 #include "transposition.h"
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::freshInt;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::IntTableHandle;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 void VB_M_Transpose(double* a, int r, int c, double* out)
 {

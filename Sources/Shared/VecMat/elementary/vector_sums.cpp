@@ -5,12 +5,7 @@
 
 #include <algorithm>
 
-using vecmat::block;
-using vecmat::isMissing;
-using vecmat::linear;
-using vecmat::Mask;
-using vecmat::onBlocks;
-using vecmat::outOfRangeValue;
+using namespace vecmat;
 
 namespace {
 

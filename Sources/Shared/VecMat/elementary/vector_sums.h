@@ -44,8 +44,7 @@ VECMAT_API double V_Sum2(matrixInt* x, int n);
 /// provides n + 1 elements.
 VECMAT_API double V_Sum2(int* x, int n);
 
-// ---- flat forms: x, w, a, b have n elements and are never written
-// ----------------------------------------------------
+// ---- flat forms: x, w, a, b have n elements and are never written ---------------------------------------------------
 
 extern "C" {
 

@@ -5,12 +5,7 @@
 #include "../frame/masks.h"
 #include "vector_sums.h"
 
-using vecmat::block;
-using vecmat::isMissing;
-using vecmat::linear;
-using vecmat::Mask;
-using vecmat::missingValue;
-using vecmat::onBlocks;
+using namespace vecmat;
 
 namespace {
 

@@ -31,8 +31,7 @@ VECMAT_API void V_PlusVal2(matrix* x, int n, double val);
 /// the missing value is replaced like any other.
 VECMAT_API void V_ReplaceVal(matrix* x, int n, double from, double to, matrix* out);
 
-// ---- flat forms: arrays have n elements; x is changed, weights and masks are not
-// --------------------------------------
+// ---- flat forms: arrays have n elements; x is changed, weights and masks are not ------------------------------------
 
 /// The functions of the same names, over the caller's array.
 VECMAT_API void VB_V_Norm(double* x, int n);

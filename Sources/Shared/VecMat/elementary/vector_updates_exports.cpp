@@ -2,10 +2,7 @@
 
 #include "../frame/handles.h"
 
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::handBack;
-using vecmat::TableHandle;
+using namespace vecmat;
 
 void VB_V_Norm(double* x, int n)
 {

@@ -4,15 +4,7 @@
 
 #include <algorithm>
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::fresh;
-using vecmat::freshStrings;
-using vecmat::handBack;
-using vecmat::shifted;
-using vecmat::StringTableHandle;
-using vecmat::TableHandle;
-using vecmat::viewed;
+using namespace vecmat;
 
 void VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double* out)
 {

@@ -28,8 +28,8 @@ struct ColumnKernels
 
     int lanes;
 
-    /// sums(c) = sum over k of column(c)(k) * with(k), for up to 2 `lanes` columns. It reads as many columns as the next
-    /// multiple of `lanes` has, and writes as many sums.
+    /// sums(c) = sum over k of column(c)(k) * with(k), for up to 2 `lanes` columns. It reads as many columns as the
+    /// next multiple of `lanes` has, and writes as many sums.
     void (*innerProducts)(int count, const double* with, int columns, const double* first, std::ptrdiff_t stride,
                           double* sums);
 
@@ -42,8 +42,8 @@ struct ColumnKernels
     void (*updateAndMultiply)(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y,
                               const double* v, double* product);
 
-    /// For each row i of a: sum = sum over j of weights(j) * a(i, j), then a(i, j) = a(i, j) + factors(j) * sum. A weight
-    /// or factor of exactly 0 leaves its column out.
+    /// For each row i of a: sum = sum over j of weights(j) * a(i, j), then a(i, j) = a(i, j) + factors(j) * sum. A
+    /// weight or factor of exactly 0 leaves its column out.
     void (*reflectRows)(int rows, int columns, const double* weights, const double* factors, double* a,
                         std::ptrdiff_t stride);
 

@@ -41,8 +41,8 @@ template <int step, int... lane>
     }
 }
 
-/// Adds the terms of rows k + `skipped` to k + laneCount - 1. The products of a column are side by side as they come from
-/// memory; turned round, those of a row are, and each column's sum takes them in its order.
+/// Adds the terms of rows k + `skipped` to k + laneCount - 1. The products of a column are side by side as they come
+/// from memory; turned round, those of a row are, and each column's sum takes them in its order.
 template <int groups>
 [[gnu::always_inline]] inline void addRows(int k, int skipped, const double* with, const double* first,
                                            std::ptrdiff_t stride, Lanes* sums)
@@ -206,8 +206,7 @@ struct Segment
     }
 };
 
-/// The second column of a rotation is mostly the first of the next: it
-/// waits in registers.
+/// The second column of a rotation is mostly the first of the next: it waits in registers.
 template <int vectors>
 void rotatePanel(int count, const ColumnRotation* rotations, double* panel)
 {

@@ -1,5 +1,5 @@
-// Several doubles side by side, as wide as the instruction set that a kernel is compiled for. For the sources of kernels
-// only: every name here belongs to the namespace of one instruction set.
+// Several doubles side by side, as wide as the instruction set that a kernel is compiled for. For the sources of
+// kernels only: every name here belongs to the namespace of one instruction set.
 #pragma once
 
 #include <cstddef>

@@ -51,7 +51,8 @@ struct MomentKernels
     ///     to = factor d
     void (*scale)(int count, const double* panel, const double* factors, double* to);
 
-    /// For each row where neither x nor the lane's y is the missing value: rows = rows + 1, W = W + w, and unless w is 0
+    /// For each row where neither x nor the lane's y is the missing value:
+    ///     rows = rows + 1     W = W + w     and unless w is 0
     ///     dx = x - meanX     dy = y - meanY     f = w - w w / W
     ///     products = products + f dx dy
     ///     meanX = meanX + dx w / W     meanY = meanY + dy w / W

@@ -1,7 +1,8 @@
 // How an operand of a product is read. Each name of the product family says how its operands stand in the formula; the
-// adaptors here say the same over the accessors of `frame/cells.h`, so that the formula of a name is its code:
+// adaptors here say the same over the accessors of `frame/cells.h`, so that the formula of a name, here a diag(v) b',
+// is its code:
 //
-//     multiply(timesDiagonal(cells(a), linear(v)), transposed(cells(b)), {rows, cols, rowsB}, cells(out)); // a diag(v) b'
+//     multiply(timesDiagonal(cells(a), linear(v)), transposed(cells(b)), {rows, cols, rowsB}, cells(out));
 //
 // An adaptor has the members of an accessor: `get`, `set` where it can be a result, and on the checked kind `covers`
 // and `plain`. Numbers are 0-based. A vector stands as a table of one column, `cells(v)`, wherever a table is expected.

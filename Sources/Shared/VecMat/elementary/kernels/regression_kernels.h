@@ -22,8 +22,8 @@ struct RegressionKernels
     ///     squares = squares + t t     products = products + z t
     void (*onScores)(std::ptrdiff_t rows, const double* strip, const double* scores, double* squares, double* products);
 
-    /// The rows on the loadings, from columns that stand `rows` apart. For each row a score that is missing at first and
-    /// q of 0.0; for each column in order whose cell z is not missing, with its loading p:
+    /// The rows on the loadings, from columns that stand `rows` apart. For each row a score that is missing at first
+    /// and q of 0.0; for each column in order whose cell z is not missing, with its loading p:
     ///     q = q + p p     score = z p where it is missing, score + z p otherwise
     /// and at the end score = score / q unless it is missing.
     void (*onLoadings)(std::ptrdiff_t rows, const double* columns, std::ptrdiff_t columnCount, const double* loadings,

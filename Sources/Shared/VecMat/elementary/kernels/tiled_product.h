@@ -186,7 +186,8 @@ private:
 inline constexpr double fewestProducts = 2000;
 inline constexpr int fewestLines = 4;
 
-/// Runs the product by tiles where that is worth it and the order of the results cannot be seen. False: nothing is done.
+/// Runs the product by tiles where that is worth it and the order of the results cannot be seen. False: nothing is
+/// done.
 template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
 bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, const Out& out)
 {
