@@ -1,6 +1,8 @@
 // Exchanges of two rows or columns of a block, over accessors.
 #pragma once
 
+#include "transposed.h"
+
 namespace vecmat {
 
 template <class Cells>
@@ -16,11 +18,7 @@ void exchangeRows(Cells a, int row, int other, int cols)
 template <class Cells>
 void exchangeColumns(Cells a, int col, int other, int rows)
 {
-    for (int i = 0; i < rows; ++i) {
-        const double kept = a.get(i, other);
-        a.set(i, other, a.get(i, col));
-        a.set(i, col, kept);
-    }
+    exchangeRows(transposed(a), col, other, rows);
 }
 
 } // namespace vecmat
