@@ -67,6 +67,12 @@ foreach(set IN LISTS instruction_sets)
     target_sources(VecMat PRIVATE $<TARGET_OBJECTS:vecmat_kernels_${set}>)
 endforeach()
 
+# The library asks the environment for nothing, but where the instruction sets are to be compared on one machine.
+if(VECMAT_NARROWER_INSTRUCTIONS)
+    set_property(SOURCE ${vecmat_source}/elementary/kernels/instruction_set.cpp APPEND PROPERTY
+        COMPILE_DEFINITIONS VECMAT_NARROWER_INSTRUCTIONS)
+endif()
+
 target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>

@@ -23,6 +23,7 @@ InstructionSet widestOfTheMachine()
 #endif
 }
 
+#ifdef VECMAT_NARROWER_INSTRUCTIONS
 InstructionSet widestAllowed()
 {
     const char* setting = std::getenv("VECMAT_INSTRUCTIONS"); // NOLINT(concurrency-mt-unsafe): read while loading
@@ -33,6 +34,12 @@ InstructionSet widestAllowed()
         return InstructionSet::avx2;
     return InstructionSet::avx512;
 }
+#else
+InstructionSet widestAllowed()
+{
+    return InstructionSet::avx512;
+}
+#endif
 
 const InstructionSet chosen = std::min(widestOfTheMachine(), widestAllowed());
 

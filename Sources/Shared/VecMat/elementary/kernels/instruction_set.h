@@ -12,8 +12,9 @@ namespace vecmat {
 /// together with its double and quad word, byte and word, and vector length parts.
 enum class InstructionSet { baseline, avx2, avx512 };
 
-/// The widest set that the machine has, settled when the library is loaded. The environment variable
-/// VECMAT_INSTRUCTIONS, "baseline" or "avx2", keeps it lower: tests compare the sets on one machine with it.
+/// The widest set that the machine has, settled when the library is loaded. A library built to compare the sets on one
+/// machine, with VECMAT_NARROWER_INSTRUCTIONS, is kept lower by the environment variable VECMAT_INSTRUCTIONS,
+/// "baseline" or "avx2"; any other looks at nothing but the machine.
 InstructionSet instructionSet();
 
 template <class Kernels>
