@@ -4,7 +4,7 @@
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/guarded.h"
-#include "support/tables.h"
+#include "table_parts.h"
 
 #include <cmath>
 #include <cstdint>
@@ -19,13 +19,6 @@ using testing::ElementsAre;
 constexpr int lowestInt = std::numeric_limits<int>::min();
 const double notANumber = std::numeric_limits<double>::quiet_NaN();
 const double infinity = std::numeric_limits<double>::infinity();
-
-void expectShape(const matrix* t, int rows, int cols)
-{
-    EXPECT_EQ(t->nRows, rows);
-    EXPECT_EQ(t->nCols, cols);
-    EXPECT_EQ(t->nElems, static_cast<unsigned>(rows * cols));
-}
 
 std::vector<double> weightsOf(const matrix* t)
 {

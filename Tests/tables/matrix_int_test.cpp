@@ -4,7 +4,7 @@
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/guarded.h"
-#include "support/tables.h"
+#include "table_parts.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,46 +20,6 @@ using testing::ElementsAre;
 
 constexpr int lowestInt = std::numeric_limits<int>::min();
 constexpr int highestInt = std::numeric_limits<int>::max();
-
-void expectShape(const matrixInt* t, int rows, int cols)
-{
-    EXPECT_EQ(t->nRows, rows);
-    EXPECT_EQ(t->nCols, cols);
-    EXPECT_EQ(t->nElems, static_cast<unsigned>(rows * cols));
-}
-
-void expectNoMoments(const matrixInt& t)
-{
-    EXPECT_EQ(t.norMu, nullptr);
-    EXPECT_EQ(t.norSigma, nullptr);
-    EXPECT_EQ(t.descMu, nullptr);
-    EXPECT_EQ(t.descSigma, nullptr);
-    EXPECT_EQ(t.normalized, 0);
-    EXPECT_EQ(t.descDone, 0);
-    EXPECT_EQ(t.descMode, 0);
-}
-
-/// 2 by 2, with every optional array.
-std::unique_ptr<matrixInt> withEveryArray()
-{
-    auto t = std::make_unique<matrixInt>(2, 2, 5);
-    t->norMu = new double[2]{10, 11};
-    t->norSigma = new double[2]{20, 21};
-    t->descMu = new double[2]{30, 31};
-    t->descSigma = new double[2]{40, 41};
-    t->weights = new double[2]{50, M};
-    t->weightcorr = new double[2]{60, 61};
-    t->nCol = new int[2]{70, 71};
-    t->normalized = 1;
-    t->descDone = 1;
-    t->descMode = -1;
-    return t;
-}
-
-std::vector<double> listOf(const double* cells, std::size_t n)
-{
-    return std::vector<double>(cells, cells + n);
-}
 
 TEST(IntTableFields, AreAPlainClassInTheSettledOrder)
 {
@@ -88,8 +48,7 @@ TEST(IntTableConstructor, FillsWithAValue)
     EXPECT_EQ(t.ownsX, 1);
     expectNoMoments(t);
     EXPECT_EQ(t.weights, nullptr);
-    EXPECT_EQ(t.weightcorr, nullptr);
-    EXPECT_EQ(t.nCol, nullptr);
+    expectNoCounts(t);
     EXPECT_THAT(cellsOf(&t), testing::Each(lowestInt));
 }
 
@@ -143,8 +102,7 @@ TEST(IntTableConstructor, MoreRowsThanTheSourceAreMinusOne)
     EXPECT_THAT(cellsOf(&t), ElementsAre(7, 8, -1));
     EXPECT_EQ(t.ownsX, 1);
     EXPECT_EQ(t.weights, nullptr);
-    EXPECT_EQ(t.weightcorr, nullptr);
-    EXPECT_EQ(t.nCol, nullptr);
+    expectNoCounts(t);
     expectNoMoments(t);
 }
 
@@ -157,7 +115,7 @@ TEST(IntTableConstructor, OtherRowCountCopiesInLinearOrder)
 
 TEST(IntTableConstructor, CopyCarriesWeightsCountsAndTheSlotsOfNormalizing)
 {
-    const auto source = withEveryArray();
+    const auto source = withEveryArray<matrixInt>();
     const matrixInt copy(3, source.get());
     EXPECT_THAT(listOf(copy.weights, 3), SameBits({50, M, -1}));
     EXPECT_THAT(listOf(copy.weightcorr, 2), SameBits({60, 61}));
@@ -180,7 +138,7 @@ TEST(IntTableDestructor, ReleasesWhatTheTableOwns)
 {
     Guarded<int> callers = {1, 2};
     const long before = allocationState().live;
-    withEveryArray().reset();
+    withEveryArray<matrixInt>().reset();
     std::make_unique<matrixInt>(2, 1, callers, true).reset();
     std::make_unique<matrixInt>(2, 1, callers, false).reset();
     EXPECT_EQ(allocationState().live, before);
@@ -255,7 +213,7 @@ TEST(IntTableMatCheck, LargerTableKeepsItsShapeAndHasItsHeadFilled)
     const matrixInt* const kept = t.get();
     matrixInt::matCheck(t.reference(), 2, 2, 0.0);
     EXPECT_EQ(t.get(), kept);
-    expectShape(t.get(), 3, 2);
+    expectShape(t, 3, 2);
     EXPECT_THAT(cellsOf(t), ElementsAre(0, 0, 0, 0, 7, 7));
 }
 
@@ -265,7 +223,7 @@ TEST(IntTableMatCheck, TooSmallTableIsReplacedAndReleased)
         auto t = intTable(2, 2, {7, 7, 7, 7});
         const long before = allocationState().live;
         matrixInt::matCheck(t.reference(), rows, cols, 1.0);
-        expectShape(t.get(), rows, cols);
+        expectShape(t, rows, cols);
         EXPECT_THAT(cellsOf(t), testing::Each(1));
         EXPECT_EQ(allocationState().live, before);
     }

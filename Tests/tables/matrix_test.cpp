@@ -3,7 +3,7 @@
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/guarded.h"
-#include "support/tables.h"
+#include "table_parts.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,53 +20,11 @@ using testing::ElementsAre;
 constexpr int lowestInt = std::numeric_limits<int>::min();
 constexpr int highestInt = std::numeric_limits<int>::max();
 
-/// A table without any of its optional arrays, as most constructors leave it.
+/// Nor weights, as all constructors but those that copy a table leave it.
 void expectNoCaches(const matrix& t)
 {
-    EXPECT_EQ(t.norMu, nullptr);
-    EXPECT_EQ(t.norSigma, nullptr);
-    EXPECT_EQ(t.descMu, nullptr);
-    EXPECT_EQ(t.descSigma, nullptr);
-    EXPECT_EQ(t.normalized, 0);
-    EXPECT_EQ(t.descDone, 0);
-    EXPECT_EQ(t.descMode, 0);
+    expectNoMoments(t);
     EXPECT_EQ(t.weights, nullptr);
-}
-
-void expectNoCounts(const matrix& t)
-{
-    EXPECT_EQ(t.weightcorr, nullptr);
-    EXPECT_EQ(t.nCol, nullptr);
-}
-
-void expectShape(const matrix& t, int rows, int cols)
-{
-    EXPECT_EQ(t.nRows, rows);
-    EXPECT_EQ(t.nCols, cols);
-    EXPECT_EQ(t.nElems, static_cast<unsigned>(rows * cols));
-}
-
-/// Gives a table every optional array, so that releasing and copying have something to do. 2 by 2.
-std::unique_ptr<matrix> withEveryArray()
-{
-    auto t = std::make_unique<matrix>(2, 2, 0.0);
-    std::copy_n(std::vector<double>{1, 2, 3, M}.data(), 4, t->X);
-    t->norMu = new double[2]{10, 11};
-    t->norSigma = new double[2]{20, 21};
-    t->descMu = new double[2]{30, 31};
-    t->descSigma = new double[2]{40, 41};
-    t->weights = new double[2]{50, 51};
-    t->weightcorr = new double[2]{60, 61};
-    t->nCol = new int[2]{70, 71};
-    t->normalized = 1;
-    t->descDone = 1;
-    t->descMode = -1;
-    return t;
-}
-
-std::vector<double> listOf(const double* cells, std::size_t n)
-{
-    return std::vector<double>(cells, cells + n);
 }
 
 // ---- fields ---------------------------------------------------------------------------------------------------------
@@ -120,7 +78,7 @@ TEST(MatrixConstructor, FillsWithAnIntOrADouble)
     const matrix ofInt(2, 3, 3);
     const matrix ofDouble(2, 3, M);
     for (const matrix* t : {&ofInt, &ofDouble}) {
-        expectShape(*t, 2, 3);
+        expectShape(t, 2, 3);
         EXPECT_EQ(t->ownsX, 1);
         expectNoCaches(*t);
         expectNoCounts(*t);
@@ -134,7 +92,7 @@ TEST(MatrixConstructor, ViewReadsAndWritesTheCallersArray)
     Guarded<double> callers = {1, 2, M, 4};
     {
         matrix view(2, 2, callers, true);
-        expectShape(view, 2, 2);
+        expectShape(&view, 2, 2);
         EXPECT_EQ(view.X, callers.data());
         EXPECT_EQ(view.ownsX, 0);
         expectNoCaches(view);
@@ -163,7 +121,7 @@ TEST(MatrixConstructor, ZeroSourceCountsMeanTheTablesOwn)
 {
     Guarded<double> callers = {1, 2, M, 4, 5, 6};
     matrix t(3, 2, callers, 0, 0);
-    expectShape(t, 3, 2);
+    expectShape(&t, 3, 2);
     EXPECT_EQ(t.ownsX, 1);
     expectNoCaches(t);
     EXPECT_THAT(cellsOf(&t), SameBits({1, 2, M, 4, 5, 6}));
@@ -178,7 +136,7 @@ TEST(MatrixConstructor, OneColumnOfThreeFillsTheFirstColumn)
 {
     Guarded<double> callers = {1, 2, 3}; // three cells and no more may be read
     const matrix t(3, 2, callers, 3, 1);
-    expectShape(t, 3, 2);
+    expectShape(&t, 3, 2);
     EXPECT_THAT(cellsOf(&t), SameBits({1, 2, 3, 0, 0, 0}));
 }
 
@@ -200,7 +158,7 @@ TEST(MatrixConstructor, BooleansBecomeNumbers)
 {
     Guarded<short> callers = {-1, 0, 1, 5};
     const matrix t(2, 2, callers);
-    expectShape(t, 2, 2);
+    expectShape(&t, 2, 2);
     EXPECT_EQ(t.ownsX, 1);
     expectNoCaches(t);
     EXPECT_THAT(cellsOf(&t), SameBits({-1, 0, 1, 5}));
@@ -231,22 +189,23 @@ TEST(MatrixConstructor, OtherRowCountCopiesInLinearOrder)
 {
     auto source = table(2, 2, {1, 2, 3, M});
     matrix taller(3, source);
-    expectShape(taller, 3, 2);
+    expectShape(&taller, 3, 2);
     EXPECT_EQ(taller.ownsX, 1);
     expectNoCaches(taller);
     expectNoCounts(taller);
     EXPECT_THAT(cellsOf(&taller), SameBits({1, 2, 3, M, -1, -1}));
     matrix shorter(1, source);
-    expectShape(shorter, 1, 2);
+    expectShape(&shorter, 1, 2);
     EXPECT_THAT(cellsOf(&shorter), SameBits({1, 2}));
 }
 
 TEST(MatrixConstructor, CopyCarriesWeightsCountsAndTheMomentsOfNormalizing)
 {
-    const auto source = withEveryArray();
+    const auto source = withEveryArray<matrix>();
+    std::copy_n(std::vector<double>{1, 2, 3, M}.data(), 4, source->X);
     matrix copy(*source);
     EXPECT_THAT(cellsOf(&copy), SameBits({1, 2, 3, M}));
-    EXPECT_THAT(listOf(copy.weights, 2), SameBits({50, 51}));
+    EXPECT_THAT(listOf(copy.weights, 2), SameBits({50, M}));
     EXPECT_THAT(listOf(copy.weightcorr, 2), SameBits({60, 61}));
     EXPECT_THAT(std::vector<int>(copy.nCol, copy.nCol + 2), ElementsAre(70, 71));
     EXPECT_EQ(copy.normalized, 1);
@@ -264,7 +223,7 @@ TEST(MatrixConstructor, CopyCarriesWeightsCountsAndTheMomentsOfNormalizing)
 
 TEST(MatrixConstructor, CopyOfATableThatIsNotNormalizedHasNoMoments)
 {
-    const auto source = withEveryArray();
+    const auto source = withEveryArray<matrix>();
     source->normalized = 0;
     const matrix copy(*source);
     EXPECT_EQ(copy.normalized, 0);
@@ -274,9 +233,9 @@ TEST(MatrixConstructor, CopyOfATableThatIsNotNormalizedHasNoMoments)
 
 TEST(MatrixConstructor, OtherRowCountHasThatManyWeights)
 {
-    const auto source = withEveryArray();
+    const auto source = withEveryArray<matrix>();
     const matrix taller(4, source.get());
-    EXPECT_THAT(listOf(taller.weights, 4), SameBits({50, 51, -1, -1}));
+    EXPECT_THAT(listOf(taller.weights, 4), SameBits({50, M, -1, -1}));
     EXPECT_THAT(listOf(taller.norSigma, 2), SameBits({20, 21}));
     EXPECT_THAT(std::vector<int>(taller.nCol, taller.nCol + 2), ElementsAre(70, 71));
     const matrix shorter(1, source.get());
@@ -302,7 +261,7 @@ TEST(MatrixConstructor, CopyOfAViewOwnsItsCells)
 TEST(MatrixDestructor, ReleasesEveryArrayItOwns)
 {
     const long before = allocationState().live;
-    withEveryArray().reset();
+    withEveryArray<matrix>().reset();
     EXPECT_EQ(allocationState().live, before);
 }
 

@@ -3,7 +3,7 @@
 #include "Smatrix.h"
 #include "support/failing_new.h"
 #include "support/strings.h"
-#include "support/tables.h"
+#include "table_parts.h"
 
 #include <gmock/gmock.h>
 
@@ -23,13 +23,6 @@ constexpr int lowestInt = std::numeric_limits<int>::min();
 
 // Longer than any string keeps in itself, so that each has a block of its own.
 const std::wstring longText = L"a text that does not fit into the string itself";
-
-void expectShape(const Smatrix* t, int rows, int cols)
-{
-    EXPECT_EQ(t->nRows, rows);
-    EXPECT_EQ(t->nCols, cols);
-    EXPECT_EQ(t->nElems, static_cast<unsigned>(rows * cols));
-}
 
 TEST(StringTableFields, AreAPlainClassInTheSettledOrder)
 {
@@ -206,7 +199,7 @@ TEST(StringTableMatCheck, NullAndTheUnsetPatternAreReplaced)
 {
     Owned<Smatrix> t;
     Smatrix::matCheck(t.reference(), 2, 1);
-    expectShape(t.get(), 2, 1);
+    expectShape(t, 2, 1);
     // Nothing is deleted here, so that even a pattern of unset memory gives way to a table.
     auto* unset = reinterpret_cast<Smatrix*>(std::uintptr_t{0xcccccccc});
     Smatrix::matCheck(unset, 1, 3);
@@ -222,7 +215,7 @@ TEST(StringTableCopy, SetsTheShapeOfATableAndKeepsItsBlock)
     auto out = stringColumn({L"1", L"2", L"3"});
     const std::wstring* const block = out->X;
     t->copyMatTo(out.get());
-    expectShape(out.get(), 1, 2);
+    expectShape(out, 1, 2);
     EXPECT_EQ(out->X, block);
     EXPECT_THAT(cellsOf(out), ElementsAre(L"a", longText));
     EXPECT_EQ(out->X[2], L"3");

@@ -35,9 +35,9 @@ inline std::size_t lengthOf(const void* text)
     return length;
 }
 
-/// Converts `length` units to wide characters, which are no more, and returns the place behind the last. A surrogate pair
-/// becomes one character; a surrogate without its partner stays as it is, so that no text is lost on the way there and
-/// back.
+/// Converts `length` units to wide characters, which are no more, and returns the place behind the last. A surrogate
+/// pair becomes one character; a surrogate without its partner stays as it is, so that no text is lost on the way there
+/// and back.
 inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
 {
     for (std::size_t position = 0; position < length; ++position) {

@@ -2,18 +2,11 @@
 
 #include "frame/companions.h"
 #include "frame/numbers.h"
+#include "frame/table_arrays.h"
 
 #include <algorithm>
-#include <cstdint>
 
 using vecmat::elementCount;
-
-namespace {
-
-/// A pattern that debug builds of the callers leave in an unset pointer; such a receiver is never read.
-constexpr std::uintptr_t unsetPattern = 0xcccccccc;
-
-} // namespace
 
 // Every public constructor delegates to this one, so that the destructor releases what was allocated before a failure.
 Smatrix::Smatrix(Shape shape)
@@ -44,8 +37,7 @@ Smatrix::~Smatrix()
 
 void Smatrix::matCheck(Smatrix*& ref, int rows, int cols)
 {
-    const bool exact = ref != nullptr && reinterpret_cast<std::uintptr_t>(ref) != unsetPattern && ref->nRows == rows &&
-                       ref->nCols == cols;
+    const bool exact = ref != nullptr && !vecmat::isUnset(ref) && ref->nRows == rows && ref->nCols == cols;
     if (!exact)
         ref = new Smatrix(rows, cols);
 }

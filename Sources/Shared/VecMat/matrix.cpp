@@ -2,16 +2,18 @@
 
 #include "frame/missing_value.h"
 #include "frame/numbers.h"
+#include "frame/table_arrays.h"
 #include "matrixInt.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
+using vecmat::copyOf;
 using vecmat::countOf;
 using vecmat::elementCount;
 using vecmat::linearIndex;
 using vecmat::outOfRangeValue;
+using vecmat::resizedCopyOf;
 using vecmat::truncated;
 
 namespace {
@@ -20,18 +22,9 @@ namespace {
 [[gnu::used]] double (matrix::*const emittedGet)(int, int) = &matrix::vbget;
 [[gnu::used]] void (matrix::*const emittedSet)(int, int, double) = &matrix::vbset;
 
-/// A pattern that debug builds of the callers leave in an unset pointer; such a receiver is never read.
-constexpr std::uintptr_t unsetPattern = 0xcccccccc;
-
-double* copyOf(const double* src, unsigned n)
-{
-    return std::copy_n(src, n, new double[n]) - n;
-}
-
 bool canHold(const matrix* table, int rows, int cols)
 {
-    return table != nullptr && reinterpret_cast<std::uintptr_t>(table) != unsetPattern && table->nRows >= rows &&
-           table->nCols >= cols;
+    return table != nullptr && !vecmat::isUnset(table) && table->nRows >= rows && table->nCols >= cols;
 }
 
 /// Cells of one table in linear order with the checks of the accessors.
@@ -68,10 +61,7 @@ matrix::matrix(int rows, int cols, double* src, bool view) : matrix(Shape{rows, 
 matrix::matrix(int rows, int cols, double* src, int srcRows, int srcCols) : matrix(Shape{rows, cols})
 {
     const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
-    const unsigned copied = std::min(given, nElems);
-    X = new double[nElems];
-    std::copy_n(src, copied, X);
-    std::fill(X + copied, X + nElems, 0.0);
+    X = resizedCopyOf(src, given, nElems, 0.0);
     allocateClearedCounts();
 }
 
@@ -84,41 +74,15 @@ matrix::matrix(int rows, int cols, short* src) : matrix(Shape{rows, cols})
 
 matrix::matrix(int rows, matrix* src) : matrix(Shape{rows, src->nCols})
 {
-    const unsigned columns = countOf(nCols);
-    X = new double[nElems];
-    const unsigned cells = std::min(nElems, src->nElems);
-    std::fill(std::copy_n(src->X, cells, X), X + nElems, outOfRangeValue);
-    if (src->weightcorr != nullptr)
-        weightcorr = copyOf(src->weightcorr, columns);
-    if (src->nCol != nullptr) {
-        nCol = new int[columns];
-        std::copy_n(src->nCol, columns, nCol);
-    }
-    if (src->weights != nullptr) {
-        weights = new double[countOf(rows)];
-        const unsigned known = std::min(countOf(rows), countOf(src->nRows));
-        std::fill(std::copy_n(src->weights, known, weights), weights + countOf(rows), outOfRangeValue);
-    }
-    if (src->normalized == 1) {
-        norMu = copyOf(src->norMu, columns);
-        norSigma = copyOf(src->norSigma, columns);
-        normalized = 1;
-    }
+    X = resizedCopyOf(src->X, src->nElems, nElems, outOfRangeValue);
+    vecmat::copyArrays(*src, *this);
 }
 
 matrix::matrix(matrix& src) : matrix(src.nRows, &src) {}
 
 matrix::~matrix()
 {
-    if (ownsX == 1)
-        delete[] X;
-    delete[] weights;
-    delete[] nCol;
-    delete[] weightcorr;
-    delete[] descMu;
-    delete[] descSigma;
-    delete[] norMu;
-    delete[] norSigma;
+    vecmat::deleteArrays(*this);
 }
 
 // Both pointers must exist on such tables, so that InitnCol and InitWeightcorr leave them alone; nothing reads the
@@ -234,8 +198,8 @@ void matrix::matCheck(matrix*& ref, int rows, int cols, double value)
         std::fill_n(ref->X, std::min(elementCount(rows, cols), ref->nElems), value);
         return;
     }
-    // Null first, so that a failing allocation leaves nothing to delete twice. The unset pattern is kept from being read
-    // above, not from being deleted here.
+    // Null first, so that a failing allocation leaves nothing to delete twice. The unset pattern is kept from being
+    // read above, not from being deleted here.
     delete std::exchange(ref, nullptr); // NOLINT(clang-analyzer-cplusplus.NewDelete)
     ref = new matrix(rows, cols, value);
 }

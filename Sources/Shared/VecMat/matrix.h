@@ -236,11 +236,11 @@ public:
     /// block must lie inside the table.
     void calcStrucInfo(int rows, int cols, bool* colZero, bool* rowZero, bool* diag, int row0, int col0);
 
-    /// Inverse of the leading square block of order `nRows` into `out`, which must be large enough, from a private copy:
-    /// Crout's LU with implicit scaled pivoting, then forward and back substitution for each unit vector (ludcmp and
-    /// lubksb of Press, Flannery, Teukolsky, Vetterling: Numerical Recipes, 1st edition), except that it ends at a pivot
-    /// of 1e-8 or less in absolute terms; of 2.220446049250313e-16 or less where `tol` is 0 or below, of which nothing
-    /// but the sign counts (a NaN is positive). Of equal candidates for a pivot the last wins. No missing test.
+    /// Inverse of the leading square block of order `nRows` into `out`, which must be large enough, from a private
+    /// copy: Crout's LU with implicit scaled pivoting, then forward and back substitution for each unit vector (ludcmp
+    /// and lubksb of Press, Flannery, Teukolsky, Vetterling: Numerical Recipes, 1st edition), except that it ends at a
+    /// pivot of 1e-8 or less in absolute terms; of 2.220446049250313e-16 or less where `tol` is 0 or below, of which
+    /// nothing but the sign counts (a NaN is positive). Of equal candidates for a pivot the last wins. No missing test.
     ///
     /// Returns 0, or -1 with `status` -1 and `out` untouched, for such a pivot or a row of zeros; `status` is not
     /// cleared on success.

@@ -1,14 +1,14 @@
 #include "matrixInt.h"
 
-#include "frame/missing_value.h"
 #include "frame/numbers.h"
+#include "frame/table_arrays.h"
 
 #include <algorithm>
 #include <utility>
 
+using vecmat::copyOf;
 using vecmat::countOf;
 using vecmat::elementCount;
-using vecmat::outOfRangeValue;
 using vecmat::truncated;
 
 namespace {
@@ -16,12 +16,6 @@ namespace {
 // The inline accessors are part of the binary interface too: taking their addresses emits them out of line.
 [[gnu::used]] int (matrixInt::*const emittedGet)(int, int) = &matrixInt::vbget;
 [[gnu::used]] void (matrixInt::*const emittedSet)(int, int, int) = &matrixInt::vbset;
-
-template <class Number>
-Number* copyOf(const Number* src, unsigned n)
-{
-    return std::copy_n(src, n, new Number[n]) - n;
-}
 
 } // namespace
 
@@ -48,37 +42,13 @@ matrixInt::matrixInt(int rows, int cols, int* src, bool view) : matrixInt(Shape{
 
 matrixInt::matrixInt(int rows, matrixInt* src) : matrixInt(Shape{rows, src->nCols})
 {
-    const unsigned columns = countOf(nCols);
-    X = new int[nElems];
-    const unsigned cells = std::min(nElems, src->nElems);
-    std::fill(std::copy_n(src->X, cells, X), X + nElems, -1);
-    if (src->weightcorr != nullptr)
-        weightcorr = copyOf(src->weightcorr, columns);
-    if (src->nCol != nullptr)
-        nCol = copyOf(src->nCol, columns);
-    if (src->weights != nullptr) {
-        weights = new double[countOf(rows)];
-        const unsigned known = std::min(countOf(rows), countOf(src->nRows));
-        std::fill(std::copy_n(src->weights, known, weights), weights + countOf(rows), outOfRangeValue);
-    }
-    if (src->normalized == 1) {
-        norMu = copyOf(src->norMu, columns);
-        norSigma = copyOf(src->norSigma, columns);
-        normalized = 1;
-    }
+    X = vecmat::resizedCopyOf(src->X, src->nElems, nElems, -1);
+    vecmat::copyArrays(*src, *this);
 }
 
 matrixInt::~matrixInt()
 {
-    if (ownsX == 1)
-        delete[] X;
-    delete[] weights;
-    delete[] nCol;
-    delete[] weightcorr;
-    delete[] descMu;
-    delete[] descSigma;
-    delete[] norMu;
-    delete[] norSigma;
+    vecmat::deleteArrays(*this);
 }
 
 void matrixInt::copyMatTo(int* dst)

@@ -50,8 +50,8 @@ void writeUnits(const wchar_t* text, char* to)
     append(u'\0', to);
 }
 
-/// Holds the text that was converted last, and whatever a longer one has left behind it. A function of its own, so that the
-/// place is looked up once for a text: inlined, the compiler looks it up again at each use.
+/// Holds the text that was converted last, and whatever a longer one has left behind it. A function of its own, so that
+/// the place is looked up once for a text: inlined, the compiler looks it up again at each use.
 [[gnu::noinline]] std::vector<wchar_t>& lastConverted()
 {
     thread_local std::vector<wchar_t> text;

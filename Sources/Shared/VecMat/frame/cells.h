@@ -8,8 +8,8 @@
 //     block(linear(v), n));
 //
 // What a loop may do in another order depends on where its cells lie. A plain accessor says it for a block at the top
-// left: `folds(rows, cols)`, whether two places of the block can be the same cell, and `visitStorage(rows, cols, visit)`,
-// which calls visit(first, last) for each stretch of memory that the block lies in.
+// left: `folds(rows, cols)`, whether two places of the block can be the same cell, and
+// `visitStorage(rows, cols, visit)`, which calls visit(first, last) for each stretch of memory that the block lies in.
 //
 // Numbers are 0-based. Accessors are small and are passed by value; they own nothing.
 #pragma once
@@ -401,8 +401,8 @@ Block<Checked> block(Checked vector, int n)
     return {vector, vector.covers(n)};
 }
 
-/// Runs `plainBody` on plain accessors where every block lies inside its tables, else `checkedBody` on the checked ones:
-/// for bodies that ask where the cells lie.
+/// Runs `plainBody` on plain accessors where every block lies inside its tables, else `checkedBody` on the checked
+/// ones: for bodies that ask where the cells lie.
 template <class PlainBody, class CheckedBody, class... Checked>
 decltype(auto) onBlocksOrElse(PlainBody&& plainBody, CheckedBody&& checkedBody, Block<Checked>... blocks)
 {

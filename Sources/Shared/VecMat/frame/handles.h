@@ -111,8 +111,8 @@ inline StringTableHandle freshStrings(int rows, int cols)
     return StringTableHandle(new Smatrix(rows, cols));
 }
 
-/// The caller's array itself as a table that lives on the stack. For a callee that keeps the table: one that prepares it
-/// with `matCheck` does so at the dimensions given, which it has.
+/// The caller's array itself as a table that lives on the stack. For a callee that keeps the table: one that prepares
+/// it with `matCheck` does so at the dimensions given, which it has.
 template <class Table>
 class View
 {
