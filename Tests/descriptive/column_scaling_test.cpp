@@ -1,4 +1,4 @@
-// Centring, reduction and standardisation of columns: every member against the table of the family, written out plainly.
+// Centring, reduction and standardisation of columns: every member against the rules of the family, written out.
 #include "descriptive/column_scaling.h"
 
 #include "descriptive/moments.h"

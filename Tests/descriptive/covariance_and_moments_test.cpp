@@ -12,13 +12,10 @@
 
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <vector>
 
 namespace vecmat::test {
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct Options
 {

@@ -10,13 +10,10 @@
 
 #include <cmath>
 #include <cstddef>
-#include <limits>
 #include <vector>
 
 namespace vecmat::test {
 namespace {
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct Options
 {
@@ -33,24 +30,25 @@ std::vector<double> plain(Observations d, Options o)
     return cellsOf(C);
 }
 
-std::vector<double> fromRows(Observations d, Options o)
+std::vector<double> fromTables(decltype(M_CovCorr3) function, const std::vector<std::vector<double>>& tables,
+                               Observations d, Options o)
 {
-    TableColumns X(d.rows());
+    TableColumns X(tables);
     Owned<matrix> C = filled(d.p, d.p, 9.0);
-    EXPECT_EQ(M_CovCorr3(X, d.n, d.p, C, o.corr, d.mask.data(), column(d.w), o.divisor.sample, o.divisor.freqWeights,
-                         o.zeroForMissing),
+    EXPECT_EQ(function(X, d.n, d.p, C, o.corr, d.mask.data(), column(d.w), o.divisor.sample, o.divisor.freqWeights,
+                       o.zeroForMissing),
               0);
     return cellsOf(C);
 }
 
-std::vector<double> fromColumns(Observations d, Options o)
+std::vector<double> fromRows(const Observations& d, Options o)
 {
-    TableColumns X(d.columns());
-    Owned<matrix> C = filled(d.p, d.p, 9.0);
-    EXPECT_EQ(M_CovCorr3SPV(X, d.n, d.p, C, o.corr, d.mask.data(), column(d.w), o.divisor.sample, o.divisor.freqWeights,
-                            o.zeroForMissing),
-              0);
-    return cellsOf(C);
+    return fromTables(M_CovCorr3, d.rows(), d, o);
+}
+
+std::vector<double> fromColumns(const Observations& d, Options o)
+{
+    return fromTables(M_CovCorr3SPV, d.columns(), d, o);
 }
 
 void triangleFromTable(Observations d, Options o, matrix** C)

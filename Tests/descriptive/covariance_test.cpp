@@ -18,7 +18,6 @@ namespace vecmat::test {
 namespace {
 
 constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 std::vector<double> covCorr(Observations d, short corr, Divisor divisor = {}, short zeroForMissing = 0)
 {

@@ -19,7 +19,6 @@ namespace vecmat::test {
 namespace {
 
 constexpr double inf = std::numeric_limits<double>::infinity();
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct Options
 {

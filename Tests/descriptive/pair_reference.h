@@ -7,9 +7,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 namespace vecmat::test {
+
+inline constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// n observations of p variables, column after column, with a mask and weights.
 struct Observations

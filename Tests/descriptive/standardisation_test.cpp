@@ -208,6 +208,26 @@ TEST(M_StandardizeMatrix, CentresXAndOnlyDividesTheOthers)
     EXPECT_THAT(y.values(), SameBits({M, 3}));
 }
 
+TEST(M_StandardizeMatrix, DividesTheOthersByTheDeviationAsItIs)
+{
+    const double inf = std::numeric_limits<double>::infinity();
+    // Without spread X is divided by 1.0, the others by 0.
+    auto X = table(2, 2, {4, 4, 10, 14});
+    auto Y = table(2, 2, {5, -5, 6, M});
+    auto V = filled(0, 2, 0.0);
+    M_StandardizeMatrix(X.reference(), 2, 2, Y.reference(), 2, V.reference(), 0);
+    EXPECT_THAT(cellsOf(X), SameBits({0, 0, -1, 1}));
+    EXPECT_THAT(cellsOf(Y), SameBits({inf, -inf, 3, M / 2}));
+
+    // A column without a cell ends the standardisation: it and the later ones take the zeros that are there, their
+    // deviations are the missing value and 0.
+    auto ended = table(2, 3, {1, 3, M, M, 10, 14});
+    auto others = table(1, 3, {7, 8, 9});
+    M_StandardizeMatrix(ended.reference(), 2, 3, others.reference(), 1, V.reference(), 0);
+    EXPECT_THAT(cellsOf(ended), SameBits({-1, 1, 0, 0, 0, 0}));
+    EXPECT_THAT(cellsOf(others), SameBits({7, 8 / M, inf}));
+}
+
 TEST(M_SubstractFirstCol2, ClearsTheFirstColumnOnly)
 {
     const auto x = table(2, 3, {3, M, 4, 7, 5, 8});

@@ -62,6 +62,71 @@ TEST(TriangularQFindAB, UsesTheClosedFormOutsideTheMode)
     EXPECT_THAT(a, SameBits((u * y1 + (t - q1 * u) * wantedB) / (q * u + t)));
 }
 
+struct Search
+{
+    double x1, m, x2, prob1, prob2;
+};
+
+struct Found
+{
+    double a, b;
+    int steps, lastMultiple;
+};
+
+/// The search written down once more, with one function for a(b), its slope, and both sides of the equation.
+Found plainSearch(const Search& s)
+{
+    const double r = 1.0 - s.prob2, A = s.x2 * -2.0 + r * s.m;
+    const auto lower = [&](double b) { return (b * b * s.prob2 + A * b + s.x2 * s.x2) / ((s.m - b) * r); };
+    Found found{0, 0, 0, 5};
+    for (;;) {
+        double b = found.lastMultiple * s.x2;
+        for (;;) {
+            const double a = lower(b);
+            const double g =
+                b * s.prob1 * (s.m - a) - (a * a * (1 - s.prob1) + (s.m * s.prob1 - (s.x1 + s.x1)) * a + s.x1 * s.x1);
+            const double D = s.m - b;
+            const double P = s.x2 * s.x2 + (r * s.m - (s.x2 + s.x2)) * b + b * b * s.prob2;
+            const double R = r * D;
+            const double slope = (((b + b) * s.prob2 + r * s.m - (s.x2 + s.x2)) * D + P) / (D * R);
+            const double own = P / R;
+            const double derivative = (s.m - own) * s.prob1 - b * s.prob1 * slope -
+                                      (1 - s.prob1) * ((own + own) * slope) - (s.m * s.prob1 - (s.x1 + s.x1)) * slope;
+            found.b = b - g / derivative;
+            ++found.steps;
+            if (found.steps > 500 || std::fabs(b - found.b) < 1e-12)
+                break;
+            b = found.b;
+        }
+        if (found.steps >= 501 || !(found.b <= s.m))
+            break;
+        ++found.lastMultiple;
+    }
+    found.a = (s.x2 * s.x2 + found.b * found.b * s.prob2 + A * found.b) / (r * (s.m - found.b));
+    return found;
+}
+
+TEST(TriangularQFindAB, StartsAgainFromTheNextMultipleAndSharesTheSteps)
+{
+    const auto expectSame = [](const Search& s) {
+        const Found wanted = plainSearch(s);
+        double a = 7, b = 7;
+        TriangularQFindAB(s.x1, s.m, s.x2, s.prob1, s.prob2, &a, &b);
+        EXPECT_THAT((std::vector{a, b}), SameBits({wanted.a, wanted.b}));
+        return wanted;
+    };
+    EXPECT_EQ(expectSame({2, 4, 7, 0.1, 0.85}).lastMultiple, 5); // at once
+    EXPECT_EQ(expectSame({5, 5, 8, 0.15, 0.8}).lastMultiple, 5); // the mode at the first quantile
+    EXPECT_EQ(expectSame({2, 5, 5, 0.15, 0.6}).lastMultiple, 5); // and at the second
+    EXPECT_EQ(expectSame({-4.3, -3, -0.6, 0.5, 0.85}).lastMultiple, 6);
+    EXPECT_EQ(expectSame({-1.1, -1, 0.2, 0.7, 0.3}).lastMultiple, 13);
+    // Every start ends below the mode: the 500 steps are those of all of them.
+    const Found last = expectSame({-3.2, -3, -2.8, 0.6, 0.3});
+    EXPECT_EQ(last.steps, 501);
+    EXPECT_GT(last.lastMultiple, 20);
+    EXPECT_LT(last.b, -3);
+}
+
 TEST(TriangularQFindAB, EndsWithinItsStepsWhereThereIsNoRoot)
 {
     double a = 0, b = 0;

@@ -1,7 +1,8 @@
 // Centring, reduction and standardisation of the columns of a table.
 //
-// The members differ in three things, on purpose: where the result goes, what a missing cell does, and what becomes of a
-// column without spread, whose standard deviation s is not above 0 (a missing or NaN one is not). m is the column's mean.
+// The members differ in three things, on purpose: where the result goes, what a missing cell does, and what becomes of
+// a column without spread, whose standard deviation s is not above 0 (a missing or NaN one is not). m is the column's
+// mean.
 //
 //     name          cell                                             column without spread
 //     Center        x - m for every cell, missing ones too           not looked at
@@ -9,11 +10,12 @@
 //     Standardize   (x - m) / s; a missing cell stays missing        0.0 throughout, missing cells too
 //     Apply         (x - m) / s for every cell, missing ones too     the missing value throughout
 //
-// m and s come from `M_MeanStDev` over the first n rows, without a mask: missing cells (equality test) and rows of weight 0
-// do not enter, and a column without rows has a missing m and s. `sample` and `freqWeights` are its divisor options: -1
-// and -1 for `freqWeights` unless it is an argument; 0 and 0 in the members that only centre. A plain name gives its
-// result in a table Z (`matCheck`, n by p), one with a trailing digit changes X in place; 3 hands the statistics back too
-// (`matCheck`, p by 1). W takes row weights. The SPV forms take an array of column tables. Nothing is reported.
+// m and s come from `M_MeanStDev` over the first n rows, without a mask: missing cells (equality test) and rows of
+// weight 0 do not enter, and a column without rows has a missing m and s. `sample` and `freqWeights` are its divisor
+// options: -1 and -1 for `freqWeights` unless it is an argument; 0 and 0 in the members that only centre. A plain name
+// gives its result in a table Z (`matCheck`, n by p), one with a trailing digit changes X in place; 3 hands the
+// statistics back too (`matCheck`, p by 1). W takes row weights. The SPV forms take an array of column tables. Nothing
+// is reported.
 #pragma once
 
 #include "../frame/api.h"
@@ -53,8 +55,9 @@ VECMAT_API void M_StandardizeW3SPV(matrix** X, int n, int p, matrix* w, matrix*&
 /// Applies the means and deviations given, p cells each, in place.
 VECMAT_API void M_StandardizeApply2(matrix* X, int n, int p, matrix* mean, matrix* stdev);
 
-/// Centres (`M_Center2`) or, with `reduce` exactly -1, standardises (`M_Standardize2`) the rows of each group by themselves, in
-/// place. A row belongs to group k, from 1 to `nGroups`, where its cell of `g` equals k exactly; other rows stay.
+/// Centres (`M_Center2`) or, with `reduce` exactly -1, standardises (`M_Standardize2`) the rows of each group by
+/// themselves, in place. A row belongs to group k, from 1 to `nGroups`, where its cell of `g` equals k exactly; other
+/// rows stay.
 VECMAT_API void M_StandardizeByGroup(matrix* X, int n, int p, matrix* g, int nGroups, short reduce, short sample);
 
 // ---- flat forms: X and Z have n by p elements, w n, mean and stdev p ------------------------------------------------

@@ -6,9 +6,9 @@
 // Only the first n cells of a vector are read; a cell beyond the table reads -1.0 and takes part as that number. A mask
 // holds n entries: 0 keeps the row, anything else drops it; a null mask keeps every row. Weights have n cells, at or
 // above 0, and are used as they are. p is a fraction and is not checked: beyond 0 and 1 the position lies outside the
-// data and the reads give -1.0. Where no one sees the sorted vector, the elements asked for are selected from a copy; the
-// step rule takes an order, and the weights in it. "Missing" is the test for exactly the missing value. Where NaN are among the values the
-// result is one of them or lies between two, and nothing more is promised.
+// data and the reads give -1.0. Where no one sees the sorted vector, the elements asked for are selected from a copy;
+// the step rule takes an order, and the weights in it. "Missing" is the test for exactly the missing value. Where NaN
+// are among the values the result is one of them or lies between two, and nothing more is promised.
 #pragma once
 
 #include "../frame/api.h"

@@ -1,11 +1,6 @@
 #include "../frame/handles.h"
-#include "../frame/numbers.h"
-#include "../missing/missing_masks.h"
+#include "masked_columns.h"
 #include "rescaling.h"
-
-#include <algorithm>
-#include <cstddef>
-#include <vector>
 
 using namespace vecmat;
 
@@ -19,10 +14,8 @@ void VB_M_Normalize(double* X, int n, int p, double* norms, short* mask, double*
 
 void VB_M_NormalizeMatrix(double* X, int n, int p, double* Y, int nY, double* V, int nV)
 {
-    TableHandle table = viewed(X, n, p);
-    TableHandle first = viewed(Y, nY, p);
-    TableHandle second = viewed(V, nV, p);
-    M_NormalizeMatrix(table.reference(), n, p, first.reference(), nY, second.reference(), nV);
+    M_NormalizeMatrix(viewed(X, n, p).reference(), n, p, viewed(Y, nY, p).reference(), nY, viewed(V, nV, p).reference(),
+                      nV);
 }
 
 void VB_V_Rescale(double* v, int n, double low, double high, short* mask, double* out)
@@ -38,15 +31,8 @@ void VB_V_Rescale2(double* x, int n, double low, double high, short* mask)
 
 void VB_M_RescaleByVect(double* X, int n, int p, double low, double high, short* a, double* Z)
 {
-    const std::size_t rows = countOf(n);
-    std::vector<short> mask(rows);
-    std::vector<double> column(rows);
-    for (std::size_t j = 0; j < countOf(p); ++j) {
-        std::copy_n(X + rows * j, rows, column.begin());
-        VB_V_GetMissingDbl(column.data(), n, a, mask.data());
-        VB_V_Rescale2(column.data(), n, low, high, mask.data());
-        std::copy_n(column.begin(), rows, Z + rows * j);
-    }
+    transformMaskedColumns(X, n, p, a, Z,
+                           [=](double* column, short* mask) { VB_V_Rescale2(column, n, low, high, mask); });
 }
 
 void VB_M_RescaleByVect2(double* X, int n, int p, double low, double high, short* a)

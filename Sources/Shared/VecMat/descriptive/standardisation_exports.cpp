@@ -1,11 +1,6 @@
 #include "../frame/handles.h"
-#include "../frame/numbers.h"
-#include "../missing/missing_masks.h"
+#include "masked_columns.h"
 #include "standardisation.h"
-
-#include <algorithm>
-#include <cstddef>
-#include <vector>
 
 using namespace vecmat;
 
@@ -43,10 +38,8 @@ void VB_M_StandardizeKnownMeansStDev(double* X, int n, int p, double* mean, doub
 
 void VB_M_StandardizeMatrix(double* X, int n, int p, double* Y, int nY, double* V, int nV)
 {
-    TableHandle table = viewed(X, n, p);
-    TableHandle first = viewed(Y, nY, p);
-    TableHandle second = viewed(V, nV, p);
-    M_StandardizeMatrix(table.reference(), n, p, first.reference(), nY, second.reference(), nV);
+    M_StandardizeMatrix(viewed(X, n, p).reference(), n, p, viewed(Y, nY, p).reference(), nY,
+                        viewed(V, nV, p).reference(), nV);
 }
 
 void Cpp_M_SubstractFirstCol2(double* X, int n, int p)
@@ -70,19 +63,11 @@ void VB_V_Standardize2(double* x, int n, short* mask, double* w, short sample)
 
 void VB_M_StandardizeByVect(double* X, int n, int p, short* a, double* w, short sample, double* Z)
 {
-    const std::size_t rows = countOf(n);
-    std::vector<short> mask(rows);
-    std::vector<double> column(rows);
-    for (std::size_t j = 0; j < countOf(p); ++j) {
-        std::copy_n(X + rows * j, rows, column.begin());
-        VB_V_GetMissingDbl(column.data(), n, a, mask.data());
-        VB_V_Standardize2(column.data(), n, mask.data(), w, sample);
-        std::copy_n(column.begin(), rows, Z + rows * j);
-    }
+    transformMaskedColumns(X, n, p, a, Z,
+                           [=](double* column, short* mask) { VB_V_Standardize2(column, n, mask, w, sample); });
 }
 
 void VB_M_StandardizeByVect2(double* X, int n, int p, short* a, double* w, short sample)
 {
-    // Each column is complete before it goes back, and no later column reads it.
     VB_M_StandardizeByVect(X, n, p, a, w, sample, X);
 }
