@@ -118,13 +118,14 @@ TEST(TriangularQFindAB, StartsAgainFromTheNextMultipleAndSharesTheSteps)
     EXPECT_EQ(expectSame({2, 4, 7, 0.1, 0.85}).lastMultiple, 5); // at once
     EXPECT_EQ(expectSame({5, 5, 8, 0.15, 0.8}).lastMultiple, 5); // the mode at the first quantile
     EXPECT_EQ(expectSame({2, 5, 5, 0.15, 0.6}).lastMultiple, 5); // and at the second
-    EXPECT_EQ(expectSame({-4.3, -3, -0.6, 0.5, 0.85}).lastMultiple, 6);
+    // Probabilities in the wrong order, for which starts end below the mode.
+    EXPECT_EQ(expectSame({-2, -1.25, 3.25, 0.1875, 0.125}).lastMultiple, 6);
     EXPECT_EQ(expectSame({-1.1, -1, 0.2, 0.7, 0.3}).lastMultiple, 13);
-    // Every start ends below the mode: the 500 steps are those of all of them.
-    const Found last = expectSame({-3.2, -3, -2.8, 0.6, 0.3});
+    // Every one of them: the 500 steps are those of all of them.
+    const Found last = expectSame({-2.2, -2, -2, 0.1, 0.05});
     EXPECT_EQ(last.steps, 501);
     EXPECT_GT(last.lastMultiple, 20);
-    EXPECT_LT(last.b, -3);
+    EXPECT_NEAR(last.b, -21.45, 0.01); // on its way
 }
 
 TEST(TriangularQFindAB, EndsWithinItsStepsWhereThereIsNoRoot)
