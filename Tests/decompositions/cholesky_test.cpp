@@ -170,6 +170,13 @@ TEST(M_CholDecompCleaned, FactorsWhatTheMaskRetains)
     EXPECT_THAT(retainedFactorOf(a, 3, {1, 1, 1}).l, SameBits(std::vector<double>(9, 77.0)));
 }
 
+TEST(M_CholDecompCleaned, DropsWhatTheMaskMarksByAnyNumberAboveZero)
+{
+    const Owned<matrix> l = filled(2, 2, 77.0);
+    EXPECT_EQ(M_CholDecompCleaned(byRows({{-1, 1}, {1, 4}}), 2, column({0.5, 0}), l), 0);
+    EXPECT_THAT(cellsOf(l), SameBits({77, 0, 77, 2}));
+}
+
 TEST(M_CholDecompCleaned, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(784);

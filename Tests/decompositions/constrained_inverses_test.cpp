@@ -124,6 +124,21 @@ TEST(CleanConstraintsAndInvert, MayWriteToItsInput)
     EXPECT_THAT(cellsOf(a), SameBits({0.5, 9, 0, 0, 9, 0, 0, 9, 0.25}));
 }
 
+TEST(CleanConstraintsAndInvert, TakesAnyNumberAboveZeroForAConstraint)
+{
+    const Owned<matrix> a = byRows({{2, 1}, {1, 4}});
+    for (const double above : {5e-324, 0.5, 1e300}) {
+        const Owned<matrix> mask = column({above, -0.0});
+        Owned<matrix> out = filled(2, 2, 77.0);
+        EXPECT_EQ(cCleanConstraintsAndInvert(2, mask, a, out), 0);
+        EXPECT_THAT(cellsOf(out), SameBits({77, 0, 77, 0.25})) << above;
+        EXPECT_EQ(cCleanConstraintsAndInvertTriang(2, mask, a, -1, out), 0);
+        EXPECT_THAT(cellsOf(out), SameBits({77, 0, 77, 0.25})) << above;
+        short status = 7;
+        EXPECT_THAT(M_DeterminantCleaned(a, 2, mask, &status), SameBits(4.0)) << above;
+    }
+}
+
 TEST(CleanConstraintsAndInvert, IsSafeForAMaskThatIsNotOne)
 {
     // An entry below 0 counts in the order of the block, whose row stays 0.0: singular.

@@ -189,6 +189,21 @@ TEST(InverseSideBySide, OfATriangleHasTheBitsOfThePlainSteps)
             }
 }
 
+TEST(InverseSideBySide, OfATriangleShowsTheOrderOfTheResultsInATableWhoseRowsRunOver)
+{
+    RandomData data(1220);
+    SCOPED_TRACE(data);
+    const int n = 40;
+    const Owned<matrix> a = table(n, n, data.uniforms(squared(n), 0.5, 1.5));
+    for (const bool lower : {true, false}) {
+        Owned<matrix> out = filled(n - 3, n + 5, 77.0);
+        const Owned<matrix> expected = filled(n - 3, n + 5, 77.0);
+        EXPECT_EQ(M_InverseTriang(a, n, lower ? -1 : 0, out, 0.0), 0);
+        EXPECT_EQ(referenceTriangularInverse(*a, n, lower, *expected, 0.0), 0);
+        EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected))) << lower;
+    }
+}
+
 TEST(InverseSideBySide, OfATriangleOverItselfShowsTheOrderOfTheResults)
 {
     RandomData data(1219);

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace vecmat::test {
@@ -179,38 +180,65 @@ TEST(SVDecompWorkspace, WorksOnTheCornersOfLargerTables)
 
 // ---- tables that lie over one another: what comes out is what the steps in place make of it ----
 
-TEST(SVDecompWorkspace, TakesLeftVectorsOverTheTableAsTheStepsInPlaceDo)
+/// Where the results begin in a memory that the table is at the start of.
+struct Places
+{
+    int s;
+    int u;
+    int v;
+};
+
+constexpr int overlappingOrder = 14;
+constexpr int overlappingCells = overlappingOrder * overlappingOrder;
+
+/// `decompose(x, s, u, v)` on views of `memory`; returns what it does.
+template <class Decompose>
+int decomposedInMemory(std::vector<double>& memory, const Places& places, Decompose decompose)
+{
+    const auto at = [&memory](int place, int cols) {
+        return matrix(overlappingOrder, cols, memory.data() + place, true);
+    };
+    matrix x = at(0, overlappingOrder);
+    matrix s = at(places.s, 1);
+    matrix u = at(places.u, overlappingOrder);
+    matrix v = at(places.v, overlappingOrder);
+    return decompose(&x, &s, &u, &v);
+}
+
+TEST(SVDecompWorkspace, TakesTablesThatLieOverOneAnotherAsTheStepsInPlaceDo)
 {
     RandomData data(8225);
     SCOPED_TRACE(data);
-    const int n = 20;
-    const int p = 12;
-    const std::vector<double> cells = data.normals(cellCount(n, p));
-    const auto run = [=](auto decompose) {
-        const Owned<matrix> both = table(n, p, cells);
-        Svd result;
-        const Owned<matrix> s = filled(p, 1, 0.0);
-        const Owned<matrix> v = filled(p, p, 0.0);
-        decompose(both.get(), s.get(), v.get(), result.info);
-        result.s = cellsOf(s);
-        result.u = cellsOf(both);
-        result.v = cellsOf(v);
-        return result;
-    };
-    const Svd expected = run([=](matrix* both, matrix* s, matrix* v, int& info) {
-        DirectVectors<TableStore> left(TableStore(both), n);
-        DirectVectors<TableStore> right(TableStore(v), p);
-        info = SvdIteration<TableStore, DirectVectors<TableStore>>(TableStore(both), n, p, s, left, right,
-                                                                   SingularVectors(21, n, p))
-                   .run();
-        std::copy(cells.begin(), cells.end(), both->X);
-    });
-    const Svd actual =
-        run([=](matrix* both, matrix* s, matrix* v, int& info) { M_SVDecomp(both, n, p, s, both, v, 21, &info); });
-    EXPECT_EQ(actual.info, expected.info);
-    EXPECT_THAT(actual.s, SameBits(expected.s));
-    EXPECT_THAT(actual.u, SameBits(expected.u));
-    EXPECT_THAT(actual.v, SameBits(expected.v));
+    constexpr int n = overlappingOrder;
+    constexpr int first = overlappingCells;
+    constexpr int second = 2 * overlappingCells;
+    constexpr int third = 3 * overlappingCells;
+    for (const Places& places :
+         {Places{third, 0, second}, Places{third, first, 5}, Places{3, first, second}, Places{third, first, first + 20},
+          Places{first + 3, first, second}, Places{second + 30, first, second}})
+    {
+        SCOPED_TRACE(testing::Message() << places.s << ' ' << places.u << ' ' << places.v);
+        std::vector<double> memory = data.normals(4 * overlappingCells);
+        std::vector<double> expected = memory;
+        const int info = decomposedInMemory(expected, places, [](matrix* x, matrix* s, matrix* u, matrix* v) {
+            const std::vector<double> saved = cellsOf<matrix>(x);
+            DirectVectors<TableStore> left(TableStore(u), n);
+            DirectVectors<TableStore> right(TableStore(v), n);
+            const int result = SvdIteration<TableStore, DirectVectors<TableStore>>(TableStore(x), n, n, s, left, right,
+                                                                                   SingularVectors(21, n, n))
+                                   .run();
+            std::copy(saved.begin(), saved.end(), x->X);
+            return result;
+        });
+        EXPECT_EQ(decomposedInMemory(memory, places,
+                                     [](matrix* x, matrix* s, matrix* u, matrix* v) {
+                                         int result = 77;
+                                         M_SVDecomp(x, n, n, s, u, v, 21, &result);
+                                         return result;
+                                     }),
+                  info);
+        EXPECT_THAT(memory, SameBits(expected));
+    }
 }
 
 TEST(SVDecompWorkspace, TakesColumnsThatRunOverIntoTheNextAsTheStepsInPlaceDo)
@@ -219,17 +247,19 @@ TEST(SVDecompWorkspace, TakesColumnsThatRunOverIntoTheNextAsTheStepsInPlaceDo)
     SCOPED_TRACE(data);
     const int n = 20;
     const int p = 12;
-    const int strideU = 17;
-    const int colsU = 15; // so that all of the rows lie inside
-    const std::vector<double> cells = data.normals(cellCount(n, p));
-    const ReferenceSvd expected =
-        SvdBySteps(cells, n, p, 21, CheckedCells(strideU, colsU, leftover), CheckedCells(p, p, leftover), {}).run();
-    const Owned<matrix> s = filled(p, 1, 0.0);
-    const Owned<matrix> u = filled(strideU, colsU, leftover);
-    const Owned<matrix> v = filled(p, p, leftover);
-    int info = 77;
-    M_SVDecomp(table(n, p, cells), n, p, s, u, v, 21, &info);
-    expectSame({info, cellsOf(s), cellsOf(u), cellsOf(v)}, expected);
+    // With columns enough for all of the rows to lie inside.
+    for (const auto& [strideU, strideV] : {std::pair{17, p}, {n, 11}}) {
+        const CheckedCells inU(strideU, 15, leftover);
+        const CheckedCells inV(strideV, 14, leftover);
+        const std::vector<double> cells = data.normals(cellCount(n, p));
+        const ReferenceSvd expected = SvdBySteps(cells, n, p, 21, inU, inV, {}).run();
+        const Owned<matrix> s = filled(p, 1, 0.0);
+        const Owned<matrix> u = filled(strideU, 15, leftover);
+        const Owned<matrix> v = filled(strideV, 14, leftover);
+        int info = 77;
+        M_SVDecomp(table(n, p, cells), n, p, s, u, v, 21, &info);
+        expectSame({info, cellsOf(s), cellsOf(u), cellsOf(v)}, expected);
+    }
 }
 
 // ---- memory ----

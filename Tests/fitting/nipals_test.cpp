@@ -102,6 +102,15 @@ TEST(NIPALS, TheShareOfMissingCellsOfTheTableMayBeReached)
     expectUnchanged(byRows({{M, 5}, {2, M}, {4, 6}, {5, 1}}), ones, 1, -6, {1.0, 0.2499});
 }
 
+TEST(NIPALS, TheShareOfTheTableIsMultipliedByTheRowsAndThenByTheColumns)
+{
+    // 7 (1/3) 3 is rounded below 7, 21 (1/3) is not.
+    static_assert(7 * (1.0 / 3) * 3 < 7 && 7 * 3 * (1.0 / 3) == 7);
+    const auto ones = column({1, 1, 1, 1, 1, 1, 1});
+    expectUnchanged(byRows({{M, 5, 3}, {2, M, 1}, {4, 6, M}, {M, 1, 4}, {3, M, 2}, {6, 2, M}, {M, 4, 5}}), ones, 1, -6,
+                    {1.0, 1.0 / 3});
+}
+
 TEST(NIPALS, AShareThatIsNoNumberIsNoLimit)
 {
     auto X = byRows({{M, 5}, {2, 4}, {4, 6}, {5, 1}});
