@@ -338,6 +338,11 @@ TEST(SProject, ComputesOnWithZerosWhereItsStepsFail)
     EXPECT_EQ(cellsOf(out), std::vector<double>(4, 0.0)) << "no eigenvalues";
     M_SProject(byRows({{1, 0}, {0, 1}}), 2, byRows({{-1, 0}, {0, 1}}), out);
     EXPECT_EQ(cellsOf(out), std::vector<double>(4, 0.0)) << "no root of the weights";
+    // A root up to 1e-8 has no inverse: the tolerance selects the larger threshold.
+    M_SProject(identityTable(2), 2, byRows({{1, 0}, {0, 1e-18}}), out);
+    EXPECT_EQ(cellsOf(out), std::vector<double>(4, 0.0));
+    M_SProject(identityTable(2), 2, byRows({{1, 0}, {0, 1e-14}}), out);
+    EXPECT_NEAR(out->vbget(2, 2), 1.0, 1e-15);
 }
 
 TEST(UProject, CopiesTheBlockAndSetsTheDiagonal)

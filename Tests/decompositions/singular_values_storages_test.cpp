@@ -146,7 +146,7 @@ TEST(FlatSVDecompOfColumns, WritesTheCallersColumns)
     RandomData data(8211);
     SCOPED_TRACE(data);
     for (const auto& [n, p] : {std::pair{4, 3}, {3, 4}, {2, 2}})
-        for (const int job : {0, 11, 21, -1}) {
+        for (const int job : {0, 11, 21, -1, -11}) {
             const std::vector<double> cells = data.normals(cellCount(n, p));
             const int cols = job < 10 ? 1 : leftColumns(n, p, job);
             const int rightCols = job % 10 == 0 ? 1 : p;
