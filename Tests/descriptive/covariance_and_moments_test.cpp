@@ -256,6 +256,40 @@ TEST(M_CovCorrAndMeanStDevVar, BehindTheTableItReadsMinusOneAndWritesNothing)
     EXPECT_THAT(cellsOf(X), SameBits({-1, 1}));
 }
 
+TEST(M_CovCorrAndMeanStDevVar, WithMoreRowsThanTheTableAChangedColumnReachesTheNext)
+{
+    RandomData random(652);
+    SCOPED_TRACE(random);
+    const int rows = 40, p = 6;
+    for (const int n : {42, rows}) {
+        Observations data = observations({random.normals(static_cast<std::size_t>(n))});
+        data.w = random.weights(data.w.size(), 0.1);
+        const std::vector<double> cells = random.normals(static_cast<std::size_t>(rows * p));
+        // The plain order: the pairs of a column, then its own cells.
+        Owned<matrix> X = table(rows, p, cells);
+        const auto columnOf = [&](int j) {
+            std::vector<double> column;
+            for (int i = 1; i <= n; ++i)
+                column.push_back(X->vbget(i, j + 1));
+            return column;
+        };
+        std::vector<double> covariances(at(0, p, p));
+        for (int j = 0; j < p; ++j) {
+            for (int k = j; k < p; ++k) {
+                const PlainPair pair = plainPair(columnOf(j), columnOf(k), data.mask, data.w, Factor::magnitude);
+                covariances[at(j, k, p)] = covariances[at(k, j, p)] = pair.Q / pair.divisor({0, 0});
+            }
+            const double mean = plainPair(columnOf(j), columnOf(j), data.mask, data.w, Factor::magnitude).meanX;
+            for (int i = 1; i <= n; ++i)
+                X->vbset(i, j + 1, X->vbget(i, j + 1) - mean);
+        }
+        Owned<matrix> given = table(rows, p, cells), C, mean, stdev, var;
+        M_CovCorrAndMeanStDevVar(given, n, p, C, mean, stdev, var, 0, data.mask.data(), column(data.w), 0, 0, -1, 0, 0);
+        EXPECT_THAT(cellsOf(C), SameBits(covariances)) << n;
+        EXPECT_THAT(cellsOf(given), SameBits(cellsOf(X))) << n;
+    }
+}
+
 TEST(VB_M_CovCorrAndMeanStDevVar, HandsTheTableBackOnlyWhenStandardised)
 {
     RandomData random(653);

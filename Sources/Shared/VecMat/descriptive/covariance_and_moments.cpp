@@ -36,10 +36,20 @@ void standardiseColumn(Cells x, int j, double mean, double variance, Standardisa
     }
 }
 
+/// Rows behind the end of a column are rows of the next: a column that changes then changes that one, too, before its
+/// own pairs are worked out.
+Reading readingOf(matrix* X, int n, int p, Standardisation standardisation)
+{
+    if (standardisation == Standardisation::none || n < 1 || p < 2)
+        return Reading::ahead;
+    return n > X->nRows ? Reading::inTurn : Reading::ahead;
+}
+
 template <class Out>
 int covCorrAndMoments(matrix* X, int p, Out C, matrix*& mean, matrix*& stdev, matrix*& var, short corr, matrix* w,
-                      const PairOptions& options, Standardisation standardisation, short zeroForMissing)
+                      PairOptions options, Standardisation standardisation, short zeroForMissing)
 {
+    options.reading = readingOf(X, options.n, p, standardisation);
     matrix::matCheck(mean, p, 1, 0.0);
     matrix::matCheck(stdev, p, 1, 0.0);
     matrix::matCheck(var, p, 1, 0.0);

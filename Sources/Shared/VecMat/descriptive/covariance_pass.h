@@ -18,11 +18,12 @@ template <RowFactor form>
 class CompleteCovariances
 {
 public:
-    /// Computes nothing where a cell is missing, memory is short or the table small: `operator bool` tells.
+    /// Computes nothing where a cell is missing, memory is short, the table small, or its cells are to be read in turn:
+    /// `operator bool` tells.
     template <class X, class Weight>
     CompleteCovariances(X x, int p, Weight weight, const PairOptions& options)
     {
-        if (!ColumnPanels::payFor(options.n, p))
+        if (options.reading == Reading::inTurn || !ColumnPanels::payFor(options.n, p))
             return;
         panels_.emplace(options.n, p);
         means_.emplace(countOf(panels_->paddedColumns()));

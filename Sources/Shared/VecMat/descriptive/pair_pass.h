@@ -115,6 +115,12 @@ using RunningCorrelation = RunningPair<CorrelationSums>;
 
 // ---- the pass -------------------------------------------------------------------------------------------------------
 
+/// When the cells of a column are read.
+enum class Reading {
+    ahead,  ///< at any time, also all at once before the first pair
+    inTurn, ///< for each pair anew: a column may have changed since the pairs before
+};
+
 /// Which rows a pass visits, and what its sums are divided by.
 struct PairOptions
 {
@@ -122,6 +128,7 @@ struct PairOptions
     const short* mask;
     short sample;
     short freqWeights;
+    Reading reading = Reading::ahead;
 
     /// A sum over its divisor, whatever the divisor, by the rules of floating point.
     double quotient(double sum, const PairMeans& pair) const
@@ -138,7 +145,7 @@ public:
     PairPass(X x, Y y, int q, Weight weight, const PairOptions& options)
         : x_(x), y_(y), weight_(weight), options_(options)
     {
-        if (q >= fewestColumns && options.n >= fewestRows) {
+        if (options.reading == Reading::ahead && q >= fewestColumns && options.n >= fewestRows) {
             inStrips_.reset(new (std::nothrow) Strips(options.n, q, Mask(options.mask)));
             if (inStrips_ && inStrips_->hasMemory())
                 packStrips(q);
