@@ -207,6 +207,15 @@ TEST(M_Sweep, HasTheBitsOfTheStepsForAnyNumbers)
             }
 }
 
+TEST(M_Sweep, StaysInsideForAnyNumberOfThePivot)
+{
+    // All of them lie outside: c = -(-1.0), and each element gains -1.0 times that.
+    for (const int k : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), 70000, -70000}) {
+        EXPECT_THAT(swept({4, 2, 6}, 2, k), SameBits({3, 1, 5})) << k;
+        EXPECT_THAT(swept({4, 2, 6}, -1, k), SameBits({4, 2, 6})) << k;
+    }
+}
+
 TEST(M_Sweep, WorksOnTheLeadingOrderOfALargerTable)
 {
     EXPECT_THAT(swept({4, 2, 6, 77, 77, 77}, 2, 1), SameBits({-0.25, 0.5, 5, 77, 77, 77}));

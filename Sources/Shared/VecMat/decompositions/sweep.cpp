@@ -78,7 +78,8 @@ int M_Sweep(matrix* a, int n, int k)
     const int pivot = zeroBased(k);
     const VectorCells<matrix> checked = linear(a);
     const int order = std::max(n, k);
-    const bool inside = pivot >= 0 && order <= largestPlainOrder && checked.covers(at(order - 1, order - 1) + 1);
+    // Of the number itself: the lowest one wraps to a pivot above 0.
+    const bool inside = k >= 1 && order <= largestPlainOrder && checked.covers(at(order - 1, order - 1) + 1);
     onBlocks([=](auto packed) { sweep(packed, n, pivot); }, Block<VectorCells<matrix>>{checked, inside});
     return 0;
 }
