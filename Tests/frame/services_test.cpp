@@ -225,6 +225,14 @@ TEST(ColumnLabel, OfThreeCharactersHasAZeroDigitInTheMiddle)
     EXPECT_EQ(labelAt(17575), L"YYZ");
 }
 
+TEST(ColumnLabel, GrowsByAPlaceAtEachPowerOf26)
+{
+    EXPECT_EQ(labelAt(17576), L"A@@A");
+    EXPECT_EQ(labelAt(456975), L"YYYZ");
+    EXPECT_EQ(labelAt(456976), L"A@@@A");
+    EXPECT_EQ(labelAt(308915776), L"A@@@@@A");
+}
+
 TEST(ColumnLabel, IsDefinedUpToTheHighestCode)
 {
     EXPECT_EQ(ChrSp(highestInt).size(), 7u);
