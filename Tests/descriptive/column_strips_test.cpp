@@ -118,6 +118,33 @@ TEST(ColumnStrips, MeansAndDeviationsSkipRowsOfNoWeight)
     });
 }
 
+// Rows that follow each other are read where they stand, others from a copy: the first block of these has only some.
+TEST(ColumnStrips, ColumnsThatStandApartWithAndWithoutAMask)
+{
+    forTables([](Observations data) {
+        std::vector<Owned<matrix>> columns;
+        std::vector<matrix*> X;
+        for (int j = 0; j < data.p; ++j)
+            X.push_back(columns.emplace_back(column(data.column(j))));
+        for (const bool masked : {false, true}) {
+            for (std::size_t i = 0; i < data.mask.size(); ++i)
+                data.mask[i] = masked && i < 100 && i % 3 == 0 ? 1 : 0;
+            std::vector<double> means, variances;
+            for (int j = 0; j < data.p; ++j) {
+                const PlainMoments moments = plainMoments(data.column(j), data.mask, data.w, Zeros::counted);
+                const double divisor = moments.W - moments.W / moments.m;
+                means.push_back(moments.mean);
+                variances.push_back(divisor > 0.0 ? moments.squares / divisor : M);
+            }
+            Owned<matrix> mean, stdev, var;
+            M_MeanStDevVarSPV(X.data(), data.n, data.p, mean, stdev, var, masked ? data.mask.data() : nullptr,
+                              column(data.w), -1, 0);
+            EXPECT_THAT(cellsOf(mean), SameBitsAsAll(means));
+            EXPECT_THAT(cellsOf(var), SameBitsAsAll(variances));
+        }
+    });
+}
+
 TEST(ColumnStrips, MeansAlone)
 {
     forTables([](Observations data) {

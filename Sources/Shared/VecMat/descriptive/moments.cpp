@@ -2,7 +2,7 @@
 
 #include "../frame/cells.h"
 #include "../frame/masks.h"
-#include "strip_moments.h"
+#include "column_moments.h"
 
 #include <memory>
 

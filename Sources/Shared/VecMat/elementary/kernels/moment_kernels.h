@@ -14,14 +14,15 @@ namespace vecmat {
 struct MomentKernels
 {
     static constexpr int lanes = 8;
+    static constexpr int mostColumns = 16;
 
-    /// The state of one strip. `rows` counts as a double does: exactly.
+    /// The state of up to so many columns. `rows` counts as a double does: exactly.
     struct Moments
     {
-        double weights[lanes];
-        double rows[lanes];
-        double mean[lanes];
-        double squares[lanes];
+        double weights[mostColumns];
+        double rows[mostColumns];
+        double mean[mostColumns];
+        double squares[mostColumns];
     };
 
     /// The state of the pairs of one column x with the columns y of a strip.
@@ -36,11 +37,13 @@ struct MomentKernels
         double squaresY[lanes];
     };
 
-    /// In each lane whose cell x is not the missing value: rows = rows + 1, W = W + w, and unless w is 0
+    /// For each of `count` rows, in each of `columns` columns whose cell x is not the missing value: rows = rows + 1,
+    /// W = W + w, and unless w is 0
     ///     d = x - mean     squares = squares + d d (w - w w / W)     mean = mean + d w / W
-    /// `strips` (1 or 2) strips lie one behind the other, `strip` doubles apart.
-    void (*addMoments)(int count, const double* cells, std::ptrdiff_t strip, int strips, const double* w,
-                       Moments* moments);
+    /// The cells of column c stand one behind the other from cells[c].
+    void (*addMoments)(int count, int columns, const double* const* cells, const double* w, Moments* moments);
+    /// The same without the squares.
+    void (*addMeans)(int count, int columns, const double* const* cells, const double* w, Moments* moments);
 
     /// For rows without missing cells and of weights that are not 0, in a panel that has as many columns as a tile
     /// rows, the cells of one row next to each other: writes d = x - mean over the cells, and updates

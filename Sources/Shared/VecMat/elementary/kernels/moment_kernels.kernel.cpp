@@ -19,56 +19,85 @@ Lanes select(Where where, Lanes value, Lanes otherwise)
 
 // ---- means and variances --------------------------------------------------------------------------------------------
 
-/// The running moments of the lanes of one vector.
-struct MomentLanes
-{
-    Lanes weights;
-    Lanes rows;
-    Lanes mean;
-    Lanes squares;
+/// A row waits for the division of the row before: as many columns as possible share the wait. Vectors of four wait less
+/// for it than longer ones, and a divider takes no longer for two of them than for one of eight.
+#if defined(__AVX__)
+constexpr int groupWidth = 4;
+#else
+constexpr int groupWidth = 2;
+#endif
+using Group [[gnu::vector_size(groupWidth * sizeof(double))]] = double;
 
-    void add(Lanes x, double w)
+inline Group rowOf(const double* const* cells, int i)
+{
+#if defined(__AVX__)
+    return Group{cells[0][i], cells[1][i], cells[2][i], cells[3][i]};
+#else
+    return Group{cells[0][i], cells[1][i]};
+#endif
+}
+
+enum class Sums { mean, meanAndSquares };
+
+/// The running moments of the columns of one group.
+template <Sums sums>
+struct GroupMoments
+{
+    Group weights;
+    Group rows;
+    Group mean;
+    Group squares;
+
+    void add(Group x, double w)
     {
-        const auto present = x != inEachLane(missingValue);
-        weights = select(present, weights + w, weights);
-        rows = select(present, rows + 1.0, rows);
+        const auto present = x != missingValue - Group{};
+        weights = present ? weights + w : weights;
+        rows = present ? rows + 1.0 : rows;
         if (w == 0.0)
             return;
-        const Lanes d = x - mean;
-        squares = select(present, squares + d * d * (w - w * w / weights), squares);
-        mean = select(present, mean + d * w / weights, mean);
+        const Group d = x - mean;
+        if constexpr (sums == Sums::meanAndSquares)
+            squares = present ? squares + d * d * (w - w * w / weights) : squares;
+        mean = present ? mean + d * w / weights : mean;
     }
 };
 
-template <int strips>
-void addMomentsOf(int count, const double* cells, std::ptrdiff_t strip, const double* w,
-                  MomentKernels::Moments* moments)
+template <Sums sums, int groups>
+void addInGroups(int count, int columns, const double* const* cells, const double* w, MomentKernels::Moments* moments)
 {
-    MomentLanes state[strips][vectors];
-    for (int s = 0; s < strips; ++s)
-        for (int v = 0; v < vectors; ++v)
-            state[s][v] = {load(moments[s].weights + v * laneCount), load(moments[s].rows + v * laneCount),
-                           load(moments[s].mean + v * laneCount), load(moments[s].squares + v * laneCount)};
+    // The places behind the last column see its cells once more.
+    const double* eachPlace[groups * groupWidth];
+    for (int c = 0; c < groups * groupWidth; ++c)
+        eachPlace[c] = cells[c < columns ? c : columns - 1];
+    GroupMoments<sums> state[groups];
+    const auto copy = [](auto& to, const auto& from) { __builtin_memcpy(&to, &from, sizeof(Group)); };
+    for (int g = 0; g < groups; ++g) {
+        copy(state[g].weights, moments->weights[g * groupWidth]);
+        copy(state[g].rows, moments->rows[g * groupWidth]);
+        copy(state[g].mean, moments->mean[g * groupWidth]);
+        copy(state[g].squares, moments->squares[g * groupWidth]);
+    }
     for (int i = 0; i < count; ++i)
-        for (int s = 0; s < strips; ++s)
-            for (int v = 0; v < vectors; ++v)
-                state[s][v].add(load(cells + s * strip + i * std::ptrdiff_t{lanes} + v * laneCount), w[i]);
-    for (int s = 0; s < strips; ++s)
-        for (int v = 0; v < vectors; ++v) {
-            store(moments[s].weights + v * laneCount, state[s][v].weights);
-            store(moments[s].rows + v * laneCount, state[s][v].rows);
-            store(moments[s].mean + v * laneCount, state[s][v].mean);
-            store(moments[s].squares + v * laneCount, state[s][v].squares);
-        }
+#pragma GCC unroll 8
+        for (int g = 0; g < groups; ++g)
+            state[g].add(rowOf(eachPlace + g * groupWidth, i), w[i]);
+    for (int g = 0; g < groups; ++g) {
+        copy(moments->weights[g * groupWidth], state[g].weights);
+        copy(moments->rows[g * groupWidth], state[g].rows);
+        copy(moments->mean[g * groupWidth], state[g].mean);
+        copy(moments->squares[g * groupWidth], state[g].squares);
+    }
 }
 
-void addMoments(int count, const double* cells, std::ptrdiff_t strip, int strips, const double* w,
-                MomentKernels::Moments* moments)
+/// Takes as few groups as hold all columns.
+template <Sums sums, int groups = MomentKernels::mostColumns / groupWidth>
+void add(int count, int columns, const double* const* cells, const double* w, MomentKernels::Moments* moments)
 {
-    if (strips == 2)
-        addMomentsOf<2>(count, cells, strip, w, moments);
-    else
-        addMomentsOf<1>(count, cells, strip, w, moments);
+    if constexpr (groups > 1) {
+        if (columns <= (groups - 1) * groupWidth)
+            return add<sums, groups - 1>(count, columns, cells, w, moments);
+    }
+    addInGroups<sums, groups>(count, columns, cells, w, moments);
 }
 
 // ---- deviations from the running means ------------------------------------------------------------------------------
@@ -180,6 +209,7 @@ void addPairs(int count, const double* x, const double* y, const double* w, Mome
 } // namespace
 
 const MomentKernels momentKernels = {
-    addMoments, deviations, scale, addPairs<Covariance>, addPairs<CovarianceOfMagnitude>, addPairs<Correlation>};
+    add<Sums::meanAndSquares>,       add<Sums::mean>,      deviations, scale, addPairs<Covariance>,
+    addPairs<CovarianceOfMagnitude>, addPairs<Correlation>};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
