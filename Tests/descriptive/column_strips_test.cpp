@@ -33,6 +33,8 @@ Observations observationsOf(RandomData& random, int n, int p, Cells kind)
 {
     Observations data = randomObservations(random, n, p);
     const auto count = data.cells.size();
+    if (random.seed() % 2 == 0) // without the negative ones
+        data.w = random.weights(data.w.size(), 0.15);
     if (kind == Cells::complete)
         data.cells = random.normals(count);
     if (kind == Cells::special)

@@ -1,7 +1,7 @@
-// Columns side by side for the kernels of running moments. Internal to the library.
+// Columns side by side for the kernels of pairs. Internal to the library.
 #pragma once
 
-#include "../elementary/kernels/moment_kernels.h"
+#include "../elementary/kernels/pair_kernels.h"
 #include "../elementary/kernels/scratch.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
@@ -33,12 +33,12 @@ private:
     int count_ = 0;
 };
 
-/// A copy of the cells of p columns in the rows selected, in strips of `MomentKernels::lanes` columns. The lanes behind
+/// A copy of the cells of p columns in the rows selected, in strips of `PairKernels::lanes` columns. The lanes behind
 /// the last column are missing.
 class ColumnStrips
 {
 public:
-    static constexpr int lanes = MomentKernels::lanes;
+    static constexpr int lanes = PairKernels::lanes;
 
     ColumnStrips(int rows, int p)
         : stripSize_(std::size_t{countOf(rows)} * lanes), count_((p + lanes - 1) / lanes),

@@ -52,10 +52,9 @@ struct CovarianceSums
 
     static auto kernel()
     {
-        return form == RowFactor::magnitude ? momentKernels().addCovariancesOfMagnitude
-                                            : momentKernels().addCovariances;
+        return form == RowFactor::magnitude ? pairKernels().addCovariancesOfMagnitude : pairKernels().addCovariances;
     }
-    void take(const MomentKernels::Pairs& pairs, int lane) { products = pairs.products[lane]; }
+    void take(const PairKernels::Pairs& pairs, int lane) { products = pairs.products[lane]; }
 };
 
 /// The cross products and the squares of both variables, over the same rows. The factor comes last here, so that the
@@ -74,8 +73,8 @@ struct CorrelationSums
         products += dx * dy * factor;
     }
 
-    static auto kernel() { return momentKernels().addCorrelations; }
-    void take(const MomentKernels::Pairs& pairs, int lane)
+    static auto kernel() { return pairKernels().addCorrelations; }
+    void take(const PairKernels::Pairs& pairs, int lane)
     {
         products = pairs.products[lane];
         squaresX = pairs.squaresX[lane];
@@ -97,7 +96,7 @@ struct RunningPair : PairMeans, Sums
         meanY += update::Weighted::mean(dy, w, weights);
     }
 
-    static RunningPair ofLane(const MomentKernels::Pairs& pairs, int lane)
+    static RunningPair ofLane(const PairKernels::Pairs& pairs, int lane)
     {
         RunningPair pair;
         pair.weights = pairs.weights[lane];
@@ -199,11 +198,14 @@ private:
         const int count = strips.rows.count();
         for (int k = 0; k < count; ++k)
             strips.x.data()[k] = x_.get(strips.rows[k], j);
-        for (int s = first / lanes; s * lanes < last; ++s) {
-            MomentKernels::Pairs pairs = {};
-            Sums::kernel()(count, strips.x.data(), strips.y.strip(s), strips.weights.data(), &pairs);
-            for (int k = std::max(first, s * lanes); k < std::min(last, (s + 1) * lanes); ++k)
-                store(k, Sums::ofLane(pairs, k % lanes));
+        constexpr int most = PairKernels::mostStrips;
+        for (int s = first / lanes; s * lanes < last; s += most) {
+            const int width = std::min(most, strips.y.count() - s);
+            PairKernels::Pairs pairs[most] = {};
+            Sums::kernel()(count, strips.x.data(), strips.y.strip(s), strips.y.size(), width, strips.weights.data(),
+                           pairs);
+            for (int k = std::max(first, s * lanes); k < std::min(last, (s + width) * lanes); ++k)
+                store(k, Sums::ofLane(pairs[k / lanes - s], k % lanes));
         }
     }
 

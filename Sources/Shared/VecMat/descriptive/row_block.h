@@ -27,8 +27,8 @@ struct RowBlock
     bool isUnbroken() const { return count > 0 && numbers[countOf(count) - 1] - numbers[0] == count - 1; }
 };
 
-/// The cells of up to `mostColumns` columns in the rows of a block: where these stand one behind the other in memory, the
-/// table's own, else copies.
+/// The cells of up to `mostColumns` columns in the rows of a block: the table's own where these stand one behind the
+/// other in memory, else copies.
 template <int mostColumns>
 class BlockColumns
 {

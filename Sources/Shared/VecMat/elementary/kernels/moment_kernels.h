@@ -1,8 +1,7 @@
 // Running moments of columns side by side: the kernel under means, variances and covariances.
 //
-// A strip holds the cells of `MomentKernels::lanes` columns row by row, the cells of one row next to each other. All
-// functions take the rows in their order, and each lane does for its column what the plain update does: it rounds after
-// each operation, in the order stated here, from left to right.
+// All functions take the rows in their order, and for each column they do what the plain update does: each operation is
+// rounded, in the order stated here, from left to right.
 #pragma once
 
 #include "instruction_set.h"
@@ -13,7 +12,6 @@ namespace vecmat {
 
 struct MomentKernels
 {
-    static constexpr int lanes = 8;
     static constexpr int mostColumns = 16;
 
     /// The state of up to so many columns. `rows` counts as a double does: exactly.
@@ -25,20 +23,8 @@ struct MomentKernels
         double squares[mostColumns];
     };
 
-    /// The state of the pairs of one column x with the columns y of a strip.
-    struct Pairs
-    {
-        double weights[lanes];
-        double rows[lanes];
-        double meanX[lanes];
-        double meanY[lanes];
-        double products[lanes];
-        double squaresX[lanes];
-        double squaresY[lanes];
-    };
-
-    /// For each of `count` rows, in each of `columns` columns whose cell x is not the missing value: rows = rows + 1,
-    /// W = W + w, and unless w is 0
+    /// For each of `count` rows, in each of `columns` columns whose cell x is not the missing value:
+    ///     rows = rows + 1     W = W + w     and unless w is 0
     ///     d = x - mean     squares = squares + d d (w - w w / W)     mean = mean + d w / W
     /// The cells of column c stand one behind the other from cells[c].
     void (*addMoments)(int count, int columns, const double* const* cells, const double* w, Moments* moments);
@@ -53,18 +39,6 @@ struct MomentKernels
     /// Copies as many columns of such a panel as a tile has, each cell times the factor of its row:
     ///     to = factor d
     void (*scale)(int count, const double* panel, const double* factors, double* to);
-
-    /// For each row where neither x nor the lane's y is the missing value:
-    ///     rows = rows + 1     W = W + w     and unless w is 0
-    ///     dx = x - meanX     dy = y - meanY     f = w - w w / W
-    ///     products = products + f dx dy
-    ///     meanX = meanX + dx w / W     meanY = meanY + dy w / W
-    void (*addCovariances)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
-    /// The same with |f|.
-    void (*addCovariancesOfMagnitude)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
-    /// The same, where the products come first:
-    ///     squaresX = squaresX + dx dx f     squaresY = squaresY + dy dy f     products = products + dx dy f
-    void (*addCorrelations)(int count, const double* x, const double* y, const double* w, Pairs* pairs);
 };
 
 namespace baseline {

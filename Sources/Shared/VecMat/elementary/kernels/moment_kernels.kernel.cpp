@@ -7,20 +7,10 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-constexpr int lanes = MomentKernels::lanes;
-constexpr int vectors = lanes / laneCount;
-
-/// `value` in the lanes that the comparison `where` holds in, else `otherwise`.
-template <class Where>
-Lanes select(Where where, Lanes value, Lanes otherwise)
-{
-    return where ? value : otherwise;
-}
-
 // ---- means and variances --------------------------------------------------------------------------------------------
 
-/// A row waits for the division of the row before: as many columns as possible share the wait. Vectors of four wait less
-/// for it than longer ones, and a divider takes no longer for two of them than for one of eight.
+/// A row waits for the division of the row before: as many columns as possible share the wait. Vectors of four wait
+/// less for it than longer ones, and a divider takes no longer for two of them than for one of eight.
 #if defined(__AVX__)
 constexpr int groupWidth = 4;
 #else
@@ -124,92 +114,8 @@ void scale(int count, const double* panel, const double* factors, double* to)
             store(to + c, factors[i] * load(panel + c));
 }
 
-// ---- pairs ----------------------------------------------------------------------------------------------------------
-
-struct PairLanes
-{
-    Lanes weights;
-    Lanes rows;
-    Lanes meanX;
-    Lanes meanY;
-    Lanes products;
-    Lanes squaresX;
-    Lanes squaresY;
-};
-
-struct Covariance
-{
-    template <class Present>
-    static void grow(PairLanes& sums, Present present, Lanes dx, Lanes dy, Lanes f)
-    {
-        sums.products = select(present, sums.products + f * dx * dy, sums.products);
-    }
-};
-
-struct CovarianceOfMagnitude
-{
-    template <class Present>
-    static void grow(PairLanes& sums, Present present, Lanes dx, Lanes dy, Lanes f)
-    {
-        Covariance::grow(sums, present, dx, dy, select(f <= 0.0, 0.0 - f, f));
-    }
-};
-
-struct Correlation
-{
-    template <class Present>
-    static void grow(PairLanes& sums, Present present, Lanes dx, Lanes dy, Lanes f)
-    {
-        sums.squaresX = select(present, sums.squaresX + dx * dx * f, sums.squaresX);
-        sums.squaresY = select(present, sums.squaresY + dy * dy * f, sums.squaresY);
-        sums.products = select(present, sums.products + dx * dy * f, sums.products);
-    }
-};
-
-template <class Rule>
-void addPairs(int count, const double* x, const double* y, const double* w, MomentKernels::Pairs* pairs)
-{
-    PairLanes state[vectors];
-    for (int v = 0; v < vectors; ++v) {
-        const int at = v * laneCount;
-        state[v] = {load(pairs->weights + at), load(pairs->rows + at),     load(pairs->meanX + at),
-                    load(pairs->meanY + at),   load(pairs->products + at), load(pairs->squaresX + at),
-                    load(pairs->squaresY + at)};
-    }
-    for (int i = 0; i < count; ++i) {
-        if (x[i] == missingValue)
-            continue;
-        for (int v = 0; v < vectors; ++v) {
-            PairLanes& sums = state[v];
-            const Lanes cell = load(y + i * std::ptrdiff_t{lanes} + v * laneCount);
-            const auto present = cell != inEachLane(missingValue);
-            sums.weights = select(present, sums.weights + w[i], sums.weights);
-            sums.rows = select(present, sums.rows + 1.0, sums.rows);
-            if (w[i] == 0.0)
-                continue;
-            const Lanes dx = x[i] - sums.meanX;
-            const Lanes dy = cell - sums.meanY;
-            Rule::grow(sums, present, dx, dy, w[i] - w[i] * w[i] / sums.weights);
-            sums.meanX = select(present, sums.meanX + dx * w[i] / sums.weights, sums.meanX);
-            sums.meanY = select(present, sums.meanY + dy * w[i] / sums.weights, sums.meanY);
-        }
-    }
-    for (int v = 0; v < vectors; ++v) {
-        const int at = v * laneCount;
-        store(pairs->weights + at, state[v].weights);
-        store(pairs->rows + at, state[v].rows);
-        store(pairs->meanX + at, state[v].meanX);
-        store(pairs->meanY + at, state[v].meanY);
-        store(pairs->products + at, state[v].products);
-        store(pairs->squaresX + at, state[v].squaresX);
-        store(pairs->squaresY + at, state[v].squaresY);
-    }
-}
-
 } // namespace
 
-const MomentKernels momentKernels = {
-    add<Sums::meanAndSquares>,       add<Sums::mean>,      deviations, scale, addPairs<Covariance>,
-    addPairs<CovarianceOfMagnitude>, addPairs<Correlation>};
+const MomentKernels momentKernels = {add<Sums::meanAndSquares>, add<Sums::mean>, deviations, scale};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -1,0 +1,97 @@
+// Quotients by weights, many by the same divisor. For the sources of kernels only.
+//
+// A division takes as long as some sixteen products. Where the machine fuses a product with a sum, one division gives
+// the reciprocal y of the divisor W, and each quotient a/W takes three steps more, each rounded once:
+//     q = a y     rest = a - q W     a/W = q + rest y
+// That is the quotient as the division rounds it, to the last bit, if no step leaves the range of normal numbers
+// (Brisebarre, N., Muller, J.-M. and Raina, S. K. 2004, Accelerating correctly rounded floating-point division when
+// the divisor is known in advance, IEEE Trans. Computers 53 (8), 1069-1072). What may have left it shows when the sums
+// are done; the caller then starts again with `Division`.
+#pragma once
+
+#include "lanes.h"
+
+#if defined(__AVX512F__)
+#include <immintrin.h>
+#endif
+
+namespace vecmat::VECMAT_INSTRUCTION_SET {
+
+/// Divides.
+struct Division
+{
+    /// Nothing to look after.
+    struct Numerators
+    {
+        void watch(Lanes /*numerators*/) {}
+        bool areModerate() const { return true; }
+    };
+    static bool admitsWeights(int /*count*/, const double* /*w*/) { return true; }
+    static bool admitsResult(Lanes /*quotients*/) { return true; }
+
+    Lanes divisor;
+
+    explicit Division(Lanes by) : divisor(by) {}
+    Lanes of(Lanes numerator) const { return numerator / divisor; }
+};
+
+#if defined(__AVX512F__)
+
+/// Divides by sums of weights, with their reciprocals.
+class FusedDivision
+{
+public:
+    /// Numerators other than 0 must not be so small that digits of q or of the rest fall below the normal numbers.
+    class Numerators
+    {
+    public:
+        void watch(Lanes numerators)
+        {
+            // Without the sign, and with 0 above all others.
+            const __m512i bits = _mm512_castpd_si512(numerators);
+            const __m512i magnitudes = _mm512_sub_epi64(_mm512_add_epi64(bits, bits), _mm512_set1_epi64(1));
+            least_ = _mm512_maskz_min_epu64(0xff, least_, magnitudes);
+        }
+        bool areModerate() const
+        {
+            const __m512i limit = _mm512_castpd_si512(_mm512_set1_pd(0x1p-600));
+            return _mm512_cmplt_epu64_mask(least_, _mm512_add_epi64(limit, limit)) == 0;
+        }
+
+    private:
+        __m512i least_ = _mm512_set1_epi64(-1);
+    };
+
+    /// Weights of 0 divide nothing. Of the others, sums of up to 2^31 are divisors.
+    static bool admitsWeights(int count, const double* w)
+    {
+        bool admitted = true;
+        for (int i = 0; i < count; ++i)
+            admitted = admitted & (w[i] == 0.0 || (w[i] >= 0x1p-200 && w[i] <= 0x1p+200));
+        return admitted;
+    }
+    /// For what quotients are added to. A step beyond the largest number makes infinite or no number of it, for good.
+    static bool admitsResult(Lanes sums) { return _mm512_cmp_pd_mask(sums - sums, Lanes{}, _CMP_EQ_OQ) == 0xff; }
+
+    explicit FusedDivision(Lanes by) : divisor_(by), reciprocal_(1.0 / by) {}
+    Lanes of(Lanes numerator) const
+    {
+        const Lanes q = numerator * reciprocal_;
+        const Lanes rest = _mm512_fnmadd_pd(q, divisor_, numerator);
+        return _mm512_fmadd_pd(rest, reciprocal_, q);
+    }
+
+private:
+    Lanes divisor_;
+    Lanes reciprocal_;
+};
+
+using QuickDivision = FusedDivision;
+
+#else
+
+using QuickDivision = Division;
+
+#endif
+
+} // namespace vecmat::VECMAT_INSTRUCTION_SET
