@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <vector>
 
 namespace {
@@ -219,8 +220,10 @@ TEST(MEachColIsConstant, OneColumnIsFalseAndNoneIsTrue)
     Columns<matrix> columns(2, 1, {1, 1});
     EXPECT_EQ(M_EachColIsConstant(a, 2, 1), 0);
     EXPECT_EQ(M_EachColIsConstant(columns.get(), 2, 1), 0);
-    for (const int cols : {0, -1}) {
+    auto differing = table(2, 2, {1, 2, 3, 4});
+    for (const int cols : {0, -1, std::numeric_limits<int>::min()}) {
         EXPECT_EQ(M_EachColIsConstant(a, 2, cols), -1);
+        EXPECT_EQ(M_EachColIsConstant(differing, 2, cols), -1);
         EXPECT_EQ(M_EachColIsConstant(columns.get(), 2, cols), -1);
     }
 }

@@ -57,8 +57,8 @@ bool eachColumnIsConstant(Checked x, int rows, int first, int cols)
 {
     if (cols == 1)
         return false;
-    for (int j = first; j < first + cols; ++j)
-        if (!equalsFirst(ColumnOf(x, j), 0, rows))
+    for (int c = 0; c < cols; ++c)
+        if (!equalsFirst(ColumnOf(x, first + c), 0, rows))
             return false;
     return true;
 }
