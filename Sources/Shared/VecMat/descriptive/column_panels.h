@@ -4,7 +4,6 @@
 #include "../elementary/kernels/moment_kernels.h"
 #include "../elementary/kernels/scratch.h"
 #include "../elementary/kernels/tile_kernels.h"
-#include "../frame/missing_value.h"
 #include "../frame/numbers.h"
 
 #include <algorithm>
@@ -40,23 +39,19 @@ public:
 
     explicit operator bool() const { return left_ && right_ && results_; }
 
-    /// How many columns the panels of the left operand have.
+    /// How many columns the panels of the left operand have, one of them and all together.
+    int panelColumns() const { return tiles_.rows; }
     int paddedColumns() const { return leftPanels_ * tiles_.rows; }
 
-    /// Copies rows `numbers`[0] to `numbers`[count - 1] of `x` into the left operand. Answers whether a cell of them is
-    /// missing.
+    /// Copies rows `numbers`[0] to `numbers`[count - 1] of `x` into the left operand.
     template <class X>
-    bool copy(X x, int count, const int* numbers) const
+    void copy(X x, int count, const int* numbers) const
     {
-        bool anyMissing = false;
         for (int j = 0; j < p_; ++j) {
             double* to = left(j / tiles_.rows) + j % tiles_.rows;
-            for (int k = 0; k < count; ++k, to += tiles_.rows) {
+            for (int k = 0; k < count; ++k, to += tiles_.rows)
                 *to = x.get(numbers[k], j);
-                anyMissing |= isMissing(*to);
-            }
         }
-        return anyMissing;
     }
 
     /// Calls visit(panel, column) for each panel of the left operand, which begins with that column.

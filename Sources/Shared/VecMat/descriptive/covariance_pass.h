@@ -7,6 +7,7 @@
 
 #include "column_panels.h"
 #include "pair_pass.h"
+#include "row_block.h"
 
 #include <array>
 #include <optional>
@@ -46,14 +47,10 @@ public:
 
 private:
     /// Some rows that move the sums, in their order.
-    struct Rows
+    struct Rows : RowBlock
     {
-        static constexpr int most = ColumnPanels::mostRows;
-
-        int count = 0;
-        std::array<int, most> numbers;
-        std::array<double, most> w;
         std::array<double, most> W; ///< the sum of the weights up to each row
+        std::array<double, most> reciprocals;
         std::array<double, most> factors;
     };
 
@@ -75,9 +72,8 @@ private:
                 else if (anyMissing(x, i, p))
                     return false;
             }
-            if (panels_->copy(x, rows.count, rows.numbers.data()))
+            if (!multiply(x, p, rows))
                 return false;
-            multiply(rows);
         }
         return true;
     }
@@ -85,11 +81,11 @@ private:
     void add(Rows& rows, int i, double w)
     {
         weights_ += w;
-        const auto k = countOf(rows.count++);
-        rows.numbers[k] = i;
-        rows.w[k] = w;
+        const auto k = countOf(rows.count);
         rows.W[k] = weights_;
+        rows.reciprocals[k] = 1.0 / weights_;
         rows.factors[k] = rowFactor<form>(w, weights_);
+        rows.add(i, w, true);
     }
 
     template <class X>
@@ -101,15 +97,25 @@ private:
         return false;
     }
 
-    void multiply(const Rows& rows) const
+    /// False where a cell is missing.
+    template <class X>
+    bool multiply(X x, int p, const Rows& rows) const
     {
-        panels_->visitLeft([&](double* panel, int column) {
-            momentKernels().deviations(rows.count, panel, rows.w.data(), rows.W.data(), means_->data() + column);
+        bool complete = true;
+        panels_->visitLeft([&](double* panel, int first) {
+            const int columns = std::min(p - first, panels_->panelColumns());
+            const BlockColumns<TileKernels::mostRows> cells(x, rows, first, columns);
+            complete = complete &&
+                       momentKernels().deviations(rows.count, columns, cells.starts(), rows.w.data(), rows.W.data(),
+                                                  rows.reciprocals.data(), means_->data() + first, panel);
         });
+        if (!complete)
+            return false;
         panels_->scale(rows.count, rows.factors.data());
         panels_->visitTiles([&](const double* left, const double* right, double* tile) {
             tileKernels().add(rows.count, left, right, tile);
         });
+        return true;
     }
 
     bool complete_ = false;

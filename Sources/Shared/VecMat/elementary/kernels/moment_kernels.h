@@ -31,11 +31,13 @@ struct MomentKernels
     /// The same without the squares.
     void (*addMeans)(int count, int columns, const double* const* cells, const double* w, Moments* moments);
 
-    /// For rows without missing cells and of weights that are not 0, in a panel that has as many columns as a tile
-    /// rows, the cells of one row next to each other: writes d = x - mean over the cells, and updates
-    ///     mean = mean + d w / W
-    /// where `W` holds the sum of the weights up to each row.
-    void (*deviations)(int count, double* panel, const double* w, const double* W, double* mean);
+    /// For rows of weights that are not 0, of up to as many columns as a tile has rows: writes the distances from the
+    /// running means into a panel of that many columns, those of one row next to each other, and updates the means,
+    ///     d = x - mean     mean = mean + d w / W
+    /// where `W` holds the sum of the weights up to each row, and `reciprocals` 1 / W. Behind the last column the panel
+    /// repeats it. False where a cell is missing: then the means stay.
+    bool (*deviations)(int count, int columns, const double* const* cells, const double* w, const double* W,
+                       const double* reciprocals, double* mean, double* panel);
     /// Copies as many columns of such a panel as a tile has, each cell times the factor of its row:
     ///     to = factor d
     void (*scale)(int count, const double* panel, const double* factors, double* to);

@@ -1,6 +1,7 @@
 #include "moment_kernels.h"
 
 #include "../../frame/missing_value.h"
+#include "quotients.h"
 #include "tile_shape.h"
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
@@ -92,19 +93,64 @@ void add(int count, int columns, const double* const* cells, const double* w, Mo
 
 // ---- deviations from the running means ------------------------------------------------------------------------------
 
-void deviations(int count, double* panel, const double* w, const double* W, double* mean)
+inline Lanes lanesOf(const double* const* cells, int i)
+{
+#if defined(__AVX512F__)
+    return Lanes{cells[0][i], cells[1][i], cells[2][i], cells[3][i],
+                 cells[4][i], cells[5][i], cells[6][i], cells[7][i]};
+#else
+    return rowOf(cells, i);
+#endif
+}
+
+enum class Outcome { done, missingCell, doubtfulQuotient };
+
+template <class Divide>
+Outcome deviationsBy(int count, const double* const* cells, const double* w, const double* W, const double* reciprocals,
+                     double* mean, double* panel)
 {
     Lanes means[tileVectors];
     for (int v = 0; v < tileVectors; ++v)
         means[v] = load(mean + v * laneCount);
-    for (int i = 0; i < count; ++i, panel += tileRows)
+    auto missing = Lanes{} != Lanes{};
+    typename Divide::Numerators numerators;
+    for (int i = 0; i < count; ++i, panel += tileRows) {
+        const Divide byWeights(inEachLane(W[i]), inEachLane(reciprocals[i]));
+#pragma GCC unroll 4
         for (int v = 0; v < tileVectors; ++v) {
-            const Lanes d = load(panel + v * laneCount) - means[v];
+            const Lanes x = lanesOf(cells + v * laneCount, i);
+            missing |= x == inEachLane(missingValue);
+            const Lanes d = x - means[v];
             store(panel + v * laneCount, d);
-            means[v] += d * w[i] / W[i];
+            numerators.watch(d * w[i]);
+            means[v] += byWeights.of(d * w[i]);
         }
+    }
+    for (int lane = 0; lane < laneCount; ++lane)
+        if (missing[lane] != 0)
+            return Outcome::missingCell;
+    bool admitted = numerators.areModerate();
+    for (int v = 0; v < tileVectors; ++v)
+        admitted = admitted && Divide::admitsResult(means[v]);
+    if (!admitted)
+        return Outcome::doubtfulQuotient;
     for (int v = 0; v < tileVectors; ++v)
         store(mean + v * laneCount, means[v]);
+    return Outcome::done;
+}
+
+bool deviations(int count, int columns, const double* const* cells, const double* w, const double* W,
+                const double* reciprocals, double* mean, double* panel)
+{
+    const double* eachPlace[tileRows];
+    for (int c = 0; c < tileRows; ++c)
+        eachPlace[c] = cells[c < columns ? c : columns - 1];
+    Outcome outcome = Outcome::doubtfulQuotient;
+    if (QuickDivision::admitsWeights(count, w) && QuickDivision::admitsWeights(count, W))
+        outcome = deviationsBy<QuickDivision>(count, eachPlace, w, W, reciprocals, mean, panel);
+    if (outcome == Outcome::doubtfulQuotient)
+        outcome = deviationsBy<Division>(count, eachPlace, w, W, reciprocals, mean, panel);
+    return outcome == Outcome::done;
 }
 
 void scale(int count, const double* panel, const double* factors, double* to)

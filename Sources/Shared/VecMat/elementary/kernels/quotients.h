@@ -32,6 +32,7 @@ struct Division
     Lanes divisor;
 
     explicit Division(Lanes by) : divisor(by) {}
+    Division(Lanes by, Lanes /*reciprocal*/) : divisor(by) {}
     Lanes of(Lanes numerator) const { return numerator / divisor; }
 };
 
@@ -73,7 +74,8 @@ public:
     /// For what quotients are added to. A step beyond the largest number makes infinite or no number of it, for good.
     static bool admitsResult(Lanes sums) { return _mm512_cmp_pd_mask(sums - sums, Lanes{}, _CMP_EQ_OQ) == 0xff; }
 
-    explicit FusedDivision(Lanes by) : divisor_(by), reciprocal_(1.0 / by) {}
+    explicit FusedDivision(Lanes by) : FusedDivision(by, 1.0 / by) {}
+    FusedDivision(Lanes by, Lanes reciprocal) : divisor_(by), reciprocal_(reciprocal) {}
     Lanes of(Lanes numerator) const
     {
         const Lanes q = numerator * reciprocal_;
