@@ -60,9 +60,8 @@ public:
     /// Sums for the regression of each column on the scores, of `width` numbers each.
     void regressColumns(const Column& scores, Column& squares, Column& products) const
     {
-        for (std::size_t j = 0; j < width_; j += RegressionKernels::stripWidth)
-            regressionKernels().onScores(rows(), strips_.data() + j * height_, scores.data(), squares.data() + j,
-                                         products.data() + j);
+        regressionKernels().onScores(rows(), static_cast<int>(width_ / RegressionKernels::stripWidth), strips_.data(),
+                                     scores.data(), squares.data(), products.data());
     }
     void regressRows(const Column& loadings, Column& scores) const
     {

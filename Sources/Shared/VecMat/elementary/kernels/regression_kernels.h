@@ -17,10 +17,11 @@ struct RegressionKernels
     /// Rows are worked on in blocks of so many: `rows` is a multiple of it.
     static constexpr int blockHeight = 32;
 
-    /// The columns of a strip on the scores. From 0.0, for each row in order, in each lane where neither the cell z nor
-    /// the score t is missing:
+    /// The columns of strips, which stand one behind the other, on the scores. From 0.0, for each row in order, in each
+    /// lane where neither the cell z nor the score t is missing:
     ///     squares = squares + t t     products = products + z t
-    void (*onScores)(std::ptrdiff_t rows, const double* strip, const double* scores, double* squares, double* products);
+    void (*onScores)(std::ptrdiff_t rows, int strips, const double* first, const double* scores, double* squares,
+                     double* products);
 
     /// The rows on the loadings, from columns that stand `rows` apart. For each row a score that is missing at first
     /// and q of 0.0; for each column in order whose cell z is not missing, with its loading p:

@@ -14,27 +14,46 @@ constexpr int width = RegressionKernels::stripWidth;
 constexpr int vectors = width / laneCount;
 static_assert(width % laneCount == 0);
 
-void onScores(std::ptrdiff_t rows, const double* strip, const double* scores, double* squares, double* products)
+template <int strips>
+void addScores(std::ptrdiff_t rows, const double* first, const double* scores, double* squares, double* products)
 {
     const Lanes missing = inEachLane(missingValue);
-    Lanes squareSums[vectors] = {};
-    Lanes productSums[vectors] = {};
+    Lanes squareSums[strips][vectors] = {};
+    Lanes productSums[strips][vectors] = {};
     for (std::ptrdiff_t i = 0; i < rows; ++i) {
         if (scores[i] == missingValue)
             continue;
         const Lanes t = inEachLane(scores[i]);
         const Lanes tt = t * t;
 #pragma GCC unroll 4
+        for (int s = 0; s < strips; ++s)
+#pragma GCC unroll 4
+            for (int v = 0; v < vectors; ++v) {
+                const Lanes z = load(first + (s * rows + i) * width + v * laneCount);
+                squareSums[s][v] += z == missing ? nothing : tt;
+                productSums[s][v] += z == missing ? nothing : z * t;
+            }
+    }
+    for (int s = 0; s < strips; ++s)
         for (int v = 0; v < vectors; ++v) {
-            const Lanes z = load(strip + i * width + v * laneCount);
-            squareSums[v] += z == missing ? nothing : tt;
-            productSums[v] += z == missing ? nothing : z * t;
+            store(squares + s * width + v * laneCount, squareSums[s][v]);
+            store(products + s * width + v * laneCount, productSums[s][v]);
         }
+}
+
+/// Sums wait for those of the row before: four vectors of them at once fill the time.
+template <int atOnce =
+              vectors<4 ? 4 / vectors : 1> void onScores(std::ptrdiff_t rows, int strips, const double* first,
+                                                         const double* scores, double* squares, double* products)
+{
+    for (; strips >= atOnce; strips -= atOnce) {
+        addScores<atOnce>(rows, first, scores, squares, products);
+        first += atOnce * rows * width;
+        squares += atOnce * width;
+        products += atOnce * width;
     }
-    for (int v = 0; v < vectors; ++v) {
-        store(squares + v * laneCount, squareSums[v]);
-        store(products + v * laneCount, productSums[v]);
-    }
+    if constexpr (atOnce > 1)
+        onScores<atOnce - 1>(rows, strips, first, scores, squares, products);
 }
 
 // As many rows as keep scores and sums of squares in registers.
@@ -80,14 +99,17 @@ void deflateColumn(std::ptrdiff_t rows, double* column, const double* scores, do
 
 void deflateStrip(std::ptrdiff_t rows, double* strip, const double* scores, const double* loadings)
 {
+    const Lanes missing = inEachLane(missingValue);
     for (std::ptrdiff_t i = 0; i < rows; ++i, strip += width)
         if (scores[i] != missingValue)
-            for (int j = 0; j < width; ++j)
-                strip[j] = strip[j] == missingValue ? strip[j] : strip[j] - scores[i] * loadings[j];
+            for (int v = 0; v < width; v += laneCount) {
+                const Lanes z = load(strip + v);
+                store(strip + v, z == missing ? z : z - scores[i] * load(loadings + v));
+            }
 }
 
 } // namespace
 
-const RegressionKernels regressionKernels = {onScores, onLoadings, deflateColumn, deflateStrip};
+const RegressionKernels regressionKernels = {onScores<>, onLoadings, deflateColumn, deflateStrip};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
