@@ -3,7 +3,9 @@
 #include "../elementary/kernels/regression_kernels.h"
 #include "../frame/cells.h"
 #include "../frame/companions.h"
+#include "../frame/numbers.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <utility>
@@ -37,7 +39,7 @@ class Residual
 {
 public:
     Residual(int rows, int cols)
-        : height_(roundedUp(countOf(rows), RegressionKernels::blockHeight)),
+        : rowCount_(countOf(rows)), height_(roundedUp(countOf(rows), RegressionKernels::blockHeight)),
           width_(roundedUp(countOf(cols), RegressionKernels::stripWidth)),
           columns_(height_ * countOf(cols), missingValue), strips_(height_ * width_, missingValue),
           census_(countOf(cols))
@@ -48,20 +50,25 @@ public:
     std::size_t width() const { return width_; }
     std::size_t cols() const { return census_.size(); }
 
-    ColumnCensus& census(std::size_t j) { return census_[j]; }
     const ColumnCensus& census(std::size_t j) const { return census_[j]; }
     const double* column(std::size_t j) const { return columns_.data() + j * height_; }
-    void set(std::size_t i, std::size_t j, double cell)
+
+    template <class Cells>
+    void copy(Cells x, int n)
     {
-        columns_[j * height_ + i] = cell;
-        strip(j)[i * RegressionKernels::stripWidth + j % RegressionKernels::stripWidth] = cell;
+        constexpr int rowsAtOnce = 64; // of a strip, while its columns come in one by one
+        for (int first = 0; first < n; first += rowsAtOnce)
+            for (std::size_t j = 0; j < cols(); ++j)
+                for (int i = first; i < std::min(n, first + rowsAtOnce); ++i)
+                    set(static_cast<std::size_t>(i), j, x.get(i, static_cast<int>(j)));
     }
+    /// Takes the census of a copy and centres it. False where a column is constant.
+    bool centre(const Column& w);
 
     /// Sums for the regression of each column on the scores, of `width` numbers each.
     void regressColumns(const Column& scores, Column& squares, Column& products) const
     {
-        regressionKernels().onScores(rows(), static_cast<int>(width_ / RegressionKernels::stripWidth), strips_.data(),
-                                     scores.data(), squares.data(), products.data());
+        regressionKernels().onScores(rows(), strips(), strips_.data(), scores.data(), squares.data(), products.data());
     }
     void regressRows(const Column& loadings, Column& scores) const
     {
@@ -73,19 +80,25 @@ public:
     {
         for (std::size_t j = 0; j < cols(); ++j)
             regressionKernels().deflateColumn(rows(), columns_.data() + j * height_, scores.data(), loadings[j]);
-        for (std::size_t j = 0; j < width_; j += RegressionKernels::stripWidth)
+        for (std::size_t j = 0; j < width_; j += stripWidth)
             regressionKernels().deflateStrip(rows(), strip(j), scores.data(), loadings.data() + j);
     }
 
 private:
+    static constexpr std::size_t stripWidth = RegressionKernels::stripWidth;
+
     static std::size_t roundedUp(std::size_t n, std::size_t step) { return (n + step - 1) / step * step; }
 
     std::ptrdiff_t rows() const { return static_cast<std::ptrdiff_t>(height_); }
-    double* strip(std::size_t j)
+    int strips() const { return static_cast<int>(width_ / stripWidth); }
+    double* strip(std::size_t j) { return strips_.data() + j / stripWidth * stripWidth * height_; }
+    void set(std::size_t i, std::size_t j, double cell)
     {
-        return strips_.data() + j / RegressionKernels::stripWidth * RegressionKernels::stripWidth * height_;
+        columns_[j * height_ + i] = cell;
+        strip(j)[i * stripWidth + j % stripWidth] = cell;
     }
 
+    std::size_t rowCount_;
     std::size_t height_;
     std::size_t width_;
     Column columns_;
@@ -101,37 +114,26 @@ struct Component
 
 // ---- census and centring --------------------------------------------------------------------------------------------
 
-/// Takes the census of column j and centres it. False where it is constant.
-template <class Cells, class Weights>
-bool centreColumn(Cells x, Weights w, int n, int j, Residual& residual)
+bool Residual::centre(const Column& w)
 {
-    const auto number = static_cast<std::size_t>(j);
-    ColumnCensus& census = residual.census(number);
-    double total = 0.0;
-    double sum = 0.0;
-    double squares = 0.0;
-    for (int i = 0; i < n; ++i) {
-        const double cell = x.get(i, j);
-        if (isMissing(cell)) {
-            ++census.missingCells;
-            continue;
-        }
-        const double weight = w.get(i);
-        total += weight;
-        sum += weight * cell;
-        squares += weight * cell * cell;
+    std::vector<RegressionKernels::Census> found(countOf(strips()));
+    regressionKernels().takeCensus(rows(), strips(), strips_.data(), w.data(), found.data());
+    Column means(width_);
+    for (std::size_t j = 0; j < cols(); ++j) {
+        const RegressionKernels::Census& sums = found[j / stripWidth];
+        const std::size_t lane = j % stripWidth;
+        const double total = sums.weights[lane];
+        means[j] = sums.sums[lane] / total;
+        if (sqr((sums.squares[lane] - means[j] * means[j] * total) / (total - 1.0)) <= vanishing)
+            return false;
+        // Rows that only fill up are none of the table's.
+        census_[j] = {means[j], static_cast<int>(sums.missing[lane]) - static_cast<int>(height_ - rowCount_)};
     }
-    census.mean = sum / total;
-    const double deviation = sqr((squares - census.mean * census.mean * total) / (total - 1.0));
-    if (deviation <= vanishing)
-        return false;
-
-    for (int i = 0; i < n; ++i) {
-        const double cell = x.get(i, j);
-        // The weight comes before the mean is taken off; the imputation divides it out again.
-        if (!isMissing(cell))
-            residual.set(static_cast<std::size_t>(i), number, w.get(i) * cell - census.mean);
-    }
+    // The weight comes before the mean is taken off; the imputation divides it out again.
+    for (std::size_t j = 0; j < cols(); ++j)
+        regressionKernels().centreColumn(rows(), columns_.data() + j * height_, w.data(), means[j]);
+    for (std::size_t j = 0; j < width_; j += stripWidth)
+        regressionKernels().centreStrip(rows(), strip(j), w.data(), means.data() + j);
     return true;
 }
 
@@ -140,9 +142,12 @@ template <class Cells, class Weights>
 std::optional<Residual> centredTable(Cells x, Weights w, int n, int p)
 {
     Residual residual(n, p);
-    for (int j = 0; j < p; ++j)
-        if (!centreColumn(x, w, n, j, residual))
-            return std::nullopt;
+    residual.copy(x, n);
+    Column weights(residual.height());
+    for (int i = 0; i < n; ++i)
+        weights[countOf(i)] = w.get(i);
+    if (!residual.centre(weights))
+        return std::nullopt;
     return residual;
 }
 

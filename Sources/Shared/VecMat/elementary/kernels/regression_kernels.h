@@ -17,6 +17,24 @@ struct RegressionKernels
     /// Rows are worked on in blocks of so many: `rows` is a multiple of it.
     static constexpr int blockHeight = 32;
 
+    /// What a census finds in the columns of a strip.
+    struct Census
+    {
+        double missing[stripWidth]; ///< the count of missing cells
+        double weights[stripWidth];
+        double sums[stripWidth];
+        double squares[stripWidth];
+    };
+
+    /// From 0.0, in the columns of strips that stand one behind the other, for each row in order whose cell x is not
+    /// missing:
+    ///     weights = weights + w     sums = sums + w x     squares = squares + w x x
+    void (*takeCensus)(std::ptrdiff_t rows, int strips, const double* first, const double* w, Census* census);
+
+    /// x = w x - mean in one column, and in the columns of a strip, where x is not missing.
+    void (*centreColumn)(std::ptrdiff_t rows, double* column, const double* w, double mean);
+    void (*centreStrip)(std::ptrdiff_t rows, double* strip, const double* w, const double* means);
+
     /// The columns of strips, which stand one behind the other, on the scores. From 0.0, for each row in order, in each
     /// lane where neither the cell z nor the score t is missing:
     ///     squares = squares + t t     products = products + z t

@@ -14,6 +14,47 @@ constexpr int width = RegressionKernels::stripWidth;
 constexpr int vectors = width / laneCount;
 static_assert(width % laneCount == 0);
 
+void takeCensus(std::ptrdiff_t rows, int strips, const double* first, const double* w,
+                RegressionKernels::Census* census)
+{
+    const Lanes missing = inEachLane(missingValue);
+    for (int s = 0; s < strips; ++s)
+        for (int v = 0; v < width; v += laneCount) {
+            const double* cells = first + s * rows * width + v;
+            Lanes absent = {};
+            Lanes weights = {};
+            Lanes sums = {};
+            Lanes squares = {};
+            for (std::ptrdiff_t i = 0; i < rows; ++i, cells += width) {
+                const Lanes x = load(cells);
+                absent += x == missing ? inEachLane(1.0) : nothing;
+                weights += x == missing ? nothing : inEachLane(w[i]);
+                sums += x == missing ? nothing : w[i] * x;
+                squares += x == missing ? nothing : w[i] * x * x;
+            }
+            store(census[s].missing + v, absent);
+            store(census[s].weights + v, weights);
+            store(census[s].sums + v, sums);
+            store(census[s].squares + v, squares);
+        }
+}
+
+void centreColumn(std::ptrdiff_t rows, double* column, const double* w, double mean)
+{
+    for (std::ptrdiff_t i = 0; i < rows; ++i)
+        column[i] = column[i] == missingValue ? column[i] : w[i] * column[i] - mean;
+}
+
+void centreStrip(std::ptrdiff_t rows, double* strip, const double* w, const double* means)
+{
+    const Lanes missing = inEachLane(missingValue);
+    for (std::ptrdiff_t i = 0; i < rows; ++i, strip += width)
+        for (int v = 0; v < width; v += laneCount) {
+            const Lanes x = load(strip + v);
+            store(strip + v, x == missing ? x : w[i] * x - load(means + v));
+        }
+}
+
 template <int strips>
 void addScores(std::ptrdiff_t rows, const double* first, const double* scores, double* squares, double* products)
 {
@@ -110,6 +151,7 @@ void deflateStrip(std::ptrdiff_t rows, double* strip, const double* scores, cons
 
 } // namespace
 
-const RegressionKernels regressionKernels = {onScores<>, onLoadings, deflateColumn, deflateStrip};
+const RegressionKernels regressionKernels = {takeCensus, centreColumn,  centreStrip, onScores<>,
+                                             onLoadings, deflateColumn, deflateStrip};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
