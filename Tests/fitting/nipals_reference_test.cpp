@@ -226,7 +226,7 @@ TEST(NIPALS, FollowsThePlainFormAroundItsBlocks)
     std::map<int, int> outcomes;
     forCases(100, [&](Cases& c) {
         const int n = 32 * c.data.integer(1, 3) + c.data.integer(-1, 1),
-                  p = 8 * c.data.integer(1, 2) + c.data.integer(-1, 1);
+                  p = 8 * c.data.integer(1, 5) + c.data.integer(-1, 1);
         auto cells = c.data.withMissing(factorialTable(c.data, n, p), 0.1);
         const auto rows = static_cast<std::size_t>(n);
         const auto emptyRow = static_cast<std::size_t>(c.data.integer(0, n - 1));
