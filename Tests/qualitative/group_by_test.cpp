@@ -282,6 +282,16 @@ TEST(GroupBy, SmallerDimensionsWorkOnTheCorner)
     EXPECT_THAT(cellsOf(out), SameBits({1, 2, 2, 99, 99, 20, 40, 30, 99, 99, 99, 99, 99, 99, 99}));
 }
 
+TEST(GroupBy, AColumnBeyondTheResultIsNotWritten)
+{
+    const auto data = byRows({{2, 30}, {1, 10}, {1, 20}});
+    auto out = filled(3, 2, 99.0);
+    int count = -7;
+    M_GroupBy(data, 3, 3, intColumn({0, 0, 0}), 1, 0, &count, out);
+    EXPECT_EQ(count, 2);
+    EXPECT_THAT(cellsOf(out), SameBits({1, 2, 2, 30, 30, 30}));
+}
+
 TEST(GroupBy, ATableMayBeItsOwnResult)
 {
     auto data = byRows({{2, 10}, {1, 20}, {2, 30}});
