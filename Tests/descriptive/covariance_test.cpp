@@ -224,5 +224,20 @@ TEST(VB_M_CovCorr, LeavesTheTableAsItWasAndFallsBackToTheMissingValue)
     EXPECT_EQ(VB_M_CovCorr(nullptr, 0, 0, nullptr, 1, nullptr, nullptr, 0, -1), 0);
 }
 
+// The table goes back last: of a result that reaches into it only what lies behind it stays.
+TEST(VB_M_CovCorr, LeavesTheTableAsItWasBelowAResult)
+{
+    RandomData random(634);
+    SCOPED_TRACE(random);
+    Observations data = randomObservations(random, 15, 5);
+    const auto C = covCorr(data, 0, {-1, 0}, 0);
+    std::vector<double> cells = data.cells;
+    cells.resize(85);
+    EXPECT_EQ(VB_M_CovCorr(cells.data(), 15, 5, cells.data() + 60, 0, data.mask.data(), data.w.data(), -1, 0), 0);
+    std::vector<double> expected = data.cells;
+    expected.insert(expected.end(), C.end() - 10, C.end());
+    EXPECT_THAT(cells, SameBits(expected));
+}
+
 } // namespace
 } // namespace vecmat::test

@@ -1,16 +1,24 @@
 #include "covariance.h"
 
 #include "../frame/handles.h"
+#include "../frame/numbers.h"
+#include "../sorting/memory_stretches.h"
 
 using namespace vecmat;
 
 int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, short* mask, double* w, short sample,
                  short freqWeights)
 {
-    TableHandle data = copied(X, n, p);
+    Stretches arrays;
+    arrays.add(X, countOf(n) * std::size_t{countOf(p)});
+    arrays.add(C, countOf(p) * std::size_t{countOf(p)});
+    // X goes back as it came, also where the result lies over it: only then does that take a copy.
+    const bool apart = arrays.areApart();
+    TableHandle data = apart ? viewed(X, n, p) : copied(X, n, p);
     TableHandle result = viewed(C, p, p);
     const int status =
         M_CovCorr(data.reference(), n, p, result.reference(), corr, mask, viewed(w, n, 1), sample, freqWeights, 0);
-    handBack(data, X); // as it came
+    if (!apart)
+        handBack(data, X);
     return status;
 }

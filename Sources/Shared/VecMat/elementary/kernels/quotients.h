@@ -48,19 +48,26 @@ public:
     public:
         void watch(Lanes numerators)
         {
-            // Without the sign, and with 0 above all others.
-            const __m512i bits = _mm512_castpd_si512(numerators);
-            const __m512i magnitudes = _mm512_sub_epi64(_mm512_add_epi64(bits, bits), _mm512_set1_epi64(1));
-            least_ = _mm512_maskz_min_epu64(0xff, least_, magnitudes);
+            const Bits magnitudes = rankOf(numerators);
+            least_ = magnitudes < least_ ? magnitudes : least_;
         }
         bool areModerate() const
         {
-            const __m512i limit = _mm512_castpd_si512(_mm512_set1_pd(0x1p-600));
-            return _mm512_cmplt_epu64_mask(least_, _mm512_add_epi64(limit, limit)) == 0;
+            const Bits limit = rankOf(inEachLane(0x1p-600));
+            return inAllLanes(least_ >= limit);
         }
 
     private:
-        __m512i least_ = _mm512_set1_epi64(-1);
+        using Bits [[gnu::vector_size(sizeof(Lanes))]] = unsigned long long;
+
+        /// In the order of the magnitudes, but with 0 above all others.
+        static Bits rankOf(Lanes x)
+        {
+            const Bits bits = reinterpret_cast<Bits>(x);
+            return bits + bits - 1;
+        }
+
+        Bits least_ = ~Bits{};
     };
 
     /// Weights of 0 divide nothing. Of the others, sums of up to 2^31 are divisors.
@@ -72,7 +79,7 @@ public:
         return admitted;
     }
     /// For what quotients are added to. A step beyond the largest number makes infinite or no number of it, for good.
-    static bool admitsResult(Lanes sums) { return _mm512_cmp_pd_mask(sums - sums, Lanes{}, _CMP_EQ_OQ) == 0xff; }
+    static bool admitsResult(Lanes sums) { return inAllLanes(sums - sums == Lanes{}); }
 
     explicit FusedDivision(Lanes by) : FusedDivision(by, 1.0 / by) {}
     FusedDivision(Lanes by, Lanes reciprocal) : divisor_(by), reciprocal_(reciprocal) {}
@@ -84,6 +91,15 @@ public:
     }
 
 private:
+    template <class Answers>
+    static bool inAllLanes(Answers answers)
+    {
+        bool all = true;
+        for (int lane = 0; lane < laneCount; ++lane)
+            all = all && answers[lane] != 0;
+        return all;
+    }
+
     Lanes divisor_;
     Lanes reciprocal_;
 };
