@@ -2,6 +2,8 @@
 #include "contest.h"
 #include "plain/plain.h"
 
+#include "decompositions/cholesky.h"
+#include "decompositions/determinants.h"
 #include "decompositions/eigen.h"
 #include "decompositions/inversion.h"
 #include "descriptive/covariance.h"
@@ -13,6 +15,7 @@
 #include "qualitative/group_by.h"
 #include "sorting/ranks.h"
 #include "sorting/sort.h"
+#include "sorting/sort_apply.h"
 
 #include <algorithm>
 
@@ -72,6 +75,17 @@ struct Quantile : Few
     }
 };
 
+struct WeightedQuantile : Few
+{
+    explicit WeightedQuantile(int n) : Few(n) {}
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { out[0] = VB_V_QuantileW(x.data(), numbers, w.data(), Quantile::p); },
+            [this] { out[0] = plain::weightedQuantile(x.data(), numbers, w.data(), Quantile::p); });
+    }
+};
+
 struct Sort : Few
 {
     explicit Sort(int n) : Few(n, n) {}
@@ -87,6 +101,54 @@ struct Sort : Few
                 std::copy(x.begin(), x.end(), out.begin());
                 plain::sortVector(out.data(), numbers);
             });
+    }
+};
+
+/// Rows of three columns, with their key and a companion.
+struct SortRows : Few
+{
+    static constexpr int cols = 3;
+    Cells keys, key, companion;
+    explicit SortRows(int n)
+        : Few(n * cols, n * cols), keys(RandomData(142).normals(count(n))), key(keys), companion(keys)
+    {
+    }
+    void enter(Contest& contest)
+    {
+        contest.outputs({&out, &key, &companion});
+        contest.ours([this] {
+            fill();
+            VB_SortQDbl(out.data(), numbers, cols, 1, numbers, key.data(), companion.data(), 1, 0, -1);
+        });
+        contest.plain([this] {
+            fill();
+            plain::sortRows(out.data(), numbers, cols, key.data(), companion.data());
+        });
+    }
+
+private:
+    void fill()
+    {
+        std::copy(x.begin(), x.end(), out.begin());
+        std::copy(keys.begin(), keys.end(), key.begin());
+        std::copy(keys.begin(), keys.end(), companion.begin());
+    }
+};
+
+struct SortApplied : Few
+{
+    static constexpr int cols = 3;
+    Cells order;
+    explicit SortApplied(int n) : Few(n * cols, n * cols), order(count(n))
+    {
+        for (int i = 0; i < n; ++i)
+            order[count(i)] = n - i;
+    }
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { VB_SortApply(x.data(), numbers, cols, order.data(), out.data()); },
+            [this] { plain::sortApply(x.data(), numbers, cols, order.data(), out.data()); });
     }
 };
 
@@ -134,6 +196,34 @@ struct Inverse : Few
         compete(
             contest, [this] { VB_M_Inverse1(x.data(), order, out.data(), 0.0); },
             [this] { plain::inverse(x.data(), order, out.data()); });
+    }
+};
+
+struct Determinant : Few
+{
+    short status = 0;
+    explicit Determinant(int n) : Few(n * n) {}
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { out[0] = VB_M_Determinant(x.data(), order, &status); },
+            [this] { out[0] = plain::determinant(x.data(), order); });
+    }
+};
+
+struct Cholesky : Few
+{
+    explicit Cholesky(int n) : Few(n * n, n * n)
+    {
+        std::fill(x.begin(), x.end(), 1.0);
+        for (int i = 0; i < n; ++i)
+            x[count(i, n + 1)] = 3.0 + i;
+    }
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { VB_M_CholDecomp(x.data(), order, out.data()); },
+            [this] { plain::cholesky(x.data(), order, out.data()); });
     }
 };
 
@@ -199,11 +289,16 @@ void addSmallInputs(Suite& suite)
     suite.add<Mean>("small-mean", {numbers}, Timing::manyCalls);
     suite.add<Variance>("small-variance", {numbers}, Timing::manyCalls);
     suite.add<Quantile>("small-quantile", {numbers}, Timing::manyCalls);
+    suite.add<WeightedQuantile>("small-weighted-quantile", {numbers}, Timing::manyCalls);
     suite.add<Sort>("small-sort", {numbers}, Timing::manyCalls);
+    suite.add<SortRows>("small-sort-rows", {numbers}, Timing::manyCalls);
+    suite.add<SortApplied>("small-sort-apply", {numbers}, Timing::manyCalls);
     suite.add<Ranks>("small-ranks", {numbers}, Timing::manyCalls);
     suite.add<Product>("small-product", {order}, Timing::manyCalls);
     suite.add<Covariance>("small-covariance", {numbers}, Timing::manyCalls);
     suite.add<Inverse>("small-inverse", {order}, Timing::manyCalls);
+    suite.add<Determinant>("small-determinant", {order}, Timing::manyCalls);
+    suite.add<Cholesky>("small-cholesky", {order}, Timing::manyCalls);
     suite.add<Eigenvalues>("small-eigen", {order}, Timing::manyCalls);
     suite.add<Fit>("small-least-squares", {numbers}, Timing::manyCalls);
     suite.add<GroupMeans>("small-group-means", {numbers}, Timing::manyCalls);
