@@ -92,15 +92,16 @@ TEST(EigenMemory, TheTriangularFormLetsTheExceptionPass)
 
 TEST(EigenMemory, TheScratchIsHadBeforeAResultIsPrepared)
 {
-    const Owned<matrix> a = table(3, 3, cells());
-    Owned<matrix> values = filled(3, 1, 7.0);
-    Owned<matrix> vectors = filled(3, 3, 8.0);
+    constexpr int n = 33; // the scratch of a smaller one takes no call for memory
+    const Owned<matrix> a = filled(n, n, 1.0);
+    Owned<matrix> values = filled(n, 1, 7.0);
+    Owned<matrix> vectors = filled(n, n, 8.0);
     int status = 0;
-    EXPECT_EQ(runWithFailure([&] { status = M_Eigen(a, values, vectors, 3, -1); }, 1), Ending::ranThrough);
+    EXPECT_EQ(runWithFailure([&] { status = M_Eigen(a, values, vectors, n, -1); }, 1), Ending::ranThrough);
     EXPECT_TRUE(allocationState().threw);
     EXPECT_EQ(status, -1);
-    EXPECT_THAT(cellsOf(values), SameBits({7, 7, 7}));
-    EXPECT_THAT(cellsOf(vectors), SameBits(std::vector<double>(9, 8.0)));
+    EXPECT_THAT(cellsOf(values), SameBits(std::vector<double>(n, 7.0)));
+    EXPECT_THAT(cellsOf(vectors), SameBits(std::vector<double>(n * n, 8.0)));
 }
 
 TEST(EigenMemory, ValuesAndVectorsBelongTogetherWhereTheSortFails)
@@ -112,7 +113,7 @@ TEST(EigenMemory, ValuesAndVectorsBelongTogetherWhereTheSortFails)
     const std::vector<double> foundValues = cellsOf(values);
     const std::vector<double> foundVectors = cellsOf(vectors);
     ASSERT_LT(foundValues[0], foundValues[1]) << "the sort has something to do";
-    for (int n = 2;; ++n) {
+    for (int n = 1;; ++n) {
         int status = 0;
         runWithFailure([&] { status = M_Eigen(a, values, vectors, 3, -1); }, n);
         if (!allocationState().threw)
@@ -143,7 +144,7 @@ TEST(EigenMemory, ThePowerIterationAndTheNormReleaseTheirTables)
                   Owned<matrix> v;
                   M_VonMises(a, v, 3);
               }),
-              6);
+              2);
     // The eigenvalues catch what befalls them; the tables before them do not.
     EXPECT_GE(forEachFailingAllocation([&] { getNorm2(a); }, Failure::mayBeCaught), 6);
 }

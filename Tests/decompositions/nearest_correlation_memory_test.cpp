@@ -51,7 +51,7 @@ TEST(NearestCorrelationMemory, TheFlatFormsReleaseTheirTables)
     EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_CorrMatFromSymMatSPV(columns, 3); }, Failure::mayBeCaught), 20);
     ArrayOfColumns lower = numberTriangle(3, cells());
     EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_CorrMatFromSymMatSPV_T(lower, 3); }, Failure::mayBeCaught), 20);
-    EXPECT_GE(forEachFailingAllocation([&] { Cpp_M_RowSumNorm(flat.data(), 3, 3); }), 1);
+    EXPECT_EQ(forEachFailingAllocation([&] { Cpp_M_RowSumNorm(flat.data(), 3, 3); }), 0) << "a view needs no memory";
 }
 
 TEST(NearestCorrelationMemory, TheProjectionsReleaseTheirTables)

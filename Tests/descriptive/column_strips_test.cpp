@@ -239,8 +239,8 @@ TEST(ColumnStrips, WithoutMemoryIsThePlainPass)
                 runs += std::equal(expected.begin(), expected.end(), C->X) ? 1 : -1000;
             },
             Failure::mayBeCaught);
-        EXPECT_GT(failures, 4);
-        EXPECT_GT(runs, 4) << "runs with the right result, of " << failures << " with a failure";
+        EXPECT_GE(failures, 4);
+        EXPECT_GE(runs, 4) << "runs with the right result, of " << failures << " with a failure";
     }
 }
 

@@ -32,12 +32,12 @@ TEST(Viewed, IsTheCallersArray)
     Guarded<double> numbers = {1, 2, 3, 4};
     Guarded<int> ints = {1, 2};
     {
-        const TableHandle t = viewed(numbers, 2, 2);
+        const auto t = viewed(numbers, 2, 2);
         EXPECT_EQ(t->nRows, 2);
         EXPECT_EQ(t->nCols, 2);
         EXPECT_EQ(t->ownsX, 0);
         t->vbset(1, 2, M);
-        const IntTableHandle v = viewed(ints, 2, 1);
+        const auto v = viewed(ints, 2, 1);
         v->vbset(2, 1, 9);
     }
     EXPECT_THAT(numbers.values(), SameBits({1, 2, M, 4}));
@@ -104,13 +104,54 @@ TEST(Handle, ReleasesWhatItHolds)
     const long before = allocationState().live;
     {
         const TableHandle t = copied(numbers, 2, 1);
-        const TableHandle v = viewed(numbers, 2, 1);
-        TableHandle first = fresh(2, 2);
-        const TableHandle second(std::move(first));
-        EXPECT_TRUE(first == nullptr);
-        EXPECT_THAT(cellsOf<matrix>(second), SameBits({0, 0, 0, 0}));
+        t->InitWeights();
+        const auto v = viewed(numbers, 2, 1);
+        v->calcDescStat(-1);
+        const auto ints = freshInt(2, 1);
+        ints->weights = new double[2];
+        const TableHandle many = fresh(100, 1, 3.0);
+        EXPECT_THAT(many->vbget(100, 1), SameBits(3));
     }
     EXPECT_EQ(allocationState().live, before);
+}
+
+TEST(Handle, MovesWithItsTable)
+{
+    Guarded<double> numbers = {1, M};
+    const long before = allocationState().live;
+    {
+        TableHandle few = copied(numbers, 2, 1);
+        const TableHandle movedFew(std::move(few));
+        EXPECT_THAT(cellsOf<matrix>(movedFew), SameBits({1, M}));
+        TableHandle many = fresh(10, 10, 3.0);
+        const TableHandle movedMany(std::move(many));
+        EXPECT_THAT(cellsOf<matrix>(movedMany), SameBits(std::vector<double>(100, 3.0)));
+        TableHandle replaced = fresh(1, 1);
+        matrix::matCheck(replaced.reference(), 3, 1, 7.0);
+        const TableHandle movedReplacement(std::move(replaced));
+        EXPECT_THAT(cellsOf<matrix>(movedReplacement), SameBits({7, 7, 7}));
+        TableHandle none;
+        EXPECT_TRUE(TableHandle(std::move(none)) == nullptr);
+    }
+    EXPECT_EQ(allocationState().live, before);
+}
+
+TEST(Handle, TakesMemoryForManyCellsOnly)
+{
+    Guarded<double> numbers(33, 2.0);
+    Guarded<int> ints(33, 2);
+    Guarded<short> flags(33, short{-1});
+    const auto wrap = [&](int n) {
+        const auto view = viewed(numbers, n, 1);
+        const auto ofInts = viewed(ints, n, 1);
+        const TableHandle copy = copied(numbers, n, 1);
+        const TableHandle boolean = copied(flags, n, 1);
+        const IntTableHandle copyOfInts = copied(ints, n, 1);
+        const TableHandle result = fresh(n, 1);
+        const IntTableHandle intResult = freshInt(n, 1);
+    };
+    EXPECT_EQ(forEachFailingAllocation([&] { wrap(32); }), 0);
+    EXPECT_EQ(forEachFailingAllocation([&] { wrap(33); }), 5) << "one for each but the views";
 }
 
 TEST(Handle, ReleasesATableThatTheCalleePutInItsPlace)
@@ -118,7 +159,7 @@ TEST(Handle, ReleasesATableThatTheCalleePutInItsPlace)
     Guarded<double> callers = {1, 2, 3, 4};
     const long before = allocationState().live;
     {
-        TableHandle small = viewed(callers, 2, 2);
+        auto small = viewed(callers, 2, 2);
         matrix::matCheck(small.reference(), 3, 2, 7.0);
         EXPECT_EQ(small->nRows, 3);
         IntTableHandle ints = freshInt(1, 1);
@@ -156,10 +197,10 @@ TEST(HandBack, WritesEveryCellInTheCallersType)
     Guarded<short> flags(2, short{9});
     Guarded<int> ints(2, 9);
     BstrArray strings({L"own", L"own"});
-    const TableHandle t(new matrix(2, 1, M));
+    const TableHandle t = fresh(2, 1, M);
     handBack(t, numbers.data());
     handBack(t, flags.data());
-    handBack(IntTableHandle(new matrixInt(2, 1, 3)), ints.data());
+    handBack(IntTableHandle(2, 1, 3), ints.data());
     handBack(freshStrings(2, 1), strings.get());
     handBack(t, static_cast<double*>(nullptr));
     EXPECT_THAT(numbers.values(), SameBits({M, M}));

@@ -75,7 +75,7 @@ TEST(SeedFrame, ClosesWhicheverAllocationFails)
             unbalanced += opened != closed ? 1 : 0;
         },
         vecmat::test::Failure::mayBeCaught); // the sort does without memory
-    EXPECT_GT(failures, 3);
+    EXPECT_GE(failures, 3);
     EXPECT_EQ(unbalanced, 0);
 }
 
@@ -91,7 +91,7 @@ TEST(SeedFrame, EveryPermutationReleasesWhatItMade)
         Cpp_V_Shuffle(z, 6, &seed, -1, &next);
         VB_GenerateRandomIndicator(z, 6, 3, &seed, -1, &next);
     });
-    EXPECT_GT(failures, 20);
+    EXPECT_GT(failures, 12);
     EXPECT_EQ(opened, closed);
 }
 

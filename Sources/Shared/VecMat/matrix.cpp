@@ -41,38 +41,36 @@ void writeLinear(matrix& table, unsigned k, double value)
 
 } // namespace
 
-// Every public constructor delegates to this one, so that the destructor releases what was allocated before a failure.
-matrix::matrix(Shape shape) : nRows(shape.rows), nCols(shape.cols), nElems(elementCount(shape.rows, shape.cols)) {}
-
 matrix::matrix(int rows, int cols, int value) : matrix(rows, cols, static_cast<double>(value)) {}
 
-matrix::matrix(int rows, int cols, double value) : matrix(Shape{rows, cols})
+matrix::matrix(int rows, int cols, double value) : matrix(Shape{rows, cols, elementCount(rows, cols)})
 {
     X = new double[nElems];
     std::fill_n(X, nElems, value);
 }
 
-matrix::matrix(int rows, int cols, double* src, bool view) : matrix(Shape{rows, cols})
+matrix::matrix(int rows, int cols, double* src, bool view) : matrix(Shape{rows, cols, elementCount(rows, cols)})
 {
     ownsX = view ? 0 : 1;
     X = view ? src : copyOf(src, nElems);
 }
 
-matrix::matrix(int rows, int cols, double* src, int srcRows, int srcCols) : matrix(Shape{rows, cols})
+matrix::matrix(int rows, int cols, double* src, int srcRows, int srcCols)
+    : matrix(Shape{rows, cols, elementCount(rows, cols)})
 {
     const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
     X = resizedCopyOf(src, given, nElems, 0.0);
     allocateClearedCounts();
 }
 
-matrix::matrix(int rows, int cols, short* src) : matrix(Shape{rows, cols})
+matrix::matrix(int rows, int cols, short* src) : matrix(Shape{rows, cols, elementCount(rows, cols)})
 {
     X = new double[nElems];
     std::copy_n(src, nElems, X);
     allocateClearedCounts();
 }
 
-matrix::matrix(int rows, matrix* src) : matrix(Shape{rows, src->nCols})
+matrix::matrix(int rows, matrix* src) : matrix(Shape{rows, src->nCols, elementCount(rows, src->nCols)})
 {
     X = resizedCopyOf(src->X, src->nElems, nElems, outOfRangeValue);
     vecmat::copyArrays(*src, *this);
@@ -200,7 +198,7 @@ void matrix::matCheck(matrix*& ref, int rows, int cols, double value)
     }
     // Null first, so that a failing allocation leaves nothing to delete twice. The unset pattern is kept from being
     // read above, not from being deleted here.
-    delete std::exchange(ref, nullptr); // NOLINT(clang-analyzer-cplusplus.NewDelete)
+    vecmat::release(std::exchange(ref, nullptr));
     ref = new matrix(rows, cols, value);
 }
 

@@ -5,6 +5,11 @@
 
 class matrixInt;
 
+namespace vecmat {
+template <class Table>
+union TableInPlace; // where the call frame makes tables
+}
+
 /// Dense table of doubles, column-major, with optional weights and per-column caches. A vector is a table of one
 /// column.
 ///
@@ -26,11 +31,12 @@ public:
     int* nCol = nullptr;          ///< per column: count of cells
     int nRows = 0;
     int nCols = 0;
-    int normalized = 0;      ///< 1 once `Normalize()` or `Center()` has run
-    int descDone = 0;        ///< 1 once `calcDescStat` has run
-    unsigned nElems = 0;     ///< nRows * nCols as a 32-bit product; every bound check compares against it
-    short descMode = 0;      ///< the option of the last `calcDescStat`
-    unsigned char ownsX = 1; ///< 1: the destructor frees X; 0: X is the caller's (a view)
+    int normalized = 0;        ///< 1 once `Normalize()` or `Center()` has run
+    int descDone = 0;          ///< 1 once `calcDescStat` has run
+    unsigned nElems = 0;       ///< nRows * nCols as a 32-bit product; every bound check compares against it
+    short descMode = 0;        ///< the option of the last `calcDescStat`
+    unsigned char ownsX = 1;   ///< 1: the destructor frees X; 0: X is the caller's (a view)
+    unsigned char inFrame = 0; ///< 1: it lies in the frame of a call and ends with it; `matCheck` does not delete it
 
     /// A new block in which every cell is `value`.
     matrix(int rows, int cols, int value);
@@ -251,8 +257,14 @@ private:
     {
         int rows;
         int cols;
+        unsigned cells;
     };
-    VECMAT_LOCAL explicit matrix(Shape shape);
+    // Every public constructor delegates to this one, so that the destructor releases what was allocated before a
+    // failure; the call frame makes its tables by it.
+    VECMAT_LOCAL explicit matrix(Shape shape) : nRows(shape.rows), nCols(shape.cols), nElems(shape.cells) {}
+    template <class Table>
+    friend union vecmat::TableInPlace;
+
     VECMAT_LOCAL void allocateClearedCounts();
 
     VECMAT_LOCAL unsigned position(int i, int j) const

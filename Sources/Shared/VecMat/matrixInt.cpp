@@ -19,18 +19,13 @@ namespace {
 
 } // namespace
 
-// Every public constructor delegates to this one, so that the destructor releases what was allocated before a failure.
-matrixInt::matrixInt(Shape shape) : nRows(shape.rows), nCols(shape.cols), nElems(elementCount(shape.rows, shape.cols))
-{
-}
-
-matrixInt::matrixInt(int rows, int cols, int value) : matrixInt(Shape{rows, cols})
+matrixInt::matrixInt(int rows, int cols, int value) : matrixInt(Shape{rows, cols, elementCount(rows, cols)})
 {
     X = new int[nElems];
     std::fill_n(X, nElems, value);
 }
 
-matrixInt::matrixInt(int rows, int cols, int* src, bool view) : matrixInt(Shape{rows, cols})
+matrixInt::matrixInt(int rows, int cols, int* src, bool view) : matrixInt(Shape{rows, cols, elementCount(rows, cols)})
 {
     ownsX = view ? 0 : 1;
     X = view ? src : copyOf(src, nElems);
@@ -40,7 +35,7 @@ matrixInt::matrixInt(int rows, int cols, int* src, bool view) : matrixInt(Shape{
     std::fill_n(weightcorr, countOf(cols), static_cast<double>(rows) - 1.0);
 }
 
-matrixInt::matrixInt(int rows, matrixInt* src) : matrixInt(Shape{rows, src->nCols})
+matrixInt::matrixInt(int rows, matrixInt* src) : matrixInt(Shape{rows, src->nCols, elementCount(rows, src->nCols)})
 {
     X = vecmat::resizedCopyOf(src->X, src->nElems, nElems, -1);
     vecmat::copyArrays(*src, *this);
@@ -71,6 +66,6 @@ void matrixInt::matCheck(matrixInt*& ref, int rows, int cols, double value)
         std::fill_n(ref->X, std::min(elementCount(rows, cols), ref->nElems), filler);
         return;
     }
-    delete std::exchange(ref, nullptr);
+    vecmat::release(std::exchange(ref, nullptr));
     ref = new matrixInt(rows, cols, filler);
 }

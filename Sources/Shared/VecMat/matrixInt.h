@@ -3,6 +3,11 @@
 
 #include "frame/api.h"
 
+namespace vecmat {
+template <class Table>
+union TableInPlace; // where the call frame makes tables
+}
+
 /// The integer twin of `matrix`: column-major, public fields, the same checked access. It has no missing value of its
 /// own and computes nothing in the per-column caches, which it keeps for the sake of the copying constructor.
 class VECMAT_API matrixInt
@@ -18,10 +23,11 @@ public:
     int nCols = 0;
     int normalized = 0;
     int descDone = 0;
-    unsigned nElems = 0;     ///< nRows * nCols as a 32-bit product
-    int* X = nullptr;        ///< the cells: (i, j), from 0, at `X[i + nRows*j]`
-    int* nCol = nullptr;     ///< per column, or null
-    unsigned char ownsX = 1; ///< 1: the destructor frees X
+    unsigned nElems = 0;       ///< nRows * nCols as a 32-bit product
+    int* X = nullptr;          ///< the cells: (i, j), from 0, at `X[i + nRows*j]`
+    int* nCol = nullptr;       ///< per column, or null
+    unsigned char ownsX = 1;   ///< 1: the destructor frees X
+    unsigned char inFrame = 0; ///< 1: it lies in the frame of a call and ends with it; `matCheck` does not delete it
     short descMode = 0;
 
     /// A new block in which every cell is `value`.
@@ -65,8 +71,12 @@ private:
     {
         int rows;
         int cols;
+        unsigned cells;
     };
-    VECMAT_LOCAL explicit matrixInt(Shape shape);
+    // As in `matrix`: what all constructors delegate to.
+    VECMAT_LOCAL explicit matrixInt(Shape shape) : nRows(shape.rows), nCols(shape.cols), nElems(shape.cells) {}
+    template <class Table>
+    friend union vecmat::TableInPlace;
 
     VECMAT_LOCAL unsigned position(int i, int j) const
     {

@@ -154,7 +154,7 @@ int factorPermuted(matrix* a, int n, matrix* l, Permutation* perm, short keep)
         order.set(i, i + 1);
     // A table that is too small cannot be replaced for the caller, who goes on holding it.
     const bool large = l != nullptr && l->nRows >= n && l->nCols >= n;
-    const TableHandle substitute(large ? nullptr : new matrix(n, n, 0.0));
+    const TableHandle substitute = large ? TableHandle() : fresh(n, n);
     if (large)
         matrix::matCheck(l, n, n, 0.0);
     else

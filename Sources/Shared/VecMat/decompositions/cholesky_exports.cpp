@@ -6,7 +6,7 @@ using namespace vecmat;
 
 int VB_M_CholDecomp(double* a, int n, double* l)
 {
-    TableHandle factor = viewed(l, n, n);
+    auto factor = viewed(l, n, n);
     return M_CholDecomp(copied(a, n, n), n, factor.reference());
 }
 

@@ -6,13 +6,13 @@ using namespace vecmat;
 
 int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out)
 {
-    TableHandle result = viewed(out, n, n);
+    auto result = viewed(out, n, n);
     return cCleanConstraintsAndInvert(n, viewed(constraints, n, 1), viewed(a, n, n), result.reference());
 }
 
 int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out)
 {
-    TableHandle result = viewed(out, n, n);
+    auto result = viewed(out, n, n);
     return cCleanConstraintsAndInvertTriang(n, viewed(constraints, n, 1), viewed(a, n, n), lower, result.reference());
 }
 

@@ -7,13 +7,13 @@
 #include "../frame/cells.h"
 #include "../frame/companions.h"
 #include "../frame/handles.h"
-#include "../sorting/sort.h"
+#include "../frame/local_array.h"
+#include "../sorting/stable_order.h"
 #include "storage_overlap.h"
 #include "symmetric_ql.h"
 #include "symmetric_ql_workspace.h"
 
 #include <algorithm>
-#include <vector>
 
 using namespace vecmat;
 
@@ -55,17 +55,23 @@ void copySquare(From from, To to, int n)
 
 /// Brings the eigenvalues into descending order, equal ones in the order found, and the columns of `vectors` with them.
 template <class Cells>
-void sortDescending(matrix*& values, Cells vectors, int n)
+void sortDescending(matrix* values, Cells vectors, int n)
 {
-    TableHandle order = fresh(n, 1);
-    for (int j = 0; j < n; ++j)
-        order->X[j] = j;
-    TableHandle companion = fresh(n, 1);
     // All memory is had before the values move, so that values and vectors belong together where it runs out.
-    TableHandle found = fresh(n, n);
-    copySquare(vectors, cells<matrix>(found), n);
-    SortQ(order.reference(), n, 1, 1, n, values, companion.reference(), 1, -1, -1);
-    copyColumns(cells<matrix>(found), vectors, n, [&](int j) { return truncated(order->X[j]); });
+    const TableHandle table = fresh(n, n + 1); // the vectors as found, and where they go
+    const auto found = cells<matrix>(table);
+    copySquare(vectors, found, n);
+    const auto keys = linear(values);
+    placeInStableOrder(
+        {1, n}, Direction::descending,
+        [&](int place) {
+            return pairToSort{place, keys.get(place - 1)};
+        },
+        [&](int place, const pairToSort& next) {
+            keys.set(place - 1, next.key);
+            found.set(place - 1, n, next.position - 1);
+        });
+    copyColumns(found, vectors, n, [&](int j) { return truncated(found.get(j, n)); });
 }
 
 /// A smaller table is done before a workspace is set up.
@@ -89,7 +95,7 @@ bool eigenOfPlainCells(Cells a, PlainVector<matrix> d, PlainVector<matrix> e, in
 
 /// What all forms do once `vectors` holds the input. The scratch is had before any result is prepared.
 template <class Cells>
-int decompose(Cells vectors, matrix*& values, std::vector<double>& offDiagonal, int n, short sort)
+int decompose(Cells vectors, matrix*& values, LocalArray<double>& offDiagonal, int n, short sort)
 {
     const PlainVector<matrix> e(offDiagonal.data());
     const bool converged = onBlocksOrElse([&](auto a, auto d) { return eigenOfPlainCells(a, d, e, n); },
@@ -109,7 +115,7 @@ int M_Eigen(matrix* a, matrix*& values, matrix*& vectors, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
-        std::vector<double> offDiagonal(countOf(n));
+        LocalArray<double> offDiagonal(countOf(n), 0.0);
         matrix::matCheck(values, n, 1, 0.0);
         matrix::matCheck(vectors, n, n, 0.0);
         copySquare(cells(a), cells(vectors), n);
@@ -124,7 +130,7 @@ int M_EigenSPV(matrix** a, matrix*& values, matrix** vectors, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
-        std::vector<double> offDiagonal(countOf(n));
+        LocalArray<double> offDiagonal(countOf(n), 0.0);
         matrix::matCheck(values, n, 1, 0.0);
         copySquare(cells(a), cells(vectors), n);
         return decompose(cells(vectors), values, offDiagonal, n, sort);
@@ -138,7 +144,7 @@ int M_EigenDestroySPV(matrix** a, matrix*& values, int n, short sort)
     try {
         if (hasMissing(cells(a), n))
             return -1;
-        std::vector<double> offDiagonal(countOf(n));
+        LocalArray<double> offDiagonal(countOf(n), 0.0);
         matrix::matCheck(values, n, 1, 0.0);
         return decompose(cells(a), values, offDiagonal, n, sort);
     } catch (...) {
@@ -151,7 +157,7 @@ int M_EigenSPV_T(matrix** a, matrix*& values, matrix** vectors, int n, short sor
 {
     if (hasMissing(triangle(a), n))
         return -1;
-    std::vector<double> offDiagonal(countOf(n));
+    LocalArray<double> offDiagonal(countOf(n), 0.0);
     matrix::matCheck(values, n, 1, 0.0);
     copySquare(triangle(a), cells(vectors), n);
     return decompose(cells(vectors), values, offDiagonal, n, sort);
@@ -161,7 +167,7 @@ int M_VonMises(matrix* a, matrix*& v, int n)
 {
     constexpr int limit = 1000;
     TableHandle product = fresh(n, 1);
-    TableHandle scaled(new matrix(n, 1, 1.0));
+    TableHandle scaled = fresh(n, 1, 1.0);
     matrix::matCheck(v, n, 1, 1.0);
     for (int turn = 0; turn < limit; ++turn) {
         M_ProductBV(a, n, n, v, product.reference());

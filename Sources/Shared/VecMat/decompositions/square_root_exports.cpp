@@ -6,6 +6,6 @@ using namespace vecmat;
 
 int Cpp_M_SquareRoot(double* a, int n, double* out)
 {
-    TableHandle root = viewed(out, n, n);
+    auto root = viewed(out, n, n);
     return M_SquareRoot(viewed(a, n, n), n, root.reference());
 }

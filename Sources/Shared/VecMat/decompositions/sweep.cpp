@@ -3,12 +3,11 @@
 #include "../elementary/kernels/operands.h"
 #include "../elementary/kernels/update_kernels.h"
 #include "../frame/cells.h"
+#include "../frame/local_array.h"
 #include "../frame/missing_value.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <vector>
 
 using namespace vecmat;
 
@@ -51,10 +50,9 @@ void sweep(Cells a, int n, int k)
     // Read back: a pivot outside the table is -1.0 here and so counts as one that was positive.
     const double d = a.get(at(k, k));
     const double scale = std::fabs(d);
-    // The pivot's column as scaled in this sweep, which no later step changes. Small tables need no memory for it.
-    std::array<double, 32> few;
-    std::vector<double> many(countOf(n) > few.size() ? countOf(n) : 0);
-    double* const pivotColumn = many.empty() ? few.data() : many.data();
+    // The pivot's column as scaled in this sweep, which no later step changes.
+    LocalArray<double> scratch(countOf(n));
+    double* const pivotColumn = scratch.data();
     for (int i = 0; i < n; ++i) {
         if (i == k)
             continue;

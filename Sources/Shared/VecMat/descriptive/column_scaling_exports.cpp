@@ -19,7 +19,7 @@ void VB_M_CenterW(double* X, int n, int p, double* w, double* Z)
 
 void VB_M_Center2(double* X, int n, int p)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_Center2(table.reference(), n, p);
 }
 
@@ -30,7 +30,7 @@ void VB_M_Center2SPV(SAFEARRAY** X, int n, int p)
 
 void VB_M_CenterW2(double* X, int n, int p, double* w)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_CenterW2(table.reference(), n, p, viewed(w, n, 1));
 }
 
@@ -50,19 +50,19 @@ void VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample, s
 
 void VB_M_Reduce2(double* X, int n, int p, short sample)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_Reduce2(table.reference(), n, p, sample);
 }
 
 void VB_M_ReduceW2(double* X, int n, int p, double* w, short sample, short freqWeights)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_ReduceW2(table.reference(), n, p, viewed(w, n, 1), sample, freqWeights);
 }
 
 void VB_M_Standardize2(double* X, int n, int p, short sample)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_Standardize2(table.reference(), n, p, sample);
 }
 
@@ -73,7 +73,7 @@ void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample)
 
 void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, short sample, short freqWeights)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     TableHandle means = fresh(p, 1);
     TableHandle deviations = fresh(p, 1);
     M_Standardize3(table.reference(), n, p, means.reference(), deviations.reference(), sample, freqWeights);
@@ -83,14 +83,14 @@ void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, sho
 
 void VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample, short freqWeights)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     M_StandardizeW2(table.reference(), n, p, viewed(w, n, 1), sample, freqWeights);
 }
 
 void VB_M_StandardizeW3(double* X, int n, int p, double* w, double* mean, double* stdev, short sample,
                         short freqWeights)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     TableHandle means = fresh(p, 1);
     TableHandle deviations = fresh(p, 1);
     M_StandardizeW3(table.reference(), n, p, viewed(w, n, 1), means.reference(), deviations.reference(), sample,

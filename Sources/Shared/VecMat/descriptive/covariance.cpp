@@ -1,24 +1,24 @@
 #include "covariance.h"
 
 #include "../elementary/kernels/operands.h"
+#include "../frame/local_array.h"
 #include "../frame/numbers.h"
 #include "covariance_pass.h"
 
 #include <memory>
-#include <vector>
 
 using namespace vecmat;
 
 namespace {
 
-using Variances = std::vector<double>;
+using Variances = LocalArray<double>;
 
 /// Stores the covariance of each pair, column number not below row number; answers the variances.
 template <class Data, class Out>
 Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& options, double fallback)
 {
     using Sums = RunningCovariance<RowFactor::signedValue>;
-    Variances variances(countOf(p));
+    Variances variances(countOf(p), 0.0);
     onBlocks(
         [&](auto x, auto weight) {
             const CovariancePass<RowFactor::signedValue, decltype(x), decltype(weight)> pass(x, p, weight, options);

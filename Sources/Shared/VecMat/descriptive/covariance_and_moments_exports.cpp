@@ -9,14 +9,14 @@ namespace {
 using Computing = decltype(M_CovCorrAndMeanStDevVar);
 
 /// Both forms but for the shape of C.
-int covCorrAndMoments(Computing computing, double* X, int n, int p, TableHandle C, double* mean, double* stdev,
+int covCorrAndMoments(Computing computing, double* X, int n, int p, View<matrix> C, double* mean, double* stdev,
                       double* var, short corr, short* mask, double* w, short sample, short freqWeights, short center,
                       short reduce)
 {
     TableHandle data = copied(X, n, p);
-    TableHandle means = viewed(mean, p, 1);
-    TableHandle deviations = viewed(stdev, p, 1);
-    TableHandle variances = viewed(var, p, 1);
+    auto means = viewed(mean, p, 1);
+    auto deviations = viewed(stdev, p, 1);
+    auto variances = viewed(var, p, 1);
     const int status =
         computing(data.reference(), n, p, C.reference(), means.reference(), deviations.reference(),
                   variances.reference(), corr, mask, viewed(w, n, 1), sample, freqWeights, center, reduce, 0);

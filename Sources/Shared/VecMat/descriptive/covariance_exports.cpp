@@ -12,13 +12,15 @@ int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, short* mask, do
     Stretches arrays;
     arrays.add(X, countOf(n) * std::size_t{countOf(p)});
     arrays.add(C, countOf(p) * std::size_t{countOf(p)});
+    auto result = viewed(C, p, p);
+    const auto compute = [&](matrix*& data) {
+        return M_CovCorr(data, n, p, result.reference(), corr, mask, viewed(w, n, 1), sample, freqWeights, 0);
+    };
+    if (arrays.areApart())
+        return compute(viewed(X, n, p).reference());
     // X goes back as it came, also where the result lies over it: only then does that take a copy.
-    const bool apart = arrays.areApart();
-    TableHandle data = apart ? viewed(X, n, p) : copied(X, n, p);
-    TableHandle result = viewed(C, p, p);
-    const int status =
-        M_CovCorr(data.reference(), n, p, result.reference(), corr, mask, viewed(w, n, 1), sample, freqWeights, 0);
-    if (!apart)
-        handBack(data, X);
+    TableHandle data = copied(X, n, p);
+    const int status = compute(data.reference());
+    handBack(data, X);
     return status;
 }

@@ -7,7 +7,7 @@ using namespace vecmat;
 int VB_M_CorrMatMat(double* X, int n, int p, double* Y, int q, double* C, short* mask, double* w, short corr,
                     short square, short sample, short freqWeights)
 {
-    TableHandle result = viewed(C, p, q);
+    auto result = viewed(C, p, q);
     return M_CorrMatMat(viewed(X, n, p), n, p, viewed(Y, n, q), q, result.reference(), mask, viewed(w, n, 1), corr,
                         square, sample, freqWeights, 0);
 }
@@ -15,7 +15,7 @@ int VB_M_CorrMatMat(double* X, int n, int p, double* Y, int q, double* C, short*
 int VB_M_CorrMatMatSPV(SAFEARRAY** X, int n, int p, double* Y, int q, double* C, short* mask, double* w, short corr,
                        short square, short sample, short freqWeights)
 {
-    TableHandle result = viewed(C, p, q);
+    auto result = viewed(C, p, q);
     return M_CorrMatMatSPV(columns(X, p, n), n, p, viewed(Y, n, q), q, result.reference(), mask, viewed(w, n, 1), corr,
                            square, sample, freqWeights, 0);
 }

@@ -35,7 +35,7 @@ void Cpp_V_GMeanGSD(double* v, int n, short* mask, double* w, double* gmean, dou
 
 int VB_M_Mean(double* X, int n, int p, double* mean, int /*ignored*/, double* w)
 {
-    TableHandle result = viewed(mean, p, 1);
+    auto result = viewed(mean, p, 1);
     return M_Mean(viewed(X, n, p), n, p, result.reference(), viewed(w, n, 1));
 }
 

@@ -48,8 +48,8 @@ void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, short* mask, 
 int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w, short sample,
                    short freqWeights, short ignoreMask)
 {
-    TableHandle means = viewed(mean, p, 1);
-    TableHandle deviations = viewed(stdev, p, 1);
+    auto means = viewed(mean, p, 1);
+    auto deviations = viewed(stdev, p, 1);
     return M_MeanStDev(viewed(X, n, p), n, p, means.reference(), deviations.reference(), mask, viewed(w, n, 1), sample,
                        freqWeights, ignoreMask);
 }
@@ -57,9 +57,9 @@ int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* 
 int VB_M_MeanStDevVar(double* X, int n, int p, double* mean, double* stdev, double* var, short* mask, double* w,
                       short sample, short freqWeights)
 {
-    TableHandle means = viewed(mean, p, 1);
-    TableHandle deviations = viewed(stdev, p, 1);
-    TableHandle variances = viewed(var, p, 1);
+    auto means = viewed(mean, p, 1);
+    auto deviations = viewed(stdev, p, 1);
+    auto variances = viewed(var, p, 1);
     return M_MeanStDevVar(viewed(X, n, p), n, p, means.reference(), deviations.reference(), variances.reference(), mask,
                           viewed(w, n, 1), sample, freqWeights);
 }
@@ -69,8 +69,8 @@ int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, do
 {
     // Both results are opened with a cell for each row. Where the callee asks for more it puts a table of its own in
     // place of the view, and the caller's array stays as it was.
-    TableHandle means = viewed(mean, n, 1);
-    TableHandle deviations = viewed(stdev, n, 1);
+    auto means = viewed(mean, n, 1);
+    auto deviations = viewed(stdev, n, 1);
     return M_MeanStDevByRow(viewed(X, n, p), n, p, means.reference(), deviations.reference(), viewed(w, p, 1), sample,
                             freqWeights);
 }

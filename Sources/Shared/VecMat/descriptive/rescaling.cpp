@@ -32,7 +32,7 @@ void divideByNorms(matrix* table, int rows, int cols, matrix* norms, double c)
 
 void M_Normalize(matrix*& X, int n, int p, matrix*& norms, short* mask, matrix* w)
 {
-    TableHandle units(w == nullptr ? new matrix(n, 1, 1.0) : nullptr);
+    const TableHandle units = w == nullptr ? fresh(n, 1, 1.0) : TableHandle();
     matrix* weights = w != nullptr ? w : static_cast<matrix*>(units);
     matrix::matCheck(norms, p, 1, 0.0);
     const double c = inflation(n);

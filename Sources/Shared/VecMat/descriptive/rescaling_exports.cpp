@@ -6,7 +6,7 @@ using namespace vecmat;
 
 void VB_M_Normalize(double* X, int n, int p, double* norms, short* mask, double* w)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     TableHandle lengths = fresh(p, 1);
     M_Normalize(table.reference(), n, p, lengths.reference(), mask, viewed(w, n, 1));
     handBack(lengths, norms);

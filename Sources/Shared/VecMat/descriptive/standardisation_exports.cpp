@@ -29,7 +29,7 @@ void VB_M_StandardizeW(double* X, int n, int p, double* w, short sample, short f
 void VB_M_StandardizeKnownMeansStDev(double* X, int n, int p, double* mean, double* Z, double* stdev, double* var,
                                      short* mask)
 {
-    TableHandle table = viewed(X, n, p);
+    auto table = viewed(X, n, p);
     TableHandle result;
     M_StandardizeKnownMeansStDev(table.reference(), n, p, viewed(mean, p, 1), result.reference(), viewed(stdev, p, 1),
                                  viewed(var, p, 1), mask);

@@ -23,7 +23,7 @@ double Cpp_M_SquareRootAij2(double* a, int rows, int cols)
 
 void VB_M_LogMatrix(double* a, int rows, int cols, short* mask)
 {
-    TableHandle table = viewed(a, rows, cols);
+    auto table = viewed(a, rows, cols);
     M_LogMatrix(table.reference(), rows, cols, mask);
 }
 

@@ -7,13 +7,13 @@ using namespace vecmat;
 
 void VB_M_ProductByElement(double* a, int rows, int cols, double* b, double* out)
 {
-    TableHandle result = viewed(out, rows, cols);
+    auto result = viewed(out, rows, cols);
     M_ProductByElement(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), result.reference());
 }
 
 void VB_M_ProductHorizAB(double* a, int rows, int cols, double* b, int colsB, double* out)
 {
-    TableHandle result = viewed(out, rows, timesCount(cols, colsB));
+    auto result = viewed(out, rows, timesCount(cols, colsB));
     M_ProductHorizAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB, result.reference());
 }
 
@@ -25,7 +25,7 @@ void VB_M_ProductHorizAB2(double* a, int rows, int* cols, double* b, int colsB)
 void VB_M_ProductDesignAB2(double* a, int rows, int* cols, double* b, int colsB, int mode, double* w, double* out)
 {
     const int total = timesCount(*cols, colsB);
-    TableHandle result = viewed(out, total, 1);
+    auto result = viewed(out, total, 1);
     M_ProductDesignAB2(viewed(a, rows, total), rows, cols, viewed(b, rows, colsB), colsB, mode, viewed(w, rows, 1),
                        result.reference());
 }

@@ -8,7 +8,7 @@ using namespace vecmat;
 
 void VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol, short prepare)
 {
-    TableHandle target = viewed(dst, n, dstCol);
+    auto target = viewed(dst, n, dstCol);
     CopyMatrixColToMatrixCol(viewed(src, n, col), n, col, target.reference(), dstCol, prepare);
 }
 
@@ -22,7 +22,7 @@ void VB_CopyMatrixColToVector(double* src, int n, int col, double* v)
 void VB_CopyMatrixRowToMatrixRow(double* src, int rows, int cols, int row, double* dst, int dstRows, int dstRow,
                                  short prepare)
 {
-    TableHandle target = viewed(dst, dstRows, cols);
+    auto target = viewed(dst, dstRows, cols);
     CopyMatrixRowToMatrixRow(viewed(src, rows, cols), cols, zeroBased(row), target.reference(), dstRows,
                              zeroBased(dstRow), prepare);
 }

@@ -6,49 +6,49 @@ using namespace vecmat;
 
 int VB_M_ProductAB(double* a, int r, int c, double* b, int c2, double* out)
 {
-    TableHandle result = viewed(out, r, c2);
+    auto result = viewed(out, r, c2);
     return M_ProductAB(viewed(a, r, c), r, c, viewed(b, c, c2), c2, result.reference());
 }
 
 int VB_M_ProductBV(double* b, int rows, int cols, double* v, double* out)
 {
-    TableHandle result = viewed(out, rows, 1);
+    auto result = viewed(out, rows, 1);
     return M_ProductBV(viewed(b, rows, cols), rows, cols, viewed(v, cols, 1), result.reference());
 }
 
 void VB_M_ProductVB(double* v, int rows, double* b, int cols, double* out)
 {
-    TableHandle result = viewed(out, cols, 1);
+    auto result = viewed(out, cols, 1);
     M_ProductVB(viewed(v, rows, 1), rows, viewed(b, rows, cols), cols, result.reference());
 }
 
 void VB_M_ProductTrAB(double* a, int rows, int cols, double* b, int colsB, double* out)
 {
-    TableHandle result = viewed(out, cols, colsB);
+    auto result = viewed(out, cols, colsB);
     M_ProductTrAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB, result.reference());
 }
 
 void VB_M_ProductATrB(double* a, int rows, int cols, double* b, int rowsB, double* out)
 {
-    TableHandle result = viewed(out, rows, rowsB);
+    auto result = viewed(out, rows, rowsB);
     M_ProductATrB(viewed(a, rows, cols), rows, cols, viewed(b, rowsB, cols), rowsB, result.reference());
 }
 
 void VB_M_ProductTrAA(double* a, int rows, int cols, double* out)
 {
-    TableHandle result = viewed(out, cols, cols);
+    auto result = viewed(out, cols, cols);
     M_ProductTrAA(viewed(a, rows, cols), rows, cols, result.reference());
 }
 
 void Cpp_M_ProductTrAALng(int* a, int rows, int cols, int* out)
 {
-    IntTableHandle result = viewed(out, cols, cols);
+    auto result = viewed(out, cols, cols);
     M_ProductTrAA(viewed(a, rows, cols), rows, cols, result.reference());
 }
 
 void VB_M_ProductATrA(double* a, int rows, int cols, double* out)
 {
-    TableHandle result = viewed(out, rows, rows);
+    auto result = viewed(out, rows, rows);
     M_ProductATrA(viewed(a, rows, cols), rows, cols, result.reference());
 }
 

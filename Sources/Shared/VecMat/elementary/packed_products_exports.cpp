@@ -7,7 +7,7 @@ using namespace vecmat;
 
 namespace {
 
-TableHandle viewedPacked(double* s, int n)
+View<matrix> viewedPacked(double* s, int n)
 {
     return viewed(s, n > 0 ? static_cast<int>(packedPosition(n - 1, n - 1) + 1) : 0, 1);
 }

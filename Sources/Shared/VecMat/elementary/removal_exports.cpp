@@ -19,19 +19,19 @@ void VB_M_RemoveRow(double* a, int rows, int cols, int row, double* out)
 
 void VB_M_MoveRow(double* a, int rows, int cols, int r1, int r2)
 {
-    TableHandle table = viewed(a, rows, cols);
+    auto table = viewed(a, rows, cols);
     M_MoveRow(table.reference(), cols, r1, r2);
 }
 
 void VB_M_RemoveCols2(double* a, int rows, int cols, int from, int to)
 {
-    TableHandle table = viewed(a, rows, cols);
+    auto table = viewed(a, rows, cols);
     M_RemoveCols2(table.reference(), rows, cols, from, to);
 }
 
 void VB_M_RemoveRows2(double* a, int rows, int cols, int from, int to)
 {
-    TableHandle table = viewed(a, rows, cols);
+    auto table = viewed(a, rows, cols);
     M_RemoveRows2(table.reference(), rows, cols, from, to);
 }
 

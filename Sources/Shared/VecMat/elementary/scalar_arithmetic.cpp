@@ -3,6 +3,7 @@
 #include "../frame/cells.h"
 #include "../frame/missing_value.h"
 #include "../frame/numbers.h"
+#include "../frame/table_arrays.h"
 #include "kernels/cellwise.h"
 #include "kernels/operands.h"
 #include "kernels/result.h"
@@ -59,7 +60,7 @@ void M_ScalarsA2(matrix*& a, int rows, int cols, double s)
     if (scaled->nElems <= a->nElems) {
         scaled->copyMatTo(a);
     } else {
-        delete a;
+        release(a);
         a = scaled.release();
     }
 }

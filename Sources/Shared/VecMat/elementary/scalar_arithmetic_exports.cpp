@@ -6,31 +6,31 @@ using namespace vecmat;
 
 void VB_M_ScalarsA(double* a, int rows, int cols, double s, double* out)
 {
-    TableHandle result = viewed(out, rows, cols);
+    auto result = viewed(out, rows, cols);
     M_ScalarsA(viewed(a, rows, cols), rows, cols, s, result.reference());
 }
 
 void VB_M_ScalarsA2(double* a, int rows, int cols, double s)
 {
-    TableHandle table = viewed(a, rows, cols);
+    auto table = viewed(a, rows, cols);
     M_ScalarsA2(table.reference(), rows, cols, s);
 }
 
 void VB_M_ScalarsTrA(double* a, int rows, int cols, double s, double* out)
 {
-    TableHandle result = viewed(out, cols, rows);
+    auto result = viewed(out, cols, rows);
     M_ScalarsTrA(viewed(a, rows, cols), rows, cols, s, result.reference());
 }
 
 void VB_M_Sums1As2B(double* a, int rows, int cols, double* b, double s1, double s2, double* out)
 {
-    TableHandle result = viewed(out, rows, cols);
+    auto result = viewed(out, rows, cols);
     M_Sums1As2B(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), s1, s2, result.reference());
 }
 
 void VB_M_APlusVal(double* a, int rows, int cols, double v, double* out)
 {
-    TableHandle result = viewed(out, rows, cols);
+    auto result = viewed(out, rows, cols);
     M_APlusVal(viewed(a, rows, cols), rows, cols, v, result.reference());
 }
 

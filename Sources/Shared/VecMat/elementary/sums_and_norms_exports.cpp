@@ -31,13 +31,13 @@ void VB_M_SumByRows(double* a, int rows, int cols, double* out)
 
 void VB_M_SquaredRows(double* a, int rows, int cols, double* out)
 {
-    TableHandle result = viewed(out, rows, 1);
+    auto result = viewed(out, rows, 1);
     M_SquaredRows(viewed(a, rows, cols), rows, cols, result.reference());
 }
 
 void VB_M_SquaredColumns(double* a, int rows, int cols, double* out)
 {
-    TableHandle result = viewed(out, cols, 1);
+    auto result = viewed(out, cols, 1);
     M_SquaredColumns(viewed(a, rows, cols), rows, cols, result.reference());
 }
 

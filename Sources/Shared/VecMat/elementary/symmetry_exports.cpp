@@ -15,7 +15,7 @@ short VB_M_IsSymmetricSPV(SAFEARRAY** a, int n)
 
 void VB_M_Symmetrize(double* a, int n, int mode)
 {
-    TableHandle table = viewed(a, n, n);
+    auto table = viewed(a, n, n);
     M_Symmetrize(table.reference(), n, mode);
 }
 
@@ -26,7 +26,7 @@ void VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode)
 
 int VB_M_IsTriangular(double* a, int n, short fill)
 {
-    TableHandle table = viewed(a, n, n);
+    auto table = viewed(a, n, n);
     return M_IsTriangular(table.reference(), n, fill);
 }
 
@@ -47,6 +47,6 @@ int VB_M_CheckIfSimOrDissimSPV(SAFEARRAY** a, int rows, int cols, int kind)
 
 void VB_M_TransformSimToDissim(double* a, int n)
 {
-    TableHandle table = viewed(a, n, n);
+    auto table = viewed(a, n, n);
     M_TransformSimToDissim(table.reference(), n);
 }

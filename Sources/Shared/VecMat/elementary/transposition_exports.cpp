@@ -5,7 +5,7 @@ using namespace vecmat;
 
 void VB_M_Transpose(double* a, int r, int c, double* out)
 {
-    TableHandle table = viewed(a, r, c);
+    auto table = viewed(a, r, c);
     TableHandle result = fresh(c, r);
     M_Transpose(table.reference(), r, c, result.reference());
     handBack(result, out);
@@ -13,7 +13,7 @@ void VB_M_Transpose(double* a, int r, int c, double* out)
 
 void VB_M_TransposeLng(int* a, int r, int c, int* out)
 {
-    IntTableHandle table = viewed(a, r, c);
+    auto table = viewed(a, r, c);
     IntTableHandle result = freshInt(c, r);
     M_Transpose(table.reference(), r, c, result.reference());
     handBack(result, out);
@@ -29,7 +29,7 @@ void VB_M_TransposeStr(wchar_t** a, int r, int c, wchar_t** out)
 
 void VB_M_Transpose2(double* a, int r, int c)
 {
-    TableHandle table = viewed(a, r, c);
+    auto table = viewed(a, r, c);
     M_Transpose2(table.reference(), r, c);
 }
 

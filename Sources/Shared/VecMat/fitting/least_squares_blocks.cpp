@@ -70,7 +70,8 @@ void correlateAboutMeans(const ModelMoments& moments, const std::vector<ModelBlo
 
 void measureColumns(const ModelMoments& moments, const ModelBlock& block, const Rows& rows)
 {
-    TableHandle mean, deviation(new matrix(block.width, 1, 0.0)), variance;
+    TableHandle mean, variance;
+    TableHandle deviation = fresh(block.width, 1);
     M_MeanStDevVar(block.table, rows.n, block.width, mean.reference(), deviation.reference(), variance.reference(),
                    rows.mask, rows.w, -1, -1);
     placeMoments(moments, block, mean, deviation);

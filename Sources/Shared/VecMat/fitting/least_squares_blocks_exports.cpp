@@ -9,10 +9,10 @@ using namespace vecmat;
 
 namespace {
 
-/// The caller's block. One of width 0 need not have an array: an empty table stands for it.
-TableHandle viewedBlock(double* x, int n, int width)
+/// The caller's block. One of width 0 need not have an array, and is not looked at.
+View<matrix> viewedBlock(double* x, int n, int width)
 {
-    return width > 0 ? viewed(x, n, width) : fresh(1, 1);
+    return viewed(width > 0 ? x : nullptr, n, width);
 }
 
 } // namespace

@@ -4,14 +4,12 @@ namespace vecmat {
 
 std::optional<PlainModelCells> PlainModelCells::of(const ModelColumns& columns, int n)
 {
-    PlainModelCells result;
-    result.columns_.reserve(columns.size());
-    for (const ModelColumn& column : columns) {
-        const auto cells = block(column.cells(), n, 1);
-        if (!cells.inside)
+    std::optional<PlainModelCells> result(PlainModelCells(columns.size()));
+    for (std::size_t j = 0; j < columns.size(); ++j) {
+        if (!block(columns[j].cells(), n, 1).inside)
             return std::nullopt;
-        const matrix* const table = column.table;
-        result.columns_.push_back(n > 0 ? table->X + std::ptrdiff_t{table->nRows} * column.number : nullptr);
+        const matrix* const table = columns[j].table;
+        result->columns_[j] = n > 0 ? table->X + std::ptrdiff_t{table->nRows} * columns[j].number : nullptr;
     }
     return result;
 }

@@ -3,6 +3,7 @@
 
 #include "../elementary/kernels/operands.h"
 #include "../frame/handles.h"
+#include "../frame/local_array.h"
 #include "../matrix.h"
 
 #include <optional>
@@ -39,7 +40,9 @@ public:
     Cells cells() const { return {columns_.data()}; }
 
 private:
-    std::vector<const double*> columns_;
+    explicit PlainModelCells(std::size_t count) : columns_(count) {}
+
+    LocalArray<const double*> columns_;
 };
 
 /// The first `count` columns of a table.

@@ -1,12 +1,12 @@
 // The call frame: how an exported flat form wraps the caller's arrays, and how results go back.
 //
 //     viewed    the caller's array itself, read or written in place
-//     View      the same without a call for memory, where calls on few numbers count
 //     copied    a private copy; the caller's array is never written unless the result is handed back
 //     fresh     a new table for a result that is then handed back
 //     columns   an array of arrays, each column a view (numbers) or a copy (strings)
 //
-// A handle deletes its table when the call ends, on every path, also one that the computing function put in its place.
+// The tables of a call end with it, on every path, also one that the computing function put in place of another. Tables
+// of numbers lie on the stack, and the cells of small ones too: a call on few numbers takes no memory for its frame.
 // A null array is handed on as a null table. Handing a result back is an explicit statement, so that nothing is written
 // to the caller while an exception passes.
 #pragma once
@@ -14,20 +14,145 @@
 #include "../Smatrix.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
+#include "local_array.h"
+#include "numbers.h"
 #include "super_matrices.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <type_traits>
 #include <utility>
 
 namespace vecmat {
 
-/// Owns one table for the length of a call.
+// ---- tables of numbers ----------------------------------------------------------------------------------------------
+
 template <class Table>
-class Handle
+using CellType = std::remove_pointer_t<decltype(Table::X)>;
+
+/// A table on the stack, over cells that belong to another.
+template <class Table>
+union TableInPlace {
+    TableInPlace(int rows, int cols, CellType<Table>* cells)
+        : table(typename Table::Shape{rows, cols, elementCount(rows, cols)})
+    {
+        table.X = cells;
+        table.ownsX = 0;
+        table.inFrame = 1;
+    }
+    ~TableInPlace()
+    {
+        if (hasArrays())
+            table.~Table();
+    }
+    TableInPlace(const TableInPlace&) = delete;
+    TableInPlace& operator=(const TableInPlace&) = delete;
+
+    Table table;
+
+private:
+    /// Has a callee given it weights or moments? That is rare, and looked at in one go.
+    bool hasArrays() const
+    {
+        const auto bits = [](const void* array) { return reinterpret_cast<std::uintptr_t>(array); };
+        return (bits(table.weights) | bits(table.nCol) | bits(table.weightcorr) | bits(table.descMu) |
+                bits(table.descSigma) | bits(table.norMu) | bits(table.norSigma)) != 0;
+    }
+};
+
+/// What views and handles have in common: it stands for its table wherever one is asked for.
+template <class Table>
+class FrameTable
+{
+public:
+    operator Table*() const { return pointer_; }
+    Table* operator->() const { return pointer_; }
+
+    /// For a result argument: the callee may put another table in place of this one.
+    Table*& reference() { return pointer_; }
+
+    FrameTable(const FrameTable&) = delete;
+    FrameTable& operator=(const FrameTable&) = delete;
+
+protected:
+    FrameTable(int rows, int cols, CellType<Table>* cells)
+        : place_(rows, cols, cells), pointer_(cells != nullptr ? &place_.table : nullptr)
+    {
+    }
+    ~FrameTable()
+    {
+        if (pointer_ != &place_.table)
+            delete pointer_;
+    }
+
+    /// The table that this one was made with is still the one.
+    bool isInPlace() const { return pointer_ == &place_.table; }
+    /// Takes what the other has instead of a table of its own.
+    void takeReplacement(FrameTable& other) { pointer_ = std::exchange(other.pointer_, nullptr); }
+
+private:
+    mutable TableInPlace<Table> place_; // what is constant is which table this is, not the table
+    Table* pointer_;
+};
+
+/// The caller's array itself.
+template <class Table>
+class View : public FrameTable<Table>
+{
+public:
+    View(CellType<Table>* x, int rows, int cols) : FrameTable<Table>(rows, cols, x) {}
+};
+
+View(double*, int, int)->View<matrix>;
+View(int*, int, int)->View<matrixInt>;
+
+/// A table with cells of its own, or none.
+template <class Table>
+class Handle : LocalArray<CellType<Table>>, public FrameTable<Table>
+{
+    using Cells = LocalArray<CellType<Table>>;
+
+public:
+    Handle() : Cells(0), FrameTable<Table>(0, 0, nullptr) {}
+    Handle(int rows, int cols, CellType<Table> value) : Handle(rows, cols)
+    {
+        std::fill_n(Cells::data(), Cells::size(), value);
+    }
+    /// The first `given` cells are copied in linear order, the others are 0.
+    template <class Number>
+    Handle(int rows, int cols, const Number* src, unsigned given) : Handle(rows, cols)
+    {
+        const std::size_t count = std::min<std::size_t>(given, Cells::size());
+        std::fill(std::copy_n(src, count, Cells::data()), Cells::data() + Cells::size(), 0);
+    }
+    /// Weights and moments that a callee gave the table stay behind.
+    Handle(Handle&& other) noexcept
+        : Cells(std::move(other)), FrameTable<Table>(other.rows(), other.cols(),
+                                                     other.isInPlace() ? Cells::data() : nullptr)
+    {
+        if (!other.isInPlace())
+            this->takeReplacement(other);
+    }
+
+private:
+    Handle(int rows, int cols) : Cells(elementCount(rows, cols)), FrameTable<Table>(rows, cols, Cells::data()) {}
+    int rows() const { return this->isInPlace() ? (*this)->nRows : 0; }
+    int cols() const { return this->isInPlace() ? (*this)->nCols : 0; }
+};
+
+using TableHandle = Handle<matrix>;
+using IntTableHandle = Handle<matrixInt>;
+
+// ---- tables of strings ----------------------------------------------------------------------------------------------
+
+/// Owns a table of strings for the length of a call.
+template <>
+class Handle<Smatrix>
 {
 public:
     Handle() = default;
-    explicit Handle(Table* table) : table_(table), opened_(table) {}
+    explicit Handle(Smatrix* table) : table_(table), opened_(table) {}
     Handle(Handle&& other) noexcept
         : table_(std::exchange(other.table_, nullptr)), opened_(std::exchange(other.opened_, nullptr))
     {
@@ -35,60 +160,52 @@ public:
     Handle& operator=(Handle&&) = delete;
     ~Handle()
     {
-        // A numeric table that was replaced is gone already; a string table that was replaced is left to its owner.
-        if constexpr (std::is_same_v<Table, Smatrix>)
-            if (opened_ != table_)
-                delete opened_;
+        if (opened_ != table_) // one that was replaced is left to its owner
+            delete opened_;
         delete table_;
     }
 
-    operator Table*() const { return table_; }
-    Table* operator->() const { return table_; }
+    operator Smatrix*() const { return table_; }
+    Smatrix* operator->() const { return table_; }
 
     /// For a result argument: the callee may put another table in place of this one.
-    Table*& reference() { return table_; }
+    Smatrix*& reference() { return table_; }
 
 private:
-    Table* table_ = nullptr;
-    Table* opened_ = nullptr;
+    Smatrix* table_ = nullptr;
+    Smatrix* opened_ = nullptr;
 };
 
-using TableHandle = Handle<matrix>;
-using IntTableHandle = Handle<matrixInt>;
 using StringTableHandle = Handle<Smatrix>;
 
 // ---- wrap -----------------------------------------------------------------------------------------------------------
 
-inline TableHandle viewed(double* x, int rows, int cols)
+inline View<matrix> viewed(double* x, int rows, int cols)
 {
-    return TableHandle(x != nullptr ? new matrix(rows, cols, x, true) : nullptr);
+    return {x, rows, cols};
 }
 
-inline IntTableHandle viewed(int* x, int rows, int cols)
+inline View<matrixInt> viewed(int* x, int rows, int cols)
 {
-    return IntTableHandle(x != nullptr ? new matrixInt(rows, cols, x, true) : nullptr);
-}
-
-inline TableHandle copied(double* x, int rows, int cols)
-{
-    return TableHandle(x != nullptr ? new matrix(rows, cols, x, false) : nullptr);
+    return {x, rows, cols};
 }
 
 /// Opens the table at its final size over an array of `srcRows` by `srcCols` (0: as the table), copied in linear order.
-inline TableHandle copied(double* x, int rows, int cols, int srcRows, int srcCols)
+inline TableHandle copied(double* x, int rows, int cols, int srcRows = 0, int srcCols = 0)
 {
-    return TableHandle(x != nullptr ? new matrix(rows, cols, x, srcRows, srcCols) : nullptr);
+    const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
+    return x != nullptr ? TableHandle(rows, cols, x, given) : TableHandle();
 }
 
 inline IntTableHandle copied(int* x, int rows, int cols)
 {
-    return IntTableHandle(x != nullptr ? new matrixInt(rows, cols, x, false) : nullptr);
+    return x != nullptr ? IntTableHandle(rows, cols, x, elementCount(rows, cols)) : IntTableHandle();
 }
 
 /// A Boolean array: true becomes -1.0, false 0.0.
 inline TableHandle copied(short* x, int rows, int cols)
 {
-    return TableHandle(x != nullptr ? new matrix(rows, cols, x) : nullptr);
+    return x != nullptr ? TableHandle(rows, cols, x, elementCount(rows, cols)) : TableHandle();
 }
 
 inline StringTableHandle copied(wchar_t** x, int rows, int cols, int srcRows = 0, int srcCols = 0)
@@ -96,14 +213,14 @@ inline StringTableHandle copied(wchar_t** x, int rows, int cols, int srcRows = 0
     return StringTableHandle(x != nullptr ? new Smatrix(rows, cols, x, srcRows, srcCols) : nullptr);
 }
 
-inline TableHandle fresh(int rows, int cols)
+inline TableHandle fresh(int rows, int cols, double value = 0.0)
 {
-    return TableHandle(new matrix(rows, cols, 0.0));
+    return {rows, cols, value};
 }
 
 inline IntTableHandle freshInt(int rows, int cols)
 {
-    return IntTableHandle(new matrixInt(rows, cols, 0));
+    return {rows, cols, 0};
 }
 
 inline StringTableHandle freshStrings(int rows, int cols)
@@ -111,41 +228,11 @@ inline StringTableHandle freshStrings(int rows, int cols)
     return StringTableHandle(new Smatrix(rows, cols));
 }
 
-/// The caller's array itself as a table that lives on the stack. For a callee that keeps the table: one that prepares
-/// it with `matCheck` does so at the dimensions given, which it has.
-template <class Table>
-class View
-{
-public:
-    template <class Element>
-    View(Element* x, int rows, int cols) : table_(rows, cols, x, true), pointer_(x != nullptr ? &table_ : nullptr)
-    {
-    }
-    /// Of a null array the callee may have made a table.
-    ~View()
-    {
-        if (pointer_ != &table_)
-            delete pointer_;
-    }
-    View(const View&) = delete;
-    View& operator=(const View&) = delete;
-
-    operator Table*() { return pointer_; }
-    Table*& reference() { return pointer_; }
-
-private:
-    Table table_;
-    Table* pointer_;
-};
-
-View(double*, int, int)->View<matrix>;
-View(int*, int, int)->View<matrixInt>;
-
 // ---- hand back ------------------------------------------------------------------------------------------------------
 
 /// Writes every cell of the table to the caller's array; nothing where either is null.
-template <class Table, class Element>
-void handBack(const Handle<Table>& table, Element* out)
+template <class Tables, class Element>
+void handBack(const Tables& table, Element* out)
 {
     if (table != nullptr && out != nullptr)
         table->copyMatTo(out);

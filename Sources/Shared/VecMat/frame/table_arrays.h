@@ -1,4 +1,5 @@
-// What the classes of tables have in common: the arrays beside the cells, and which receivers of a result can be read.
+// What the classes of tables have in common: the arrays beside the cells, which receivers of a result can be read, and
+// how one is replaced.
 #pragma once
 
 #include "missing_value.h"
@@ -62,6 +63,14 @@ void deleteArrays(Table& table)
     delete[] table.descSigma;
     delete[] table.norMu;
     delete[] table.norSigma;
+}
+
+/// Ends a table that another one replaces; one that lies in the frame of a call ends there.
+template <class Table>
+void release(Table* table)
+{
+    if (table != nullptr && table->inFrame == 0)
+        delete table; // NOLINT(clang-analyzer-cplusplus.NewDelete): the unset pattern is not kept from getting here
 }
 
 } // namespace vecmat

@@ -19,7 +19,7 @@ int largestCount(int* nCats, int nCols)
 void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
 {
     // A view: what matches nothing keeps the caller's content.
-    TableHandle codes = viewed(out, nRows, nCols);
+    auto codes = viewed(out, nRows, nCols);
     M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
                         copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());
 }
@@ -27,7 +27,7 @@ void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, w
 void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, short* mask,
                             int firstCode, double* out)
 {
-    TableHandle codes = viewed(out, nRows, nCols);
+    auto codes = viewed(out, nRows, nCols);
     M_ReplaceStrByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
                         copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode, codes.reference());
 }

@@ -54,12 +54,12 @@ void Cpp_Random1toNDbl(int n, double* out, int* seed, short seedFlag, int* seedO
 
 void VB_GenerateRandomIndicator(double* out, int n, int k, int* seed, short seedFlag, int* seedOut)
 {
-    TableHandle marks = viewed(out, n, 1);
+    auto marks = viewed(out, n, 1);
     GenerateRandomIndicator(marks.reference(), n, k, seed, seedFlag, seedOut);
 }
 
 void VB_GenerateIndicator(double* out, int n, int first, int last)
 {
-    TableHandle marks = viewed(out, n, 1);
+    auto marks = viewed(out, n, 1);
     GenerateIndicator(marks.reference(), n, first, last);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <utility>
 
 namespace vecmat {
 
@@ -19,8 +18,11 @@ template <class Table>
 [[nodiscard]] std::unique_ptr<Table> prepare(Table*& out, int rows, int cols)
 {
     std::unique_ptr<Table> replaced;
-    if (out != nullptr && !holds(out, rows, cols))
-        replaced.reset(std::exchange(out, nullptr));
+    if (out != nullptr && !holds(out, rows, cols)) {
+        if (out->inFrame == 0) // which else lives long enough anyway
+            replaced.reset(out);
+        out = nullptr;
+    }
     Table::matCheck(out, rows, cols, 0.0);
     return replaced;
 }

@@ -210,7 +210,7 @@ bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, c
 template <MissingFactor missing = MissingFactor::multiplied, class Left, class Right, class Out>
 void multiply(Left left, Right right, ProductShape shape, Out out)
 {
-    const auto cellByCell = [shape](auto x, auto y, auto result) { multiplyCellByCell<missing>(x, y, shape, result); };
+    const auto cellByCell = [&](auto x, auto y, auto result) { multiplyCellByCell<missing>(x, y, shape, result); };
     onBlocksOrElse(
         [&](auto x, auto y, auto result) {
             if (!detail::multiplyInTiles<missing, ResultPart::whole>(x, y, shape, result))
