@@ -77,7 +77,10 @@ struct Quantile : Few
 
 struct WeightedQuantile : Few
 {
-    explicit WeightedQuantile(int n) : Few(n) {}
+    explicit WeightedQuantile(int n) : Few(n)
+    {
+        w = RandomData(143).weights(count(n));
+    } // of one weight it is unweighted
     void enter(Contest& contest)
     {
         compete(
