@@ -83,7 +83,7 @@ protected:
     ~FrameTable()
     {
         if (pointer_ != &place_.table)
-            delete pointer_;
+            delete pointer_; // NOLINT(clang-analyzer-cplusplus.NewDelete): one that a callee has made
     }
 
     /// The table that this one was made with is still the one.
@@ -131,7 +131,7 @@ public:
         : Cells(std::move(other)), FrameTable<Table>(other.rows(), other.cols(),
                                                      other.isInPlace() ? Cells::data() : nullptr)
     {
-        if (!other.isInPlace())
+        if (!other.isInPlace()) // NOLINT(bugprone-use-after-move): what has moved are its cells
             this->takeReplacement(other);
     }
 
