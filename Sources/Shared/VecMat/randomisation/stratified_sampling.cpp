@@ -75,7 +75,7 @@ Block drawnWithReplacement(const Block& block, int size, int wanted, int p, Seed
     const auto drawnLabel = linear<matrix>(drawn.labels);
     for (int i = 0; i < wanted; ++i)
         drawnLabel.set(i, label.get(zeroBased(truncated(position.get(i)))));
-    return drawn;
+    return drawn; // NOLINT(clang-analyzer-core.StackAddressEscape): a handle that moves takes its table along
 }
 
 /// `Rows` is a table, or an array of columns.
