@@ -163,7 +163,7 @@ TEST(EigenWorkspace, TakesAColumnThatStandsTwiceAsThePlainLoopsDo)
     RandomData data(8127);
     SCOPED_TRACE(data);
     const int n = 24;
-    const auto run = [n](TableColumns& columns, auto decompose) {
+    const auto run = [&](TableColumns& columns, auto decompose) {
         std::vector<matrix*> repeated(static_cast<matrix**>(columns), static_cast<matrix**>(columns) + n);
         repeated[5] = repeated[2];
         return decompose(repeated.data());
