@@ -133,6 +133,21 @@ TEST(V_Rescale, BringsTheCellsToTheRange)
     EXPECT_THAT(rescaled({1, 4, 2}, 0.1, 0.7, {0, 0, 0})[2], SameBits((2.0 - 1.0) * (0.7 - 0.1) / 3.0 + 0.1));
 }
 
+TEST(V_Rescale, MultipliesBeforeItDivides)
+{
+    RandomData data(20282);
+    SCOPED_TRACE(data);
+    Cells x = data.normals(200);
+    x[7] = -20.0;
+    x[11] = 17.0;
+    const double low = 0.1;
+    const double high = 0.83;
+    Cells wanted;
+    for (const double cell : x)
+        wanted.push_back((cell - -20.0) * (high - low) / (17.0 - -20.0) + low);
+    EXPECT_THAT(rescaled(x, low, high, std::vector<short>(x.size(), 0)), SameBits(wanted));
+}
+
 TEST(V_Rescale, TakesTheMiddleWithoutSpread)
 {
     EXPECT_THAT(rescaled({4, 4, 4}, 0, 10, {0, 0, -1}), SameBits({5, 5, M}));
