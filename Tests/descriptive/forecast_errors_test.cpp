@@ -3,6 +3,7 @@
 
 #include "support/bits.h"
 #include "support/guarded.h"
+#include "support/random_data.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
@@ -58,6 +59,36 @@ TEST(MAPE, StartsAtFirstAndTakesZeroAsOne)
     EXPECT_THAT(mape({100, 200}, {90, 250}, {1, 1}, 2), SameBits(25));
     EXPECT_THAT(mape({100, 200}, {90, 250}, {1, 1}, 0), SameBits(mape({100, 200}, {90, 250}, {1, 1}, 1)));
     EXPECT_THAT(mape({100}, {90}, {1}, 2), SameBits(0));
+}
+
+TEST(Measures, MultiplyAndDivideInTheirOrder)
+{
+    RandomData data(20301);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < 20; ++turn) {
+        constexpr std::size_t n = 30;
+        const Cells y = data.normals(n);
+        const Cells f = data.normals(n);
+        const Cells w = data.weights(n, 0.1);
+        double W = 0, ofShares = 0, ofSigned = 0, ofSizes = 0, ofSquares = 0;
+        double mean = 0;
+        for (const double cell : y)
+            mean += cell;
+        mean /= static_cast<double>(n);
+        for (std::size_t i = 0; i < n; ++i) {
+            W += w[i];
+            ofShares += std::fabs(1.0 - f[i] / y[i]) * w[i];
+            ofSigned += (w[i] * (y[i] - f[i])) / y[i];
+            ofSizes += w[i] * std::fabs(y[i] - f[i]);
+            ofSquares += w[i] * ((y[i] - mean) * (y[i] - mean));
+        }
+        EXPECT_THAT(mape(y, f, w), SameBits((ofShares * 100.0) / W));
+        EXPECT_THAT(mpe(y, f, w), SameBits((ofSigned * 100.0) / W));
+        EXPECT_THAT(MAE(column(y), column(f), n, column(w), 1), SameBits(ofSizes / W));
+        double found = 0;
+        EXPECT_THAT(GetSSE(column(y), n, column(w), &found), SameBits(ofSquares));
+        EXPECT_THAT(found, SameBits(mean));
+    }
 }
 
 TEST(Measures, SkipWhatCannotBeScored)

@@ -2,6 +2,7 @@
 #include "descriptive/triangular_fit.h"
 
 #include "support/bits.h"
+#include "support/random_data.h"
 
 #include <gtest/gtest.h>
 
@@ -145,6 +146,54 @@ TEST(TriangularFunc, IsZeroAtTheUpperEnd)
     TriangularQFindAB(2, 4, 7, 0.1, 0.85, &a, &b);
     EXPECT_NEAR(a, 0, 1e-10);
     EXPECT_NEAR(b, 10, 1e-10);
+}
+
+TEST(TriangularFunc, AndItsMirrorMultiplyInTheirOrder)
+{
+    RandomData data(20302);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < 100; ++turn) {
+        const double x1 = data.uniform(1.0, 3.0), m = data.uniform(3.0, 5.0), x2 = data.uniform(5.0, 8.0);
+        const double p1 = data.uniform(0.05, 0.4), p2 = data.uniform(0.5, 0.95);
+        const double b = data.uniform(8.0, 20.0);
+        const double r = 1.0 - p2;
+        const double a = ((b * b) * p2 + (x2 * -2.0 + r * m) * b + x2 * x2) / ((m - b) * r);
+        EXPECT_THAT(TriangularFunc(b, x1, m, x2, p1, p2),
+                    SameBits((b * p1) * (m - a) - ((a * a) * (1.0 - p1) + (m * p1 - (x1 + x1)) * a + x1 * x1)));
+        const double lower = data.uniform(-9.0, 1.0);
+        const double upper =
+            (x1 * x1 + ((-2.0 * x1 + m * p1) * lower + (lower * lower) * (1.0 - p1))) / ((m - lower) * p1);
+        EXPECT_THAT(TriangularFunc2(lower, x1, m, x2, p1, p2),
+                    SameBits((lower * p2) * (m - upper) -
+                             (x2 * x2 + (((1.0 - p2) * upper) * upper + (m * p2 - (x2 + x2)) * upper))));
+    }
+}
+
+TEST(TriangularQFindAB, MultipliesInTheOrderOfTheClosedForms)
+{
+    RandomData data(20303);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < 100; ++turn) {
+        const double x1 = data.uniform(1.0, 3.0), x2 = data.uniform(5.0, 8.0);
+        const double p1 = data.uniform(0.05, 0.4), p2 = data.uniform(0.5, 0.95);
+        double a = 0, b = 0;
+        const double right = data.uniform(8.5, 12.0);
+        TriangularQFindAB(x1, right, x2, p1, p2, &a, &b);
+        const double s = std::sqrt(p1 / p2);
+        const double wantedA = (s * x2 - x1) / (s + -1.0);
+        EXPECT_THAT(a, SameBits(wantedA));
+        EXPECT_THAT(b, SameBits((x2 * x2 + ((1.0 - p2) * wantedA) * wantedA + (x2 * -2.0 + right * p2) * wantedA) /
+                                ((right - wantedA) * p2)));
+        const double left = data.uniform(-3.0, 0.5);
+        TriangularQFindAB(x1, left, x2, p1, p2, &a, &b);
+        const double q = 1.0 - p1;
+        const double root = std::sqrt((1.0 - p2) / q);
+        const double wantedB = (root * x1 - x2) / (root + -1.0);
+        const double t = (x1 - left) * q;
+        const double u = wantedB - x1;
+        EXPECT_THAT(b, SameBits(wantedB));
+        EXPECT_THAT(a, SameBits((u * x1 + (t - p1 * u) * wantedB) / (q * u + t)));
+    }
 }
 
 TEST(TriangularFunc, FollowsItsFormula)
