@@ -132,10 +132,10 @@ TEST(M_StandardizeW, HasNoMissingTestAndCorrectsByTheArgumentN)
 {
     RandomData data(20272);
     SCOPED_TRACE(data);
-    const std::size_t n = 40, p = 3;
+    const std::size_t n = 40, p = 20;
     // The first columns are complete, so that every digit counts; the last has missing cells, which are huge numbers.
     Cells x = data.normals(n * p);
-    x[2 * n + 3] = x[2 * n + 5] = M;
+    x[(p - 1) * n + 3] = x[(p - 1) * n + 5] = M;
     const Cells w = data.weights(n, 0.3);
     for (short sample : {-1, 0})
         for (short freq : {-1, 0}) {
@@ -156,11 +156,11 @@ TEST(M_StandardizeW, HasNoMissingTestAndCorrectsByTheArgumentN)
                 for (std::size_t i = 0; i < n; ++i)
                     wanted.push_back((x[i + n * j] - mean) / (s == 0.0 ? 1.0 : s));
             }
-            const auto z = filled(40, 3, 77.0);
-            M_StandardizeW(table(40, 3, x), 40, 3, column(w), sample, freq, z.get());
+            const auto z = filled(40, 20, 77.0);
+            M_StandardizeW(table(40, 20, x), 40, 20, column(w), sample, freq, z.get());
             EXPECT_THAT(cellsOf(z), SameBits(wanted));
             Guarded<double> X(x), Z(x.size(), 7.0), weights(w);
-            VB_M_StandardizeW(X, 40, 3, weights, sample, freq, Z);
+            VB_M_StandardizeW(X, 40, 20, weights, sample, freq, Z);
             EXPECT_THAT(Z.values(), SameBits(wanted));
             EXPECT_TRUE(X.untouched());
         }
