@@ -69,7 +69,7 @@ endforeach()
 
 # The library asks the environment for nothing, but where the instruction sets are to be compared on one machine.
 if(VECMAT_NARROWER_INSTRUCTIONS)
-    set_property(SOURCE ${vecmat_source}/elementary/kernels/instruction_set.cpp APPEND PROPERTY
+    set_property(SOURCE ${vecmat_source}/kernels/instruction_set.cpp APPEND PROPERTY
         COMPILE_DEFINITIONS VECMAT_NARROWER_INSTRUCTIONS)
 endif()
 

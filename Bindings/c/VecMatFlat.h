@@ -1,5 +1,5 @@
 /* The functions of VecMat that take plain arrays, for C, and for whatever reads C. A C++ program includes VecMat.h.
-   Written by tools/generate_bindings.py from exports.tsv: change those, not this file.
+   Written by tools/bindings from exports.tsv: change those, not this file.
 
    What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the pages
    below Docs/contracts, what goes across the border in Docs/border.md. */
@@ -498,7 +498,7 @@ void VB_M_InfoQualiValid(wchar_t** table, int nRows, int nCols, int maxCats, int
 int Cpp_GetMaxCat(wchar_t** table, int nRows, int nCols, int* counts);
 int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts);
 
-/* ---- qualitative/column_moments ---- */
+/* ---- qualitative/moments_of_one_column ---- */
 void VB_M_MeanStDevVarOneInMat(double* table, int nRows, int col, double* mean, double* stdDev, double* variance,
                                int ignored, double* weights, short sampleVariance, short countDivisor);
 
@@ -550,7 +550,7 @@ int Cpp_V_NbDistinctStr(wchar_t** x, int n);
 void VB_V_ReplaceDoubles(wchar_t** x, int n);
 void Cpp_M_MergeStringsByRow(wchar_t** table, int nRows, int nCols, const void* separator, wchar_t** out);
 
-/* ---- descriptive/covariance_and_moments ---- */
+/* ---- descriptive/covariance_with_moments ---- */
 int INDEX3(int i, int j);
 int VB_M_CovCorrAndMeanStDevVar(double* X, int n, int p, double* C, double* mean, double* stdev, double* var,
                                 short corr, short* mask, double* w, short sample, short freqWeights, short center,
@@ -683,11 +683,11 @@ void VB_M_RescaleByVect2(double* X, int n, int p, double low, double high, short
 /* ---- randomisation/kronecker_product ---- */
 void Cpp_KroneckerTensorProduct(double* A, int m, int n, double* B, int p, int q, double* C, int rowsC, int colsC);
 
-/* ---- randomisation/marginal_sums ---- */
+/* ---- randomisation/contingency_tables ---- */
 void Cpp_CheckForMarginalSums(double* T, int n, int p, double* R, int* rowsLeft, int* colsLeft, int* zeroRows,
                               int* zeroCols);
 
-/* ---- randomisation/comparisons ---- */
+/* ---- randomisation/letter_groups ---- */
 void Cpp_GetCompMatrices(double* X, int n, int col, int* comp, short keepOrder, int* order, wchar_t** labels,
                          int* nGroups);
 
@@ -704,7 +704,7 @@ void Cpp_Random1toNDbl(int n, double* out, int* seed, short seedFlag, int* seedO
 void VB_GenerateRandomIndicator(double* out, int n, int k, int* seed, short seedFlag, int* seedOut);
 void VB_GenerateIndicator(double* out, int n, int first, int last);
 
-/* ---- randomisation/ranges ---- */
+/* ---- randomisation/column_addresses ---- */
 wchar_t* SimplifyRange(const void* input);
 wchar_t* Increase1Col(const void* letters);
 
@@ -802,7 +802,7 @@ int VB_M_SVDecompSPV(struct SAFEARRAY** x, int n, int p, double* s, struct SAFEA
                      int ldv, int job, int* info);
 int VB_M_Rank(double* a, int n, int p);
 
-/* ---- decompositions/level1_kernels ---- */
+/* ---- decompositions/level1_routines ---- */
 void drotg(double* a, double* b, double* c, double* s);
 
 /* ---- fitting/biplots ---- */

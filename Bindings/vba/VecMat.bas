@@ -2,7 +2,7 @@ Attribute VB_Name = "VecMat"
 Option Explicit
 
 ' Declarations of the functions of VecMat that take plain arrays, for macros.
-' Written by tools/generate_bindings.py from exports.tsv: change those, not this module.
+' Written by tools/bindings from exports.tsv: change those, not this module.
 '
 ' What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the
 ' pages below Docs/contracts. What goes across the border is told in Docs/border.md, in short:
@@ -883,7 +883,7 @@ Public Declare PtrSafe Sub VB_M_InfoQualiValid CDecl Lib "/usr/local/lib/libVecM
     ByRef catWeights As Double, ByRef invalid As Boolean, ByVal ignored2 As Long, _
     ByRef weights As Double)
 
-' ---- qualitative/column_moments ----
+' ---- qualitative/moments_of_one_column ----
 
 Public Declare PtrSafe Sub VB_M_MeanStDevVarOneInMat CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef table As Double, ByVal nRows As Long, ByVal col As Long, ByRef mean As Double, _
@@ -973,7 +973,7 @@ Public Declare PtrSafe Function VB_V_NbDistinctLng CDecl Lib "/usr/local/lib/lib
 Public Declare PtrSafe Sub VB_V_ReplaceDoubles CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal x As LongPtr, ByVal n As Long)
 
-' ---- descriptive/covariance_and_moments ----
+' ---- descriptive/covariance_with_moments ----
 
 Public Declare PtrSafe Function INDEX3 CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal i As Long, ByVal j As Long) As Long
@@ -1216,7 +1216,7 @@ Public Declare PtrSafe Sub VB_GenerateRandomIndicator CDecl Lib "/usr/local/lib/
 Public Declare PtrSafe Sub VB_GenerateIndicator CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef out As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long)
 
-' ---- randomisation/ranges ----
+' ---- randomisation/column_addresses ----
 
 Public Declare PtrSafe Function SimplifyRange CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal inputArg As LongPtr) As LongPtr
@@ -1359,7 +1359,7 @@ Public Declare PtrSafe Function VB_M_SVDecompSPV CDecl Lib "/usr/local/lib/libVe
 Public Declare PtrSafe Function VB_M_Rank CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
 
-' ---- decompositions/level1_kernels ----
+' ---- decompositions/level1_routines ----
 
 Public Declare PtrSafe Sub drotg CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef a As Double, ByRef b As Double, ByRef c As Double, ByRef s As Double)
@@ -2271,7 +2271,7 @@ Public Declare Sub VB_M_InfoQualiValid CDecl Lib "/usr/local/lib/libVecMat.dylib
     ByRef catWeights As Double, ByRef invalid As Boolean, ByVal ignored2 As Long, _
     ByRef weights As Double)
 
-' ---- qualitative/column_moments ----
+' ---- qualitative/moments_of_one_column ----
 
 Public Declare Sub VB_M_MeanStDevVarOneInMat CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef table As Double, ByVal nRows As Long, ByVal col As Long, ByRef mean As Double, _
@@ -2361,7 +2361,7 @@ Public Declare Function VB_V_NbDistinctLng CDecl Lib "/usr/local/lib/libVecMat.d
 Public Declare Sub VB_V_ReplaceDoubles CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal x As Long, ByVal n As Long)
 
-' ---- descriptive/covariance_and_moments ----
+' ---- descriptive/covariance_with_moments ----
 
 Public Declare Function INDEX3 CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal i As Long, ByVal j As Long) As Long
@@ -2604,7 +2604,7 @@ Public Declare Sub VB_GenerateRandomIndicator CDecl Lib "/usr/local/lib/libVecMa
 Public Declare Sub VB_GenerateIndicator CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef out As Double, ByVal n As Long, ByVal first As Long, ByVal last As Long)
 
-' ---- randomisation/ranges ----
+' ---- randomisation/column_addresses ----
 
 Public Declare Function SimplifyRange CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByVal inputArg As Long) As Long
@@ -2747,7 +2747,7 @@ Public Declare Function VB_M_SVDecompSPV CDecl Lib "/usr/local/lib/libVecMat.dyl
 Public Declare Function VB_M_Rank CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef a As Double, ByVal n As Long, ByVal p As Long) As Long
 
-' ---- decompositions/level1_kernels ----
+' ---- decompositions/level1_routines ----
 
 Public Declare Sub drotg CDecl Lib "/usr/local/lib/libVecMat.dylib" ( _
     ByRef a As Double, ByRef b As Double, ByRef c As Double, ByRef s As Double)

@@ -1,8 +1,8 @@
 // Tables that are large enough for the workspace have the bits of the steps told one by one: at orders around the edges
 // of vectors, groups of columns and panels of rows, with cells that are no numbers, where reflections are passed over,
 // where results lie over one another and where memory for the workspace is short.
-#include "decompositions/symmetric_ql.h"
-#include "frame/cells.h"
+#include "access/cells.h"
+#include "decompositions/detail/symmetric_ql.h"
 
 #include "decompositions/eigen_cases.h"
 #include "support/bits.h"

@@ -1,8 +1,8 @@
 // Tables that are large enough for the workspace have the bits of the steps told one by one: at sizes around the edges
 // of vectors, groups of columns and panels of rows, with cells that are no numbers, where reflections leave columns
 // out, where tables lie over one another and where memory for the workspace is short.
-#include "decompositions/stretch.h"
-#include "decompositions/svd_iteration.h"
+#include "decompositions/detail/strided_vector.h"
+#include "decompositions/detail/svd_iteration.h"
 
 #include "decompositions/svd_cases.h"
 #include "support/bits.h"

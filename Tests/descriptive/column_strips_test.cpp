@@ -2,7 +2,7 @@
 // one column, or one pair, at a time: at sizes around the edges of a strip, of two strips, and of the rows packed at
 // once.
 #include "descriptive/covariance.h"
-#include "descriptive/covariance_and_moments.h"
+#include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 #include "descriptive/means.h"
 #include "descriptive/moments.h"

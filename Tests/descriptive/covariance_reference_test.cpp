@@ -6,7 +6,7 @@
 // as given with the Statistical Reference Datasets of NIST.
 #include "descriptive/correlation_of_covariance.h"
 #include "descriptive/covariance.h"
-#include "descriptive/covariance_and_moments.h"
+#include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 
 #include "pair_reference.h"

@@ -2,7 +2,7 @@
 // pass also where quotients are hard to round: with significands at the ends of their range, and with numerators,
 // weights and means at the ends of theirs, where the quotients may not be made from reciprocals.
 #include "descriptive/covariance.h"
-#include "descriptive/covariance_and_moments.h"
+#include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 
 #include "pair_reference.h"

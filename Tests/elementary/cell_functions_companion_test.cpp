@@ -1,8 +1,8 @@
 // The companion's functions are replaced by this program's, which writes down what it is asked.
 #include "elementary/cell_functions.h"
 
-#include "frame/api.h"
-#include "frame/companions.h"
+#include "base/api.h"
+#include "base/detail/companions.h"
 #include "support/bits.h"
 #include "support/tables.h"
 

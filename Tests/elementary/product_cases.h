@@ -7,7 +7,7 @@
 #include "support/random_data.h"
 #include "support/tables.h"
 
-#include "frame/numbers.h"
+#include "base/detail/numbers.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "decompositions/sweep.h"
-#include "descriptive/covariance_and_moments.h"
+#include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 #include "descriptive/moments.h"
 #include "support/bits.h"

@@ -5,7 +5,7 @@
 #include "elementary/matrix_products.h"
 #include "elementary/transposition.h"
 #include "elementary/vector_sums.h"
-#include "frame/handles.h"
+#include "frame/detail/handles.h"
 #include "missing/missing_counts.h"
 #include "sorting/sort.h"
 #include "support/bits.h"

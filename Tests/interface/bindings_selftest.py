@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
 """Tests of the bindings test: whatever it is there to find, it finds."""
 
+import sys
 import unittest
+from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import bindings
 from declarations import read_header
 

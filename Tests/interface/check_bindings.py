@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """check_bindings.py [--complete] ROOT: are the declarations for macros and for C those of the headers?
 
-And are the files what tools/generate_bindings.py writes? Without --complete a function may be declared of which the
+And are the files what tools/bindings writes? Without --complete a function may be declared of which the
 header is still to come.
 """
 
@@ -11,6 +11,7 @@ import subprocess
 import sys
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import bindings
 import interface
 
@@ -33,7 +34,7 @@ def main():
         to_come = listed - {declaration.name for declaration in declarations}
         wrong = [line for line in wrong
                  if not line.endswith("of the headers") or not to_come & set(re.findall(r"\w+", line))]
-    stale = subprocess.run([sys.executable, "-B", root / "tools/generate_bindings.py", "--check"], check=False,
+    stale = subprocess.run([sys.executable, "-B", root / "tools/bindings", "--check"], check=False,
                            capture_output=True, text=True)
     if stale.returncode != 0:
         wrong.append(stale.stdout + stale.stderr)

@@ -9,6 +9,7 @@ import subprocess
 import sys
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import interface
 
 ASKED_FOR = set("UwvWVu")  # undefined, or defined in every program that calls it

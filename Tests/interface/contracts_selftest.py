@@ -7,7 +7,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-TOOL = Path(__file__).resolve().parents[2] / "tools/contracts.py"
+TOOL = Path(__file__).resolve().parents[2] / "tools/lib/contracts.py"
 
 HEADER = """\
 // Sums. A missing cell is left out.

@@ -9,6 +9,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import check_calls
 import interface
 from declarations import HeaderError, read_header

@@ -9,7 +9,7 @@
 #include "support/strings.h"
 #include "support/tables.h"
 
-#include "frame/companions.h"
+#include "base/detail/companions.h"
 
 #include <string>
 #include <vector>

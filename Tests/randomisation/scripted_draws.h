@@ -4,8 +4,8 @@
 // It is included once in a program. It allocates nothing of its own while it is called.
 #pragma once
 
-#include "frame/api.h"
-#include "frame/companions.h"
+#include "base/api.h"
+#include "base/detail/companions.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

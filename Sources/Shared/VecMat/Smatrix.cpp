@@ -1,8 +1,8 @@
 #include "Smatrix.h"
 
-#include "frame/companions.h"
-#include "frame/numbers.h"
-#include "frame/table_arrays.h"
+#include "base/detail/companions.h"
+#include "base/detail/numbers.h"
+#include "base/detail/table_arrays.h"
 
 #include <algorithm>
 

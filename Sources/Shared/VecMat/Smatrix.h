@@ -1,7 +1,7 @@
 // The table of strings: labels and category names.
 #pragma once
 
-#include "frame/api.h"
+#include "base/api.h"
 
 #include <string>
 #include <utility>

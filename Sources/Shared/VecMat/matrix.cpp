@@ -1,8 +1,8 @@
 #include "matrix.h"
 
-#include "frame/missing_value.h"
-#include "frame/numbers.h"
-#include "frame/table_arrays.h"
+#include "base/detail/numbers.h"
+#include "base/detail/table_arrays.h"
+#include "base/missing_value.h"
 #include "matrixInt.h"
 
 #include <algorithm>

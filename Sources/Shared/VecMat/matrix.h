@@ -1,7 +1,7 @@
 // The table of doubles on which the whole library works.
 #pragma once
 
-#include "frame/api.h"
+#include "base/api.h"
 
 class matrixInt;
 
@@ -14,7 +14,7 @@ union TableInPlace; // where the call frame makes tables
 /// column.
 ///
 /// The fields are public and are read directly by the computing functions. Cell (i, j), from 0, is `X[i + nRows*j]`.
-/// A cell without a value holds the missing value of `frame/missing_value.h`; no member replaces it by anything else.
+/// A cell without a value holds the missing value of `base/missing_value.h`; no member replaces it by anything else.
 /// Numbers of rows and columns in the members are 0-based, but for `vbget` and `vbset`. Nothing here reports an error
 /// by throwing on purpose: a bad index reads -1.0, a bad write is dropped. Allocation failure is the exception of
 /// `new`.

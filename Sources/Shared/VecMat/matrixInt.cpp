@@ -1,7 +1,7 @@
 #include "matrixInt.h"
 
-#include "frame/numbers.h"
-#include "frame/table_arrays.h"
+#include "base/detail/numbers.h"
+#include "base/detail/table_arrays.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 // The table of 32-bit integers: category codes, positions, arrays of Longs.
 #pragma once
 
-#include "frame/api.h"
+#include "base/api.h"
 
 namespace vecmat {
 template <class Table>

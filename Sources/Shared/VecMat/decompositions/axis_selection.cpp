@@ -1,7 +1,7 @@
 #include "axis_selection.h"
 
+#include "../access/cells.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/cells.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // How many axes of an analysis to keep, and which points are well represented on a pair of them.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

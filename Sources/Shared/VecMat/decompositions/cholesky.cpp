@@ -1,11 +1,11 @@
 #include "cholesky.h"
 
-#include "../elementary/line_exchanges.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
-#include "cholesky_strips.h"
-#include "retained_block.h"
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../elementary/detail/line_exchanges.h"
+#include "../frame/detail/handles.h"
+#include "detail/cholesky_strips.h"
+#include "detail/retained_block.h"
 
 #include <optional>
 #include <utility>

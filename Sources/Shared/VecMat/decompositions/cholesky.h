@@ -6,7 +6,7 @@
 // the missing value.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

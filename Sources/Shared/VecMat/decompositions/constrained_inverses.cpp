@@ -1,11 +1,11 @@
 #include "constrained_inverses.h"
 
-#include "../frame/missing_value.h"
+#include "../base/missing_value.h"
+#include "detail/retained_block.h"
 #include "determinants.h"
 #include "g2_inverse.h"
 #include "generalised_inverses.h"
 #include "inversion.h"
-#include "retained_block.h"
 
 using namespace vecmat;
 

@@ -7,7 +7,7 @@
 // value.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,8 +1,8 @@
 #include "determinants.h"
 
-#include "../frame/companions.h"
-#include "../frame/missing_value.h"
-#include "lu_factors.h"
+#include "../base/detail/companions.h"
+#include "../base/missing_value.h"
+#include "detail/lu_factors.h"
 
 #include <cmath>
 #include <optional>

@@ -4,7 +4,7 @@
 // missing value. The table survives.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

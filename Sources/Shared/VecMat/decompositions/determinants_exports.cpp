@@ -1,6 +1,6 @@
 #include "determinants.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,7 +1,7 @@
 #include "echelon_forms.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
+#include "../access/cells.h"
+#include "../base/missing_value.h"
 
 #include <cmath>
 

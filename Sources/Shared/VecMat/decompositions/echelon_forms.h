@@ -4,7 +4,7 @@
 // part, and a write is dropped. Tolerances are 1e-12 in absolute terms. No test for the missing value, and no failure.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "echelon_forms.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

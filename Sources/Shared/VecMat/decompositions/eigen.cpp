@@ -1,17 +1,17 @@
 #include "eigen.h"
 
+#include "../access/cells.h"
+#include "../access/storage_overlap.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/local_array.h"
 #include "../elementary/matrix_products.h"
 #include "../elementary/scalar_arithmetic.h"
 #include "../elementary/vector_products.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
-#include "../frame/local_array.h"
-#include "../sorting/stable_order.h"
-#include "storage_overlap.h"
-#include "symmetric_ql.h"
-#include "symmetric_ql_workspace.h"
+#include "../frame/detail/handles.h"
+#include "../sorting/detail/stable_order.h"
+#include "detail/symmetric_ql.h"
+#include "detail/symmetric_ql_workspace.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Eigenvalues and eigenvectors of real symmetric tables, a power iteration, and the 2-norm built on them.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "eigen.h"
 
 using namespace vecmat;

@@ -1,6 +1,6 @@
 #include "g2_inverse.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 #include "../sorting/copy_block.h"
 
 #include <cmath>

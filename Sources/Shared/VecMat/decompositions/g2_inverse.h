@@ -7,7 +7,7 @@
 // written in place, to tables that exist. No test for the missing value, and no failure.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

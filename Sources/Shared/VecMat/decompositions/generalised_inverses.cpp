@@ -2,7 +2,7 @@
 
 #include "../elementary/blocks.h"
 #include "../elementary/diagonal_products.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "singular_values.h"
 
 using namespace vecmat;

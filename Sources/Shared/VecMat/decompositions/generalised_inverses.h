@@ -8,7 +8,7 @@
 // rank and result are written all the same. No test for the missing value. Scratch: four tables of n by n.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,8 +1,8 @@
 #include "inverse_products.h"
 
+#include "../base/missing_value.h"
 #include "../elementary/matrix_products.h"
-#include "../frame/handles.h"
-#include "../frame/missing_value.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

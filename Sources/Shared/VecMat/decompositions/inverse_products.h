@@ -5,7 +5,7 @@
 // product goes on with that. Access, sums and missing cells are those of the products of tables. The operands survive.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,9 +1,9 @@
 #include "inversion.h"
 
-#include "../frame/missing_value.h"
-#include "crout_panels.h"
-#include "triangular_inverse.h"
-#include "unit_solutions.h"
+#include "../base/missing_value.h"
+#include "detail/crout_panels.h"
+#include "detail/triangular_inverse.h"
+#include "detail/unit_solutions.h"
 
 #include <cmath>
 #include <memory>

@@ -4,7 +4,7 @@
 // missing value: it is the number that it is.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

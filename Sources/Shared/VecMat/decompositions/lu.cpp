@@ -1,7 +1,7 @@
 #include "lu.h"
 
-#include "crout_panels.h"
-#include "lu_factors.h"
+#include "detail/crout_panels.h"
+#include "detail/lu_factors.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Triangular factors of a square table.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,11 +1,11 @@
 #include "nearest_correlation.h"
 
+#include "../access/cells.h"
 #include "../elementary/blocks.h"
 #include "../elementary/diagonal_products.h"
 #include "../elementary/matrix_products.h"
 #include "../elementary/scalar_arithmetic.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "../missing/missing_counts.h"
 #include "eigen.h"
 #include "square_root.h"

@@ -1,7 +1,7 @@
 // The correlation matrix nearest to a symmetric table, as pairwise estimation leaves it.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,10 +1,10 @@
 #include "singular_values.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
-#include "storage_overlap.h"
-#include "svd_iteration.h"
-#include "svd_workspace.h"
+#include "../access/cells.h"
+#include "../access/storage_overlap.h"
+#include "../frame/detail/handles.h"
+#include "detail/svd_iteration.h"
+#include "detail/svd_workspace.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Singular value decomposition and numerical rank.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "singular_values.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "square_root.h"
 
+#include "../base/detail/companions.h"
+#include "../base/missing_value.h"
 #include "../elementary/matrix_products.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
-#include "../frame/missing_value.h"
+#include "../frame/detail/handles.h"
 #include "eigen.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // A square root of a symmetric table that is positive semidefinite.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "square_root.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

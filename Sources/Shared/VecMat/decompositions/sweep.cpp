@@ -1,10 +1,10 @@
 #include "sweep.h"
 
-#include "../elementary/kernels/operands.h"
-#include "../elementary/kernels/update_kernels.h"
-#include "../frame/cells.h"
-#include "../frame/local_array.h"
-#include "../frame/missing_value.h"
+#include "../access/cells.h"
+#include "../access/operands.h"
+#include "../base/detail/local_array.h"
+#include "../base/missing_value.h"
+#include "../kernels/update_kernels.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // The sweep operator on a packed symmetric table.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

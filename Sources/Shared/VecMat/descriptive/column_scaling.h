@@ -18,7 +18,7 @@
 // is reported.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,7 +1,7 @@
 #include "conditional_moments.h"
 
-#include "../frame/cells.h"
-#include "running_moments.h"
+#include "../access/cells.h"
+#include "detail/running_moments.h"
 
 using namespace vecmat;
 

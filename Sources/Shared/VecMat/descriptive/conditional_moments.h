@@ -5,7 +5,7 @@
 // are. Where nothing can be computed the result is the missing value.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

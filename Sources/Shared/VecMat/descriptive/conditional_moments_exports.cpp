@@ -1,6 +1,6 @@
 #include "conditional_moments.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,6 +1,6 @@
 #include "correlation_of_covariance.h"
 
-#include "pair_pass.h"
+#include "detail/pair_pass.h"
 
 using namespace vecmat;
 

@@ -6,7 +6,7 @@
 // real correlations. Missing covariances are divided like any other number. Everything returns 0.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,6 +1,6 @@
 #include "correlation_of_covariance.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

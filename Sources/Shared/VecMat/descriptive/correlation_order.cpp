@@ -1,10 +1,10 @@
 #include "correlation_order.h"
 
+#include "../access/cells.h"
 #include "../decompositions/eigen.h" // the eigenvectors stand higher up: the contract calls for them
 #include "../elementary/extremes.h"
 #include "../elementary/transposition.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "../missing/missing_counts.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"

@@ -1,9 +1,9 @@
 #include "covariance.h"
 
-#include "../elementary/kernels/operands.h"
-#include "../frame/local_array.h"
-#include "../frame/numbers.h"
-#include "covariance_pass.h"
+#include "../access/operands.h"
+#include "../base/detail/local_array.h"
+#include "../base/detail/numbers.h"
+#include "detail/covariance_pass.h"
 
 #include <memory>
 

@@ -22,7 +22,7 @@
 // short they go on without, slower and with the same results.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

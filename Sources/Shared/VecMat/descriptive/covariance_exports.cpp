@@ -1,8 +1,8 @@
 #include "covariance.h"
 
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
-#include "../sorting/memory_stretches.h"
+#include "../base/detail/memory_ranges.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

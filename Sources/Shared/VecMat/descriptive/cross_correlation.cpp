@@ -1,7 +1,7 @@
 #include "cross_correlation.h"
 
-#include "../frame/numbers.h"
-#include "pair_pass.h"
+#include "../base/detail/numbers.h"
+#include "detail/pair_pass.h"
 
 #include <cmath>
 #include <vector>

@@ -6,7 +6,7 @@
 // `covariance.h`. Divisors (`sample`, `freqWeights`) are the ones told there.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,6 +1,6 @@
 #include "forecast_errors.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 #include "means.h"
 
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "forecast_errors.h"
 
 using namespace vecmat;

@@ -1,8 +1,8 @@
 #include "means.h"
 
-#include "../frame/cells.h"
-#include "../frame/masks.h"
-#include "column_moments.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "detail/side_by_side_moments.h"
 
 #include <cmath>
 

@@ -7,7 +7,7 @@
 // Nothing reports an error but the missing value in a result.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

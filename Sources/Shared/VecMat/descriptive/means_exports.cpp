@@ -1,6 +1,6 @@
 #include "means.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::TableHandle;
 using vecmat::viewed;

@@ -14,7 +14,7 @@
 // the divisor. Nothing reports an error but the missing value in a result.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,8 +1,8 @@
 #include "moments.h"
 
-#include "../frame/companions.h"
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 #include <vector>
 

@@ -1,15 +1,15 @@
 #include "quantiles.h"
 
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/columns_and_rows.h"
 #include "../elementary/predicates.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/masks.h"
-#include "../frame/numbers.h"
-#include "../sorting/selection.h"
+#include "../sorting/detail/selection.h"
+#include "../sorting/detail/stable_order.h"
 #include "../sorting/sort.h"
-#include "../sorting/stable_order.h"
 
 #include <cmath>
 #include <vector>

@@ -11,7 +11,7 @@
 // are among the values the result is one of them or lies between two, and nothing more is promised.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

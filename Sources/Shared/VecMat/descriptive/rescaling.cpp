@@ -1,10 +1,10 @@
 #include "rescaling.h"
 
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/masks.h"
 #include "../elementary/extremes.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
-#include "../frame/masks.h"
+#include "../frame/detail/handles.h"
 
 #include <cmath>
 

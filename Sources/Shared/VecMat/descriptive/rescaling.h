@@ -4,7 +4,7 @@
 // Nothing is reported.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,10 +1,10 @@
 #include "robust_statistics.h"
 
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
 #include "../elementary/predicates.h"
-#include "../frame/cells.h"
-#include "../frame/masks.h"
+#include "detail/running_moments.h"
 #include "quantiles.h"
-#include "running_moments.h"
 
 #include <cmath>
 

@@ -5,7 +5,7 @@
 // that leaves out a NaN as well. Quantiles are those of `quantiles.h`. Nothing reports an error but the missing value.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

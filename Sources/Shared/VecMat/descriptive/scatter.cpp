@@ -1,7 +1,7 @@
 #include "scatter.h"
 
-#include "../frame/cells.h"
-#include "../frame/numbers.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 using namespace vecmat;
 

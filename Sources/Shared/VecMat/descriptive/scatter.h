@@ -1,7 +1,7 @@
 // The weighted scatter of observations about the centres of their groups.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

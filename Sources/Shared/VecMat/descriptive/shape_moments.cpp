@@ -1,9 +1,9 @@
 #include "shape_moments.h"
 
-#include "../elementary/kernels/power_kernels.h"
-#include "../frame/cells.h"
-#include "../frame/masks.h"
-#include "running_moments.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "../kernels/power_kernels.h"
+#include "detail/running_moments.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // Skewness and kurtosis of a vector.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

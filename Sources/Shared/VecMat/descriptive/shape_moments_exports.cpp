@@ -1,6 +1,6 @@
 #include "shape_moments.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

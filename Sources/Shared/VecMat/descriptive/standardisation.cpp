@@ -1,9 +1,9 @@
 #include "standardisation.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
-#include "../frame/masks.h"
-#include "running_moments.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "../frame/detail/handles.h"
+#include "detail/running_moments.h"
 
 #include <cmath>
 #include <memory>

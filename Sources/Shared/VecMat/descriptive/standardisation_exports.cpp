@@ -1,5 +1,5 @@
-#include "../frame/handles.h"
-#include "masked_columns.h"
+#include "../frame/detail/handles.h"
+#include "detail/masked_columns.h"
 #include "standardisation.h"
 
 using namespace vecmat;

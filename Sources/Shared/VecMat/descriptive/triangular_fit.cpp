@@ -1,6 +1,6 @@
 #include "triangular_fit.h"
 
-#include "../frame/companions.h"
+#include "../base/detail/companions.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // The end points of a triangular distribution from its mode and two of its quantiles.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 
 extern "C" {
 

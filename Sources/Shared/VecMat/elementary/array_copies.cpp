@@ -1,6 +1,6 @@
 #include "array_copies.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 #include <cstddef>
 

@@ -1,7 +1,7 @@
 #include "array_copies.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/cells.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

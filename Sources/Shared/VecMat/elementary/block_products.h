@@ -6,7 +6,7 @@
 // nothing happens; with one the product is the plain one of that size, which clears its result first and skips no cell.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,6 +1,6 @@
 #include "blocks.h"
 
-#include "block_copy.h"
+#include "../access/block_copy.h"
 
 using vecmat::copyCells;
 using vecmat::countFromTo;

@@ -12,7 +12,7 @@
 #pragma once
 
 #include "../Smatrix.h"
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 #include "../matrixInt.h"

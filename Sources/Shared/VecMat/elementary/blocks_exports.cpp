@@ -1,6 +1,6 @@
-#include "../frame/handles.h"
+#include "../access/block_copy.h"
+#include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
-#include "block_copy.h"
 #include "blocks.h"
 
 using namespace vecmat;

@@ -4,7 +4,7 @@
 // a table yields -1.0; a write outside is dropped. "Missing" is the equality test.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,8 +1,8 @@
 #include "cell_functions.h"
 
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
-#include "kernels/cellwise.h"
+#include "../access/cellwise.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

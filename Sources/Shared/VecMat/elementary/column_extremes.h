@@ -5,7 +5,7 @@
 // does not fit is dropped.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 #include "../matrixInt.h"

@@ -1,9 +1,9 @@
 #include "column_products.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "kernels/cellwise.h"
-#include "kernels/result.h"
+#include "../access/cells.h"
+#include "../access/cellwise.h"
+#include "../access/prepared_result.h"
+#include "../base/missing_value.h"
 
 #include <functional>
 

@@ -6,7 +6,7 @@
 // i*`colsB` + j, from 0, belongs to column i of a and column j of b.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

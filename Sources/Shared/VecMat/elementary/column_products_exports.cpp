@@ -1,7 +1,7 @@
 #include "column_products.h"
 
-#include "../frame/handles.h"
-#include "kernels/result.h"
+#include "../access/prepared_result.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,6 +1,6 @@
 #include "columns_and_rows.h"
 
-#include "block_copy.h"
+#include "../access/block_copy.h"
 
 using vecmat::copyCells;
 using vecmat::window;

@@ -1,6 +1,6 @@
 #include "conditional_aggregates.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 using namespace vecmat;
 

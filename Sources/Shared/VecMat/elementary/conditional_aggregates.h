@@ -5,7 +5,7 @@
 // "Missing" is the equality test; a key of ints is never missing.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

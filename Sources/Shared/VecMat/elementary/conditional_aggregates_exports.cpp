@@ -1,7 +1,7 @@
 #include "conditional_aggregates.h"
 
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

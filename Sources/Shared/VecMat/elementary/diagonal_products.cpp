@@ -1,10 +1,10 @@
 #include "diagonal_products.h"
 
-#include "../frame/cells.h"
-#include "kernels/cellwise.h"
-#include "kernels/operands.h"
-#include "kernels/result.h"
-#include "kernels/tiled_product.h"
+#include "../access/cells.h"
+#include "../access/cellwise.h"
+#include "../access/operands.h"
+#include "../access/prepared_result.h"
+#include "../access/tiled_product.h"
 
 #include <functional>
 

@@ -4,7 +4,7 @@
 // as the large negative number that it is, except where told.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

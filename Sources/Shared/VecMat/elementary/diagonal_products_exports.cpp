@@ -1,6 +1,6 @@
 #include "diagonal_products.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

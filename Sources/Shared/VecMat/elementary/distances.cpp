@@ -1,9 +1,9 @@
 #include "distances.h"
 
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/missing_value.h"
-#include "kernels/operands.h"
+#include "../access/cells.h"
+#include "../access/operands.h"
+#include "../base/detail/companions.h"
+#include "../base/missing_value.h"
 
 using namespace vecmat;
 

@@ -4,7 +4,7 @@
 // yields -1.0, which takes part; a write outside is dropped. Results must exist and are written in place.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

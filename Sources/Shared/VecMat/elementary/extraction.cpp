@@ -1,6 +1,6 @@
 #include "extraction.h"
 
-#include "block_copy.h"
+#include "../access/block_copy.h"
 
 #include <cstdint>
 

@@ -7,7 +7,7 @@
 // entries, of which any but 0 drops the cell.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,7 +1,7 @@
 #include "extremes.h"
 
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 #include <vector>
 

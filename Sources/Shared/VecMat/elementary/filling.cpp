@@ -1,6 +1,6 @@
 #include "filling.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 #include <algorithm>
 #include <numeric>

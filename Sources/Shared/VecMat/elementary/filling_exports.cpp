@@ -1,5 +1,5 @@
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 #include "filling.h"
 
 #include <algorithm>

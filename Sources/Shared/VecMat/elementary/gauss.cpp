@@ -1,9 +1,9 @@
 #include "gauss.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "line_exchanges.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
+#include "detail/line_exchanges.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // Linear equations by elimination.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,10 +1,10 @@
 #include "matrix_products.h"
 
-#include "../frame/cells.h"
-#include "kernels/operands.h"
-#include "kernels/result.h"
-#include "kernels/structured_product.h"
-#include "kernels/tiled_product.h"
+#include "../access/cells.h"
+#include "../access/operands.h"
+#include "../access/prepared_result.h"
+#include "../access/structured_product.h"
+#include "../access/tiled_product.h"
 
 using namespace vecmat;
 

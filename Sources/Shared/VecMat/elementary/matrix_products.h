@@ -18,7 +18,7 @@
 // result is an operand, they go without, slower and with the same results.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 #include "../matrixInt.h"

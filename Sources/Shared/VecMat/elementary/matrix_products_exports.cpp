@@ -1,6 +1,6 @@
 #include "matrix_products.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,11 +1,11 @@
 #include "packed_products.h"
 
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "kernels/operands.h"
-#include "kernels/tiled_product.h"
+#include "../access/cells.h"
+#include "../access/operands.h"
+#include "../access/tiled_product.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 #include <cmath>
 

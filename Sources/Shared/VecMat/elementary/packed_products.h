@@ -3,7 +3,7 @@
 // part; a write outside is dropped. No test for the missing value. Results are written in place.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

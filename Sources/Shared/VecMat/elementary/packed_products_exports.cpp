@@ -1,7 +1,7 @@
 #include "packed_products.h"
 
-#include "../frame/handles.h"
-#include "kernels/operands.h"
+#include "../access/operands.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

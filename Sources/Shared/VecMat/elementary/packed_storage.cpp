@@ -1,7 +1,7 @@
 #include "packed_storage.h"
 
-#include "../frame/companions.h"
-#include "../frame/numbers.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
 
 #include <algorithm>
 #include <cmath>

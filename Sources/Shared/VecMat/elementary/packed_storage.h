@@ -5,7 +5,7 @@
 // (1, 3), ..., (2, 3), and so on.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 
 extern "C" {
 

@@ -1,6 +1,6 @@
 #include "packing.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 using vecmat::block;
 using vecmat::cells;

@@ -4,7 +4,7 @@
 // is prepared: it must exist. Cells are copied as they are, missing ones too.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,11 +1,11 @@
 #include "predicates.h"
 
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/masks.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "constancy.h"
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
+#include "detail/constancy.h"
 
 using vecmat::block;
 using vecmat::booleanOf;

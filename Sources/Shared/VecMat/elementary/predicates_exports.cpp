@@ -1,5 +1,5 @@
-#include "../frame/handles.h"
-#include "constancy.h"
+#include "../frame/detail/handles.h"
+#include "detail/constancy.h"
 #include "predicates.h"
 
 using vecmat::booleanOf;

@@ -1,11 +1,11 @@
 #include "removal.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/block_copy.h"
+#include "../access/cells.h"
+#include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
-#include "block_copy.h"
-#include "line_exchanges.h"
+#include "detail/line_exchanges.h"
 #include "transposition.h"
 #include "vector_sums.h"
 

@@ -1,12 +1,12 @@
 #include "scalar_arithmetic.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "../frame/table_arrays.h"
-#include "kernels/cellwise.h"
-#include "kernels/operands.h"
-#include "kernels/result.h"
+#include "../access/cells.h"
+#include "../access/cellwise.h"
+#include "../access/operands.h"
+#include "../access/prepared_result.h"
+#include "../base/detail/numbers.h"
+#include "../base/detail/table_arrays.h"
+#include "../base/missing_value.h"
 
 #include <functional>
 #include <memory>

@@ -5,7 +5,7 @@
 // `matCheck` with 0.0; every other one must exist and is written in place.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 #include "../matrixInt.h"

@@ -1,6 +1,6 @@
 #include "scalar_arithmetic.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

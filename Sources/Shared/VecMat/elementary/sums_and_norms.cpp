@@ -1,10 +1,10 @@
 #include "sums_and_norms.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "kernels/cellwise.h"
-#include "kernels/operands.h"
-#include "kernels/product.h"
+#include "../access/cells.h"
+#include "../access/cellwise.h"
+#include "../access/operands.h"
+#include "../access/product.h"
+#include "../base/missing_value.h"
 
 using namespace vecmat;
 

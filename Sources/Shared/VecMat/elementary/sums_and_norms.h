@@ -5,7 +5,7 @@
 // Results in a table must exist and are written in place, one cell for each row or column.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,8 +1,8 @@
 #include "sums_and_norms.h"
 
-#include "../frame/handles.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 #include <vector>

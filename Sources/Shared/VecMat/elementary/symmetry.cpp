@@ -1,9 +1,9 @@
 #include "symmetry.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "transposed.h"
+#include "../access/cells.h"
+#include "../access/transposed.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "vector_counts.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Counting the true elements of Boolean arrays, and finding an integer.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrixInt.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "vector_counts.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 int VB_V_NbTrue(short* x, int n)
 {

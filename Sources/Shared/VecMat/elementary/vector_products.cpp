@@ -1,12 +1,12 @@
 #include "vector_products.h"
 
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
-#include "kernels/cellwise.h"
-#include "kernels/operands.h"
-#include "kernels/product.h"
-#include "kernels/result.h"
+#include "../access/cells.h"
+#include "../access/cellwise.h"
+#include "../access/operands.h"
+#include "../access/prepared_result.h"
+#include "../access/product.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "vector_sums.h"
 
 #include <functional>

@@ -5,7 +5,7 @@
 // except where told. Results are written in place.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

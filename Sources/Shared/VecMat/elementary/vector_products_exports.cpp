@@ -1,8 +1,8 @@
 #include "vector_products.h"
 
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
-#include "kernels/result.h"
+#include "../access/prepared_result.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 
 #include <cstddef>
 

@@ -1,7 +1,7 @@
 #include "vector_sums.h"
 
-#include "../frame/cells.h"
-#include "../frame/masks.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
 
 #include <algorithm>
 

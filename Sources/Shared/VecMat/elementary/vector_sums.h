@@ -6,7 +6,7 @@
 // are added. Nothing here fails or reports.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,7 +1,7 @@
 #include "vector_sums.h"
 
-#include "../frame/handles.h"
-#include "../frame/missing_value.h"
+#include "../base/missing_value.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

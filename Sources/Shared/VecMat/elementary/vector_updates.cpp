@@ -1,8 +1,8 @@
 #include "vector_updates.h"
 
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/masks.h"
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/masks.h"
 #include "vector_sums.h"
 
 using namespace vecmat;

@@ -5,7 +5,7 @@
 // below 1, and nothing here fails or reports.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

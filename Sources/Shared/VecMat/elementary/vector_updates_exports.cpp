@@ -1,6 +1,6 @@
 #include "vector_updates.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,6 +1,6 @@
 #include "vertical_merges.h"
 
-#include "block_copy.h"
+#include "../access/block_copy.h"
 
 #include <algorithm>
 

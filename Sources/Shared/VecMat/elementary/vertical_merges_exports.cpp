@@ -1,5 +1,5 @@
-#include "../frame/handles.h"
-#include "block_copy.h"
+#include "../access/block_copy.h"
+#include "../frame/detail/handles.h"
 #include "vertical_merges.h"
 
 #include <algorithm>

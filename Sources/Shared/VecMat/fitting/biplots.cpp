@@ -1,11 +1,11 @@
 #include "biplots.h"
 
-#include "../elementary/kernels/result.h"
+#include "../access/cells.h"
+#include "../access/prepared_result.h"
+#include "../base/detail/companions.h"
 #include "../elementary/scalar_arithmetic.h"
 #include "../elementary/sums_and_norms.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 // leaves nothing to do. Nothing is reported.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 #include "../matrixInt.h"

@@ -1,6 +1,6 @@
 #include "biplots.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

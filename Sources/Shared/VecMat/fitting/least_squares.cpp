@@ -1,10 +1,10 @@
 #include "least_squares.h"
 
-#include "../descriptive/covariance_and_moments.h"
+#include "../descriptive/covariance_with_moments.h"
 #include "../descriptive/moments.h"
 #include "../elementary/horizontal_merges.h"
 #include "../elementary/vector_sums.h"
-#include "regression.h"
+#include "detail/regression.h"
 
 #include <vector>
 

@@ -25,7 +25,7 @@
 // are 0 or negative, and the arithmetic goes through as it stands. X, y and w are not changed.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,11 +1,11 @@
 #include "least_squares_blocks.h"
 
-#include "../descriptive/covariance_and_moments.h"
+#include "../descriptive/covariance_with_moments.h"
 #include "../descriptive/cross_correlation.h"
 #include "../descriptive/moments.h"
 #include "../elementary/horizontal_merges.h"
 #include "../elementary/vector_sums.h"
-#include "regression.h"
+#include "detail/regression.h"
 
 #include <vector>
 

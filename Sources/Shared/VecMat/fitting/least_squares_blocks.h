@@ -2,7 +2,7 @@
 // of all columns is ever built.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,7 +1,7 @@
 #include "least_squares_blocks.h"
 
-#include "../frame/handles.h"
-#include "model_columns.h"
+#include "../frame/detail/handles.h"
+#include "detail/model_columns.h"
 
 #include <algorithm>
 

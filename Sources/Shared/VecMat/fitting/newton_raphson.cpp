@@ -1,10 +1,10 @@
 #include "newton_raphson.h"
 
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../decompositions/constrained_inverses.h"
 #include "../elementary/matrix_products.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 // Hessian at the present parameters, and calls again until the step reports convergence.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,6 +1,6 @@
 #include "newton_raphson.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,9 +1,9 @@
 #include "nipals.h"
 
-#include "../elementary/kernels/regression_kernels.h"
-#include "../frame/cells.h"
-#include "../frame/companions.h"
-#include "../frame/numbers.h"
+#include "../access/cells.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../kernels/regression_kernels.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -3,7 +3,7 @@
 // Multivariate Analysis, Academic Press, 391-420).
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "nipals.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,9 +1,9 @@
 #include "tolerance_check.h"
 
+#include "../access/cells.h"
+#include "../access/operands.h"
+#include "../base/missing_value.h"
 #include "../decompositions/sweep.h"
-#include "../elementary/kernels/operands.h"
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
 
 #include <algorithm>
 #include <cmath>

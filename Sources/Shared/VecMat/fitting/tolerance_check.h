@@ -6,7 +6,7 @@
 // numbers of variables and groups are 1-based.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

@@ -1,6 +1,6 @@
 #include "tolerance_check.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

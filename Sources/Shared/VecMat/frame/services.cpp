@@ -1,7 +1,7 @@
 #include "services.h"
 
-#include "numbers.h"
-#include "resident_size.h"
+#include "../base/detail/numbers.h"
+#include "detail/resident_size.h"
 
 #include <algorithm>
 #include <array>

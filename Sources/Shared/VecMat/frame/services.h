@@ -1,7 +1,7 @@
 // Small services of the library: number conversions of whole arrays, memory status, column labels.
 #pragma once
 
-#include "api.h"
+#include "../base/api.h"
 
 #include <string>
 #include <vector>

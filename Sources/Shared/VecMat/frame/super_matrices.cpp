@@ -1,8 +1,8 @@
 #include "super_matrices.h"
 
-#include "companions.h"
-#include "missing_value.h"
-#include "numbers.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 #include <algorithm>
 #include <memory>

@@ -7,8 +7,8 @@
 #pragma once
 
 #include "../Smatrix.h"
+#include "../base/api.h"
 #include "../matrix.h"
-#include "api.h"
 
 #include <cstddef>
 #include <cstdint>

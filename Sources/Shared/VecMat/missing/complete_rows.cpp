@@ -1,8 +1,8 @@
 #include "complete_rows.h"
 
-#include "../elementary/block_copy.h"
-#include "../frame/cells.h"
-#include "../frame/masks.h"
+#include "../access/block_copy.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
 
 #include <limits>
 

@@ -1,8 +1,8 @@
 #include "complete_rows.h"
 
+#include "../access/block_copy.h"
 #include "../elementary/array_copies.h"
-#include "../elementary/block_copy.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::copied;
 using vecmat::viewed;

@@ -1,10 +1,10 @@
 #include "mean_imputation.h"
 
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
 #include "../descriptive/means.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
-#include "../frame/masks.h"
-#include "../frame/numbers.h"
+#include "../frame/detail/handles.h"
 
 #include <vector>
 

@@ -7,7 +7,7 @@
 // other. All means are taken before the first cell is filled.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

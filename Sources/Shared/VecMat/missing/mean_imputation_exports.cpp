@@ -1,6 +1,6 @@
 #include "mean_imputation.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

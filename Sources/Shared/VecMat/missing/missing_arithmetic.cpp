@@ -1,8 +1,8 @@
 #include "missing_arithmetic.h"
 
-#include "../elementary/kernels/result.h"
-#include "../elementary/kernels/tiled_product.h"
-#include "../frame/cells.h"
+#include "../access/cells.h"
+#include "../access/prepared_result.h"
+#include "../access/tiled_product.h"
 
 using vecmat::block;
 using vecmat::cells;

@@ -2,7 +2,7 @@
 // infinity and a NaN are numbers. A cell outside a table reads as -1.0 and takes part.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "missing_arithmetic.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,7 +1,7 @@
 #include "missing_counts.h"
 
-#include "../elementary/kernels/missing_kernels.h"
-#include "../frame/cells.h"
+#include "../access/cells.h"
+#include "../kernels/missing_kernels.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "missing_counts.h"
 
-#include "../elementary/kernels/missing_kernels.h"
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
+#include "../kernels/missing_kernels.h"
 
 using vecmat::copied;
 using vecmat::viewed;

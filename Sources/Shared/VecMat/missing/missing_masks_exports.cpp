@@ -1,7 +1,7 @@
 #include "missing_masks.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/cells.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::booleanOf;
 using vecmat::cells;

@@ -1,7 +1,7 @@
 #include "mode_imputation.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/cells.h"
+#include "../frame/detail/handles.h"
 #include "../qualitative/categories.h"
 
 using vecmat::block;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "../Smatrix.h"
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,6 +1,6 @@
 #include "mode_imputation.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::copied;
 using vecmat::handBack;

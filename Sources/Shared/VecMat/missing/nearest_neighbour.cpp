@@ -1,10 +1,10 @@
 #include "nearest_neighbour.h"
 
+#include "../access/cells.h"
 #include "../descriptive/moments.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "../qualitative/categories.h"
-#include "neighbour_search.h"
+#include "detail/neighbour_search.h"
 
 #include <algorithm>
 

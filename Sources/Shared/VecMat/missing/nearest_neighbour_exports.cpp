@@ -1,6 +1,6 @@
 #include "nearest_neighbour.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::columns;
 using vecmat::copied;

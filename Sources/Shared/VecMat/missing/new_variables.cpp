@@ -1,7 +1,7 @@
 #include "new_variables.h"
 
-#include "../frame/cells.h"
-#include "../frame/numbers.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Variances and covariances of linear combinations.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

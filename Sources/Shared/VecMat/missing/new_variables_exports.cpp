@@ -1,6 +1,6 @@
 #include "new_variables.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,6 +1,6 @@
 #include "observation_labels.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 #include <unordered_map>
 

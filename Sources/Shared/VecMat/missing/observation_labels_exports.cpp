@@ -1,6 +1,6 @@
 #include "observation_labels.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 void VB_ReplaceMissingObsLabels(wchar_t** labels, int n, short* mask, const wchar_t* prefix)
 {

@@ -1,6 +1,6 @@
 #include "replacement.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 using vecmat::block;
 using vecmat::cells;

@@ -1,6 +1,6 @@
 #include "replacement.h"
 
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,8 +1,8 @@
 #include "categories.h"
 
-#include "../frame/cells.h"
-#include "category_lists.h"
-#include "category_order.h"
+#include "../access/cells.h"
+#include "detail/category_lists.h"
+#include "detail/category_order.h"
 
 #include <algorithm>
 #include <string>

@@ -1,6 +1,6 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "categories.h"
-#include "category_lists.h"
+#include "detail/category_lists.h"
 
 #include <algorithm>
 

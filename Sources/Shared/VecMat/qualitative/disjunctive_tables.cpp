@@ -1,9 +1,9 @@
 #include "disjunctive_tables.h"
 
-#include "../elementary/text_table.h"
-#include "../frame/cells.h"
-#include "../frame/masks.h"
-#include "category_lists.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "../elementary/detail/text_table.h"
+#include "detail/category_lists.h"
 
 #include <algorithm>
 #include <cmath>

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "../Smatrix.h"
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

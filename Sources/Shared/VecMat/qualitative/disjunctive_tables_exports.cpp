@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "disjunctive_tables.h"
 
 using namespace vecmat;

@@ -1,8 +1,8 @@
 #include "distinct.h"
 
-#include "../elementary/text_table.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/cells.h"
+#include "../elementary/detail/text_table.h"
+#include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 

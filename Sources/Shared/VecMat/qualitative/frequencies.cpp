@@ -1,6 +1,6 @@
 #include "frequencies.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 #include <cmath>
 

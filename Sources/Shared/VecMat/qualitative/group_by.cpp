@@ -1,10 +1,10 @@
 #include "group_by.h"
 
+#include "../access/cells.h"
 #include "../descriptive/means.h"
 #include "../descriptive/quantiles.h"
 #include "../elementary/extremes.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/cells.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 #include "../sorting/sort_apply.h"

@@ -1,8 +1,8 @@
 #include "indicators.h"
 
+#include "../access/cells.h"
 #include "../elementary/predicates.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/cells.h"
 
 using namespace vecmat;
 

@@ -4,7 +4,7 @@
 // -1.0, which fails every question here.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "indicators.h"
 
 using vecmat::columns;

@@ -1,7 +1,7 @@
 #include "labels.h"
 
-#include "../elementary/text_table.h"
-#include "../frame/cells.h"
+#include "../access/cells.h"
+#include "../elementary/detail/text_table.h"
 
 #include <algorithm>
 #include <string>

@@ -1,7 +1,7 @@
 #include "labels.h"
 
-#include "../frame/companions.h"
-#include "../frame/handles.h"
+#include "../base/detail/companions.h"
+#include "../frame/detail/handles.h"
 
 using vecmat::copied;
 using vecmat::freshStrings;

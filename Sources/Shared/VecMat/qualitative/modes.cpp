@@ -1,7 +1,7 @@
 #include "modes.h"
 
-#include "../frame/cells.h"
-#include "category_lists.h"
+#include "../access/cells.h"
+#include "detail/category_lists.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,5 +1,5 @@
-#include "../frame/companions.h"
-#include "../frame/handles.h"
+#include "../base/detail/companions.h"
+#include "../frame/detail/handles.h"
 #include "modes.h"
 
 using vecmat::copied;

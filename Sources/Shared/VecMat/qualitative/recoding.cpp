@@ -1,8 +1,8 @@
 #include "recoding.h"
 
-#include "../frame/cells.h"
-#include "../frame/masks.h"
-#include "category_lists.h"
+#include "../access/cells.h"
+#include "../base/detail/masks.h"
+#include "detail/category_lists.h"
 
 #include <cmath>
 

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "../Smatrix.h"
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../frame/super_matrices.h"
 #include "../matrix.h"
 

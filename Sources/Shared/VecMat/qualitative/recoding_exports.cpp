@@ -1,5 +1,5 @@
 #include "../elementary/extremes.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "recoding.h"
 
 using vecmat::columns;

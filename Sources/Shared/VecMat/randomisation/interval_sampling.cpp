@@ -1,10 +1,10 @@
 #include "interval_sampling.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../access/cells.h"
+#include "../frame/detail/handles.h"
+#include "detail/random_series.h"
+#include "detail/sampled_rows.h"
 #include "permutations.h"
-#include "sampled_rows.h"
-#include "seed_frame.h"
 
 #include <cmath>
 

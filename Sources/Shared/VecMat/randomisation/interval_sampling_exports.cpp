@@ -1,5 +1,5 @@
+#include "detail/sampling_call.h"
 #include "interval_sampling.h"
-#include "sampling_frame.h"
 
 using namespace vecmat;
 

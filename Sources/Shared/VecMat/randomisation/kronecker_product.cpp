@@ -1,6 +1,6 @@
 #include "kronecker_product.h"
 
-#include "../frame/cells.h"
+#include "../access/cells.h"
 
 using namespace vecmat;
 

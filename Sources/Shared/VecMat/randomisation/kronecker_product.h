@@ -1,7 +1,7 @@
 // The Kronecker product.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 
 extern "C" {

@@ -1,4 +1,4 @@
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "kronecker_product.h"
 
 using vecmat::viewed;

@@ -1,11 +1,11 @@
 #include "permutations.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
-#include "../frame/numbers.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
-#include "seed_frame.h"
+#include "detail/random_series.h"
 
 #include <algorithm>
 #include <type_traits>

@@ -1,10 +1,10 @@
 #include "sampling_with_repeats.h"
 
-#include "../frame/cells.h"
-#include "../frame/handles.h"
-#include "../sorting/memory_stretches.h"
+#include "../access/cells.h"
+#include "../base/detail/memory_ranges.h"
+#include "../frame/detail/handles.h"
+#include "detail/sampled_rows.h"
 #include "permutations.h"
-#include "sampled_rows.h"
 
 #include <cmath>
 

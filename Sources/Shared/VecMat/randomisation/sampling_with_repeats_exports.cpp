@@ -1,6 +1,6 @@
+#include "../base/detail/numbers.h"
 #include "../elementary/vector_sums.h"
-#include "../frame/numbers.h"
-#include "sampling_frame.h"
+#include "detail/sampling_call.h"
 #include "sampling_with_repeats.h"
 
 using namespace vecmat;

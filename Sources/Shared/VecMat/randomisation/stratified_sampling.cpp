@@ -1,11 +1,11 @@
 #include "stratified_sampling.h"
 
+#include "../access/cells.h"
 #include "../elementary/blocks.h"
-#include "../frame/cells.h"
-#include "../frame/handles.h"
+#include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
+#include "detail/sampled_rows.h"
 #include "permutations.h"
-#include "sampled_rows.h"
 #include "sampling_with_repeats.h"
 
 #include <algorithm>

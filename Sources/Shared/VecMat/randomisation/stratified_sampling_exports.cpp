@@ -1,4 +1,4 @@
-#include "sampling_frame.h"
+#include "detail/sampling_call.h"
 #include "stratified_sampling.h"
 
 using namespace vecmat;

@@ -1,6 +1,6 @@
 #include "copy_block.h"
 
-#include "../elementary/block_copy.h"
+#include "../access/block_copy.h"
 
 namespace {
 

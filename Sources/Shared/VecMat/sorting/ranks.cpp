@@ -1,11 +1,11 @@
 #include "ranks.h"
 
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../elementary/columns_and_rows.h"
-#include "../frame/cells.h"
-#include "../frame/missing_value.h"
-#include "../frame/numbers.h"
+#include "detail/stable_order.h"
 #include "sort.h"
-#include "stable_order.h"
 
 #include <algorithm>
 #include <cmath>

@@ -11,7 +11,7 @@
 // vectors at most; nothing is written before everything is read.
 #pragma once
 
-#include "../frame/api.h"
+#include "../base/api.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 

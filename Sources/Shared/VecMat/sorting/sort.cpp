@@ -1,9 +1,9 @@
 #include "sort.h"
 
-#include "../elementary/transposed.h"
-#include "column_moves.h"
-#include "sort_by_key.h"
-#include "stable_order.h"
+#include "../access/transposed.h"
+#include "detail/column_moves.h"
+#include "detail/sort_by_key.h"
+#include "detail/stable_order.h"
 
 #include <algorithm>
 #include <string>

@@ -1,10 +1,10 @@
 #include "sort_apply.h"
 
-#include "../frame/cells.h"
-#include "../frame/numbers.h"
-#include "column_moves.h"
+#include "../access/cells.h"
+#include "../base/detail/memory_ranges.h"
+#include "../base/detail/numbers.h"
 #include "copy_block.h"
-#include "memory_stretches.h"
+#include "detail/column_moves.h"
 
 namespace {
 

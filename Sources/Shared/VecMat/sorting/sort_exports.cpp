@@ -1,8 +1,8 @@
 #include "sort.h"
 
-#include "../frame/handles.h"
-#include "memory_stretches.h"
-#include "sort_by_key.h"
+#include "../base/detail/memory_ranges.h"
+#include "../frame/detail/handles.h"
+#include "detail/sort_by_key.h"
 
 #include <cstddef>
 #include <type_traits>

@@ -1,0 +1,187 @@
+// Copying a block of cells from any storage to any other.
+//
+// A window is an accessor moved to a corner of its storage, so that every member of the family is one call that names
+// two windows:
+//
+//     copyCells(window(src, zeroBased(r1), zeroBased(c1)), window(dst, 0, 0), rows, cols);
+//
+// Cells are copied as they are, missing ones too. A read outside a table yields what the checked read yields and that
+// is stored; a write outside is dropped.
+#pragma once
+
+#include "cells.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace vecmat {
+
+// ---- numbers of rows and columns ------------------------------------------------------------------------------------
+
+/// Sum of two numbers of rows or columns. It wraps: a senseless number then fails the bound check of the table.
+constexpr int shifted(int number, int by)
+{
+    return static_cast<int>(static_cast<unsigned>(number) + static_cast<unsigned>(by));
+}
+
+/// How many numbers the range holds, both ends included; none where it ends before it starts.
+constexpr int countFromTo(int from, int to)
+{
+    return to < from ? 0 : static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from) + 1u);
+}
+
+// ---- windows --------------------------------------------------------------------------------------------------------
+
+/// Cells seen from the corner (row, col) of their storage, both from 0.
+template <class Cells>
+class Window
+{
+public:
+    using Value = typename Cells::Value;
+    using Read = typename Cells::Read;
+
+    /// `height` is the row number at which a column of the storage ends and the next one begins in memory.
+    Window(Cells cells, int row, int col, const void* storage, int height)
+        : cells_(cells), row_(row), col_(col), storage_(storage), height_(height)
+    {
+    }
+
+    Read get(int i, int j) const { return cells_.get(shifted(row_, i), shifted(col_, j)); }
+    template <class V>
+    void set(int i, int j, V&& value) const
+    {
+        cells_.set(shifted(row_, i), shifted(col_, j), std::forward<V>(value));
+    }
+    auto column(int j) const requires requires(const Cells& cells) { cells.column(0); }
+    {
+        return cells_.column(col_ + j) + row_;
+    }
+
+    bool covers(int rows, int cols) const
+    {
+        constexpr int most = std::numeric_limits<int>::max();
+        return row_ >= 0 && col_ >= 0 && row_ <= most - rows && col_ <= most - cols &&
+               cells_.covers(row_ + rows, col_ + cols);
+    }
+    auto plain() const
+    {
+        using Plain = decltype(cells_.plain());
+        return Window<Plain>(cells_.plain(), row_, col_, storage_, height_);
+    }
+
+    /// Can two cells of a block of `rows` rows be the same cell of the storage?
+    bool folds(int rows) const { return row_ < 0 || static_cast<long long>(row_) + rows > height_; }
+    /// The table, or the array of columns, that the cells belong to.
+    const void* storage() const { return storage_; }
+    int row() const { return row_; }
+    int col() const { return col_; }
+
+private:
+    Cells cells_;
+    int row_;
+    int col_;
+    const void* storage_;
+    int height_;
+};
+
+template <class Table>
+Window<TableCells<Table>> window(Table* table, int row, int col)
+{
+    return {cells(table), row, col, table, table != nullptr ? table->nRows : 0};
+}
+
+/// An array of columns: a row never runs into the next column.
+template <class Table>
+Window<ColumnCells<Table>> window(Table** columns, int row, int col)
+{
+    return {cells(columns), row, col, columns, std::numeric_limits<int>::max()};
+}
+
+/// A symmetric table held as a triangle of columns: (i, j) and (j, i) are one cell, so that every block may fold.
+template <class Table>
+Window<TriangleCells<Table>> triangleWindow(Table** columns, int row, int col)
+{
+    return {triangle(columns), row, col, columns, -1};
+}
+
+// ---- copying --------------------------------------------------------------------------------------------------------
+
+/// A cell on its way into a table of another type: ints are widened, doubles truncated.
+template <class Value, class Read>
+decltype(auto) converted(const Read& x)
+{
+    if constexpr (std::is_same_v<Value, Read>)
+        return (x);
+    else if constexpr (std::is_same_v<Value, int>)
+        return truncated(x);
+    else
+        return static_cast<Value>(x);
+}
+
+/// May the copy run down the columns? It is settled as rows outside, columns inside. That shows where two cells of the
+/// target are one, and where a copy within one table reads what it has written; elsewhere memory decides the order.
+template <class Source, class Target>
+bool mayRunDownColumns(const Source& source, const Target& target, int rows, int cols)
+{
+    if (cols == 1)
+        return true;
+    if (target.folds(rows))
+        return false;
+    if (source.storage() != target.storage())
+        return true;
+    if constexpr (std::is_same_v<Source, Target>)
+        // Along one axis only, each line of the other axis is on its own.
+        return !source.folds(rows) && (source.row() == target.row() || source.col() == target.col());
+    else
+        return false;
+}
+
+/// Copies a block of `rows` by `cols` cells, converted to the target's type. Nothing is copied from or to a storage
+/// that is not there.
+template <class Source, class Target>
+void copyCells(Source source, Target target, int rows, int cols)
+{
+    if (rows < 1 || cols < 1 || source.storage() == nullptr || target.storage() == nullptr)
+        return;
+    const bool downColumns = mayRunDownColumns(source, target, rows, cols);
+    const bool apart = source.storage() != target.storage();
+    onBlocks(
+        [=](auto from, auto to) {
+            using To = decltype(to);
+            const auto copyCell = [&](int i, int j) { to.set(i, j, converted<typename To::Value>(from.get(i, j))); };
+            if (!downColumns) {
+                for (int i = 0; i < rows; ++i)
+                    for (int j = 0; j < cols; ++j)
+                        copyCell(i, j);
+                return;
+            }
+            for (int j = 0; j < cols; ++j) {
+                if constexpr (std::is_same_v<typename decltype(from)::Value, typename To::Value> && requires {
+                                  from.column(0);
+                                  to.column(0);
+                              })
+                {
+                    if (apart) {
+                        std::copy_n(from.column(j), countOf(rows), to.column(j));
+                        continue;
+                    }
+                }
+                for (int i = 0; i < rows; ++i)
+                    copyCell(i, j);
+            }
+        },
+        block(source, rows, cols), block(target, rows, cols));
+}
+
+/// Prepares a result table of the library's kinds: a numeric table is cleared, a string table of the exact shape kept
+/// as it is.
+template <class Table>
+void prepareResult(Table*& out, int rows, int cols)
+{
+    if constexpr (std::is_same_v<Table, Smatrix>)
+        Smatrix::matCheck(out, rows, cols);
+    else
+        Table::matCheck(out, rows, cols, 0.0);
+}
+
+} // namespace vecmat

@@ -1,0 +1,128 @@
+// Cholesky factors by strips of rows, many cells side by side. Each cell is the same running difference in the same
+// order as in the row form, which stays the way for small tables and wherever the order of the cells can be seen.
+#pragma once
+
+#include "../../access/tiled_product.h"
+#include "../../base/detail/companions.h"
+#include "../../base/detail/scratch.h"
+#include "../../base/missing_value.h"
+#include "../../kernels/substitution_kernels.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+
+namespace vecmat {
+
+/// When a pivot fails.
+enum class PivotTest { belowTolerance, belowZero };
+
+template <PivotTest test>
+bool failsAsPivot(double x)
+{
+    if constexpr (test == PivotTest::belowTolerance)
+        return x < zeroTolerance;
+    else
+        return x < 0.0;
+}
+
+/// L of order n, as many of its rows at a time as a kernel has results, each strip from its first column to the
+/// diagonal. Its scratch memory is a table of order n and a strip of it.
+template <PivotTest test, class Cells, class Factor>
+class StripCholesky
+{
+public:
+    StripCholesky(Cells a, Factor l, int n)
+        : a_(a), l_(l), n_(n), columns_(n), rows_(countOf(n) * std::size_t{countOf(n)}),
+          strip_(countOf(n) * std::size_t{countOf(kernels_.width)})
+    {
+    }
+
+    bool hasMemory() const { return rows_ && strip_; }
+
+    /// Returns 0, or -1 with the columns before the pivot that failed; the other cells of l are not touched.
+    int run()
+    {
+        for (int first = 0; first < n_; first += kernels_.width) {
+            for (int i = 0; i < std::min(first, columns_); ++i) {
+                reduce(i, first);
+                kernels_.divide(row(i)[i], strip(i));
+            }
+            factorTriangle(first);
+            store(first);
+        }
+        return columns_ == n_ ? 0 : -1;
+    }
+
+private:
+    /// Row i of L, as far as it is needed.
+    double* row(int i) const { return rows_.data() + std::ptrdiff_t{n_} * i; }
+    /// The cells of column k in the strip.
+    double* strip(int k) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * k; }
+    int endOf(int first) const { return std::min(first + kernels_.width, n_); }
+
+    /// What the columns before i leave of column i in the strip, taken off from the last one back to the first.
+    void reduce(int i, int first) const
+    {
+        double* const cells = strip(i);
+        std::fill_n(cells, kernels_.width, 0.0);
+        for (int j = std::max(first, i); j < endOf(first); ++j)
+            cells[j - first] = a_.get(i, j);
+        if (i > 0)
+            kernels_.subtract(i, {row(i) + i - 1, -1}, {strip(i - 1), -kernels_.width}, cells);
+    }
+
+    /// The columns that have their diagonal in the strip. Above it there are numbers that nobody reads.
+    void factorTriangle(int first)
+    {
+        for (int i = first; i < std::min(endOf(first), columns_); ++i) {
+            for (int k = 0; k < i; ++k)
+                row(i)[k] = strip(k)[i - first];
+            reduce(i, first);
+            double& diagonal = strip(i)[i - first];
+            const bool fails = failsAsPivot<test>(diagonal);
+            const double pivot = fails ? 0.0 : sqr(diagonal);
+            // At the last row one of 0 divides nothing.
+            if (fails || (pivot == 0.0 && i + 1 < n_)) {
+                columns_ = i;
+                return;
+            }
+            row(i)[i] = pivot;
+            kernels_.divide(pivot, strip(i));
+            diagonal = pivot;
+        }
+    }
+
+    void store(int first) const
+    {
+        for (int k = 0; k < std::min(endOf(first), columns_); ++k)
+            for (int j = std::max(first, k); j < endOf(first); ++j)
+                l_.set(j, k, strip(k)[j - first]);
+    }
+
+    const SubstitutionKernels& kernels_ = substitutionKernels();
+    Cells a_;
+    Factor l_;
+    int n_;
+    int columns_; ///< how many columns of L can be had
+    Scratch rows_;
+    Scratch strip_;
+};
+
+/// Below this order copying costs more than it brings.
+inline constexpr int leastStripOrder = 40;
+
+/// None where the factor is too small for this, where it lies over the table, or where there is no memory: nothing is
+/// done.
+template <PivotTest test, class Cells, class Factor>
+std::optional<int> factorByStrips(Cells a, Factor l, int n)
+{
+    if (n < leastStripOrder || l.folds(n, n) || overlap(l, n, n, a, n, n))
+        return std::nullopt;
+    StripCholesky<test, Cells, Factor> strips(a, l, n);
+    if (!strips.hasMemory())
+        return std::nullopt;
+    return strips.run();
+}
+
+} // namespace vecmat

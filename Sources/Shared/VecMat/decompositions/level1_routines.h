@@ -1,0 +1,46 @@
+// Level-1 kernels over runs of table cells, in the manner of the BLAS, with the library's checked access.
+//
+// A vector of `count` elements begins at (row, col), 1-based, and goes on in linear order by `inc` elements at a time:
+// past the end of a column it continues in the next one. A negative increment starts the walk at (1 - count) * inc, as
+// in the BLAS. Reads outside the table give -1.0, writes outside it are dropped; a count below 1 touches nothing. There
+// is no missing test. In the SPV forms `col` selects the table of the array and the walk stays inside it; a column
+// below 1 is outside.
+#pragma once
+
+#include "../base/api.h"
+#include "../matrix.h"
+
+extern "C" {
+
+/// Euclidean norm by scale and sum of squares; 0.0 for a count or an increment below 1.
+VECMAT_API double DNRM2(int count, matrix* x, int inc, int row, int col);
+VECMAT_API double DNRM2SPV(int count, matrix** x, int inc, int row, int col);
+
+/// x = a x.
+VECMAT_API void dscal(int count, double a, matrix* x, int inc, int row, int col);
+VECMAT_API void dscalSPV(int count, double a, matrix** x, int inc, int row, int col);
+
+/// Builds the rotation that brings (a, b) to (r, 0): stores r in `*a`, the reconstruction number z in `*b`, the cosine
+/// and sine. For a and b both 0 the rotation is the identity and r and z are 0.
+VECMAT_API void drotg(double* a, double* b, double* c, double* s);
+
+/// Inner product, added in element order.
+VECMAT_API double ddot(int count, matrix* x, int incx, matrix* y, int incy, int rowx, int colx, int rowy, int coly);
+VECMAT_API double ddotSPV(int count, matrix** x, int incx, matrix** y, int incy, int rowx, int colx, int rowy,
+                          int coly);
+
+/// y = y + a x; y stays bit for bit where a is exactly 0.
+VECMAT_API void daxpy(int count, double a, matrix* x, int incx, matrix* y, int incy, int rowx, int colx, int rowy,
+                      int coly);
+VECMAT_API void daxpySPV(int count, double a, matrix** x, int incx, matrix** y, int incy, int rowx, int colx, int rowy,
+                         int coly);
+
+/// Plane rotation of column `colx` of x and `coly` of y, from row 1: x' = c x + s y, y' = c y - s x.
+VECMAT_API void drot(int count, matrix* x, int incx, matrix* y, int incy, double c, double s, int colx, int coly);
+VECMAT_API void drotSPV(int count, matrix** x, int incx, matrix** y, int incy, double c, double s, int colx, int coly);
+
+/// Exchanges column `colx` of x and `coly` of y, from row 1.
+VECMAT_API void M_SwapVectors(int count, matrix* x, int incx, matrix* y, int incy, int colx, int coly);
+VECMAT_API void M_SwapVectorsSPV(int count, matrix** x, int incx, matrix** y, int incy, int colx, int coly);
+
+} // extern "C"

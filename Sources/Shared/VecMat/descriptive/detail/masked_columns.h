@@ -1,0 +1,30 @@
+// Columns that are transformed one by one, each with a mask of its own. Internal to the library.
+#pragma once
+
+#include "../../base/detail/numbers.h"
+#include "../../missing/missing_masks.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
+namespace vecmat {
+
+/// Column j of Z becomes what `transform(column, mask)` makes of a copy of column j of X. The mask drops the rows where
+/// `a` is exactly -1 or the cell is missing by the order test. X and Z are n by p and may be one array: each column is
+/// complete before it goes back, and no later column reads it.
+template <class Transform>
+void transformMaskedColumns(const double* X, int n, int p, short* a, double* Z, Transform transform)
+{
+    const std::size_t rows = countOf(n);
+    std::vector<short> mask(rows);
+    std::vector<double> column(rows);
+    for (std::size_t j = 0; j < countOf(p); ++j) {
+        std::copy_n(X + rows * j, rows, column.begin());
+        VB_V_GetMissingDbl(column.data(), n, a, mask.data());
+        transform(column.data(), mask.data());
+        std::copy_n(column.begin(), rows, Z + rows * j);
+    }
+}
+
+} // namespace vecmat

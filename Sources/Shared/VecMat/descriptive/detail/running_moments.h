@@ -1,0 +1,169 @@
+// Running moments: the one-pass updates of means and variances, and the divisors. Internal to the library.
+//
+// Each row adds to the sum of weights W, then with d = x - mean to the sum of squared deviations, then to the mean.
+// The families write the two terms differently, so that they round differently; each keeps its own form. A family is
+// named by three choices: its update rule, what a weight of zero does, and which test tells a missing cell.
+#pragma once
+
+#include "../../base/detail/companions.h"
+#include "../../base/missing_value.h"
+
+namespace vecmat {
+
+/// The update table: what a row of weight w at distance d from the running mean adds to the sum of squared deviations
+/// and to the mean; W is the sum of weights with this row in it.
+namespace update {
+
+struct Weighted
+{
+    static double squares(double d, double w, double W) { return d * d * (w - w * w / W); }
+    static double mean(double d, double w, double W) { return d * w / W; }
+};
+
+/// Unit weights, W being the count of rows.
+struct Counted
+{
+    static double squares(double d, double, double W) { return d * d * (1.0 - 1.0 / W); }
+    static double mean(double d, double, double W) { return d / W; }
+};
+
+struct Conditional
+{
+    static double squares(double d, double w, double W) { return d * d * w * (1.0 - w / W); }
+    static double mean(double d, double w, double W) { return d * w / W; }
+};
+
+/// The row's share of the weights is formed first, and both terms are multiples of it.
+struct Fractional
+{
+    static double squares(double d, double w, double W) { return (1.0 - w / W) * d * d * w; }
+    static double mean(double d, double w, double W) { return d * (w / W); }
+};
+
+} // namespace update
+
+/// What a row does that is present but has a weight of zero.
+enum class ZeroWeight {
+    skipped, ///< it does not enter at all
+    counted, ///< it counts among the rows, but moves neither mean nor squares
+    updated, ///< it is not looked for: while the weights still sum to zero it divides 0 by 0, and the mean stays NaN
+};
+
+/// Which test keeps a missing cell out. Under `order` a cell must be above the missing value, which a NaN is not.
+enum class MissingTest { equality, order };
+
+template <MissingTest test = MissingTest::equality>
+bool isPresent(double x)
+{
+    return test == MissingTest::equality ? !isMissing(x) : x > missingValue;
+}
+
+/// The sum of weights W and the count m of the rows added so far.
+template <ZeroWeight zero>
+struct RunningWeights
+{
+    static constexpr ZeroWeight zeroWeight = zero;
+
+    double weights = 0.0;
+    int rows = 0;
+
+    /// Takes up a row; answers whether it also moves the moments.
+    bool take(double w)
+    {
+        if (zero == ZeroWeight::skipped && w == 0.0)
+            return false;
+        weights += w;
+        ++rows;
+        return zero != ZeroWeight::counted || w != 0.0;
+    }
+};
+
+/// Mean of the rows added so far, 0.0 before the first.
+template <class UpdateRule, ZeroWeight zero>
+struct RunningMean : RunningWeights<zero>
+{
+    using Rule = UpdateRule;
+
+    double mean = 0.0;
+
+    void add(double x, double w)
+    {
+        if (this->take(w))
+            mean += Rule::mean(x - mean, w, this->weights);
+    }
+};
+
+/// Mean and sum of squared deviations of the rows added so far.
+template <class UpdateRule, ZeroWeight zero>
+struct RunningVariance : RunningWeights<zero>
+{
+    using Rule = UpdateRule;
+
+    double mean = 0.0;
+    double squares = 0.0;
+
+    void add(double x, double w)
+    {
+        if (!this->take(w))
+            return;
+        const double d = x - mean;
+        squares += Rule::squares(d, w, this->weights);
+        mean += Rule::mean(d, w, this->weights);
+    }
+};
+
+/// What `sample` -1 takes off the sum of weights W: 1.0 for weights that are frequencies, else the mean weight of the
+/// rows counted.
+inline double weightCorrection(double W, int rows, short freqWeights)
+{
+    return freqWeights == -1 ? 1.0 : W / rows;
+}
+
+inline double varianceDivisor(double W, int rows, short sample, short freqWeights)
+{
+    return sample == -1 ? W - weightCorrection(W, rows, freqWeights) : W;
+}
+
+/// The quotient whatever the divisor, by the rules of floating point.
+template <class Moments>
+double untestedVariance(const Moments& m, short sample, short freqWeights)
+{
+    return m.squares / varianceDivisor(m.weights, m.rows, sample, freqWeights);
+}
+
+/// The missing value where the divisor is not above 0, a NaN included.
+template <class Moments>
+double testedVariance(const Moments& m, short sample, short freqWeights)
+{
+    const double divisor = varianceDivisor(m.weights, m.rows, sample, freqWeights);
+    return divisor > 0.0 ? m.squares / divisor : missingValue;
+}
+
+inline double deviationOf(double variance)
+{
+    return isMissing(variance) ? missingValue : sqr(variance);
+}
+
+/// Computes `results` moments, each over `terms` terms in their order: `add(moments, result, term)`, then once
+/// `store(result, moments)`. A few results are worked on side by side, because each waits for a chain of divisions
+/// of its own.
+template <class Moments, class Add, class Store>
+void accumulate(int results, int terms, Add add, Store store)
+{
+    const auto group = [&]<int width>(int first) {
+        Moments moments[width];
+        for (int term = 0; term < terms; ++term)
+            for (int k = 0; k < width; ++k)
+                add(moments[k], first + k, term);
+        for (int k = 0; k < width; ++k)
+            store(first + k, moments[k]);
+    };
+    constexpr int sideBySide = 4;
+    int first = 0;
+    for (; results - first >= sideBySide; first += sideBySide)
+        group.template operator()<sideBySide>(first);
+    for (; first < results; ++first)
+        group.template operator()<1>(first);
+}
+
+} // namespace vecmat

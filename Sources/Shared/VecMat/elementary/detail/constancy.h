@@ -1,0 +1,59 @@
+// When a run of cells is constant. Not part of the interface: shared by the functions over tables and over flat arrays.
+#pragma once
+
+#include "../../access/cells.h"
+#include "../../base/missing_value.h"
+
+namespace vecmat {
+
+/// Does every cell from number `from` (0-based) on equal the first? From 0 on the first is compared with itself, which
+/// a NaN fails; from 1 on it is not.
+template <class Vector>
+bool equalsFirst(Vector x, int from, int n)
+{
+    for (int i = from; i < n; ++i)
+        if (x.get(i) != x.get(0))
+            return false;
+    return true;
+}
+
+/// Number of the first cell that is not missing, or `n`.
+template <class Vector>
+int firstPresent(Vector x, int n)
+{
+    int i = 0;
+    while (i < n && isMissing(x.get(i)))
+        ++i;
+    return i;
+}
+
+/// Do the cells that are not missing agree with the first of them? They are compared from the second cell on, so that a
+/// NaN fails behind a missing cell, where it is compared with itself, and not as the first cell.
+template <class Vector>
+bool presentCellsAgree(Vector x, int n)
+{
+    const int reference = firstPresent(x, n);
+    if (reference >= n || n < 2)
+        return true;
+    const double value = x.get(reference);
+    for (int i = 1; i < n; ++i)
+        if (const double cell = x.get(i); !isMissing(cell) && cell != value)
+            return false;
+    return true;
+}
+
+/// One column of an accessor by row and column, as a vector.
+template <class Cells>
+class ColumnOf
+{
+public:
+    ColumnOf(Cells cells, int column) : cells_(cells), column_(column) {}
+
+    double get(int i) const { return cells_.get(i, column_); }
+
+private:
+    Cells cells_;
+    int column_;
+};
+
+} // namespace vecmat

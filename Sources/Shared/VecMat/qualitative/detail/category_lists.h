@@ -1,0 +1,125 @@
+// Lists of categories, and finding a text in one without a walk over it. Internal to the library.
+//
+// In a table of categories row j is the list of variable j, its places being the columns. Places are 0-based here.
+#pragma once
+
+#include "../../access/cells.h"
+#include "../../elementary/detail/text_table.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+namespace vecmat {
+
+/// Which place counts of a text that a list holds more than once.
+enum class Repeated { firstCounts, lastCounts };
+
+/// The place of each text of a list. The texts stay where they are: only views of them are kept.
+class TextPlaces
+{
+public:
+    static constexpr int none = -1;
+
+    int find(const HashedText& text) const
+    {
+        const int number = places_.find(text);
+        return number == Places::none ? none : places_.value(number);
+    }
+    void add(std::wstring_view text, int place, Repeated repeated)
+    {
+        const auto [number, isNew] = places_.add(text, place);
+        if (!isNew && repeated == Repeated::lastCounts)
+            places_.value(number) = place;
+    }
+
+    const TextTable<int>& table() const { return places_; }
+
+private:
+    using Places = TextTable<int>;
+
+    Places places_;
+};
+
+/// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so that the first
+/// of them speaks for the rest. A table may be null where there is no place.
+template <class Table>
+int placesToVisit(const Table* table, int count)
+{
+    return count < 1 ? 0 : std::min(count, std::max(table->nCols, 0) + 1);
+}
+
+/// The places of the first `count` categories of a variable, as the checked reads give them.
+inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeated repeated)
+{
+    TextPlaces places;
+    const int visited = placesToVisit(categories, count);
+    for (int place = 0; place < visited; ++place)
+        places.add(cells(categories).get(variable, place), place, repeated);
+    return places;
+}
+
+/// Categories in the order of their first appearance, each with the sum of its weights. Views the texts it is given.
+class WeightedCategories
+{
+public:
+    static constexpr int unlimited = std::numeric_limits<int>::max();
+
+    /// A text met when the list has reached its capacity is appended each time anew, since nobody finds it there again.
+    explicit WeightedCategories(int capacity) : capacity_(capacity) {}
+
+    void add(const HashedText& text, double weight)
+    {
+        if (known_.size() < capacity_) {
+            const auto [place, isNew] = known_.add(text, weight);
+            if (!isNew)
+                known_.value(place) += weight;
+        } else if (const int place = known_.find(text); place != Known::none) {
+            known_.value(place) += weight;
+        } else {
+            beyond_.push_back({text.text(), weight});
+        }
+    }
+    void clear()
+    {
+        known_.clear();
+        beyond_.clear();
+    }
+
+    int size() const { return known_.size() + static_cast<int>(beyond_.size()); }
+    std::wstring_view text(int place) const
+    {
+        return place < known_.size() ? known_.text(place) : beyondAt(place).text;
+    }
+    const TextTable<double>& table() const { return known_; }
+    double weight(int place) const { return place < known_.size() ? known_.value(place) : beyondAt(place).weight; }
+
+private:
+    using Known = TextTable<double>;
+    struct Entry
+    {
+        std::wstring_view text;
+        double weight;
+    };
+
+    const Entry& beyondAt(int place) const { return beyond_[static_cast<std::size_t>(place - known_.size())]; }
+
+    int capacity_;
+    Known known_;
+    std::vector<Entry> beyond_; // the capacity
+};
+
+/// The place of the largest weight. A later one must exceed it, so that the first of equals stays, and so does a NaN
+/// that comes first.
+template <class WeightAt>
+int heaviest(int count, WeightAt weightAt)
+{
+    int best = 0;
+    for (int place = 1; place < count; ++place)
+        if (weightAt(place) > weightAt(best))
+            best = place;
+    return best;
+}
+
+} // namespace vecmat

@@ -1,0 +1,27 @@
+#include "moments_of_one_column.h"
+
+// The update rules are shared with the moments of whole tables, which stand above this folder.
+#include "../access/cells.h"
+#include "../descriptive/detail/running_moments.h"
+
+using namespace vecmat;
+
+void M_MeanStDevVarOneInMat(matrix* table, int nRows, int col, double* mean, double* stdDev, double* variance,
+                            matrix* weights, short sampleVariance, short countDivisor)
+{
+    const int j = zeroBased(col);
+    // A block starts at the first column: a column before it is left to the checked reads.
+    const Block<TableCells<matrix>> column{cells(table), col > 0 && cells(table).covers(nRows, col)};
+    const auto moments = onBlocks(
+        [=](auto x, auto weight) {
+            RunningVariance<update::Weighted, ZeroWeight::counted> running;
+            for (int i = 0; i < nRows; ++i)
+                if (isPresent<MissingTest::order>(x.get(i, j)))
+                    running.add(x.get(i, j), weight.get(i));
+            return running;
+        },
+        column, block(linear(weights), nRows));
+    *mean = moments.mean;
+    *variance = untestedVariance(moments, sampleVariance, countDivisor);
+    *stdDev = sqr(*variance);
+}

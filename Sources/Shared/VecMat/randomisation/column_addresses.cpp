@@ -1,0 +1,188 @@
+#include "column_addresses.h"
+
+#include "../Smatrix.h"
+#include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../matrix.h"
+#include "../sorting/sort.h"
+
+#include <cmath>
+
+namespace {
+
+using namespace vecmat;
+
+bool beginsWithDigit(const std::wstring& text)
+{
+    return !text.empty() && text.front() >= L'0' && text.front() <= L'9';
+}
+
+/// The number of a column by its letters. No letters are taken as one with the code 0.
+double columnNumber(const std::wstring& letters)
+{
+    constexpr double base = 26.0;
+    const int length = static_cast<int>(letters.size());
+    double number = 0.0;
+    for (int i = 1; i < length; ++i)
+        number += std::pow(base, i);
+    for (int i = 1; i < length; ++i)
+        number += (static_cast<double>(letters[static_cast<std::size_t>(i - 1)]) - 65.0) * std::pow(base, length - i);
+    const double lastCode = letters.empty() ? 0.0 : static_cast<double>(letters.back());
+    return number + lastCode + -64.0;
+}
+
+/// What is left of an address list while it is read.
+class Remainder
+{
+public:
+    explicit Remainder(const std::wstring& text) : text_(text) {}
+
+    /// The text between the next "$" and the delimiter behind it. Then what is left begins behind the first delimiter,
+    /// if there is one.
+    std::wstring takeColumn(const wchar_t* delimiter)
+    {
+        const auto sign = text_.find(L'$', start_);
+        const auto end = text_.find(delimiter, sign == std::wstring::npos ? start_ : sign + 1);
+        // Nothing behind the delimiter is handed over: a copy of all that is left, for every column, would make the
+        // reading quadratic.
+        const auto length = end == std::wstring::npos ? std::wstring::npos : end + 1 - start_;
+        std::wstring column = cStrBetweenChrAndChr(text_.substr(start_, length), L"$", delimiter);
+        const auto next = text_.find(delimiter, start_);
+        if (next != std::wstring::npos)
+            start_ = next + 1;
+        return column;
+    }
+
+    /// All that is left, less its first character.
+    std::wstring takeLastColumn() const { return start_ < text_.size() ? text_.substr(start_ + 1) : std::wstring(); }
+
+private:
+    const std::wstring& text_;
+    std::size_t start_ = 0;
+};
+
+/// The pieces of a list in the order of their last columns; counted from 1.
+class SortedPieces
+{
+public:
+    SortedPieces(const std::wstring& list, int count) : count_(count), columns_(count, 2), keys_(count, 1, 0.0)
+    {
+        read(list);
+        Smatrix* columns = &columns_;
+        matrix* keys = &keys_;
+        matrix* noCompanion = nullptr;
+        SortQ(columns, count, 2, 1, count, keys, noCompanion, 0, 0, 0);
+    }
+
+    int count() const { return count_; }
+    const std::wstring& first(int piece) const { return columns_.X[piece - 1]; }
+    const std::wstring& last(int piece) const { return columns_.X[count_ + piece - 1]; }
+
+    /// Does this piece begin with the column behind the end of the piece before?
+    bool followsItsPredecessor(int piece) const { return AreContiguous(last(piece - 1), first(piece)) != 0; }
+
+private:
+    /// Ends at the first column that is a row number: what has been read until then stands, and all else is empty.
+    void read(const std::wstring& list)
+    {
+        Remainder remainder(list);
+        for (int piece = 1; piece <= count_; ++piece) {
+            const std::wstring first = remainder.takeColumn(L":");
+            if (beginsWithDigit(first))
+                return;
+            columns_.vbset(piece, 1, first);
+            const std::wstring last = piece < count_ ? remainder.takeColumn(L",") : remainder.takeLastColumn();
+            if (beginsWithDigit(last))
+                return;
+            columns_.vbset(piece, 2, last);
+            keys_.vbset(piece, 1, columnNumber(last));
+        }
+    }
+
+    int count_;
+    Smatrix columns_;
+    matrix keys_;
+};
+
+/// The list that comes out, written piece by piece.
+class AddressWriter
+{
+public:
+    explicit AddressWriter(const std::wstring& sheet) : opening_(L"'" + sheet + L"'!$") {}
+
+    void openFirst(const std::wstring& column) { text_ += opening_ + column + L":"; }
+    void openNext(const std::wstring& column)
+    {
+        text_ += L",";
+        openFirst(column);
+    }
+    void close(const std::wstring& column) { text_ += L"$" + column; }
+    void closeBare(const std::wstring& column) { text_ += column; }
+
+    bool endsWithColon() const { return text_.back() == L':'; }
+    const std::wstring& text() const { return text_; }
+
+private:
+    std::wstring opening_;
+    std::wstring text_;
+};
+
+/// Walks the pieces from the second on, each time looking at a piece and its predecessor, whose first column has been
+/// written.
+std::wstring mergedNeighbours(const SortedPieces& pieces, const std::wstring& sheet)
+{
+    const int n = pieces.count();
+    AddressWriter out(sheet);
+    out.openFirst(pieces.first(1));
+    for (int i = 2; i <= n; ++i) {
+        if (!pieces.followsItsPredecessor(i)) {
+            out.closeBare(pieces.last(i - 1));
+            out.openNext(pieces.first(i));
+        } else if (i == n) {
+            out.close(pieces.last(n));
+        } else {
+            int end = i;
+            while (end < n && pieces.followsItsPredecessor(end + 1))
+                ++end;
+            out.close(pieces.last(end));
+            if (end < n)
+                out.openNext(pieces.first(end + 1));
+            i = end + 1;
+        }
+        if (i == n && out.endsWithColon()) {
+            out.close(pieces.last(n));
+            break;
+        }
+    }
+    return out.text();
+}
+
+} // namespace
+
+std::wstring cSimplifyRange(std::wstring& input)
+{
+    const int separators = cChrCount(input, L",");
+    if (separators == 0)
+        return input;
+    // The sheets of the other pieces are not looked at: a list on several sheets is merged like any other.
+    const std::wstring sheet = cStrBetweenChrAndChr(input, L"'", L"'");
+    return mergedNeighbours(SortedPieces(input, separators + 1), sheet);
+}
+
+std::wstring cIncrease1Col(std::wstring& letters)
+{
+    std::wstring next = letters;
+    for (auto letter = next.rbegin(); letter != next.rend(); ++letter) {
+        if (*letter != L'Z') {
+            *letter = static_cast<wchar_t>(static_cast<char32_t>(*letter) + 1u);
+            break;
+        }
+        *letter = L'A';
+    }
+    return next;
+}
+
+short AreContiguous(std::wstring a, std::wstring b)
+{
+    return booleanOf(cIncrease1Col(a) == b);
+}

@@ -1,0 +1,26 @@
+// Cleaning a contingency table of its empty rows and columns.
+#pragma once
+
+#include "../base/api.h"
+#include "../matrix.h"
+#include "../matrixInt.h"
+
+extern "C" {
+
+/// Copies T (n by p) to R without the rows and columns whose sums are at or below 1e-12. The rows and columns that are
+/// kept move up and to the left in R; what R held behind them stays, except for cells over which they moved.
+///
+/// Both margins are taken once, from the whole of T: a dropped column still counts in the sums of the rows. Missing
+/// cells (equality test) do not count in a sum; a line that is missing throughout, one with a negative sum and one
+/// without cells are dropped. A sum that is NaN is kept.
+///
+/// Entry j of `zeroCols` and entry i of `zeroRows` become 1 for a dropped line. Those of kept lines stay as they are,
+/// so the caller clears both before. `colsLeft` and `rowsLeft` are the numbers of lines kept. R may be T itself.
+VECMAT_API void CheckForMarginalSums(matrix& T, int n, int p, matrix& R, int& rowsLeft, int& colsLeft,
+                                     matrixInt& zeroRows, matrixInt& zeroCols);
+
+/// The same over column-major arrays: T and R of n by p, n flags of rows, p flags of columns. R is written in place.
+VECMAT_API void Cpp_CheckForMarginalSums(double* T, int n, int p, double* R, int* rowsLeft, int* colsLeft,
+                                         int* zeroRows, int* zeroCols);
+
+} // extern "C"

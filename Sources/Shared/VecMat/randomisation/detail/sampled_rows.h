@@ -1,0 +1,38 @@
+// What the sampling designs share: how a row gets from the population into the sample, and how rows are put in order.
+#pragma once
+
+#include "../../Smatrix.h"
+#include "../../base/detail/numbers.h"
+#include "../../matrix.h"
+#include "../../sorting/sort.h"
+
+namespace vecmat {
+
+/// Row `to` of the sample takes the first `p` cells of row `from` of the population, both 1-based. The two may be held
+/// differently; reads and writes are those of the accessors, so that beyond a plain table a row slides into the next
+/// column, and beyond the columns of an array it is empty, or dropped.
+template <class Population, class Sample>
+void copyRow(Population population, int from, Sample sample, int to, int p)
+{
+    for (int j = 0; j < p; ++j)
+        sample.set(zeroBased(to), j, population.get(zeroBased(from), j));
+}
+
+constexpr short sortAscending = 0;
+constexpr short writeSortedKeys = -1;
+
+/// Sorts rows 1 to `n` by their keys, ascending and stably; the keys come back sorted, and `carried`, of one column,
+/// goes with the rows.
+inline void sortRowsByKey(Smatrix* rows, int n, int p, matrix* key, matrix* carried)
+{
+    SortQ(rows, n, p, 1, n, key, carried, 1, sortAscending, writeSortedKeys);
+}
+
+inline void sortRowsByKey(Smatrix** rows, int n, int p, matrix* key, matrix* carried)
+{
+    // To the sort, 0 columns of strings are one. An array of none has no first table to look at.
+    constexpr int noColumns = -1;
+    SortQ(rows, n, p == 0 ? noColumns : p, 1, n, key, carried, 1, sortAscending, writeSortedKeys);
+}
+
+} // namespace vecmat

@@ -1,0 +1,182 @@
+// Stable passes over the digits of ranks, the machinery under the sorts of many numbers.
+#pragma once
+
+#include "../../base/missing_value.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+namespace vecmat {
+
+enum class Direction { ascending, descending };
+
+/// Numbers as unsigned integers of the same order, or of the reverse.
+using Rank = std::uint64_t;
+
+class RankOf
+{
+public:
+    explicit RankOf(Direction direction) : reversal_(direction == Direction::descending ? topBit : 0) {}
+
+    /// The magnitude added to, or taken from, a middle that both zeros share. A number without an order has no rank.
+    Rank operator()(double number) const
+    {
+        const Rank bits = std::bit_cast<Rank>(number) ^ reversal_;
+        const Rank magnitude = bits & ~topBit;
+        const Rank allIfNegative = Rank{0} - (bits >> 63);
+        return topBit + ((magnitude ^ allIfNegative) - allIfNegative);
+    }
+    Rank operator()(int number) const
+    {
+        const Rank above = static_cast<Rank>(std::int64_t{number});
+        return topBit + (reversal_ == 0 ? above : Rank{0} - above);
+    }
+
+private:
+    static constexpr Rank topBit = Rank{1} << 63;
+
+    Rank reversal_;
+};
+
+/// How far ranks lie apart.
+struct Spread
+{
+    Rank lowest;
+    Rank range; // the highest less the lowest
+    int common; // how many of the lowest bits agree in all; with a range of 0 of no meaning
+
+    /// The ranks `rankAt(k)` of n numbers, at least one.
+    template <class RankAt>
+    Spread(std::size_t n, RankAt rankAt)
+    {
+        const Rank first = rankAt(std::size_t{0});
+        lowest = first;
+        Rank highest = first;
+        Rank varying = 0;
+        for (std::size_t k = 1; k < n; ++k) {
+            const Rank rank = rankAt(k);
+            lowest = std::min(lowest, rank);
+            highest = std::max(highest, rank);
+            varying |= rank ^ first;
+        }
+        range = highest - lowest;
+        common = std::countr_zero(varying);
+    }
+
+    int bits() const { return static_cast<int>(std::bit_width(range)); }
+
+    /// The lowest bit of a window that shows as much of the differences as there is room for, from the top.
+    int windowStart(int width) const { return std::max(common, bits() - width); }
+};
+
+/// What the ranks of numbers do not tell.
+struct Census
+{
+    std::size_t missing = 0;
+    bool anyNan = false;
+    bool anyBelowMissing = false;
+    bool anyMinusZero = false;
+
+    Census(const double* numbers, std::size_t n)
+    {
+        constexpr auto minusZero = std::bit_cast<std::uint64_t>(-0.0);
+        for (std::size_t k = 0; k < n; ++k) {
+            const double number = numbers[k];
+            missing += static_cast<std::size_t>(isMissing(number));
+            anyNan |= number != number;
+            anyBelowMissing |= number < missingValue;
+            anyMinusZero |= std::bit_cast<std::uint64_t>(number) == minusZero;
+        }
+    }
+
+    /// How many missing values stand apart, at one end of all others. Among these they would leave no bits in a window
+    /// to tell the others apart.
+    std::size_t missingApart() const { return anyBelowMissing ? 0 : missing; }
+};
+
+/// Do the ranks ascend already?
+template <class RankAt>
+bool ascend(std::size_t n, RankAt rankAt)
+{
+    for (std::size_t k = 1; k < n; ++k)
+        if (rankAt(k) < rankAt(k - 1))
+            return false;
+    return true;
+}
+
+/// Fewer items than this are sorted faster by comparisons.
+inline constexpr std::size_t fewestForDigits = 300;
+
+/// How wide the digits of windows are: narrow ones cost more passes, wide ones more counters.
+inline constexpr std::size_t fewestForWideDigits = 8000;
+inline constexpr int wideDigit = 11;
+inline constexpr int narrowDigit = 8;
+inline constexpr int mostPasses = 3;
+
+/// How wide a window of so many ranks should be at most: few of them tie in more bits, and these cost another pass.
+constexpr int windowWidth(std::size_t n)
+{
+    return mostPasses * (n < fewestForWideDigits ? narrowDigit : wideDigit);
+}
+
+constexpr int passCount(std::size_t n, int bits)
+{
+    const int width = n < fewestForWideDigits ? narrowDigit : wideDigit;
+    return (bits + width - 1) / width;
+}
+
+namespace detail {
+
+template <int width, class Item, class WindowOf>
+Item* sortByDigits(Item* from, Item* to, std::size_t n, int passes, WindowOf windowOf)
+{
+    constexpr Rank mask = (Rank{1} << width) - 1;
+    const auto digitOf = [&](const Item& item, int digit) {
+        return static_cast<std::size_t>(windowOf(item) >> (digit * width) & mask);
+    };
+    std::uint32_t places[mostPasses][mask + 1] = {};
+    for (std::size_t k = 0; k < n; ++k)
+        for (int digit = 0; digit < mostPasses; ++digit)
+            ++places[digit][digitOf(from[k], digit)];
+    for (int digit = 0; digit < passes; ++digit) {
+        auto& placesOfDigit = places[digit];
+        if (placesOfDigit[digitOf(from[0], digit)] == n)
+            continue;
+        std::uint32_t place = 0; // counts become the places where the next item with each digit goes
+        for (std::uint32_t& first : placesOfDigit)
+            place += std::exchange(first, place);
+        for (std::size_t k = 0; k < n; ++k)
+            to[placesOfDigit[digitOf(from[k], digit)]++] = from[k];
+        std::swap(from, to);
+    }
+    return from;
+}
+
+} // namespace detail
+
+/// Sorts n items stably by their windows, numbers of so many bits, from the lowest digit to the highest; a digit that
+/// all have in common needs no pass. The items come in `from`, go to and fro between the two, and end up in the one
+/// that is returned: after an even number of passes, `passCount` if none falls away, where they came from.
+template <class Item, class WindowOf>
+Item* sortByDigits(Item* from, Item* to, std::size_t n, int bits, WindowOf windowOf)
+{
+    return n < fewestForWideDigits ? detail::sortByDigits<narrowDigit>(from, to, n, passCount(n, bits), windowOf)
+                                   : detail::sortByDigits<wideDigit>(from, to, n, passCount(n, bits), windowOf);
+}
+
+/// Calls `sort(first, count)` for each run of more than one item that `tied` finds equal to its first.
+template <class Item, class Tied, class Sort>
+void forEachTie(Item* items, std::size_t n, Tied tied, Sort sort)
+{
+    for (std::size_t first = 0, behind = 1; behind <= n; ++behind)
+        if (behind == n || !tied(items[first], items[behind])) {
+            if (behind - first > 1)
+                sort(first, behind - first);
+            first = behind;
+        }
+}
+
+} // namespace vecmat
