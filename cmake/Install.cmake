@@ -3,11 +3,11 @@
 
 include(CMakePackageConfigHelpers)
 
-# The public headers are those that the umbrella names, in its order, and the marks that they all use.
+# The public headers are those that the umbrella names: all outside of access, kernels and the folders named detail.
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${vecmat_source}/VecMat.h)
 file(STRINGS ${vecmat_source}/VecMat.h public_headers REGEX "^#include \"")
 list(TRANSFORM public_headers REPLACE "^#include \"([^\"]+)\".*" "\\1")
-foreach(header IN ITEMS VecMat.h base/api.h LISTS public_headers)
+foreach(header IN ITEMS VecMat.h LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${vecmat_source}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/${folder})
 endforeach()

@@ -574,9 +574,6 @@ double VB_CorrelPearson(double* x, double* y, int n, short* mask, double* w, sho
 int VB_M_CorrMatFromCovMat(double* S, int p, double* R);
 int Cpp_M_CorrMatFromCovMatSPV2_T(struct SAFEARRAY** C, int p);
 
-/* ---- descriptive/correlation_order ---- */
-int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double* second, int* third);
-
 /* ---- descriptive/triangular_fit ---- */
 void TriangularQFindAB(double x1, double m, double x2, double prob1, double prob2, double* a, double* b);
 double TriangularFunc(double b, double x1, double m, double x2, double prob1, double prob2);
@@ -795,6 +792,9 @@ int Cpp_M_CorrMatFromSymMat(double* a, int n);
 int Cpp_M_CorrMatFromSymMatSPV(struct SAFEARRAY** a, int n);
 int Cpp_M_CorrMatFromSymMatSPV_T(struct SAFEARRAY** a, int n);
 double Cpp_M_RowSumNorm(double* a, int rows, int cols);
+
+/* ---- decompositions/correlation_order ---- */
+int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double* second, int* third);
 
 /* ---- decompositions/singular_values ---- */
 int VB_M_SVDecomp(double* x, int n, int p, double* s, double* u, int ldu, double* v, int ldv, int job, int* info);

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "Smatrix.h"
+#include "base/api.h"
 #include "base/missing_value.h"
 #include "decompositions/axis_selection.h"
 #include "decompositions/cholesky.h"
 #include "decompositions/constrained_inverses.h"
+#include "decompositions/correlation_order.h"
 #include "decompositions/determinants.h"
 #include "decompositions/echelon_forms.h"
 #include "decompositions/eigen.h"
@@ -22,7 +24,6 @@
 #include "descriptive/column_scaling.h"
 #include "descriptive/conditional_moments.h"
 #include "descriptive/correlation_of_covariance.h"
-#include "descriptive/correlation_order.h"
 #include "descriptive/covariance.h"
 #include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"

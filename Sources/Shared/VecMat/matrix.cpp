@@ -1,5 +1,6 @@
 #include "matrix.h"
 
+#include "base/detail/checked_cells.h"
 #include "base/detail/numbers.h"
 #include "base/detail/table_arrays.h"
 #include "base/missing_value.h"
@@ -13,8 +14,10 @@ using vecmat::countOf;
 using vecmat::elementCount;
 using vecmat::linearIndex;
 using vecmat::outOfRangeValue;
+using vecmat::readAt;
 using vecmat::resizedCopyOf;
 using vecmat::truncated;
+using vecmat::writeAt;
 
 namespace {
 
@@ -25,18 +28,6 @@ namespace {
 bool canHold(const matrix* table, int rows, int cols)
 {
     return table != nullptr && !vecmat::isUnset(table) && table->nRows >= rows && table->nCols >= cols;
-}
-
-/// Cells of one table in linear order with the checks of the accessors.
-double readLinear(const matrix& table, unsigned k)
-{
-    return k < table.nElems ? table.X[k] : outOfRangeValue;
-}
-
-void writeLinear(matrix& table, unsigned k, double value)
-{
-    if (k < table.nElems)
-        table.X[k] = value;
 }
 
 } // namespace
@@ -140,7 +131,7 @@ void matrix::vectorizeTo(matrix* dst)
 void matrix::condenseTo(matrix* dst)
 {
     for (unsigned k = 0; k < dst->nElems; ++k)
-        dst->X[k] = readLinear(*this, k);
+        dst->X[k] = readAt(*this, k);
 }
 
 void matrix::transposeTo(matrix* dst)
@@ -150,7 +141,7 @@ void matrix::transposeTo(matrix* dst)
     dst->nElems = nElems;
     for (int i = 0; i < nRows; ++i)
         for (int j = 0; j < nCols; ++j)
-            writeLinear(*dst, linearIndex(j, i, nCols), readLinear(*this, linearIndex(i, j, nRows)));
+            writeAt(*dst, linearIndex(j, i, nCols), readAt(*this, linearIndex(i, j, nRows)));
 }
 
 void matrix::copyCol(matrix* src, int srcCol, int dstCol)
@@ -158,7 +149,7 @@ void matrix::copyCol(matrix* src, int srcCol, int dstCol)
     if (srcCol < 0 || dstCol < 0 || srcCol >= src->nCols || dstCol >= nCols)
         return;
     for (int i = 0; i < src->nRows; ++i)
-        writeLinear(*this, linearIndex(i, dstCol, nRows), readLinear(*src, linearIndex(i, srcCol, src->nRows)));
+        writeAt(*this, linearIndex(i, dstCol, nRows), readAt(*src, linearIndex(i, srcCol, src->nRows)));
 }
 
 void matrix::copyCol(matrixInt* src, int srcCol, int dstCol)
@@ -166,7 +157,7 @@ void matrix::copyCol(matrixInt* src, int srcCol, int dstCol)
     if (srcCol < 0 || dstCol < 0 || srcCol >= src->nCols || dstCol >= nCols)
         return;
     for (int i = 0; i < src->nRows; ++i)
-        writeLinear(*this, linearIndex(i, dstCol, nRows), src->vbget(i + 1, srcCol + 1));
+        writeAt(*this, linearIndex(i, dstCol, nRows), src->vbget(i + 1, srcCol + 1));
 }
 
 void matrix::copyLine(matrix* src, int srcRow, int dstRow)
@@ -174,7 +165,7 @@ void matrix::copyLine(matrix* src, int srcRow, int dstRow)
     if (srcRow < 0 || dstRow < 0 || srcRow >= src->nRows || dstRow >= nRows)
         return;
     for (int j = 0; j < src->nCols; ++j)
-        writeLinear(*this, linearIndex(dstRow, j, nRows), readLinear(*src, linearIndex(srcRow, j, src->nRows)));
+        writeAt(*this, linearIndex(dstRow, j, nRows), readAt(*src, linearIndex(srcRow, j, src->nRows)));
 }
 
 void matrix::transferLineFrom(matrix* src, int srcRow, int dstRow)
@@ -184,9 +175,9 @@ void matrix::transferLineFrom(matrix* src, int srcRow, int dstRow)
     for (int j = 0; j < src->nCols; ++j) {
         const unsigned here = linearIndex(dstRow, j, nRows);
         const unsigned there = linearIndex(srcRow, j, src->nRows);
-        const double kept = readLinear(*this, here);
-        writeLinear(*this, here, readLinear(*src, there));
-        writeLinear(*src, there, kept);
+        const double kept = readAt(*this, here);
+        writeAt(*this, here, readAt(*src, there));
+        writeAt(*src, there, kept);
     }
 }
 
@@ -236,5 +227,5 @@ void matrix::weighting(matrix* w)
 {
     InitWeights();
     for (unsigned i = 0; i < countOf(nRows); ++i)
-        weights[i] = readLinear(*w, i);
+        weights[i] = readAt(*w, i);
 }

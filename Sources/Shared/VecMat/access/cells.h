@@ -15,8 +15,8 @@
 #pragma once
 
 #include "../Smatrix.h"
+#include "../base/detail/checked_cells.h"
 #include "../base/detail/numbers.h"
-#include "../base/missing_value.h"
 #include "../matrix.h"
 #include "../matrixInt.h"
 
@@ -27,57 +27,6 @@
 #include <utility>
 
 namespace vecmat {
-
-/// What a checked read outside a table of strings refers to. A constant, made before any call: a static of the function
-/// would bring a guard, and with it an atomic operation, into every such read.
-inline const std::wstring emptyText;
-
-/// The cell type of a table, and what a checked read outside it yields.
-template <class Table>
-struct CellOf;
-
-template <>
-struct CellOf<matrix>
-{
-    using Value = double;
-    using Read = double;
-    static double outside() { return outOfRangeValue; }
-};
-
-template <>
-struct CellOf<matrixInt>
-{
-    using Value = int;
-    using Read = int;
-    static int outside() { return -1; }
-};
-
-template <>
-struct CellOf<Smatrix>
-{
-    using Value = std::wstring;
-    using Read = const std::wstring&;
-    static const std::wstring& outside() { return emptyText; }
-};
-
-namespace detail {
-
-template <class Table>
-typename CellOf<Table>::Read readAt(const Table& table, unsigned k)
-{
-    if (k < table.nElems)
-        return table.X[k];
-    return CellOf<Table>::outside();
-}
-
-template <class Table, class Value>
-void writeAt(Table& table, unsigned k, Value&& value)
-{
-    if (k < table.nElems)
-        table.X[k] = std::forward<Value>(value);
-}
-
-} // namespace detail
 
 // ---- one table, by row and column -----------------------------------------------------------------------------------
 
@@ -122,11 +71,11 @@ public:
 
     explicit TableCells(Table* table) : table_(table) {}
 
-    Read get(int i, int j) const { return detail::readAt(*table_, linearIndex(i, j, table_->nRows)); }
+    Read get(int i, int j) const { return readAt(*table_, linearIndex(i, j, table_->nRows)); }
     template <class V>
     void set(int i, int j, V&& value) const
     {
-        detail::writeAt(*table_, linearIndex(i, j, table_->nRows), std::forward<V>(value));
+        writeAt(*table_, linearIndex(i, j, table_->nRows), std::forward<V>(value));
     }
 
     /// Does every cell of the block at the top left lie in range? Rows may run over into the next column.
@@ -189,11 +138,11 @@ public:
 
     explicit VectorCells(Table* table) : table_(table) {}
 
-    Read get(int i) const { return detail::readAt(*table_, static_cast<unsigned>(i)); }
+    Read get(int i) const { return readAt(*table_, static_cast<unsigned>(i)); }
     template <class V>
     void set(int i, V&& value) const
     {
-        detail::writeAt(*table_, static_cast<unsigned>(i), std::forward<V>(value));
+        writeAt(*table_, static_cast<unsigned>(i), std::forward<V>(value));
     }
 
     bool covers(int n) const { return n < 1 || static_cast<unsigned>(n) <= table_->nElems; }
@@ -251,13 +200,13 @@ public:
 
     Read get(int i, int j) const
     {
-        return j < 0 ? CellOf<Table>::outside() : detail::readAt(*columns_[j], static_cast<unsigned>(i));
+        return j < 0 ? CellOf<Table>::outside() : readAt(*columns_[j], static_cast<unsigned>(i));
     }
     template <class V>
     void set(int i, int j, V&& value) const
     {
         if (j >= 0)
-            detail::writeAt(*columns_[j], static_cast<unsigned>(i), std::forward<V>(value));
+            writeAt(*columns_[j], static_cast<unsigned>(i), std::forward<V>(value));
     }
 
     bool covers(int rows, int cols) const
@@ -322,14 +271,14 @@ public:
     Read get(int i, int j) const
     {
         const int column = i < j ? i : j;
-        return column < 0 ? CellOf<Table>::outside() : detail::readAt(*columns_[column], distance(i, j));
+        return column < 0 ? CellOf<Table>::outside() : readAt(*columns_[column], distance(i, j));
     }
     template <class V>
     void set(int i, int j, V&& value) const
     {
         const int column = i < j ? i : j;
         if (column >= 0)
-            detail::writeAt(*columns_[column], distance(i, j), std::forward<V>(value));
+            writeAt(*columns_[column], distance(i, j), std::forward<V>(value));
     }
 
     bool covers(int rows, int cols) const

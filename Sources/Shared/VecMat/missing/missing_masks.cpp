@@ -1,13 +1,14 @@
 #include "missing_masks.h"
 
 #include "../access/cells.h"
+#include "../base/detail/masks.h"
 
 using vecmat::block;
 using vecmat::booleanOf;
 using vecmat::cells;
 using vecmat::isMissing;
-using vecmat::isMissingOrBelow;
 using vecmat::linear;
+using vecmat::maskOfMissing;
 using vecmat::missingValue;
 using vecmat::onBlocks;
 using vecmat::triangle;
@@ -28,7 +29,7 @@ void flagMissing(Storage storage, int rows, int cols, const short* filter, short
     onBlocks(
         [=](auto x) {
             for (int i = 0; i < rows; ++i)
-                out[i] = booleanOf(isSet(filter[i]) || isMissingOrBelow(x.get(i, cols - 1)));
+                out[i] = maskOfMissing(filter[i], x.get(i, cols - 1));
         },
         block(storage, rows, cols));
 }

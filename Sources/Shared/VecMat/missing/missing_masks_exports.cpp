@@ -1,6 +1,7 @@
 #include "missing_masks.h"
 
 #include "../access/cells.h"
+#include "../base/detail/masks.h"
 #include "../frame/detail/handles.h"
 
 using vecmat::booleanOf;
@@ -8,7 +9,7 @@ using vecmat::cells;
 using vecmat::columns;
 using vecmat::copied;
 using vecmat::isMissing;
-using vecmat::isMissingOrBelow;
+using vecmat::maskOfMissing;
 using vecmat::viewed;
 
 namespace {
@@ -61,7 +62,7 @@ void VB_M_AllMissingRowsStr(wchar_t** x, int nRows, int nCols, short* filter, sh
 void VB_V_GetMissingDbl(double* x, int n, short* a, short* out)
 {
     for (int i = 0; i < n; ++i)
-        out[i] = booleanOf(a[i] == -1 || isMissingOrBelow(x[i]));
+        out[i] = maskOfMissing(a[i], x[i]);
 }
 
 void VB_V_GetMissingStr(wchar_t** x, int n, short* a, short* out)

@@ -1,9 +1,9 @@
 #include "ranks.h"
 
+#include "../access/block_copy.h"
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
-#include "../elementary/columns_and_rows.h"
 #include "detail/stable_order.h"
 #include "sort.h"
 
@@ -174,11 +174,10 @@ void M_GetRanksTies(matrix* table, int n, int col, matrix* weights, matrix*& out
 {
     matrix x(n, 1, 0.0);
     matrix ranks(n, 1, 0.0);
-    matrix* column = &x;
     matrix* ranksOfColumn = &ranks;
-    CopyMatrixColToVector(table, n, col, column);
-    V_GetRanksTies(column, n, weights, ranksOfColumn, nTies, tieSizes);
-    CopyMatrixColToMatrixCol(ranksOfColumn, n, 1, out, col, 0);
+    copyCells(window(table, 0, zeroBased(col)), window(&x, 0, 0), n, 1);
+    V_GetRanksTies(&x, n, weights, ranksOfColumn, nTies, tieSizes);
+    copyCells(window(ranksOfColumn, 0, 0), window(out, 0, zeroBased(col)), n, 1);
 }
 
 short V_IsSorted(matrix* x, int n, short strict)

@@ -1,6 +1,9 @@
 // Exclusion masks, as the caller hands them in: one 16-bit entry for each row or cell.
 #pragma once
 
+#include "../missing_value.h"
+#include "numbers.h"
+
 namespace vecmat {
 
 /// Reads an exclusion mask: 0 keeps, any other value drops (not only the -1 of a Boolean). Without an array everything
@@ -15,5 +18,12 @@ public:
 private:
     const short* entries_;
 };
+
+/// The entry of a row in a mask of missing cells: set where the row is excluded already, by a flag of exactly -1, or
+/// where its cell is missing (order test).
+constexpr short maskOfMissing(short flag, double cell)
+{
+    return booleanOf(flag == -1 || isMissingOrBelow(cell));
+}
 
 } // namespace vecmat

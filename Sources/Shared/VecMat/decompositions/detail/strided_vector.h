@@ -35,11 +35,11 @@ public:
     /// Element 0 stands at the linear position `start`.
     Stretch(matrix* table, unsigned start, int step) : table_(table), start_(start), step_(step) {}
 
-    double get(int k) const { return table_ != nullptr ? detail::readAt(*table_, position(k)) : outOfRangeValue; }
+    double get(int k) const { return table_ != nullptr ? readAt(*table_, position(k)) : outOfRangeValue; }
     void set(int k, double value) const
     {
         if (table_ != nullptr)
-            detail::writeAt(*table_, position(k), value);
+            writeAt(*table_, position(k), value);
     }
 
     bool covers(int count) const

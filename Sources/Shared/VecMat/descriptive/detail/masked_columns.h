@@ -1,8 +1,8 @@
 // Columns that are transformed one by one, each with a mask of its own. Internal to the library.
 #pragma once
 
+#include "../../base/detail/masks.h"
 #include "../../base/detail/numbers.h"
-#include "../../missing/missing_masks.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -21,7 +21,7 @@ void transformMaskedColumns(const double* X, int n, int p, short* a, double* Z, 
     std::vector<double> column(rows);
     for (std::size_t j = 0; j < countOf(p); ++j) {
         std::copy_n(X + rows * j, rows, column.begin());
-        VB_V_GetMissingDbl(column.data(), n, a, mask.data());
+        std::transform(a, a + rows, column.begin(), mask.begin(), maskOfMissing);
         transform(column.data(), mask.data());
         std::copy_n(column.begin(), rows, Z + rows * j);
     }

@@ -1,5 +1,5 @@
 // The variables of a correlation table in the order of a score.
-#include "descriptive/correlation_order.h"
+#include "decompositions/correlation_order.h"
 
 #include "decompositions/eigen.h"
 #include "descriptive/moments.h"

@@ -1,7 +1,7 @@
 #include "correlation_order.h"
 
 #include "../access/cells.h"
-#include "../decompositions/eigen.h" // the eigenvectors stand higher up: the contract calls for them
+#include "../descriptive/moments.h"
 #include "../elementary/extremes.h"
 #include "../elementary/transposition.h"
 #include "../frame/detail/handles.h"
@@ -9,7 +9,7 @@
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 #include "../sorting/sort_apply.h"
-#include "moments.h"
+#include "eigen.h"
 
 #include <memory>
 #include <vector>
