@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Tests of the contracts test: whatever it is there to find, it finds."""
+"""Tests of tools/contracts: whatever its check is there to find, it finds; a tag holds where the rules say."""
 
 import subprocess
 import sys
@@ -7,106 +7,196 @@ import tempfile
 import unittest
 from pathlib import Path
 
-TOOL = Path(__file__).resolve().parents[2] / "tools/lib/contracts.py"
+TOOLS = Path(__file__).resolve().parents[2] / "tools/lib"
+sys.path.insert(0, str(TOOLS))
+
+import contracts
+import doxygen_filter
+from header_comments import TagError
 
 HEADER = """\
-// Sums. A missing cell is left out.
+// Sums. A sum runs in order.
+//
+// @missing left out (equality)
+// @weights used as given
+// @empty 0.0
 #pragma once
 
 extern "C" {
 
-/// Sum of the cells; 0.0
-/// for none.
+/// Sum of the cells,
+/// one by one.
 VECMAT_API double V_Sum(double* x, int n);
-VECMAT_API double VB_V_Sum(double* x, int n);
+
+/// Sum over some cells.
+/// @mask a nonzero entry excludes
+///     its row
+VECMAT_API double V_SumMask(double* x, int n, short* mask);
 
 // ---- with weights -----
 
 /// Weighted sum.
 VECMAT_API double V_SumW(double* x, int n, double* w);
+/// @missing an ordinary number
+VECMAT_API double V_SumW2(double* x, int n, double* w);
+
+// ---- flat forms -----
+// @empty -1.0
+
+VECMAT_API double VB_V_SumDbl(double* x, int n);
+VECMAT_API double VB_V_SumW2(double* x, int n, double* w);
+/// @missing ends the sum
+VECMAT_API double VB_V_SumMask(double* x, int n, short* mask);
+VECMAT_API int VB_Version(int n);
 
 } // extern "C"
 
+// ---- extremes -----
+
+/// The largest.
+/// @empty the lowest
 VECMAT_API double V_Max(double* x);
-VECMAT_API double V_Max(int* x);
+/// @weak no test
+VECMAT_API int V_Max(int* x);
 """
 
-COLUMNS = "unit\tfunctions\tmissing\tmask\tweights\tdivisor\tempty\tfingerprint\n"
-ROWS = ("missing/sums\tV_Sum VB_V_Sum\tleft out\t-\t-\t-\t0.0\t-\n"
-        "missing/sums\tV_SumW\tleft out\t-\tused\t-\t0.0\t-\n"
-        "missing/sums\tV_Max(double*)\twins\t-\t-\t-\t0.0\t-\n"
-        "missing/sums\tV_Max(int*)\tnever\t-\t-\t-\t0\t-\n")
 
 
-class Contracts(unittest.TestCase):
+class Rules(unittest.TestCase):
+    def setUp(self):
+        self.found = {contract.declaration.signature(): contract
+                      for contract in contracts.read_unit(HEADER, "missing/sums")}
+
+    def tags(self, signature):
+        return self.found[signature].tags
+
+    def test_tags_of_the_file_hold_where_none_is_nearer(self):
+        self.assertEqual(self.tags("V_Sum(double*, int)"), {"missing": "left out (equality)", "empty": "0.0"})
+
+    def test_weights_of_the_file_hold_for_functions_with_weights(self):
+        self.assertEqual(self.tags("V_SumW(double*, int, double*)")["weights"], "used as given")
+        self.assertNotIn("weights", self.tags("V_Sum(double*, int)"))
+
+    def test_a_text_goes_on_in_lines_set_in(self):
+        self.assertEqual(self.tags("V_SumMask(double*, int, short*)")["mask"], "a nonzero entry excludes its row")
+
+    def test_a_comment_of_tags_alone_leaves_the_prose(self):
+        contract = self.found["V_SumW2(double*, int, double*)"]
+        self.assertEqual(contract.tags["missing"], "an ordinary number")
+        self.assertEqual(contract.description(), (" Weighted sum.",))
+
+    def test_a_flat_form_takes_the_tags_of_its_function(self):
+        self.assertEqual(self.found["VB_V_SumDbl(double*, int)"].flat_form_of, "V_Sum")
+        self.assertEqual(self.tags("VB_V_SumDbl(double*, int)"), self.tags("V_Sum(double*, int)"))
+        self.assertEqual(self.tags("VB_V_SumW2(double*, int, double*)")["missing"], "an ordinary number")
+
+    def test_a_flat_form_may_have_tags_of_its_own(self):
+        self.assertEqual(self.tags("VB_V_SumMask(double*, int, short*)"),
+                         {"missing": "ends the sum", "mask": "a nonzero entry excludes its row", "empty": "0.0"})
+
+    def test_the_section_is_nearer_than_the_file(self):
+        self.assertEqual(self.tags("VB_Version(int)")["empty"], "-1.0")
+
+    def test_a_function_is_nearer_than_its_section(self):
+        self.assertEqual(self.tags("V_Max(double*)")["empty"], "the lowest")
+
+    def test_a_tag_can_be_taken_back(self):
+        text = HEADER.replace("/// @empty the lowest", "/// @empty -")
+        self.assertNotIn("empty", contracts.read_unit(text, "missing/sums")[-1].tags)
+
+    def test_tags_that_cannot_be_read(self):
+        for old, new, message in (("// @empty 0.0", "// @emtpy 0.0", "no tag @emtpy"),
+                                  ("// @empty 0.0", "// @empty 0.0\n// @empty 1.0", "@empty twice"),
+                                  ("// @empty 0.0", "// @empty", "without a text"),
+                                  ("///     its row", "/// its row", "prose behind a tag")):
+            with self.assertRaisesRegex(TagError, message):
+                contracts.read_unit(HEADER.replace(old, new, 1), "missing/sums")
+
+    def test_reference_has_the_tags_of_each_function(self):
+        text = doxygen_filter.documented(HEADER, "sums.h")
+        ahead = text[:text.index(" VB_V_SumDbl(")].split("///\n/// The flat form of")[-1].splitlines()
+        self.assertIn("/// @par Missing cells", ahead)
+        self.assertIn("/// left out (equality)", ahead)
+
+
+class Check(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.root = Path(folder.name)
         self.header = self.root / "Sources/Shared/VecMat/missing/sums.h"
-        self.table = self.root / "Docs/contracts/missing.tsv"
-        for path, text in ((self.header, HEADER), (self.table, COLUMNS + ROWS)):
-            path.parent.mkdir(parents=True)
-            path.write_text(text, encoding="utf-8")
-        self.assertEqual(self.run_tool("--accept", "missing/sums"), "")
+        self.page = self.root / "Docs/contracts/missing.md"
+        self.header.parent.mkdir(parents=True)
+        self.header.write_text(HEADER, encoding="utf-8")
+        self.assertEqual(self.run_tool(), "")
 
-    def run_tool(self, *options):
-        return subprocess.run([sys.executable, "-B", TOOL, "--root", self.root, *options], check=False,
-                              capture_output=True, text=True).stdout
+    def run_tool(self, *options, status=0):
+        run = subprocess.run([sys.executable, "-B", TOOLS / "contracts.py", "--root", self.root, *options], check=False,
+                             capture_output=True, text=True)
+        self.assertEqual(run.returncode, status, run.stdout + run.stderr)
+        return run.stdout
 
-    def expect(self, message, path, old, new, count=1):
-        """After the change the check finds just the one thing (beside a page that is out of date)."""
-        text = path.read_text(encoding="utf-8")
-        self.assertIn(old, text)
-        path.write_text(text.replace(old, new, 1), encoding="utf-8")
-        found = [line for line in self.run_tool("--check").splitlines() if "missing.md" not in line]
-        self.assertTrue(any(message in line for line in found), found)
-        self.assertEqual(len(found), count, found)
+    def expect(self, old, new, *messages):
+        """After a change of the header the check finds just these things (beside a page that is out of date)."""
+        self.assertIn(old, HEADER)
+        self.header.write_text(HEADER.replace(old, new, 1), encoding="utf-8")
+        found = [line for line in self.run_tool("--check", status=1).splitlines() if "missing.md" not in line]
+        self.assertEqual(len(found), len(messages), found)
+        for line, message in zip(found, messages):
+            self.assertIn(message, line)
 
-    def test_nothing_is_wrong_where_all_is_read(self):
+    def test_nothing_is_wrong_where_all_is_there(self):
         self.assertEqual(self.run_tool("--check"), "")
 
-    def test_page_has_what_the_table_has(self):
-        page = self.table.with_suffix(".md")
-        self.assertIn("| `V_SumW` | left out |  | used |  | 0.0 |", page.read_text(encoding="utf-8"))
-        page.write_text(page.read_text(encoding="utf-8").replace("used", "unused"), encoding="utf-8")
-        self.assertIn("missing.md is not what", self.run_tool("--check"))
+    def test_functions_of_one_contract_share_a_row(self):
+        rows = self.page.read_text(encoding="utf-8").splitlines()
+        self.assertIn("| `V_Sum`, `VB_V_SumDbl` | left out (equality) |  |  |  | 0.0 |", rows)
+        self.assertIn("| `V_Max` | left out (equality) |  |  |  | the lowest |", rows)
+        self.assertIn("- Known weakness (`V_Max(int*)`): no test", rows)
 
-    def test_changed_comment_of_a_function(self):
-        self.expect("of V_Sum has changed", self.header, "for none", "for one")
+    def test_changed_tag_makes_the_page_stale(self):
+        self.header.write_text(HEADER.replace("@missing ends", "@missing stops"), encoding="utf-8")
+        self.assertIn("missing.md is not what", self.run_tool("--check", status=1))
 
-    def test_changed_comment_of_a_section(self):
-        self.expect("of V_SumW has changed", self.header, "---- with weights", "---- with other weights", 3)
+    def test_edited_page(self):
+        self.page.write_text(self.page.read_text(encoding="utf-8").replace("used as", "unused as"), encoding="utf-8")
+        self.assertIn("missing.md is not what", self.run_tool("--check", status=1))
 
-    def test_changed_comment_of_the_header(self):
-        self.expect("of V_SumW has changed", self.header, "is left out", "wins", 4)
+    def test_missing_page(self):
+        self.page.unlink()
+        self.assertIn("missing.md is not what", self.run_tool("--check", status=1))
 
-    def test_changed_declaration(self):
-        self.expect("of V_Sum has changed", self.header, "V_Sum(double* x, int n)", "V_Sum(double* x, int m)")
+    def test_no_word_on_missing_cells(self):  # which an array of ints has not
+        self.expect("// @missing left out (equality)\n", "", "V_Sum(double*, int) has no @missing",
+                    "V_SumMask(double*, int, short*) has no @missing", "V_SumW(double*, int, double*) has no @missing",
+                    "VB_V_SumDbl(double*, int) has no @missing", "V_Max(double*) has no @missing")
 
-    def test_layout_of_a_comment_is_no_matter(self):
-        text = self.header.read_text(encoding="utf-8")
-        text = text.replace("cells; 0.0\n/// for none.", "cells; 0.0 for\n/// none.").replace("weights -----", "weights ---")
-        self.header.write_text(text, encoding="utf-8")
-        self.assertEqual(self.run_tool("--check"), "")
+    def test_no_word_on_empty_input(self):
+        self.expect("/// @empty the lowest", "/// @empty -", "V_Max(double*) has no @empty",
+                    "V_Max(int*) has no @empty")
 
-    def test_new_function(self):
-        self.expect("V_New(int) of missing/sums.h stands in no row", self.header, "V_Max(int* x);",
-                    "V_Max(int* x);\nVECMAT_API double V_New(int n);")
+    def test_no_word_on_a_mask(self):
+        self.expect("/// @mask a nonzero entry excludes\n///     its row\n", "",
+                    "V_SumMask(double*, int, short*) has no @mask",
+                    "VB_V_SumMask(double*, int, short*) has no @mask")
 
-    def test_function_in_two_rows(self):
-        self.expect("stands in line 4, too", self.table, "V_Max(int*)", "V_Max", 2)
+    def test_no_word_on_weights(self):
+        self.expect("// @weights used as given\n", "", "V_SumW(double*, int, double*) has no @weights",
+                    "V_SumW2(double*, int, double*) has no @weights", "VB_V_SumW2(double*, int, double*) has no @weights")
 
-    def test_function_that_is_gone(self):
-        self.expect("V_Gone is not declared", self.table, "V_Sum VB_V_Sum", "V_Sum VB_V_Sum V_Gone")
+    def test_no_word_on_a_divisor(self):
+        self.expect("V_Sum(double* x, int n)", "V_Sum(double* x, int n, short sample)",
+                    "V_Sum(double*, int, short) has no @divisor")
 
-    def test_untold_argument(self):
-        self.expect("nothing is told of 'w' of V_SumW", self.table, "\tused\t", "\t-\t")
+    def test_a_flat_form_with_an_argument_of_its_own(self):
+        self.expect("VB_Version(int n)", "VB_Version(int n, short* filter)", "VB_Version(int, short*) has no @mask")
 
-    def test_empty_cell(self):
-        self.table.write_text(self.table.read_text(encoding="utf-8").replace("\twins\t", "\t\t"), encoding="utf-8")
-        self.assertNotEqual(subprocess.run([sys.executable, "-B", TOOL, "--root", self.root, "--check"], check=False,
-                                           capture_output=True).returncode, 0)
+    def test_tag_that_holds_for_nothing(self):
+        self.expect("// @weights used as given\n", "// @weights used as given\n// @mask excludes\n",
+                    "sums.h:5: the tag holds for no function")
+
+    def test_tag_that_cannot_be_read(self):
+        self.expect("// @empty 0.0", "// @emtpy 0.0", "sums.h: line 5: there is no tag @emtpy")
 
 
 if __name__ == "__main__":

@@ -1,32 +1,32 @@
 #!/usr/bin/env python3
-"""contracts.py [--check | --show UNIT... | --accept UNIT...]: the pages that tell how each function treats what it gets.
+"""contracts.py [--check | --show UNIT...]: the pages that show how each function treats its input.
 
-Docs/contracts/<family>.tsv has a row for each group of exported functions with one contract: how they treat a missing
-cell, a mask, a weight, a divisor, an empty input. Its last column is a fingerprint of the declarations and header
-comments from which the row was read. From these tables the pages <family>.md are written.
+The contracts are in the comments of the public headers: prose, and tagged lines for how a function treats a missing cell,
+a mask, a weight, a divisor, an empty input (see header_comments.py). From them the pages Docs/contracts/<family>.md are
+written, in which functions of one contract share a row.
 
     (no option)   writes the pages
-    --check       writes nothing; exit status 1 if a function stands in no row or in two, if a comment or declaration has
-                  changed since its row was read, or if a page is not what would be written
-    --show        prints the rows of units with the comments that hold for them, to be read again
-    --accept      renews the fingerprints of units, whose rows have been read again
+    --check       writes nothing; exit status 1 if a function lacks a tag that its parameters ask for, if a tag holds for
+                  no function, or if a page is not what would be written
+    --show        prints what holds for each function of the units
+
+Other tools call contracts().
 """
 
 import argparse
-import hashlib
 import re
 import sys
 from dataclasses import dataclass
 from pathlib import Path
 
-from declarations import read_header
-from header_comments import comments_by_line
+from declarations import HeaderError, read_header
+from header_comments import NONE, TITLES, TagError, comments_by_line, read_block
 
 ROOT = Path(__file__).resolve().parents[2]
+HEADERS = "Sources/Shared/VecMat"
+PRIVATE = {"access", "kernels", "detail"}
 
-COLUMNS = ["unit", "functions", "missing", "mask", "weights", "divisor", "empty", "fingerprint"]
-HEADINGS = ["Functions", "Missing cell", "Mask", "Weights", "Divisor", "Empty input"]
-NOTHING = "-"
+COLUMNS = {"missing": "Missing cell", "mask": "Mask", "weights": "Weights", "divisor": "Divisor", "empty": "Empty input"}
 FAMILIES = {
     "tables": "Tables and the frame of a call",
     "elementary": "Elementary operations on vectors and tables",
@@ -38,29 +38,29 @@ FAMILIES = {
     "decompositions": "Decompositions",
     "fitting": "Model fitting",
 }
-# Parameters of these names have a column to be told about in.
-TOLD = {"mask": {"mask", "filter", "constraints"}, "weights": {"w", "weights"},
-        "divisor": {"sample", "freqWeights", "sampleVariance", "countDivisor"}}
+# A function with a parameter of such a name needs the tag.
+ASKED_BY_NAME = {"mask": {"mask", "filter", "constraints"}, "weights": {"w", "weights"},
+                 "divisor": {"sample", "freqWeights", "sampleVariance", "countDivisor"}}
+# A tag of a file or section holds only for functions with such a parameter; in a `///` comment it holds for all.
+NEEDS_PARAMETER = ("mask", "weights")
+# Arrays and tables whose cells can be missing, and all of them.
+CELLS = re.compile(r"\b(matrix|Smatrix|SAFEARRAY)\b|\bdouble\b.*[*&]|\bwchar_t\*\*")
+ARRAY = re.compile(r"\b(matrix|matrixInt|Smatrix|SAFEARRAY)\b|\b(double|int|short|bool)\*|\bwchar_t\*\*")
 
 
 @dataclass(frozen=True)
 class Contract:
-    declaration: object
-    comments: tuple  # as one line each: the header's own, those of the section, that of the function
+    unit: str            # `descriptive/means`
+    declaration: object  # see declarations.py
+    tags: dict           # text by name of tag, in the order of TITLES
+    prose: object        # the Comments that hold for the declaration; see header_comments.py
+    flat_form_of: str    # the name of the function whose flat form this is; empty for others
+    lines: frozenset     # of the header, where its tags are
 
-    def text(self):
-        d = self.declaration
-        signature = ", ".join(f"{kind} {name}" for kind, name in zip(d.types, d.names))
-        return "\n".join((*self.comments, f"{d.linkage} {d.returns} {d.name}({signature})"))
-
-
-@dataclass
-class Row:
-    unit: str
-    functions: list
-    cells: list  # missing, mask, weights, divisor, empty
-    fingerprint: str
-    line: int
+    def description(self):
+        """The lines of prose nearest to the function: its own, else those of its section, else of the file."""
+        blocks = self.prose.nearest_first()
+        return next((block.prose for block in blocks if block.prose), ())
 
 
 def family_of(unit):
@@ -68,126 +68,170 @@ def family_of(unit):
     return folder if folder in FAMILIES else "tables"
 
 
-def read_contracts(folder):
-    """The contracts of all exported functions, by unit and signature."""
-    contracts = {}
-    for path in sorted(Path(folder).rglob("*.h")):
-        text = path.read_text(encoding="utf-8")
-        unit = path.relative_to(folder).with_suffix("").as_posix()
-        held = comments_by_line(text)
-        for declaration in read_header(text, unit + ".h"):
-            contracts.setdefault(unit, {})[declaration.signature()] = Contract(
-                declaration, held[declaration.line - 1].texts())
+def base_of(name, names):
+    """The function of which a name is the flat form, or nothing where that can't be told."""
+    base = re.sub(r"^(VB|Cpp)_", "", name)
+    if base == name:
+        return ""
+    without_type = re.sub(r"(Dbl|Lng|Str|Bool)(?=(\d|SPV\w*)?$)", "", base)
+    return next((other for other in (base, without_type) if other in names), "")
+
+
+def asks_for(tag, declaration):
+    """Whether a declaration must tell of a tag."""
+    member = "::" in declaration.name
+    if tag == "missing":
+        return member or any(CELLS.search(kind) for kind in declaration.types)
+    if tag == "empty":
+        return member or any(ARRAY.search(kind) for kind in declaration.types)
+    return bool(ASKED_BY_NAME.get(tag, set()) & set(declaration.names))
+
+
+def _own(declaration, comments, tag, levels):
+    """The tag in the nearest of some levels of comments that has it."""
+    for block in levels:
+        if tag in block.tags and (block is comments.function or tag not in NEEDS_PARAMETER
+                                  or asks_for(tag, declaration)):
+            return block.tags[tag]
+    return None
+
+
+def read_unit(text, unit):
+    """The contracts of the functions that the text of a header exports.
+
+    A flat form takes the tags of its function, but for those in the `///` comment ahead of it.
+    """
+    held = comments_by_line(text)
+    declarations = read_header(text, unit + ".h")
+    names = {declaration.name for declaration in declarations}
+    found = {}
+
+    def tags_of(declaration):
+        comments = held[declaration.line - 1]
+        return {tag: _own(declaration, comments, tag, comments.nearest_first()) for tag in TITLES}
+
+    by_name = {}
+    for declaration in declarations:
+        by_name.setdefault(declaration.name, []).append(tags_of(declaration))
+    contracts = []
+    for declaration in declarations:
+        comments, base = held[declaration.line - 1], base_of(declaration.name, names)
+        found = tags_of(declaration)
+        if base:
+            for tag in TITLES:
+                texts = {overload[tag] and overload[tag].text for overload in by_name[base]}
+                if tag not in comments.function.tags and len(texts) == 1:
+                    found[tag] = by_name[base][0][tag]
+        kept = {tag: value for tag, value in found.items() if value}
+        contracts.append(Contract(unit, declaration, {tag: value.text for tag, value in kept.items()
+                                                      if value.text != NONE},
+                                  comments, base, frozenset(value.line for value in kept.values())))
     return contracts
 
 
-def read_table(text):
-    lines = text.rstrip("\n").split("\n")
-    if lines[0].split("\t") != COLUMNS:
-        raise ValueError(f"the columns are not {', '.join(COLUMNS)}")
-    rows = []
-    for number, line in enumerate(lines[1:], start=2):
-        cells = line.split("\t")
-        if len(cells) != len(COLUMNS) or not all(cells[:-1]):
-            raise ValueError(f"line {number} is not a row with all its cells")
-        # a signature has blanks of its own, behind commas
-        rows.append(Row(cells[0], re.findall(r"[^\s(]+(?:\([^)]*\))?", cells[1]), cells[2:-1], cells[-1], number))
-    return rows
+def public_headers(root=ROOT):
+    folder = Path(root) / HEADERS
+    return [path for path in sorted(folder.rglob("*.h")) if not PRIVATE & set(path.relative_to(folder).parts)]
 
 
-def write_table(rows):
-    lines = ["\t".join(COLUMNS)]
-    lines += ["\t".join([row.unit, " ".join(row.functions), *row.cells, row.fingerprint]) for row in rows]
-    return "\n".join(lines) + "\n"
+def contracts(root=ROOT):
+    """The contract of each exported function, unit by unit, in the order of the headers."""
+    return [contract for _, found in _units(root) for contract in found]
 
 
-def functions_of(row, unit_contracts):
-    """The contracts that a row names: a name stands for all its overloads in the unit."""
-    return [contract for name in row.functions for signature, contract in unit_contracts.items()
-            if name in (signature, contract.declaration.name)]
+def _units(root):
+    folder = Path(root) / HEADERS
+    for path in public_headers(root):
+        unit = path.relative_to(folder).with_suffix("").as_posix()
+        text = path.read_text(encoding="utf-8")
+        try:
+            yield text, read_unit(text, unit)
+        except (TagError, HeaderError) as error:
+            raise TagError(f"{unit}.h: {error}") from error
 
 
-def fingerprint(contracts):
-    text = "\n\n".join(sorted(contract.text() for contract in contracts))
-    return hashlib.sha256(text.encode()).hexdigest()[:10]
+def unused_tags(text, unit_contracts):
+    """The lines of a header with a tag that holds for no function."""
+    used = frozenset().union(*(contract.lines for contract in unit_contracts))
+    lines = [re.sub(r"^ *//+", "", line) if line.strip().startswith("//") else "" for line in text.split("\n")]
+    return [number for number, line in enumerate(lines)
+            if any(tag.line not in used for tag in read_block([line], number).tags.values())]
 
 
-def check_rows(family, rows, contracts):
-    wrong, told = [], {}
-    for row in rows:
-        where = f"{family}.tsv:{row.line}: "
-        unit_contracts = contracts.get(row.unit, {})
-        known = {name for signature, contract in unit_contracts.items()
-                 for name in (signature, contract.declaration.name)}
-        wrong += [where + f"{name} is not declared in {row.unit}.h" for name in row.functions if name not in known]
-        found = functions_of(row, unit_contracts)
+def check(root):
+    """What is wrong in the headers."""
+    wrong = []
+    for text, found in _units(root):
         for contract in found:
-            key = (row.unit, contract.declaration.signature())
-            if key in told:
-                wrong.append(where + f"{key[1]} stands in line {told[key]}, too")
-            told[key] = row.line
-        if found and fingerprint(found) != row.fingerprint:
-            wrong.append(where + f"what {row.unit}.h says of {row.functions[0]} has changed since this row was read")
-        cells = dict(zip(COLUMNS[2:-1], row.cells))
-        for column, names in TOLD.items():
-            has = sorted({name for contract in found for name in contract.declaration.names} & names)
-            if has and cells[column] == NOTHING:
-                wrong.append(where + f"nothing is told of '{has[0]}' of {row.functions[0]}")
-    for unit, unit_contracts in contracts.items():
-        if family_of(unit) == family:
-            wrong += [f"{family}.tsv: {signature} of {unit}.h stands in no row" for signature in unit_contracts
-                      if (unit, signature) not in told]
+            where = f"{contract.unit}.h:{contract.declaration.line}: {contract.declaration.signature()}"
+            wrong += [f"{where} has no @{tag}" for tag in COLUMNS
+                      if asks_for(tag, contract.declaration) and tag not in contract.tags]
+        if found:
+            wrong += [f"{found[0].unit}.h:{number + 1}: the tag holds for no function"
+                      for number in unused_tags(text, found)]
     return wrong
 
 
-def page(family, rows):
-    lines = [f"# {FAMILIES[family]}: what the functions do with what they get", "",
-             f"<!-- Written by tools/contracts from {family}.tsv: change that, not this page. -->", "",
-             "How to read the tables is told in [the overview](overview.md). The headers have the contracts in full.", ""]
-    unit = None
-    for row in rows:
-        if row.unit != unit:
-            unit = row.unit
-            lines += ["" if lines[-1] else None, f"## {unit}", "",
-                      f"[`{unit}.h`](../../Sources/Shared/VecMat/{unit}.h)", "",
-                      "| " + " | ".join(HEADINGS) + " |", "|---" * len(HEADINGS) + "|"]
-        names = ", ".join(f"`{name}`" for name in row.functions)
-        lines.append("| " + " | ".join([names, *("" if cell == NOTHING else cell for cell in row.cells)]) + " |")
-    return "\n".join(line for line in lines if line is not None) + "\n"
+def shown_names(group, unit_contracts):
+    """The names of a group; a signature where other overloads of the name are in another group."""
+    inside = [contract.declaration for contract in group]
+    outside = {contract.declaration.name for contract in unit_contracts} \
+        & {contract.declaration.name for contract in unit_contracts if contract.declaration not in inside}
+    return list(dict.fromkeys(d.signature() if d.name in outside else d.name for d in inside))
+
+
+def page(family, units):
+    """The page of a family, from lists of contracts by unit."""
+    lines = [f"# {FAMILIES[family]}: how the functions treat their input", "",
+             "<!-- Written by tools/contracts from the comments of the headers: change those, not this page. -->", "",
+             "[The overview](overview.md) explains the tables. The headers have the contracts in full.", ""]
+    for unit, found in units.items():
+        groups, others = {}, {}
+        for contract in found:
+            groups.setdefault(tuple(contract.tags.get(tag, "") for tag in COLUMNS), []).append(contract)
+            for tag, text in contract.tags.items():
+                if tag not in COLUMNS:
+                    others.setdefault((tag, text), []).append(contract)
+        lines += [f"## {unit}", "", f"[`{unit}.h`](../../{HEADERS}/{unit}.h)", "",
+                  "| " + " | ".join(["Functions", *COLUMNS.values()]) + " |", "|---" * (len(COLUMNS) + 1) + "|"]
+        for cells, group in groups.items():
+            names = ", ".join(f"`{name}`" for name in shown_names(group, found))
+            lines.append("| " + " | ".join([names, *cells]) + " |")
+        lines.append("")
+        for (tag, text), group in others.items():
+            names = "all" if len(group) == len(found) else ", ".join(f"`{n}`" for n in shown_names(group, found))
+            lines.append(f"- {TITLES[tag]} ({names}): {text}")
+        if others:
+            lines.append("")
+    return "\n".join(lines[:-1]) + "\n"
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true")
     parser.add_argument("--show", nargs="+", metavar="UNIT", default=[])
-    parser.add_argument("--accept", nargs="+", metavar="UNIT", default=[])
     parser.add_argument("--root", type=Path, default=ROOT, help=argparse.SUPPRESS)
     arguments = parser.parse_args()
 
-    contracts = read_contracts(arguments.root / "Sources/Shared/VecMat")
-    wrong = [f"there is no unit {unit}" for unit in arguments.show + arguments.accept if unit not in contracts]
-    for family in FAMILIES:
-        table = arguments.root / f"Docs/contracts/{family}.tsv"
-        if not table.exists() and not any(family_of(unit) == family for unit in contracts):
-            continue
-        rows = read_table(table.read_text(encoding="utf-8"))
-        for row in rows:
-            if row.unit in arguments.show:
-                found = functions_of(row, contracts[row.unit])
-                print("\n".join([f"== {row.unit}: {' '.join(row.functions)}"]
-                                + list(dict.fromkeys(text for contract in found for text in contract.comments))
-                                + [f"   {name}: {cell}" for name, cell in zip(COLUMNS[2:], row.cells)]) + "\n")
-            if row.unit in arguments.accept:
-                row.fingerprint = fingerprint(functions_of(row, contracts[row.unit]))
-        written = page(family, rows)
-        page_path = table.with_suffix(".md")
+    try:
+        families, known = {}, set()
+        for contract in contracts(arguments.root):
+            families.setdefault(family_of(contract.unit), {}).setdefault(contract.unit, []).append(contract)
+            known.add(contract.unit)
+            if contract.unit in arguments.show:
+                print("\n".join([contract.declaration.signature(), *(f"    @{t} {v}" for t, v in contract.tags.items())]))
+        wrong = [f"there is no unit {unit}" for unit in arguments.show if unit not in known]
+        wrong += check(arguments.root) if arguments.check else []
+    except TagError as error:
+        families, wrong = {}, [str(error)]
+    for family, units in families.items():
+        path, written = arguments.root / f"Docs/contracts/{family}.md", page(family, units)
         if arguments.check:
-            wrong += check_rows(family, rows, contracts)
-            if not page_path.exists() or page_path.read_text(encoding="utf-8") != written:
+            if not path.exists() or path.read_text(encoding="utf-8") != written:
                 wrong.append(f"{family}.md is not what tools/contracts writes")
         elif not arguments.show:
-            table.write_text(write_table(rows), encoding="utf-8")
-            page_path.write_text(written, encoding="utf-8")
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(written, encoding="utf-8")
     print("\n".join(f"WRONG: {line}" for line in wrong), end="\n" if wrong else "")
     return 1 if wrong else 0
 

@@ -1,18 +1,19 @@
 #!/usr/bin/env python3
 """doxygen_filter.py FILE: prints a header as Doxygen is to read it.
 
-In these headers one comment tells of all the functions that follow it, and a flat form is often told of by the heading of
+In these headers one comment describes all functions that follow it, and a flat form is often described by the heading of
 its section alone. Doxygen takes a comment for the one declaration behind it: so each exported function gets the comment
-that holds for it, and the comment at the top becomes that of the file. Other files are printed as they are.
+and the tags that hold for it, each tag as a paragraph with a title, and the comment at the top becomes that of the file.
+Other files are printed as they are.
 """
 
 import re
 import sys
 from pathlib import Path
 
-from contracts import ROOT
-from declarations import MARK, HeaderError, read_header
-from header_comments import comments_by_line
+from contracts import ROOT, base_of, read_unit
+from declarations import MARK, HeaderError
+from header_comments import TITLES, TagError, comments_by_line, read_block
 
 # What Doxygen would take for a command of its own.
 SPECIAL = re.compile(r"([@\\<>&#])")
@@ -50,45 +51,48 @@ def without_rule(lines):
     return (f" {title[:1].upper()}{title[1:]}.", *([""] if rest else []), *rest)
 
 
-def flat_form_of(name, names):
-    """The function of which a name is the flat form, or None where that can't be told."""
-    base = re.sub(r"^(VB|Cpp)_", "", name)
-    known = [other for other in (base, re.sub(r"(Dbl|Lng|Str|Bool)$", "", base)) if other in names and other != name]
-    return known[0] if known else None
+def as_paragraphs(tags, indent=""):
+    """Tags, texts by name, as paragraphs with their titles."""
+    out = []
+    for name, text in tags.items():
+        out += [f"{indent}///", f"{indent}/// @par {TITLES[name]}", f"{indent}/// {quoted(text)}"]
+    return out
 
 
-def told(name, comments, owner, names):
-    """What is told of a function that has no comment of its own; the comment in force is that of `owner`."""
-    base = flat_form_of(name, names)
+def told(contract, owner, names):
+    """The prose for a function that has no comment of its own; the comment in force is that of `owner`."""
+    comments, base = contract.prose, base_of(contract.declaration.name, names)
     lines = [f" The flat form of `{base}`."] if base else []
-    if comments.function:
-        if owner not in (name, base):
-            lines.append(f" Told along with `{owner}`:")
-        return [*lines, *([""] if lines else []), *comments.function]
-    section = comments.section or without_rule(comments.heading)
-    return [*lines, *([""] if lines and section else []), *section] or [" As told at the top of the file."]
+    if comments.function.prose:
+        if owner not in (contract.declaration.name, base):
+            lines.append(f" Described with `{owner}`:")
+        return [*lines, *([""] if lines else []), *comments.function.prose]
+    section = comments.section.prose or without_rule(comments.heading.prose)
+    return [*lines, *([""] if lines and section else []), *section] or [" See the top of the file."]
 
 
 def documented(text, name):
     """The text of a header with a comment ahead of each exported function."""
-    held = comments_by_line(text)
+    header = comments_by_line(text)[-1].header
     lines = text.split("\n")
-    declarations = {declaration.line - 1: declaration.name for declaration in read_header(text, name)}
-    names = set(declarations.values())
-    out = ["/// @file"] + as_comment(held[-1].header)
+    contracts = {contract.declaration.line - 1: contract for contract in read_unit(text, name.removesuffix(".h"))}
+    names = {contract.declaration.name for contract in contracts.values()}
+    out = ["/// @file", *as_comment(header.prose),
+           *as_paragraphs({tag: value.text for tag, value in header.tags.items()})]
     block, owner = [], None  # the lines of a `///` comment, and the function behind it
     for number, line in enumerate(lines):
         indent = re.match(r" *", line).group()
         if line.strip().startswith("///"):
             block.append(line.strip()[3:])
             continue
-        if number in declarations:
-            function = declarations[number]
-            if block:
-                owner = function
+        prose, tags = read_block(block).prose, {}
+        if number in contracts:
+            if prose:
+                owner = contracts[number].declaration.name
             else:
-                block = told(function, held[number], owner, names)
-        out += as_comment(block, indent)
+                prose = told(contracts[number], owner, names)
+            tags = contracts[number].tags
+        out += as_comment(prose, indent) + as_paragraphs(tags, indent)
         block = []
         if "///<" in line:
             code, comment = line.split("///<", 1)
@@ -103,7 +107,7 @@ def main():
     if path.suffix == ".h" and path.resolve().is_relative_to(ROOT / "Sources"):
         try:
             text = documented(text, path.name)
-        except HeaderError as error:
+        except (HeaderError, TagError) as error:
             print(f"{path}: {error}", file=sys.stderr)
             return 1
     sys.stdout.write(text.replace(f"{MARK} ", ""))

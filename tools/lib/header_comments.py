@@ -1,60 +1,126 @@
-"""Which comments of a header hold for a declaration in it."""
+"""Which comments of a header, and which tags in them, hold for a declaration in it.
+
+A comment ends in tagged lines, one for each part of the contract:
+
+    /// Sum of the cells.
+    /// @missing left out (equality)
+    /// @empty 0.0; a long text goes on
+    ///     in lines set in like this one
+
+Tags in the comment at the top hold for the file, in a plain comment for its section, in a `///` comment for the functions
+behind it. Of two tags of one name the nearest holds; a tag that is `-` takes an outer one back.
+"""
 
 import re
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 
 MARK = "VECMAT_API"
+TAG = re.compile(r"^ ?@(\w+)(?:\s+(.*))?$")
+# Every tag, with the title that it has in the reference.
+TITLES = {"missing": "Missing cells", "mask": "Mask", "weights": "Weights", "divisor": "Divisor", "empty": "Empty input",
+          "failure": "Failure", "memory": "Memory", "seed": "Random numbers", "source": "Source",
+          "weak": "Known weakness"}
+NONE = "-"
+
+
+class TagError(Exception):
+    pass
+
+
+@dataclass(frozen=True)
+class Tag:
+    text: str
+    line: int  # of the header, from 0: tells apart tags of one text
+
+
+@dataclass(frozen=True)
+class Block:
+    """A comment: the lines of its prose without their slashes, and its tags by name."""
+    prose: tuple = ()
+    tags: dict = field(default_factory=dict)
 
 
 @dataclass(frozen=True)
 class Comments:
-    """Each a tuple of lines without their slashes; empty where there is none."""
-    header: tuple   # ahead of the code
-    of_class: tuple
-    heading: tuple  # the last `// ----`
-    section: tuple  # the last other plain comment since
-    function: tuple  # the last `///` since any of them
+    """The comments that hold for a line, each an empty block where there is none."""
+    header: Block    # ahead of the code
+    of_class: Block
+    heading: Block   # the last `// ----`
+    section: Block   # the last other plain comment since
+    function: Block  # the last `///` since any of them
 
-    def texts(self):
-        """The comments that there are, each as one line of words, however they are laid out."""
-        blocks = (self.header, self.of_class, self.heading, self.section, self.function)
-        texts = (re.sub(r"\s+", " ", " ".join(block)).strip() for block in blocks if block)
-        return tuple(re.sub(r"-{3,}[- ]*", "---- ", text) for text in texts)  # however long the rule of a heading is
+    def nearest_first(self):
+        return self.function, self.section, self.heading, self.of_class, self.header
+
+
+def read_block(lines, first=0):
+    """The block that the lines of a comment make, of which the first is line `first` of its header."""
+    prose, tags, name = [], {}, None
+    for number, line in enumerate(lines, start=first):
+        match = TAG.match(line)
+        where = f"line {number + 1}: "
+        if match:
+            name, text = match.groups()
+            if name not in TITLES:
+                raise TagError(where + f"there is no tag @{name}")
+            if name in tags:
+                raise TagError(where + f"@{name} twice in one comment")
+            if not text:
+                raise TagError(where + f"@{name} without a text")
+            tags[name] = Tag(text.strip(), number)
+        elif name is None:
+            prose.append(line)
+        elif line.startswith("     "):
+            tags[name] = Tag(f"{tags[name].text} {line.strip()}", tags[name].line)
+        elif line.strip():
+            raise TagError(where + "prose behind a tag; a tag goes on in lines set in by four blanks more")
+    while prose and not prose[-1].strip():
+        prose.pop()
+    return Block(tuple(prose), tags)
 
 
 def comments_by_line(text):
     """For each line of a header, the comments that hold for a declaration on it.
 
     A `///` comment holds for all declarations behind it, to the next comment. But in a section that opens with a
-    declaration of no such comment, for which the heading is enough, each holds for the one behind it alone.
+    declaration of no such comment, for which the heading is enough, each holds for the one behind it alone. A `///`
+    comment of tags alone leaves the prose in force and always holds to the next comment.
     """
-    now = {"header": (), "of_class": (), "heading": (), "section": (), "function": ()}
-    in_header, held, block, is_function = True, [], [], False
+    none = Block()
+    now = {"header": none, "of_class": none, "heading": none, "section": none, "function": none}
+    in_header, held, block, start, is_function = True, [], [], 0, False
     opened_bare = was_used = False
 
     def close():
         nonlocal opened_bare, was_used
         if not block:
             return
-        lines = tuple(block)
+        closed = read_block(block, start)
+        is_heading = block[0].lstrip().startswith("----")
         block.clear()
         if in_header:
-            now["header"] += lines
-        elif is_function:
-            now["function"] = lines
+            now["header"] = Block(now["header"].prose + closed.prose, {**now["header"].tags, **closed.tags})
+        elif is_function and not closed.prose:
+            outer = none if opened_bare and was_used and now["function"].prose else now["function"]
+            now["function"] = Block(outer.prose, {**outer.tags, **closed.tags})
             was_used = False
-        elif lines[0].lstrip().startswith("----"):
-            now.update(heading=lines, section=(), function=())
+        elif is_function:
+            now["function"] = closed
+            was_used = False
+        elif is_heading:
+            now.update(heading=closed, section=none, function=none)
             opened_bare = False
         else:
-            now.update(section=lines, function=())
+            now.update(section=closed, function=none)
             opened_bare = False
 
-    for line in text.split("\n"):
+    for number, line in enumerate(text.split("\n")):
         stripped = line.strip()
         if stripped.startswith("//"):
             if block and is_function != stripped.startswith("///"):
                 close()  # a comment of a function and a plain one that touch are two
+            if not block:
+                start = number
             is_function = stripped.startswith("///")
             block.append(stripped.lstrip("/"))
         else:
@@ -62,13 +128,14 @@ def comments_by_line(text):
             if stripped.startswith("#"):
                 in_header = False
             if re.match(r"(class|struct)\b.*[^;]$", line):
-                now.update(of_class=now["function"], function=())
+                now.update(of_class=now["function"], function=none)
             elif line.startswith("};"):
-                now.update(of_class=())
+                now.update(of_class=none)
             if MARK in line:
-                if now["function"] and opened_bare and was_used:
-                    now.update(function=())
-                opened_bare = opened_bare or not now["function"] and bool(now["heading"] or now["section"])
+                if now["function"].prose and opened_bare and was_used:
+                    now.update(function=none)
+                opened_bare = opened_bare or not now["function"].prose and (now["heading"] != none
+                                                                            or now["section"] != none)
                 was_used = True
         held.append(Comments(**now))
     return held

@@ -1,4 +1,7 @@
 // The table of strings: labels and category names.
+//
+// @missing an empty string; so is a null pointer
+// @empty a table without cells
 #pragma once
 
 #include "base/api.h"
@@ -25,6 +28,8 @@ public:
     VECMAT_API Smatrix(int rows, int cols, wchar_t** src, int srcRows, int srcCols);
 
     VECMAT_API Smatrix(Smatrix& src);
+    /// @missing freed with the table
+    /// @empty nothing is special
     VECMAT_API ~Smatrix();
 
     Smatrix& operator=(const Smatrix&) = delete;
@@ -45,12 +50,18 @@ public:
 
     /// Keeps a table of exactly this shape, with its strings as they are. Any other is replaced by an empty one and is
     /// not deleted: unlike in the numeric tables, the caller who built it deletes it.
+    /// @missing the strings of a table of the same shape stay
+    /// @empty a table without cells, unless there is one
     VECMAT_API static void matCheck(Smatrix*& ref, int rows, int cols);
 
     /// Sets the dimensions of `dst`, which must have that many cells already, and assigns every string.
+    /// @missing copied unchanged; as a BSTR it is an empty one
+    /// @empty no cell is copied
     VECMAT_API void copyMatTo(Smatrix* dst);
 
     /// Stores a new BSTR for each cell, in linear order. The caller owns them; what stood in `dst` is not released.
+    /// @missing copied unchanged; as a BSTR it is an empty one
+    /// @empty no cell is copied
     VECMAT_API void copyMatTo(wchar_t** dst);
 
 private:

@@ -1,4 +1,7 @@
 // How many axes of an analysis to keep, and which points are well represented on a pair of them.
+//
+// @missing left out of the sum for the percentages (equality)
+// @empty none kept, none selected
 #pragma once
 
 #include "../base/api.h"
@@ -14,6 +17,7 @@ extern "C" {
 /// missing (equality test), or 0.0 throughout where that sum is 0. `selected` is the least of: `kept`; the first count
 /// whose running percentage reaches `cumPercent`, if that is above 0; `maxCount`, if at least 1; and, if `minValue` is
 /// above 0, the count less one for each kept eigenvalue below `minValue` + 1e-12. Returns 0.
+/// @divisor the sum of the eigenvalues not missing; where it is 0 every percentage is 0.0
 VECMAT_API int FilterEigen(matrix*& eig, int n, short drop, double floor, double cumPercent, int maxCount,
                            double minValue, int& kept, int& selected, matrix*& percent);
 
@@ -23,6 +27,8 @@ VECMAT_API void VB_FilterEigen(double* eig, int n, short drop, double floor, dou
 
 /// For each of `n` rows: flags 1.0 where cell `colA` is above 0 and its sum with cell `colB` (both 1-based) is above
 /// `threshold`, else 0.0. A cell of colA outside the table gives 0.0, one of colB enters as -1.0. No missing test.
+/// @missing an ordinary number
+/// @empty nothing is written
 VECMAT_API void FilterOnSumOfSquares(matrix* m, int n, int colA, int colB, double threshold, double* flags);
 
 /// Flat form over a `rows` by `cols` table; `flags` has `rows` elements.

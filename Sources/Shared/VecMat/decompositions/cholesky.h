@@ -4,6 +4,11 @@
 // The forms differ in the tests of a pivot, on purpose: 1e-12 is the least for a full factor, 0 for one of a retained
 // block. A NaN passes both. All access is checked: outside the table a read gives -1.0, which takes part. No test for
 // the missing value.
+//
+// @missing an ordinary number
+// @mask above 0 drops row and column, exactly 0 keeps
+// @divisor a pivot below 1e-12: -1
+// @empty 0
 #pragma once
 
 #include "../base/api.h"
@@ -15,6 +20,7 @@ extern "C" {
 /// L of order `n` into `l`, which goes through `matCheck` with 0.0. Returns 0, or -1 at the first pivot below 1e-12, in
 /// absolute terms; the columns before it are done, the rest is 0.0. The terms of a cell are taken off from the last
 /// column done back to the first. Scratch: a table of the order and up to 32 columns, for large tables.
+/// @divisor a pivot below 1e-12 in absolute terms: -1
 VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 
 } // extern "C"
@@ -41,6 +47,7 @@ VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrixInt* perm, s
 /// Here a pivot fails only below 0. One of exactly 0 is accepted: it fails as the divisor of the next row, and passes
 /// at the last one. Returns 0, or -1 with `l` untouched. Scratch: three tables of the order of the block and up to
 /// 32 columns.
+/// @divisor a pivot below 0: -1; one of exactly 0 fails as the divisor of the next row
 VECMAT_API int M_CholDecompCleaned(matrix* a, int n, matrix* mask, matrix* l);
 VECMAT_API int M_CholDecompCleaned(matrix* a, int n, matrixInt* mask, matrix* l);
 

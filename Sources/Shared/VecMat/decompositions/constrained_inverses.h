@@ -5,6 +5,11 @@
 // that were removed keep what they held. `out` exists and is not prepared. One kept row has an inverse of its own: the
 // reciprocal of the cell, which counts as 1e-12 where it is exactly 0. The input survives. No test for the missing
 // value.
+//
+// @missing an ordinary number
+// @mask above 0 removes row and column, exactly 0 keeps
+// @divisor a pivot up to 1e-8: 1, and `out` has the g2 inverse; one kept cell of 0 counts as 1e-12
+// @empty nothing kept is a success: 0
 #pragma once
 
 #include "../base/api.h"
@@ -18,11 +23,14 @@ VECMAT_API int cCleanConstraintsAndInvert(int n, matrixInt* constraints, matrix*
 
 /// Inverse of a triangular block by `M_InverseTriang` with a tolerance of 1e-12. Returns 0, or -1 with `out` untouched:
 /// there is no generalised inverse to fall back on.
+/// @divisor a diagonal cell below 1e-12 in absolute terms: -1 with `out` untouched; one kept cell of 0 counts as 1e-12
 VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrix* constraints, matrix* a, short lower, matrix*& out);
 VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrixInt* constraints, matrix* a, short lower, matrix*& out);
 
 /// `M_Determinant` of the block without the logarithm on overflow. With one kept row it is the cell itself, without
 /// logarithms, and `*status` is not written.
+/// @divisor as `M_Determinant`
+/// @empty 1.0
 VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrix* constraints, short* status);
 VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints, short* status);
 
@@ -31,7 +39,9 @@ VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints,
 extern "C" {
 
 VECMAT_API int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out);
+/// @divisor a diagonal cell below 1e-12 in absolute terms: -1 with `out` untouched; one kept cell of 0 counts as 1e-12
 VECMAT_API int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out);
+/// @divisor as `M_Determinant`
 VECMAT_API double VB_M_DeterminantCleaned(double* a, int n, int* constraints, short* status);
 
 } // extern "C"

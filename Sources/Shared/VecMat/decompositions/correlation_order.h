@@ -1,4 +1,8 @@
 // The variables of a correlation table, in the order of a score.
+//
+// @missing left out of the first row for `mode` 1 and 2 (equality); with `mode` 3 any makes every score 0
+// @divisor `mode` 2: W - 1, a NaN where it is 0
+// @empty nothing moves
 #pragma once
 
 #include "../Smatrix.h"

@@ -2,6 +2,10 @@
 //
 // The result table exists and is not prepared. All access is checked: outside a table a read gives -1.0, which takes
 // part, and a write is dropped. Tolerances are 1e-12 in absolute terms. No test for the missing value, and no failure.
+//
+// @missing an ordinary number
+// @divisor a pivot up to 1e-12 gives a row of zeros
+// @empty nothing is written
 #pragma once
 
 #include "../base/api.h"

@@ -1,4 +1,7 @@
 // Eigenvalues and eigenvectors of real symmetric tables, a power iteration, and the 2-norm built on them.
+//
+// @missing any in the square: -1 with nothing touched (equality)
+// @empty 0
 #pragma once
 
 #include "../base/api.h"
@@ -39,13 +42,19 @@ VECMAT_API int VB_M_Eigen(double* a, double* values, double* vectors, int n, sho
 /// norm of a v - (v' a v) v is at most 1e-6 of that of (v' a v) v, or not a number, at most 1000 times. The vector is
 /// not brought to unit length: it is divided by the Rayleigh product. No eigenvalue is given, and the limit is not
 /// reported. Returns 0.
+/// @missing no test is told: an ordinary number
+/// @divisor the Rayleigh product v' a v, untested
 VECMAT_API int M_VonMises(matrix* a, matrix*& v, int n);
 
 /// 2-norm of a table: for one column the root of its sum of squares, otherwise the root of the largest eigenvalue of a
 /// a'. The missing value where the eigenvalues cannot be had.
+/// @missing in a table of several columns the missing value, as its eigenvalues cannot be had
+/// @empty 0.0
 VECMAT_API double getNorm2(matrix* a);
 
 /// 2-norm of a square flat table; 0.0 unless `rows` equals `cols`.
+/// @missing in a table of several columns the missing value, as its eigenvalues cannot be had
+/// @empty 0.0
 VECMAT_API double Cpp_M_Norm2(double* a, int rows, int cols);
 
 } // extern "C"

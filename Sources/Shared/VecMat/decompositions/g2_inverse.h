@@ -5,6 +5,10 @@
 //
 // All access is checked: outside a table a read gives -1.0, which takes part, and a write is dropped. Results are
 // written in place, to tables that exist. No test for the missing value, and no failure.
+//
+// @missing an ordinary number
+// @divisor a pivot below `tol` in absolute terms zeroes its row and column; with `tol` 0 it divides
+// @empty nothing is written
 #pragma once
 
 #include "../base/api.h"
@@ -23,6 +27,7 @@ VECMAT_API void M_InverseG2(matrix* a, int n, double tol, matrix* out);
 
 /// The same on the pivots whose entry of `select` is exactly 1. For the others row and column become 0.0 in their turn
 /// where `zeroOthers` is exactly -1; with any other value they stay, and hold the mixed cells of a partial sweep.
+/// @mask `select`: exactly 1 sweeps; the others become 0.0 with `zeroOthers` exactly -1
 VECMAT_API void M_InverseG2Selective(matrix* a, int n, matrixInt* select, double tol, matrix* out, short zeroOthers);
 
 /// Flat forms: n by n arrays, n entries of `select`, the result in place.

@@ -6,6 +6,10 @@
 // and the others count as 0; `*rank` is the number of those that were not left out. Returns 0, or -1 where the
 // decomposition did not converge: then each value is judged for itself, since they are not sorted, a NaN is kept, and
 // rank and result are written all the same. No test for the missing value. Scratch: four tables of n by n.
+//
+// @missing an ordinary number
+// @divisor a singular value below `tol` in absolute terms counts as 0
+// @empty 0, rank 0
 #pragma once
 
 #include "../base/api.h"

@@ -2,6 +2,10 @@
 //
 // All access is checked: outside a table a read gives -1.0, which takes part, and a write is dropped. No test for the
 // missing value: it is the number that it is.
+//
+// @missing an ordinary number
+// @divisor a pivot up to 1e-8, or 2.220446049250313e-16 for `tol` at or below 0, or a row of zeros: -1, `out` untouched
+// @empty 0
 #pragma once
 
 #include "../base/api.h"
@@ -24,6 +28,7 @@ VECMAT_API int Inverse1SPV(matrix** a, matrix* out, int n, int count, int ignore
 ///
 /// Returns 0, or -1 at the first diagonal cell below `tol` in absolute terms (one equal to `tol` passes); the diagonal
 /// of `out` is done up to there. Scratch: up to 32 columns, for large tables.
+/// @divisor a diagonal cell below `tol` in absolute terms: -1
 VECMAT_API int M_InverseTriang(matrix* a, int n, short lower, matrix*& out, double tol);
 
 // ---- flat forms: n by n arrays -------------------------------------------------------------------------------------

@@ -5,6 +5,9 @@
 // in the BLAS. Reads outside the table give -1.0, writes outside it are dropped; a count below 1 touches nothing. There
 // is no missing test. In the SPV forms `col` selects the table of the array and the walk stays inside it; a column
 // below 1 is outside.
+//
+// @missing an ordinary number
+// @empty nothing is changed
 #pragma once
 
 #include "../base/api.h"
@@ -13,6 +16,7 @@
 extern "C" {
 
 /// Euclidean norm by scale and sum of squares; 0.0 for a count or an increment below 1.
+/// @empty 0.0, also for an increment below 1
 VECMAT_API double DNRM2(int count, matrix* x, int inc, int row, int col);
 VECMAT_API double DNRM2SPV(int count, matrix** x, int inc, int row, int col);
 
@@ -22,9 +26,12 @@ VECMAT_API void dscalSPV(int count, double a, matrix** x, int inc, int row, int 
 
 /// Builds the rotation that brings (a, b) to (r, 0): stores r in `*a`, the reconstruction number z in `*b`, the cosine
 /// and sine. For a and b both 0 the rotation is the identity and r and z are 0.
+/// @divisor a and b both 0: the identity, r and z 0
+/// @empty takes no array
 VECMAT_API void drotg(double* a, double* b, double* c, double* s);
 
 /// Inner product, added in element order.
+/// @empty 0.0
 VECMAT_API double ddot(int count, matrix* x, int incx, matrix* y, int incy, int rowx, int colx, int rowy, int coly);
 VECMAT_API double ddotSPV(int count, matrix** x, int incx, matrix** y, int incy, int rowx, int colx, int rowy,
                           int coly);

@@ -1,4 +1,8 @@
 // Triangular factors of a square table.
+//
+// @missing an ordinary number
+// @divisor a pivot of exactly 0 becomes 1e-20; a row of zeros: status -1
+// @empty status 0, parity 1.0
 #pragma once
 
 #include "../base/api.h"

@@ -1,4 +1,8 @@
 // The correlation matrix nearest to a symmetric table, as pairwise estimation leaves it.
+//
+// @missing any: -1 with the table unchanged (equality)
+// @weights `w` is the metric, a table: none for rows
+// @empty 0
 #pragma once
 
 #include "../base/api.h"
@@ -31,9 +35,13 @@ VECMAT_API int Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n);
 /// sides again. S is what `M_SquareRoot` makes of w: the diagonal roots of its eigenvalues times its eigenvectors
 /// transposed; for the identity the identity. Failures on the way are not looked at: what a failed step left is
 /// computed on with, 0.0 throughout where it left nothing. No missing test but that of the eigenvalues.
+/// @missing no test but that of the eigenvalues; what a failed step left is computed on with
+/// @empty nothing is written
 VECMAT_API void M_SProject(matrix* a, int n, matrix* w, matrix* out);
 
 /// `a` with 1.0 on the diagonal, into the existing `out`: a table, an array of columns, a triangle of columns.
+/// @missing copied unchanged, off the diagonal
+/// @empty nothing is written
 VECMAT_API void M_UProject(matrix* a, int n, matrix* out);
 VECMAT_API void M_UProjectSPV(matrix* a, int n, matrix** out);
 VECMAT_API void M_UProjectSPV_T(matrix* a, int n, matrix** out);
@@ -41,6 +49,8 @@ VECMAT_API void M_UProjectSPV_T(matrix* a, int n, matrix** out);
 /// Infinity norm: the largest row sum of absolute values, without the cells that are not above the missing value (so
 /// without NaN and minus infinity too). A cell outside the table counts as 1.0. 0.0 for `rows` below 1. In the
 /// triangular form a row runs over the whole symmetric row.
+/// @missing a cell not above it is left out (order); so are NaN and minus infinity
+/// @empty 0.0
 VECMAT_API double M_RowSumNorm(matrix* a, int rows, int cols);
 VECMAT_API double M_RowSumNormSPV(matrix** a, int rows, int cols);
 VECMAT_API double M_RowSumNormSPV_T(matrix** a, int rows, int cols);

@@ -1,4 +1,8 @@
 // Singular value decomposition and numerical rank.
+//
+// @missing an ordinary number
+// @divisor a norm up to 1e-31 counts as zero
+// @empty `*info` 0
 #pragma once
 
 #include "../base/api.h"
@@ -37,6 +41,8 @@ VECMAT_API int VB_M_SVDecompSPV(SAFEARRAY** x, int n, int p, double* s, SAFEARRA
 
 /// Number of singular values above 1e-12 in absolute terms, up to the first that is not; -1 where they cannot be had; 0
 /// for `p` below 1. For p above n the last value is out of range of the private s, and reads -1.0.
+/// @divisor a singular value up to 1e-12 ends the count
+/// @empty 0
 VECMAT_API int M_Rank(matrix* a, int n, int p);
 VECMAT_API int VB_M_Rank(double* a, int n, int p);
 

@@ -1,4 +1,8 @@
 // A square root of a symmetric table that is positive semidefinite.
+//
+// @missing the eigenvalues cannot be had: -1, `out` untouched
+// @divisor an eigenvalue between -1e-12 and 0 counts as 0; not above -1e-12: -1
+// @empty 0
 #pragma once
 
 #include "../base/api.h"

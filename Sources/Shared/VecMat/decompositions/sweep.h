@@ -1,4 +1,8 @@
 // The sweep operator on a packed symmetric table.
+//
+// @missing an ordinary number
+// @divisor the pivot, untested: 0 gives infinities
+// @empty 0
 #pragma once
 
 #include "../base/api.h"

@@ -26,6 +26,10 @@ extern "C" {
 
 // ---- centring -------------------------------------------------------------------------------------------------------
 
+/// @missing left out of the mean (equality); then shifted like an ordinary number
+/// @weights W forms: a row of weight 0 does not enter the mean
+/// @divisor the sum of weights (`sample` 0)
+/// @empty a column without rows has a missing mean, which is subtracted like an ordinary number
 VECMAT_API void M_Center(matrix* X, int n, int p, matrix*& Z);
 VECMAT_API void M_CenterW(matrix* X, int n, int p, matrix* w, matrix*& Z);
 VECMAT_API void M_Center2(matrix*& X, int n, int p);
@@ -35,6 +39,11 @@ VECMAT_API void M_CenterW2SPV(matrix** X, int n, int p, matrix* w);
 
 // ---- reduction ------------------------------------------------------------------------------------------------------
 
+/// @missing left out of the statistics (equality); then divided like an ordinary number
+/// @weights W forms: a row of weight 0 does not enter
+/// @divisor as `sample` and `freqWeights` ask; by -1 the corrected one, `freqWeights` -1 where it is no argument; a
+///     column without spread becomes 0.0 throughout
+/// @empty a column without rows has no spread
 VECMAT_API void M_Reduce(matrix* X, int n, int p, matrix*& Z, short sample, short freqWeights);
 VECMAT_API void M_ReduceW(matrix* X, int n, int p, matrix* w, matrix*& Z, short sample, short freqWeights);
 VECMAT_API void M_Reduce2(matrix*& X, int n, int p, short sample);
@@ -42,6 +51,11 @@ VECMAT_API void M_ReduceW2(matrix*& X, int n, int p, matrix* w, short sample, sh
 
 // ---- standardisation ------------------------------------------------------------------------------------------------
 
+/// @missing left out of the statistics (equality) and stays missing
+/// @weights W forms: a row of weight 0 does not enter
+/// @divisor as `sample` and `freqWeights` ask, `freqWeights` -1 where it is no argument; a column without spread
+///     becomes 0.0 throughout, missing cells too
+/// @empty a column without rows has no spread and missing statistics
 VECMAT_API void M_Standardize2(matrix*& X, int n, int p, short sample);
 VECMAT_API void M_Standardize2SPV(matrix** X, int n, int p, short sample);
 VECMAT_API void M_Standardize3(matrix*& X, int n, int p, matrix*& mean, matrix*& stdev, short sample,
@@ -53,11 +67,18 @@ VECMAT_API void M_StandardizeW3SPV(matrix** X, int n, int p, matrix* w, matrix*&
                                    short freqWeights);
 
 /// Applies the means and deviations given, p cells each, in place.
+/// @missing computed like an ordinary number
+/// @divisor the deviation given; where that is not above 0 the column becomes missing throughout
+/// @empty nothing is written
 VECMAT_API void M_StandardizeApply2(matrix* X, int n, int p, matrix* mean, matrix* stdev);
 
 /// Centres (`M_Center2`) or, with `reduce` exactly -1, standardises (`M_Standardize2`) the rows of each group by
 /// themselves, in place. A row belongs to group k, from 1 to `nGroups`, where its cell of `g` equals k exactly; other
 /// rows stay.
+/// @missing left out of the statistics (equality); a missing cell is shifted (centring) or stays missing
+///     (standardising)
+/// @divisor of each group, as `sample` asks, `freqWeights` -1; without spread 0.0 throughout
+/// @empty a group without rows changes nothing; other rows stay
 VECMAT_API void M_StandardizeByGroup(matrix* X, int n, int p, matrix* g, int nGroups, short reduce, short sample);
 
 // ---- flat forms: X and Z have n by p elements, w n, mean and stdev p ------------------------------------------------

@@ -4,6 +4,11 @@
 // 0; on the diagonal, 1.0 where the variance is above 1e-12. Where they are not (a NaN is not) the cell can't be
 // computed and holds the fallback. The thresholds differ: a variance of 1e-13 gives a fallback on the diagonal beside
 // real correlations. Missing covariances are divided like any other number. Everything returns 0.
+//
+// @missing an ordinary number
+// @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
+//     is above 1e-12; elsewhere missing, or 0.0 for `zeroForMissing` exactly -1
+// @empty nothing is written
 #pragma once
 
 #include "../base/api.h"
@@ -17,6 +22,8 @@ extern "C" {
 VECMAT_API int M_CorrMatFromCovMat(matrix* S, int p, matrix* R, short zeroForMissing);
 
 /// In place in a triangle of p columns, column j holding pair (j, k) in cell k - j; the fallback is the missing value.
+/// @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
+///     is above 1e-12; elsewhere missing
 VECMAT_API int M_CorrMatFromCovMatSPV2_T(matrix** C, int p);
 
 /// Flat forms; S and R are p by p and may be the same array, `zeroForMissing` is 0.

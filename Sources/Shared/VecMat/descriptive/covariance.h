@@ -20,6 +20,14 @@
 //
 // While they work, these functions hold a copy of the rows that the mask keeps and a square of p by p; where memory is
 // short they go on without, slower and with the same results.
+//
+// @missing excludes its row of the pair (equality): pairwise, never listwise
+// @mask a nonzero entry excludes the row; may be null
+// @weights required; a row of weight 0 counts in m, else changes nothing
+// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested. Correlations: the root of the
+//     product of the two variances
+// @empty a pair without rows, or without spread where correlations are asked for: missing, or 0.0 for `zeroForMissing`
+//     not 0
 #pragma once
 
 #include "../base/api.h"

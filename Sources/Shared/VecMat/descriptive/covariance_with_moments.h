@@ -19,6 +19,12 @@
 //
 // All results are prepared with `matCheck`: C as each function says, the others p by 1. `stdev` is the root of `var`,
 // a NaN for a negative one. Everything returns 0.
+//
+// @missing excludes its row of the pair (equality); where X is centred or reduced it stays missing, but for a column of
+//     variance 0, which both make 0.0
+// @mask a nonzero entry excludes the row; may be null
+// @weights required; a row of weight 0 counts in m, else changes nothing
+// @empty a column or pair without rows is not tested for: mean 0.0, the quotient 0/0 where that is the divisor
 #pragma once
 
 #include "../base/api.h"
@@ -27,17 +33,23 @@
 extern "C" {
 
 /// C is p by p.
+/// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested. Correlations (`corr` exactly -1):
+///     none where the product of variances is 0 or below: missing, or 0.0 for `zeroForMissing` not 0
 VECMAT_API int M_CovCorrAndMeanStDevVar(matrix*& X, int n, int p, matrix*& C, matrix*& mean, matrix*& stdev,
                                         matrix*& var, short corr, short* mask, matrix* w, short sample,
                                         short freqWeights, short center, short reduce, short zeroForMissing);
 
 /// C is packed, p(p+1)/2 by 1: the lower triangle by rows, pair (j, k) at position `INDEX3(j, k)`.
+/// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested. Correlations (`corr` exactly -1):
+///     none where the product of variances is 0 or below: missing, or 0.0 for `zeroForMissing` not 0
 VECMAT_API int M_CovCorrVAndMeanStDevVar(matrix*& X, int n, int p, matrix*& C, matrix*& mean, matrix*& stdev,
                                          matrix*& var, short corr, short* mask, matrix* w, short sample,
                                          short freqWeights, short center, short reduce, short zeroForMissing);
 
 /// The position, from 1, of element (i, j) in a packed symmetric table, in either order: with a the larger and b the
 /// smaller number, both from 1, (a - 1) a / 2 + b.
+/// @missing no cell is read
+/// @empty no test of the numbers
 VECMAT_API int INDEX3(int i, int j);
 
 /// Flat forms: X n by p, the results as above, `zeroForMissing` 0. X is written only where `center` or `reduce` is -1.

@@ -4,6 +4,13 @@
 // and neither cell is missing, by the equality test. The weights w (n cells) must be given; a row of weight 0 counts
 // among the rows and moves nothing. The variances of a pair come from the very rows of the pair, unlike those of
 // `covariance.h`. Divisors (`sample`, `freqWeights`) are the ones told there.
+//
+// @missing excludes its row of the pair (equality)
+// @mask a nonzero entry excludes the row; may be null
+// @weights required; a row of weight 0 counts and changes nothing
+// @divisor as in `covariance.h`, not tested; correlations: the variances of the last pair of each column; missing, or
+//     0.0 for `zeroForMissing` not 0, where the product is not above 1e-12
+// @empty a pair without rows gives 0/0, or 0/-1 for frequencies
 #pragma once
 
 #include "../base/api.h"
@@ -29,6 +36,10 @@ VECMAT_API int M_CorrMatMatSPV(matrix** X, int n, int p, matrix* Y, int q, matri
 /// Pearson's correlation of two vectors. `sample` and `freqWeights` have no effect: the divisor cancels. Without rows,
 /// 0.0; where neither vector varies, also in a single row or in rows of weight 0 alone, 1.0; where one of them does
 /// not, the missing value, or 0.0 for `zeroForMissing` exactly -1; where the cross products sum to 0, 0.0.
+/// @missing excludes its row (equality)
+/// @divisor cancels: `sample` and `freqWeights` have no effect. Neither varies: 1.0; one does not: missing, or 0.0 for
+///     `zeroForMissing` exactly -1
+/// @empty 0.0
 VECMAT_API double CorrelPearson(matrix* x, matrix* y, int n, short* mask, matrix* w, short sample, short freqWeights,
                                 short zeroForMissing);
 

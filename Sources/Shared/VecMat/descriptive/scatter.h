@@ -1,4 +1,8 @@
 // The weighted scatter of observations about the centres of their groups.
+//
+// @missing an ordinary number
+// @weights multiply each term, untested: zero adds 0.0
+// @empty nothing is added
 #pragma once
 
 #include "../base/api.h"

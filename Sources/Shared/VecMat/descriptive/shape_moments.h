@@ -1,4 +1,11 @@
 // Skewness and kurtosis of a vector.
+//
+// @missing left out (equality)
+// @mask a nonzero entry excludes its row; may be null
+// @weights required; a row of weight 0 counts in m and W and changes nothing
+// @divisor D = W - c for `sample` -1, else W, c being 1 for `freqWeights` -1 and W/m otherwise; where it is 0 five
+//     results are missing; the shapes too where the variance is 0
+// @empty mean 0.0, the others as the divisor has it
 #pragma once
 
 #include "../base/api.h"

@@ -1,4 +1,8 @@
 // The end points of a triangular distribution from its mode and two of its quantiles.
+//
+// @missing an ordinary number
+// @divisor prob1 equal to prob2, or x2 of 0, is outside the contract
+// @empty takes no array
 #pragma once
 
 #include "../base/api.h"

@@ -2,6 +2,9 @@
 //
 // Cells are copied as they are, missing ones too. A count below 1 copies nothing. String forms store a new BSTR in each
 // element of the target.
+//
+// @missing copied unchanged
+// @empty nothing is copied
 #pragma once
 
 #include "../base/api.h"
@@ -20,6 +23,7 @@ VECMAT_API void VB_M_DuplicateLng(int* src, int r, int c, int* dst);
 VECMAT_API void VB_M_DuplicateStr(wchar_t** src, int r, int c, wchar_t** dst);
 
 /// Truncates towards zero; the missing value, like any number outside the range of int, becomes the lowest int.
+/// @missing the lowest int
 VECMAT_API void VB_V_DuplicateDblToLng(double* src, int n, int* dst);
 VECMAT_API void VB_V_DuplicateLngToDbl(int* src, int n, double* dst);
 
@@ -28,6 +32,7 @@ VECMAT_API void VB_V_DuplicateLngToDbl(int* src, int n, double* dst);
 /// Reads `src` as `r` by `c` and writes newR by newC cells: cell (i, j), from 0, is the cell at i + j*r of `src`. So
 /// rows beyond `r` run into the next column, and past the end of `src` -1.0 (an empty string) is stored. A `c` of 0
 /// means one column on both sides, whatever newC is.
+/// @empty `c` of 0 is one column on both sides; a place past the end of the source becomes -1.0, or empty
 VECMAT_API void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC);
 VECMAT_API void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, int newC);
 
@@ -40,6 +45,7 @@ VECMAT_API void VB_V_ReverseDbl(double* x, int n, double* out);
 
 /// out[k] = x[n + 1 - k] for k from 0 to n-1. This is not the reversal of `x` but of its elements 2 to n + 1, from 0:
 /// `x` must have n + 2 elements.
+/// @missing Booleans are never missing
 VECMAT_API void V_ReverseBool(short* x, int n, short* out);
 VECMAT_API void VB_V_ReverseBool(short* x, int n, short* out);
 

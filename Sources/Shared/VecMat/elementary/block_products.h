@@ -4,6 +4,9 @@
 // along the other table, whose row count is its stride. Reads outside a table yield -1.0, writes outside are dropped;
 // results are written in place and cells that are not covered stay. No test for the missing value. With no block
 // nothing happens; with one the product is the plain one of that size, which clears its result first and skips no cell.
+//
+// @missing an ordinary number, unless structure skips it; a missing size is -1
+// @empty without blocks nothing happens
 #pragma once
 
 #include "../base/api.h"
@@ -19,9 +22,11 @@ VECMAT_API void M_BlockProductABck(matrix* a, int rows, matrix** blocks, int nBl
 VECMAT_API void M_BlockProductABck(matrix* a, int rows, matrix** blocks, int nBlocks, matrixInt* sizes, matrix* out);
 
 /// a, of `rows` rows, times the transpose of blockdiag: plain sums.
+/// @missing an ordinary number; a missing size is -1
 VECMAT_API void M_BlockProductATrBck(matrix* a, int rows, matrix** blocks, int nBlocks, matrix* sizes, matrix* out);
 VECMAT_API void M_BlockProductATrBck(matrix* a, int rows, matrix** blocks, int nBlocks, matrixInt* sizes, matrix* out);
 
 /// blockdiag times v: plain sums.
+/// @missing an ordinary number; a missing size is -1
 VECMAT_API void M_BlockProductBckVect(matrix** blocks, int nBlocks, matrix* sizes, matrix* v, matrix* out);
 VECMAT_API void M_BlockProductBckVect(matrix** blocks, int nBlocks, matrixInt* sizes, matrix* v, matrix* out);

@@ -9,6 +9,9 @@
 // Cells are written row by row, from left to right. This shows where two cells of the block fall on one cell of the
 // target: in a triangle, where (R, C) and (C, R) are one cell and the later one, below the diagonal, stays; and where
 // a row runs over.
+//
+// @missing copied unchanged
+// @empty an empty block or range copies nothing
 #pragma once
 
 #include "../Smatrix.h"

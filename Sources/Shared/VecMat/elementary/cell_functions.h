@@ -2,6 +2,10 @@
 //
 // `rows` and `cols` are as passed and drive the loops, by rows; the table's own row count is its stride. A read outside
 // a table yields -1.0; a write outside is dropped. "Missing" is the equality test.
+//
+// @missing stays missing (equality)
+// @mask a row with a nonzero entry stays
+// @empty nothing happens
 #pragma once
 
 #include "../base/api.h"
@@ -15,6 +19,8 @@ VECMAT_API void M_Square(matrix*& a, int rows, int cols);
 /// The square root of each cell, row by row, into out, which must exist, or in place. The first cell that is negative
 /// (the missing value is), a NaN or out of range ends it: -1.0 is returned and the cells from there on are not written.
 /// Else 0.0.
+/// @missing ends the call with -1.0, like any negative cell or NaN; from there on nothing is written
+/// @empty 0.0
 VECMAT_API double M_SquareRootAij(matrix* a, int rows, int cols, matrix* out);
 VECMAT_API double M_SquareRootAij2(matrix* a, int rows, int cols);
 

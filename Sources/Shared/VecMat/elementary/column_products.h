@@ -4,6 +4,10 @@
 // `rows` and the column counts are as passed and drive the loops; each table's own row count is its stride. A read
 // outside a table yields -1.0, which takes part; a write outside is dropped. Results are written in place. New column
 // i*`colsB` + j, from 0, belongs to column i of a and column j of b.
+//
+// @missing an ordinary number
+// @weights add up to P and Q of each column; a zero weight adds nothing
+// @empty nothing is written
 #pragma once
 
 #include "../base/api.h"
@@ -19,6 +23,8 @@ VECMAT_API void M_ProductHorizAB(matrix* a, int rows, int cols, matrix* b, int c
 
 /// The same over a itself, through a temporary, where a missing cell in either factor (equality test) gives a missing
 /// cell. `*cols` becomes `*cols` times `colsB`; a must have room for that many columns.
+/// @missing in either factor makes the cell missing (equality)
+/// @empty no cell is written; `*cols` is multiplied all the same
 VECMAT_API void M_ProductHorizAB2(matrix* a, int rows, int* cols, matrix* b, int colsB);
 
 /// The columns of a design for the interaction of two coded tables, whose cells are near 1, -1 or 0, over a itself.
@@ -29,6 +35,8 @@ VECMAT_API void M_ProductHorizAB2(matrix* a, int rows, int* cols, matrix* b, int
 /// for that many columns. Then, for each new column, P is the sum of the weights w of the rows with 1 and Q of those
 /// with -1, zero weights adding nothing; with `mode` 3, and Q above 2.2e-16, the cells with -1 become -P/Q, which
 /// balances the column. Cell c of out takes the P of column c. No test for the missing value.
+/// @divisor -P/Q, with `mode` 3 only and where Q is above 2.2e-16
+/// @empty no cell of `a` is written, P is 0.0; `*cols` is multiplied all the same
 VECMAT_API void M_ProductDesignAB2(matrix* a, int rows, int* cols, matrix* b, int colsB, int mode, matrix* w,
                                    matrix*& out);
 

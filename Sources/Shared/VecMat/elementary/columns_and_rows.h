@@ -3,6 +3,9 @@
 // Cells are copied as they are, missing ones too. A read outside a table stores -1.0 (an empty string), a write outside
 // is dropped; only the linear index is checked, so that a long column runs into the next one. Numbers count from 1 but
 // in the two functions that say otherwise.
+//
+// @missing copied unchanged
+// @empty nothing is copied; `prepare` still applies
 #pragma once
 
 #include "../Smatrix.h"

@@ -3,6 +3,10 @@
 // Vectors are tables walked in linear order, whatever their shape; `n` cells are visited and one beyond a table reads
 // as -1.0 and takes part as that number. A cell is selected where its key equals `val` exactly; a NaN equals nothing.
 // "Missing" is the equality test; a key of ints is never missing.
+//
+// @missing left out, in the cell or in the key (equality); ints are never missing
+// @weights one that is not above 0, or beyond its table, adds nothing
+// @empty the missing value, also where nothing is selected
 #pragma once
 
 #include "../base/api.h"
@@ -11,6 +15,8 @@
 
 /// Number of cells equal to `val`, 0.0 where there are none. There is no missing test: the missing value can be
 /// counted.
+/// @missing counted like any value
+/// @empty 0
 VECMAT_API double V_NbIf(matrix* x, int n, double val);
 VECMAT_API double V_NbIf(matrixInt* x, int n, double val);
 
@@ -28,10 +34,14 @@ extern "C" {
 
 /// Sum of the weights at the cells equal to `val`, with no missing test on the cells. A weight that is not above 0, or
 /// lies beyond its table, adds nothing; 0.0 where nothing is added.
+/// @missing matched like any value
+/// @empty 0.0
 VECMAT_API double V_NbIfW(matrix* x, int n, matrix* w, double val);
 
 /// Sum of w[i] x[i] over the cells that `V_SumIf` takes and whose weight is above 0 and inside its table; the missing
 /// value where none remains.
+/// @missing left out, in the cell or in the key (equality)
+/// @weights a row whose weight is not above 0, or beyond its table, is left out
 VECMAT_API double V_SumIfW(matrix* x, int n, matrix* key, matrix* w, double val);
 
 // ---- flat forms: arrays have n elements and are never written -------------------------------------------------------

@@ -2,6 +2,9 @@
 // (DiagV). What `matrix_products.h` says of names, dimensions, checked access, order of sums and results holds here
 // too. Factors are multiplied from left to right: a term of `a diag(d) a'` is (a d) a. A missing cell enters a product
 // as the large negative number that it is, except where told.
+//
+// @missing an ordinary number
+// @empty an empty sum is 0.0
 #pragma once
 
 #include "../base/api.h"
@@ -21,15 +24,21 @@ VECMAT_API void M_ProductTrADiag(matrix* a, int rows, int cols, matrix* d, matri
 
 /// diag(v) a in place, v of `rows` cells. Here the missing value counts (equality test): a missing cell of v makes its
 /// whole row missing, a missing cell of a makes its cell missing.
+/// @missing in v makes its row missing, in a its cell (equality)
+/// @empty nothing is written
 VECMAT_API void M_ProductDiagVA(matrix* v, int rows, matrix* a, int cols, matrix* out);
 VECMAT_API void M_ProductDiagVASPV(matrix* v, int rows, matrix** a, int cols, matrix** out);
 
 /// a diag(v) in place, v of `cols` cells. No test for the missing value, unlike the form above.
+/// @missing an ordinary number, unlike in `M_ProductDiagVA`
+/// @empty nothing is written
 VECMAT_API void M_ProductADiagV(matrix* a, int rows, int cols, matrix* v, matrix*& out);
 VECMAT_API void M_ProductADiagVSPV(matrix** a, int rows, int cols, matrix* v, matrix** out);
 
 /// (diag(va) a) diag(vb) in place, through a temporary: the first product by the rule of `M_ProductDiagVA`, the second
 /// by that of `M_ProductADiagV`, so that a cell made missing is then multiplied.
+/// @missing made missing by the first factor (equality), then multiplied by the second like a number
+/// @empty nothing is written
 VECMAT_API void M_ProductDiagV1ADiagV2(matrix* va, int rows, matrix* a, int cols, matrix* vb, matrix*& out);
 VECMAT_API void M_ProductDiagV1ADiagV2SPV(matrix* va, int rows, matrix** a, int cols, matrix* vb, matrix** out);
 
@@ -46,6 +55,7 @@ VECMAT_API void M_ProductADiagVB(matrix* a, int rows, int cols, matrix* v, matri
 
 /// The upper triangle of a' diag(v) in place, v of `rows` cells: row c of out takes a(k, c) v(k) for k from c on. The
 /// cells below the diagonal stay as they are.
+/// @empty nothing is written
 VECMAT_API void M_ProductTrADiagV(matrix* a, int rows, int cols, matrix* v, matrix* out);
 
 // Flat forms: arrays with just the dimensions of their role, results in the caller's array in place; with two

@@ -2,6 +2,10 @@
 //
 // `rows` and `cols` are as passed and drive the loops; each table's own row count is its stride. A read outside a table
 // yields -1.0, which takes part; a write outside is dropped. Results must exist and are written in place.
+//
+// @missing an ordinary number
+// @weights a zero weight takes its coordinate out, unless the difference is infinite or a NaN
+// @empty without coordinates 0.0
 #pragma once
 
 #include "../base/api.h"
@@ -20,6 +24,9 @@ VECMAT_API void M_EuclidDist2(matrix* a, int rows, int cols, matrix* out, matrix
 /// squared differences divided by their count. With `byRow` exactly -1, of each row to v of `cols` cells. A coordinate
 /// counts where both cells are above the missing value (order test), which a NaN is not; where none counts the distance
 /// is the missing value.
+/// @missing a coordinate counts only where both cells are above the missing value (order)
+/// @divisor the count of coordinates that count
+/// @empty without such a coordinate the missing value
 VECMAT_API void M_EuclidDistToVector(matrix* a, int rows, int cols, matrix* v, short byRow, matrix* out);
 
 // Flat forms: views, results in the caller's array, the shapes following the option.

@@ -3,6 +3,8 @@
 // Numbers of rows and columns count from 1, ranges include both ends, and an empty range takes nothing. Cells are
 // copied as they are, missing ones too. A read outside the source stores -1.0 (an empty string); a write outside is
 // dropped.
+//
+// @missing copied unchanged
 #pragma once
 
 #include "../Smatrix.h"
@@ -13,6 +15,7 @@
 extern "C" {
 
 // ---- ranges ---------------------------------------------------------------------------------------------------------
+// @empty an empty range takes nothing
 
 /// Rows `from` to `to` go to the top of `out`, over `cols` columns. `out` is not prepared.
 VECMAT_API void M_ExtractMatToMat(matrix* src, int cols, int from, int to, matrix* out);
@@ -23,6 +26,7 @@ VECMAT_API void M_ExtractMatToMatByColDbl(matrix* src, int rows, int from, int t
 
 /// `out` has to - from + 1 rows (columns in the last form). A `cols` of 0 is taken as 1. `src` is `rows` by `cols`; in
 /// an array of columns, of which there are `cols`, each has at least `to` rows.
+/// @empty an empty range takes nothing; `cols` of 0 is one column in the forms that take it
 VECMAT_API void VB_M_ExtractMatToMatDbl(double* src, int rows, int cols, int from, int to, double* out);
 VECMAT_API void VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to, double* out);
 VECMAT_API void VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, int from, int to, wchar_t** out);
@@ -39,6 +43,7 @@ VECMAT_API void VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, in
 /// that ends on a run with `skip` 0 has one more run, of empty strings, and so has a `start` above `n`. With `keep`
 /// below 1 only cell `n` ends a run. Where the pattern would go on for ever (`skip` below 0, or `keep` below 1 without
 /// a `skip`) it ends with the first run that leads no further than the one before.
+/// @empty a `start` above `n` gives one run, of empty strings
 VECMAT_API void M_ExtractMatNeverySKSPV(Smatrix** src, int n, int cols, int nOut, int keep, int skip, int start,
                                         Smatrix** dst, matrix* positions);
 

@@ -2,6 +2,9 @@
 //
 // A count below 1 fills nothing. The forms that take a `matrix*&` (`matrixInt*&`) prepare it as an n by 1 table: a
 // table that is larger is kept, and the first n cells of its block are filled.
+//
+// @missing overwritten
+// @empty nothing is filled
 #pragma once
 
 #include "../Smatrix.h"

@@ -1,4 +1,8 @@
 // Linear equations by elimination.
+//
+// @missing a large number like any other; a NaN is never found as a pivot
+// @divisor a pivot that is 0.0, or none above 1e-12, ends it with -2
+// @empty 0, nothing changed
 #pragma once
 
 #include "../base/api.h"

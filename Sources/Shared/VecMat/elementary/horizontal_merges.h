@@ -4,6 +4,9 @@
 // the shorter side are 0.0 (0, an empty string); a numeric table that is large enough already is kept with its own
 // stride, and only the head of its block is cleared. Cells are copied as they are, missing ones too. A read outside a
 // table stores -1.0 (-1, an empty string); a vector given as `double*` is read directly.
+//
+// @missing copied unchanged; towards ints it becomes the lowest int
+// @empty an empty side adds no column or leaves 0.0 (0, an empty string) in a new result
 #pragma once
 
 #include "../Smatrix.h"

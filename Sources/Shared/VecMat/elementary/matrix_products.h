@@ -16,6 +16,9 @@
 // Larger products are worked on tile by tile in scratch memory: a stretch of both operands, up to 256 numbers of the
 // inner index, and a copy of the results where there is more than one stretch. Where memory is short, and where a
 // result is an operand, they go without, slower and with the same results.
+//
+// @missing an ordinary number
+// @empty an empty sum is 0.0
 #pragma once
 
 #include "../base/api.h"
@@ -32,6 +35,7 @@ VECMAT_API int M_ProductABSPV2(matrix** a, int rows, int cols, matrix** b, int c
 
 /// a b, where a factor that is the missing value (equality test, in either table) ends the sum and makes the result
 /// missing. Prepared as above, in place in an array of columns. Return 0.
+/// @missing the first one, in either factor, ends the sum and makes it missing (equality)
 VECMAT_API int M_ProductABMissingSPV(matrix** a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABMissingSPV2(matrix* a, int rows, int cols, matrix* b, int colsB, matrix** out);
 VECMAT_API int M_ProductABMissingSPV3(matrix** a, int rows, int cols, matrix* b, int colsB, matrix** out);
@@ -71,12 +75,14 @@ VECMAT_API void M_ProductTrABV(matrix* a, int rows, int cols, matrix* b, int col
 /// in a row of a square left operand that is zero off the diagonal (its column too) the cell is one product, and so it
 /// is in such a column of a square right operand. A cell that this skips does not count, be it infinite or a NaN, and
 /// a product of zeros keeps its sign: so the bits differ from those of two plain products.
+/// @missing an ordinary number, unless structure skips its term
 VECMAT_API void M_ProductABC(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* c, int colsC, matrix* out);
 
 } // extern "C"
 
 /// a' a and a a'. The lower triangle is computed and mirrored. Prepared, `cols` by `cols` and `rows` by `rows`. Sums
 /// are doubles also for ints; a result in ints is truncated, and a sum outside their range becomes the lowest int.
+/// @missing an ordinary number; a sum outside the range of int becomes the lowest int
 VECMAT_API void M_ProductTrAA(matrix* a, int rows, int cols, matrix*& out);
 VECMAT_API void M_ProductTrAA(matrix* a, int rows, int cols, matrixInt*& out);
 VECMAT_API void M_ProductTrAA(matrixInt* a, int rows, int cols, matrixInt*& out);

@@ -2,6 +2,9 @@
 //
 // Numbers count from 1. Cells are copied as they are, missing ones too. A read outside a table yields -1.0 (an empty
 // string) and that is stored; a write outside is dropped. Results are not prepared: they must exist.
+//
+// @missing copied unchanged
+// @empty nothing happens
 #pragma once
 
 #include "../Smatrix.h"
@@ -36,6 +39,8 @@ VECMAT_API void M_RemoveRows2(Smatrix*& a, int rows, int cols, int from, int to)
 /// `flags` is expected to hold 0 and 1: what is removed is as many rows as the flags sum to (missing flags of a
 /// `matrix` left out of the sum, the sum truncated), from the end of the rows sorted by their flags. A flag outside the
 /// table is -1.0. Where everything is to go, `out` stays as it is.
+/// @missing copied unchanged; a missing flag of doubles is left out of the sum of flags
+/// @empty 0 removed; `out` stays
 VECMAT_API int M_RemoveRowsInList(matrix* a, int rows, int cols, matrixInt* flags, matrix* out);
 VECMAT_API int M_RemoveRowsInList(matrix* a, int rows, int cols, matrix* flags, matrix* out);
 VECMAT_API int M_RemoveColsInList(matrix* a, int rows, int cols, matrixInt* flags, matrix* out);

@@ -2,6 +2,9 @@
 // source.
 //
 // Cells are copied as they are, missing ones too; a read outside the source stores -1.0 (-1, an empty string).
+//
+// @missing copied unchanged
+// @empty nothing is copied; a plain target is prepared
 #pragma once
 
 #include "../Smatrix.h"

@@ -1,4 +1,7 @@
 // Counting the true elements of Boolean arrays, and finding an integer.
+//
+// @missing Booleans are never missing; only exactly -1 counts as true
+// @empty 0
 #pragma once
 
 #include "../base/api.h"
@@ -18,6 +21,8 @@ VECMAT_API int VB_V_NbTrueFromTo(short* x, int n, int from, int to);
 
 /// -1 where one of the first `n` cells, in linear order, equals `val`, else 0. A cell beyond the table reads as -1, so
 /// -1 is found there.
+/// @missing ints are never missing
+/// @empty 0 (not found)
 VECMAT_API short V_FindLng(matrixInt* x, int n, int val);
 
 /// The same over an array of n elements.

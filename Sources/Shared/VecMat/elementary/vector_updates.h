@@ -3,6 +3,11 @@
 // A vector is a table walked in linear order from its first cell, whatever its shape; `n` cells are visited. A cell
 // beyond the table reads as -1.0 and a write there is dropped. "Missing" is the equality test. Nothing happens for `n`
 // below 1, and nothing here fails or reports.
+//
+// @missing not in the sum of squares (equality), but scaled like the others
+// @mask a nonzero entry makes its cell missing
+// @weights used as given; the weight of a cell is the one before its place, -1.0 for the first cell
+// @empty nothing happens
 #pragma once
 
 #include "../base/api.h"
@@ -15,20 +20,25 @@ extern "C" {
 /// whose weights stand one place before their cells; missing cells are not in S, but they are scaled like the others
 /// and are no longer missing then. An S of 0 or below is not guarded against: the division and the root give what they
 /// give.
+/// @divisor the sum of squares (its root), not guarded against 0
 VECMAT_API void V_Norm(matrix*& x, int n);
 VECMAT_API void V_NormToVal(matrix*& x, int n, double val);
+/// @divisor the weighted sum of squares (its root), not guarded against 0 or below
 VECMAT_API void V_NormW(matrix*& x, int n, matrix* w);
 VECMAT_API void V_NormToValW(matrix*& x, int n, double val, matrix* w);
 
 /// Adds `val` to each cell that is not missing and whose `mask` entry is 0. A mask entry other than 0 does not protect
 /// its cell: it sets it to the missing value. A missing cell stays missing.
+/// @missing stays missing (equality)
 VECMAT_API void V_PlusVal(matrix* x, int n, double val, short* mask);
 
 /// Adds `val` to each cell that is not missing.
+/// @missing stays missing (equality)
 VECMAT_API void V_PlusVal2(matrix* x, int n, double val);
 
 /// Copies `x` to `out`, which may be `x`, with `to` in place of each cell that equals `from` exactly. No missing test:
 /// the missing value is replaced like any other.
+/// @missing replaced where it equals `from`, like any value
 VECMAT_API void V_ReplaceVal(matrix* x, int n, double from, double to, matrix* out);
 
 // ---- flat forms: arrays have n elements; x is changed, weights and masks are not ------------------------------------
@@ -43,11 +53,13 @@ VECMAT_API void VB_V_PlusVal2(double* x, int n, double val);
 
 /// `V_ReplaceVal` to an array of its own, and over the source.
 VECMAT_API void VB_V_ReplaceVal(double* x, int n, double from, double to, double* out);
+/// @missing replaced where it equals `from`, like any value
 VECMAT_API void VB_V_ReplaceVal2(double* x, int n, double from, double to);
 
 /// Copies the n elements of `x` to `out` without the one at the 1-based `pos`, closing the gap: n - 1 elements are
 /// written, whatever `pos` is. Beyond the end it removes the last element, before the start the first. `out` may be
 /// `x`.
+/// @missing copied unchanged
 VECMAT_API void VB_V_RemoveVal(double* x, int n, int pos, double* out);
 
 } // extern "C"

@@ -3,6 +3,9 @@
 // A result given as a reference is prepared; in a new one the cells beside the narrower table are 0.0. A numeric table
 // that is large enough already is kept with its own stride, and only the head of its block is cleared. Cells are copied
 // as they are, missing ones too. A read outside a table stores -1.0 (an empty string); a write outside is dropped.
+//
+// @missing copied unchanged
+// @empty an empty side adds nothing
 #pragma once
 
 #include "../Smatrix.h"
@@ -21,6 +24,7 @@ VECMAT_API void VMergeVectors2(Smatrix* a, int nA, Smatrix* b, int nB);
 extern "C" {
 
 /// The same for tables that hold Booleans.
+/// @missing Booleans are never missing
 VECMAT_API void VMergeVectorsBool2(matrix* a, int nA, matrix* b, int nB);
 
 /// r1 + r2 by max(c1, c2).

@@ -23,6 +23,12 @@
 // the columns are widened and in the raw cross products. A row of weight 0 moves no coefficient, and still counts in n.
 // Without columns the fit is the weighted mean of y. Nothing reports a failure: where W is at most m + 1 the divisors
 // are 0 or negative, and the arithmetic goes through as it stands. X, y and w are not changed.
+//
+// @missing left out of the correlations pair by pair (equality); multiplied like a number where columns are widened and
+//     in the raw cross products; a term of it is left out of a fitted value
+// @weights not normalised; a row of weight 0 moves no coefficient and counts in n
+// @divisor degrees of freedom n - m - 1 for the slopes (0.0 where that is 0), W - m - 1 for the intercept; not guarded
+// @empty without columns the weighted mean of y
 #pragma once
 
 #include "../base/api.h"

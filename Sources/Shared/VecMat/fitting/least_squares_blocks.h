@@ -1,5 +1,11 @@
 // The least squares fit of `least_squares.h` with the explanatory columns in up to five tables, so that no single table
 // of all columns is ever built.
+//
+// @missing as in `least_squares.h`; across blocks the variances of the pair's own rows, and the missing value without
+//     variance
+// @weights not normalised; a row of weight 0 moves no coefficient and counts in n
+// @divisor degrees of freedom n - m - 1 for the slopes (0.0 where that is 0), W - m - 1 for the intercept; not guarded
+// @empty a block without columns is not read; without any nothing is written
 #pragma once
 
 #include "../base/api.h"

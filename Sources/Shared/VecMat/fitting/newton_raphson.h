@@ -1,5 +1,10 @@
 // One step of a Newton-Raphson iteration. The caller, who knows the function to be minimised, gives its gradient and
 // Hessian at the present parameters, and calls again until the step reports convergence.
+//
+// @missing an ordinary number
+// @mask above 0 fixes a parameter, exactly 0 frees it
+// @divisor the inverse of the Hessian, a g2 inverse where that is singular
+// @empty converged: 1
 #pragma once
 
 #include "../base/api.h"

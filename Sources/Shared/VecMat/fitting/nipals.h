@@ -1,6 +1,12 @@
 // Missing cells filled from principal components: nonlinear iterative partial least squares (Wold, H. (1966),
 // Estimation of principal components and related models by iterative least squares, in Krishnaiah, P. R. (ed.),
 // Multivariate Analysis, Academic Press, 391-420).
+//
+// @missing filled with what the components rebuild (equality)
+// @weights multiply the cells before the mean is taken off; a row of weight exactly 0 takes part with the mean, and its
+//     missing cells become 0.0
+// @divisor W - 1 in the test for a constant column: a deviation up to 1e-6 ends it with 1
+// @empty 0
 #pragma once
 
 #include "../base/api.h"

@@ -4,6 +4,9 @@
 // their sweeps leave for it; its variance inflation factor is the reciprocal (Marquardt, D. W. (1970), Generalized
 // inverses, ridge regression, biased linear estimation, and nonlinear estimation, Technometrics 12 (3), 591-612). All
 // numbers of variables and groups are 1-based.
+//
+// @missing no test: an ordinary number
+// @empty no status is written
 #pragma once
 
 #include "../base/api.h"
@@ -35,6 +38,9 @@
 ///
 /// A NaN is neither above nor below `tol`: it is not swept, and as a member's tolerance it is no reason to stop. No
 /// test for the missing value. The forms differ in the type of `selected` (`groupCount` cells), `group` and `status`.
+/// @mask `selected`: exactly 1 visits a group
+/// @divisor an element below 1e-12 in absolute terms is constant, a tolerance below `tol` collinear; a vif is missing
+///     where the tolerance is not above 0
 VECMAT_API void CheckTolerance(matrix* corr, int p, int groupCount, matrix* selected, matrix* group, double tol,
                                short pairCheck, short keepGoing, short fromLast, short otherGroupsOnly, matrix* status,
                                matrix* tolerance, matrix* vif);
@@ -46,6 +52,8 @@ extern "C" {
 
 /// The diagonal element k, from 1, of the packed symmetric table `a`: cell k(k+1)/2, or -1.0 where that lies outside
 /// the table. `m` and `tol` have no effect.
+/// @missing no test
+/// @empty -1.0 where the element is outside
 VECMAT_API double OLSCheckIfIn(matrix* a, int m, int k, double tol);
 
 /// Flat form: `corr` p by p, `selected` of `groupCount` cells, the others of p. The results are written whole:

@@ -1,4 +1,7 @@
 // Small services of the library: number conversions of whole arrays, memory status, column labels.
+//
+// @missing no cell is read
+// @empty nothing is special
 #pragma once
 
 #include "../base/api.h"
@@ -10,8 +13,12 @@ extern "C" {
 
 /// Truncates each of `n` doubles towards zero; the missing value, like any number outside the range, gives the lowest
 /// int.
+/// @missing the lowest int
+/// @empty nothing is copied
 VECMAT_API void Cpp_V_CopyDoubleToLong(double* src, int n, int* dst);
 /// Widens each of `n` ints.
+/// @missing ints are never missing
+/// @empty nothing is copied
 VECMAT_API void Cpp_V_CopyLongToDouble(int* src, int n, double* dst);
 
 /// Kept names that do nothing.
@@ -36,6 +43,8 @@ VECMAT_API short Cpp_GetStatusMemory(int bytes);
 
 /// Debug print of a labelled value. The finished line is itself the format string of `printf`, so a per cent sign in
 /// the label is interpreted.
+/// @missing printed like an ordinary number
+/// @empty an empty label is printed
 VECMAT_API void dprint(double value, const char* label);
 
 /// Column label of a spreadsheet for a character code: 65 is A, 90 Z, 91 AA. A code below 91 gives the one character

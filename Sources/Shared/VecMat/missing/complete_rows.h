@@ -3,6 +3,11 @@
 // A mask has one 16-bit entry for each row; here any value but 0 counts. The block is `nRows` by `nCols`; a read
 // outside a table yields -1.0 (-1, an empty string) and a write outside is dropped. Nothing is resized; the caller is
 // believed as to how many rows a mask marks.
+//
+// @missing with one column a missing cell (order), or an empty string, excludes its row whatever the mask; with more
+//     the mask alone decides
+// @mask a nonzero entry excludes the row
+// @empty no row moves
 #pragma once
 
 #include "../Smatrix.h"
@@ -27,6 +32,9 @@ VECMAT_API void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols
 /// The reverse: fills the `nRows` + `nInsert` rows of `out`, for each of which the mask has an entry. A marked row
 /// becomes missing in every column; any other takes the next row of `data`. The missing integer is -2147483648, which
 /// no function looks for.
+/// @missing copied unchanged; a marked row becomes missing, in ints -2147483648, which no function looks for
+/// @mask a nonzero entry marks a row to be inserted
+/// @empty nothing is written
 VECMAT_API void M_InsertMissing(matrix* data, int nRows, int nCols, short* mask, int nInsert, matrix* out);
 VECMAT_API void M_InsertMissingLng(matrixInt* data, int nRows, int nCols, short* mask, int nInsert, matrixInt* out);
 VECMAT_API void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out);
@@ -35,6 +43,8 @@ VECMAT_API void Cpp_M_InsertMissingLng(int* data, int nRows, int nCols, short* m
 /// Stacks the cells that are not missing (equality), column by column, into `out`, which keeps what it holds beyond
 /// them. Cell j of `counts` grows by 1 for each cell of column j that is present; if it is 0 after the column,
 /// `*emptyCols` grows by 1. Both are added to and must arrive initialised.
+/// @missing left out (equality)
+/// @empty a column whose count is 0 adds 1 to `*emptyCols`
 VECMAT_API void MatToVect_NoMissing(matrix* data, int nRows, int nCols, matrix* counts, double* emptyCols, matrix* out);
 
 /// `counts` has `nCols` elements, which are the start of a private count: the caller's array is not written. `out` has

@@ -5,6 +5,13 @@
 // stay. The means are weighted, and are those of `V_Mean` and `M_Mean`: they leave out the missing value alone. The
 // weights, one for each row of the statistics, count there and nowhere else: a row of weight 0 is filled like any
 // other. All means are taken before the first cell is filled.
+//
+// @missing filled with the mean of its column in a marked row (order); the means leave out the missing value alone
+//     (equality)
+// @mask a nonzero entry marks a row to be filled
+// @weights count in the means alone: a row of weight 0 is filled like any other
+// @divisor the sum of the weights of the column's mean, which is 0.0 without data
+// @empty `nCols` below 1 is a vector, whose mean without data is missing, so that its cells stay missing
 #pragma once
 
 #include "../base/api.h"
@@ -21,6 +28,7 @@ VECMAT_API void EstimateRowsWithMissingMean(matrix* statX, int nStat, matrix*& X
 
 /// The same over an array of columns, with statistics from the same data. There is no case of a vector: without columns
 /// nothing happens.
+/// @empty without columns nothing happens
 VECMAT_API void EstimateRowsWithMissingMeanSPV(matrix** X, int nRows, int nCols, short* mask, matrix* weights);
 
 // Flat forms: X is filled in place, the other arrays are not written. With `nCols` below 1 the arrays have one column.

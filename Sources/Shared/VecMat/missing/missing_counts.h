@@ -7,6 +7,9 @@
 // What is scanned is the block that the caller names, `nRows` by `nCols` or the first `n` cells in linear order. A cell
 // of it that lies outside the table counts as present, in a table of strings too. Counts by column or row are written
 // over what stood there, as 0 where the column or row has no cells. Nothing fails or reports.
+//
+// @missing counted (equality, or empty strings)
+// @empty 0
 #pragma once
 
 #include "../Smatrix.h"
@@ -19,24 +22,33 @@
 extern "C" {
 
 /// -1 where the value is missing (order), else 0. The two names are one function.
+/// @missing the order test: -1
+/// @empty always a value
 VECMAT_API short IsMissingValueDbl(double x);
 VECMAT_API short VB_IsMissingValueDbl(double x);
 
 /// -1 where the string has no characters, else 0. The flat form reads 32-bit characters up to a NUL.
+/// @missing the empty string: -1
+/// @empty the empty string is the missing one
 VECMAT_API short IsMissingValueStr(std::wstring s);
 VECMAT_API short VB_IsMissingValueStr(const wchar_t* s);
 
 /// `n` less the missing cells of a vector (equality); for `n` below 1 it is `n` itself, also a negative one.
+/// @missing not counted (equality)
+/// @empty a vector of `n` below 1 has `n`; a column without rows 0
 VECMAT_API int V_NbNonMissing(matrix* x, int n);
 
 /// The missing cells of each row (equality), in `nRows` counts.
 VECMAT_API void M_NbMissingPerRow(matrix* a, int nRows, int nCols, int* counts);
 
 /// The cells of each column that are not missing (equality), in `nCols` counts.
+/// @missing not counted (equality)
+/// @empty a vector of `n` below 1 has `n`; a column without rows 0
 VECMAT_API void M_NbNonMissing(matrix* a, int nRows, int nCols, int* counts);
 
 /// The missing cells (equality) off the diagonal of a symmetric table of order `n`, held as a triangle of columns: each
 /// cell below the diagonal stands for two. The diagonal is not looked at.
+/// @missing counted (equality), twice for each cell below the diagonal; the diagonal is not read
 VECMAT_API int M_NbMissingSPV_T(matrix** a, int n, int unused);
 
 } // extern "C"
@@ -50,6 +62,7 @@ VECMAT_API void M_NbMissing(matrix* a, int nRows, int nCols, int* counts);
 VECMAT_API void M_NbMissing(Smatrix* a, int nRows, int nCols, int* counts);
 
 /// The missing cells of an array of columns, by the order test, unlike all other counts. 0 for `nRows` below 1.
+/// @missing counted by the order test, unlike all others here
 VECMAT_API int M_NbMissing(matrix** a, int nRows, int nCols);
 
 /// All missing cells: by the equality test, also in an array of columns, or the empty strings.
@@ -71,6 +84,7 @@ VECMAT_API int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols);
 VECMAT_API void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);
 
 /// `M_NbMissing` of an array of columns: the order test.
+/// @missing counted by the order test, unlike all others here
 VECMAT_API int Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols);
 VECMAT_API int VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused);
 

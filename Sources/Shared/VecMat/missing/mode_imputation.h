@@ -1,4 +1,9 @@
 // Empty strings filled with the most frequent category of their column.
+//
+// @missing an empty string becomes the mode of its column; a column without any category takes what follows it in
+//     storage
+// @weights add up to the modes; those of `M_InfoQuali`
+// @empty nothing happens
 #pragma once
 
 #include "../Smatrix.h"
@@ -17,6 +22,7 @@ VECMAT_API void EstimateRowsWithMissingMode(Smatrix* statS, int nStat, Smatrix*&
 // Flat forms: each element of S, also one that keeps its text, becomes a new BSTR; the other arrays are not written.
 // `mask` is not read: it may be null. The first takes the statistics from S itself; in the second `weights` has `nStat`
 // elements.
+/// @mask not read: may be null
 VECMAT_API void VB_EstimateRowsWithMissingMode(wchar_t** S, int n, int nCols, short* mask, double* weights);
 VECMAT_API void VB_EstimateRowsWithMissingModePred(wchar_t** statS, int nStat, wchar_t** S, int nRows, int nCols,
                                                    short* mask, double* weights);

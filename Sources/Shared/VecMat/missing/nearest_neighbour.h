@@ -42,6 +42,14 @@
 //
 // With 50 rows or more the search works in a copy of the numbers of the rows that are not flagged, to pass over those
 // that are too far away; where memory is short it does without, with the same result.
+//
+// @missing filled from the nearest row in a flagged row (a number at or below the missing value, an empty string);
+//     rejects a candidate row
+// @mask a nonzero entry flags a row: to be filled, and never a neighbour
+// @weights required; count in means, variances and modes alone: frequencies in the primary block, the other corrected
+//     divisor in Y
+// @divisor each squared difference by its column's variance, where that is above 0
+// @empty without rows nothing happens; a block without columns takes no part
 #pragma once
 
 #include "../Smatrix.h"

@@ -1,4 +1,7 @@
 // Variances and covariances of linear combinations.
+//
+// @missing an ordinary number
+// @empty without rows of Q only `covariances` is prepared
 #pragma once
 
 #include "../base/api.h"

@@ -1,4 +1,8 @@
 // Labels for the observations that have none.
+//
+// @missing the empty label is one like any other: the mask decides
+// @mask exactly -1 asks for a new label; every flag is 0 at the end
+// @empty nothing happens
 #pragma once
 
 #include "../Smatrix.h"

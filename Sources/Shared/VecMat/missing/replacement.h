@@ -3,6 +3,11 @@
 // Tables are changed in place, over the block that the caller names; nothing is resized, and a cell outside the table
 // is neither missing nor written. "Equality" takes the missing value alone as missing, "order" also what is below it
 // and minus infinity; a NaN is missing under neither.
+//
+// @missing replaced (order)
+// @mask exactly 1 makes the cell missing, or with `wholeRow` exactly -1 its row
+// @weights written: no other weight changes
+// @empty nothing happens
 #pragma once
 
 #include "../Smatrix.h"
@@ -22,15 +27,18 @@ VECMAT_API void M_ReplaceMissingByValSPV(matrix** a, int nRows, int nCols, doubl
 VECMAT_API void M_ReplaceMissingByValSPV_T(matrix** a, int nRows, int nCols, double value);
 
 /// Every empty string becomes `value`.
+/// @missing the empty string is replaced
 VECMAT_API void M_ReplaceMissingByStr(Smatrix* a, int nRows, int nCols, std::wstring value);
 
 /// Where the mask, of `nRows` by `nMaskCols` cells, holds exactly 1 the cell of that place becomes missing, or, with
 /// `wholeRow` exactly -1, all `nCols` cells of its row. A mask cell outside its table reads as -1.
+/// @missing overwritten like any other
 VECMAT_API void M_ReplaceByMissing(matrix* a, int nRows, int nCols, matrixInt* mask, int nMaskCols, short wholeRow);
 
 /// With `nWeightCols` 1 the weight of a row becomes 0 where any cell of the row is missing (equality). With any other
 /// number each cell has a weight of its own: the one at its place becomes 0 where the cell is missing. No other weight
 /// changes.
+/// @missing sets the weight of its row, or of its cell, to 0 (equality)
 VECMAT_API void M_SetWeightsToZeroForMissing(matrix* data, int nRows, int nCols, matrix*& weights, int nWeightCols);
 
 // ---- flat forms: the caller's array is changed in place -------------------------------------------------------------

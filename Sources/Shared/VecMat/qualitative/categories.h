@@ -17,6 +17,10 @@
 // Places are 1-based. Result tables are prepared by `matCheck`, so a null one is made and is the caller's to delete; a
 // table of strings that is kept also keeps the strings in the places that no category fills. Nothing reports but
 // `invalid`. A text is looked up by a hash, without a walk over the categories.
+//
+// @missing the empty string is no category, but for the column without data
+// @weights required; zero or below still opens a category and adds to it
+// @empty a column without data has the one category that follows it in storage, with the weight that follows: -1.0
 #pragma once
 
 #include "../Smatrix.h"
@@ -42,6 +46,8 @@ VECMAT_API void M_InfoQuali(Smatrix* table, int nRows, int nCols, Smatrix*& mode
 /// and not by the number found. Where it is higher, as `GetMaxCat` counts the empty string too, the places beyond are
 /// empty with weight 0 in fresh tables, take part in the search for the mode, and sort as empty texts (among numbers as
 /// 0). A given count below 1 gives the category of place 1 as the mode.
+/// @empty places beyond those found are empty with weight 0 in fresh tables; a count below 1 gives the category of
+///     place 1 as the mode
 VECMAT_API void M_InfoQuali2(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix*& modes,
                              matrix*& modeWeights, Smatrix*& categories, matrix*& catWeights, matrix* weights,
                              int* total, short sortCats);
@@ -49,11 +55,16 @@ VECMAT_API void M_InfoQuali2(Smatrix* table, int nRows, int nCols, int maxCats, 
 /// Weighs a table against known categories: `catWeights`, nCols by maxCats, takes the sum of the weights of each of the
 /// first nCats[j] categories. A text that stands there twice adds to its last place. `*invalid` is 0, or -1 at the
 /// first text, column by column, that is not among them: the call ends there and leaves what it had summed up.
+/// @missing the empty string is no category
+/// @weights required; zero or below adds like any other
+/// @empty `*invalid` 0
 VECMAT_API void M_InfoQualiValid(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats,
                                  Smatrix* categories, matrix*& catWeights, short* invalid, matrix* weights);
 
 /// Counts the different texts of each column, the empty one included, into `counts` (nCols cells, which must exist).
 /// Returns the largest count, 0 for nCols below 1.
+/// @missing the empty string counts as a text
+/// @empty 0 without columns
 VECMAT_API int GetMaxCat(Smatrix* table, int nRows, int nCols, matrixInt* counts);
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
@@ -75,6 +86,8 @@ VECMAT_API int Cpp_GetMaxCat(wchar_t** table, int nRows, int nCols, int* counts)
 /// Is a label used twice? Row i of the table, nRows by nCols, holds the counts[i] labels of variable i. Returns 1 where
 /// a label stands at one place of a row and at a later place of any row, the same one included, else 0. Two rows that
 /// hold it at the same place are not enough. Empty labels count, and a place beyond the table is empty.
+/// @missing an empty label counts like any other
+/// @empty 0
 VECMAT_API int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts);
 
 } // extern "C"

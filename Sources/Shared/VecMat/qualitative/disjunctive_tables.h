@@ -2,6 +2,10 @@
 //
 // A row is an observation. The columns are grouped by variable, in the order of its categories: variable j starts
 // behind the categories of the variables before it. Its first category is the baseline of the contrast codings.
+//
+// @missing an empty string makes all columns of its variable missing, in every coding
+// @mask may be null; for the reference row only exactly -1 excludes, behind it any nonzero entry
+// @empty no row of `out`
 #pragma once
 
 #include "../Smatrix.h"
@@ -25,6 +29,7 @@ extern "C" {
 ///
 /// `freq` has the shape of `categories` and is read with `coding` 3 alone; it may otherwise be null. Columns beyond
 /// those of `out` are dropped.
+/// @divisor `coding` 3: the frequency of the baseline
 VECMAT_API void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, matrixInt* nCats,
                                       Smatrix* categories, matrix* freq, matrix*& out, int coding, int keepBaseline);
 
@@ -43,11 +48,15 @@ VECMAT_API void VB_BuildDisjunctiveTable(wchar_t** table, int nRows, int nCols, 
 /// that integer by more than 1e-12; a NaN does not. Then the last column alone decides: 0 where it is constant, all its
 /// cells equal to that of the reference row (a NaN is different, also from itself), else -1. Without columns it is -1.
 /// No missing test; cells beyond the table are -1.0.
+/// @missing an ordinary number
+/// @empty without columns -1 (true)
 VECMAT_API short M_IsDisjTable(matrix* table, int nRows, int nCols, short* mask, int* rowSum);
 VECMAT_API short VB_M_IsDisjTable(double* table, int nRows, int nCols, short* mask, int* rowSum);
 
 /// Column j gives the pair of columns 2j - 1 and 2j (1-based) of `out`: the values, and 1 minus the values. `out`,
 /// nRows by 2 nCols, must exist. No missing test: a missing cell gives 1 minus the missing value.
+/// @missing an ordinary number: its partner is 1 minus it
+/// @empty nothing is written
 VECMAT_API void M_ConvertBinarytoDisjTable(matrix* table, int nRows, int nCols, matrix* out);
 VECMAT_API void Cpp_M_ConvertBinarytoDisjTable(double* table, int nRows, int nCols, double* out);
 

@@ -3,6 +3,9 @@
 // Equality is the plain one: 0.0 equals -0.0, a missing cell another, a NaN nothing. Among numbers the missing value is
 // the smallest; an empty string is a value like any other. A vector is a table in linear order. The input is not
 // written.
+//
+// @missing a value like any other; so is the empty string
+// @empty 1 for `n` below 2
 #pragma once
 
 #include "../Smatrix.h"
@@ -21,12 +24,16 @@ extern "C" {
 /// First come the `*nKept` kept rows, by ascending identifier, then the repeated ones likewise; where identifiers are
 /// equal, by ascending keys from the first column on, then in the order of the input. Of equal rows the first of the
 /// input is kept. Without rows none is.
+/// @missing equals itself; the smallest of keys
+/// @empty nothing kept
 VECMAT_API void M_Dedupe(matrix* data, int nRows, int nCols, int* nKept, matrix*& out);
 
 /// The values in ascending order, without those that lie above the one before by no more than the tolerance: the
 /// smaller of 2.220446049250313e-16 and the range of the values. So the last of a chain of close values may be far from
 /// the one that stands for it. `distinct` has room for n cells; those beyond `*count` are left as they are. Nothing
 /// counts 1, a value of -1.0.
+/// @missing a value like any other, the smallest
+/// @empty one value, -1.0
 VECMAT_API void V_ExtractDistinct(matrix* x, int n, matrix* distinct, int* count);
 
 } // extern "C"

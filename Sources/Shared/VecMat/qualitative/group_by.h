@@ -23,6 +23,10 @@
 //
 // so that missing cells count as those functions have it. Any other code leaves these columns of the rows as sorted.
 // Nothing is reported.
+//
+// @weights sorted with the rows; every group takes the first of them, whichever its own rows have; zero as in the
+//     functions named
+// @empty no groups
 #pragma once
 
 #include "../base/api.h"
@@ -31,11 +35,17 @@
 
 extern "C" {
 
+/// @missing a missing key makes a group like any other, the first; in the other columns as `V_Sum2`, `V_Mean2`,
+///     `V_Quantile`, `V_Min2`, `V_Max2`, `V_ModeCat` have it
+/// @divisor of the mean: the count of present cells
 VECMAT_API void M_GroupBy(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate,
                           int* nGroups, matrix*& out);
 
 /// `weights` (nRows cells) comes back in the order of the sorted rows. The sum, mean and median of every group, not of
 /// the first alone, take its first entries: row k of any group has the weight of row k of the sorted table.
+/// @missing a missing key makes a group like any other, the first; in the other columns as `V_Sum`, `V_Mean`,
+///     `V_QuantileW`, `V_Min2`, `V_Max2`, `V_ModeCat` have it
+/// @divisor of the mean: the sum of weights
 VECMAT_API void M_GroupByW(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate,
                            int* nGroups, matrix*& out, matrix* weights);
 

@@ -2,6 +2,9 @@
 //
 // Answers are -1 for true and 0 for false. The first n cells are looked at in linear order; one beyond the table is
 // -1.0, which fails every question here.
+//
+// @missing fails the test
+// @empty 0 (false)
 #pragma once
 
 #include "../base/api.h"
@@ -11,14 +14,17 @@
 extern "C" {
 
 /// Is every cell exactly 0 or exactly 1? True for n below 1. A missing cell and a NaN are neither.
+/// @empty -1 (true)
 VECMAT_API short V_Is01(matrix* x, int n);
 VECMAT_API short VB_V_Is01(double* x, int n);
 
 /// Weights: the sum of the cells that are not missing is above 0, and none of them is negative. False for n below 1.
+/// @missing left out of the sum and not negative (equality); it counts as a whole number
 VECMAT_API short V_IsWeights(matrix* x, int n);
 VECMAT_API short VB_V_IsWeights(double* x, int n);
 
 /// Weights that are counts: all cells are whole numbers as well, as `IsLong` tells them; the missing value is one.
+/// @missing left out of the sum and not negative (equality); it counts as a whole number
 VECMAT_API short V_IsCWeights(matrix* x, int n);
 VECMAT_API short VB_V_IsCWeights(double* x, int n);
 

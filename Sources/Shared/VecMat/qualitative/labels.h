@@ -1,4 +1,7 @@
 // Lists of labels: repeated ones made unique, and labels joined from the strings of a row.
+//
+// @missing an empty label is one like any other
+// @empty nothing happens
 #pragma once
 
 #include "../Smatrix.h"
@@ -16,6 +19,8 @@ VECMAT_API void V_ReplaceDoubles(Smatrix* x, int n);
 
 /// Cell `row` of `out`, in linear order, becomes the strings of columns 1 to nCols of that row with the separator
 /// between each two, also between empty ones. `out` must exist. Without columns the result is empty.
+/// @missing an empty string is joined like any other, with its separators
+/// @empty without columns the result is empty
 VECMAT_API void M_MergeStringsByRow(Smatrix* table, int nRows, int nCols, std::wstring separator, Smatrix* out);
 
 // Flat forms: every element of x, also one that stays, and of `out` (nRows elements) becomes a new BSTR. The separator

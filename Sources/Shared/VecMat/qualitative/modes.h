@@ -1,4 +1,8 @@
 // The mode of a vector of strings or of codes.
+//
+// @missing an empty string is left out
+// @weights required; zero or below counts as it is
+// @empty the empty string, also without any other
 #pragma once
 
 #include "../Smatrix.h"
@@ -20,6 +24,8 @@ VECMAT_API wchar_t* VB_V_Mode(wchar_t** x, int n, int ignored, double* weights);
 /// The most frequent of the codes 0 to n - 1 among n cells, the lowest of equals; 0.0 for n below 2. A cell counts for
 /// the code x truncated towards zero, so that 2.7 is code 2. Cells with exactly the missing value, and codes outside
 /// 0 to n - 1, are left out: where nothing is left every count is 0 and the result 0.0.
+/// @missing left out (equality)
+/// @empty 0.0 for `n` below 2
 VECMAT_API double V_ModeCat(matrix* x, int n);
 
 /// The same over an array of n elements, which is never written.

@@ -1,4 +1,9 @@
 // Mean, standard deviation and variance of one column of a table.
+//
+// @missing a cell enters where it is above the missing value (order), which a NaN is not
+// @weights required; a row of weight 0 changes no sum but counts in m
+// @divisor W; with `sampleVariance` -1 W - 1 for `countDivisor` -1, else W - W/m; not tested
+// @empty mean 0.0, the other two NaN
 #pragma once
 
 #include "../base/api.h"

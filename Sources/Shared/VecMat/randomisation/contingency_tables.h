@@ -1,4 +1,7 @@
 // Cleaning a contingency table of its empty rows and columns.
+//
+// @missing left out of the sums (equality); a line that is missing throughout is dropped
+// @empty a line without cells is dropped
 #pragma once
 
 #include "../base/api.h"

@@ -7,6 +7,10 @@
 // margin is `N` too.
 //
 // What the tables are, and what is beyond them, is told in sampling_with_repeats.h; the seed in permutations.h.
+//
+// @missing copied unchanged; so is the empty string
+// @divisor the step floor((N - 1) / (n - 1)); 0 with `n` above `N`
+// @empty `n` below 1: one number is drawn, no row taken
 #pragma once
 
 #include "../Smatrix.h"
@@ -25,6 +29,7 @@ VECMAT_API void M_SamplingSystematicRdStartSPV(Smatrix** S, int N, int p, int n,
                                                short seedFlag, int* seedOut);
 
 /// The same from the middle of the first M rows, floor((M + 1) / 2), without a draw.
+/// @empty `n` below 1: no row is taken; never a draw
 VECMAT_API void M_SamplingSystematicCentered(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids);
 VECMAT_API void M_SamplingSystematicCenteredSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids);
 
@@ -37,6 +42,8 @@ VECMAT_API void M_SamplingSystematicCenteredSPV(Smatrix** S, int N, int p, int n
 /// the spans overlap, a row can be taken twice, and the last spans can reach beyond the population, where a label is
 /// -1.0. Where the step is below 1 (`n` of 1, or above `N`) `n` rows are drawn, each from all the `N`. With the start
 /// above `N` the series is opened and closed, and `ids` becomes N + 1.
+/// @divisor the step floor((N - 1) / (n - 1)); below 1: `n` rows, each from all `N`
+/// @empty with the start above `N` the series is opened and closed, and `ids` becomes N + 1
 VECMAT_API void M_SamplingRandomStratified(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
                                            short seedFlag, int* seedOut);
 VECMAT_API void M_SamplingRandomStratifiedSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,

@@ -1,4 +1,7 @@
 // The Kronecker product.
+//
+// @missing an ordinary number
+// @empty where C has another shape than the product nothing is done
 #pragma once
 
 #include "../base/api.h"

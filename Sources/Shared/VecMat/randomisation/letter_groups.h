@@ -10,6 +10,9 @@
 //
 // Letter codes become letters by `ChrSp`: the 27th group is AA. A result of 0 is a warning: the letters stand, but a
 // shared letter is not transitive.
+//
+// @missing a mean is missing by the order test, a NaN too but in the first place: it opens no group
+// @empty nothing is changed
 #pragma once
 
 #include "../Smatrix.h"
@@ -44,6 +47,9 @@ extern "C" {
 /// of one group that differ. In the last group negative numbers of `diff` do not count as differing for the second.
 ///
 /// With one item there is one group. With n below 1 nothing is touched and the result is -1.
+/// @missing a mean is missing by the order test, a NaN too but in the first place: it opens no group; exactly the
+///     missing value in column 1 of a pair lets `diff` decide
+/// @empty nothing is changed; -1
 VECMAT_API short BuildGroupingForDiffs(matrix* means, int nCarried, matrix* pairs, int n, matrixInt* diff,
                                        Smatrix* labels, int* nGroups, matrix* perm, int colA, int colB, short* sorted,
                                        short descending);

@@ -14,6 +14,9 @@
 //
 // The cells themselves are never looked at: missing ones move and are overwritten like any other. No error is reported.
 // Beyond a table a cell reads -1.0 (-1, empty), and is not written.
+//
+// @missing moves like any other cell
+// @empty nothing is drawn and nothing moves; the frame of the series is opened and closed
 #pragma once
 
 #include "../Smatrix.h"
@@ -24,17 +27,23 @@
 extern "C" {
 
 /// One draw in a frame of its own.
+/// @missing no cell is read
+/// @empty always one draw
 VECMAT_API double GenerateRandom01(int* seed, short seedFlag, int* seedOut);
 
 } // extern "C"
 
 /// Fill `t`, prepared as `rows` by `cols`, with draws row after row, although the storage runs down the columns. The
 /// form for ints truncates each draw, so that its table is all 0.
+/// @missing overwritten
+/// @empty nothing is drawn; the frame of the series is opened and closed where there is one
 VECMAT_API void M_GenerateRandom01(matrix*& t, int rows, int cols, int* seed, short seedFlag, int* seedOut);
 VECMAT_API void M_GenerateRandom01(matrixInt*& t, int rows, int cols, int* seed, short seedFlag, int* seedOut);
 
 /// The numbers 1 to `n` in random order into the first `n` cells of `out`, which must exist: item i, which is number i,
 /// goes to the place that key i takes among the keys. Keys 0.4, 0.1, 0.9, 0.2, 0.6 give 2, 4, 1, 5, 3.
+/// @missing overwritten
+/// @empty nothing is drawn; the frame of the series is opened and closed where there is one
 VECMAT_API void Random1toN(int n, matrixInt* out, int& seed, short seedFlag, int& seedOut);
 VECMAT_API void Random1toN(int n, matrix* out, int& seed, short seedFlag, int& seedOut);
 
@@ -58,10 +67,14 @@ extern "C" {
 /// Marks a random subset: of the first `n` cells of `out`, which must exist, the `k` with the smallest of `n` draws
 /// become 1.0 and the others 0.0. All are 1.0 with `k` above `n`, all 0.0 with `k` of 0 or below; the draws are the
 /// same `n`. The series stays open until the last cell is written.
+/// @missing overwritten
+/// @empty nothing is drawn; the frame of the series is opened and closed where there is one
 VECMAT_API void GenerateRandomIndicator(matrix*& out, int n, int k, int* seed, short seedFlag, int* seedOut);
 
 /// Prepares `out` as a column of `n` cells at 0.0, then sets cells `first` to `last`, 1-based and both included, to
 /// 1.0. Numbers outside the table are dropped; in a larger table, which is kept, those above `n` are not. No draw.
+/// @missing overwritten
+/// @empty nothing is drawn; the frame of the series is opened and closed where there is one
 VECMAT_API void GenerateIndicator(matrix*& out, int n, int first, int last);
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------

@@ -9,6 +9,9 @@
 //   - `seed`, `seedFlag` and `seedOut` are the frame of a series of draws, as in permutations.h.
 //   - Nothing is tested and no error is reported. Beyond a table a cell reads -1.0, or empty, and is not written; in a
 //     plain table a row below the last is the next column's, in an array of columns it is outside.
+//
+// @missing copied unchanged; so is the empty string
+// @empty with `n` below 1 the series is opened and closed, and nothing else happens
 #pragma once
 
 #include "../Smatrix.h"
@@ -32,6 +35,8 @@ VECMAT_API void M_SamplingWithReplacementSPV(Smatrix** S, int N, int p, int n, S
 /// not above 0; so a missing, infinite or NaN count is none. `Z` and `ids`, which receives the number of the row
 /// copied, have a row for each copy; rows beyond the copies stay as they were. With `N` below 1 nothing is done. No
 /// draw.
+/// @missing copied unchanged; a missing count copies no row
+/// @empty with `N` below 1 nothing is done
 VECMAT_API void M_SampleUserDefined(Smatrix* S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids);
 VECMAT_API void M_SampleUserDefinedSPV(Smatrix** S, int N, int p, Smatrix** Z, matrix* freq, matrix* ids);
 

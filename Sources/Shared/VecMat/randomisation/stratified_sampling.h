@@ -2,6 +2,9 @@
 // Of such designs: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 5.
 //
 // What the tables are, and what is beyond them, is told in sampling_with_repeats.h; the seed in permutations.h.
+//
+// @missing copied unchanged; so is the empty string
+// @empty with `nStrata` below 1 the population is sorted, nothing is drawn, and `seedOut` takes `seed`
 #pragma once
 
 #include "../Smatrix.h"

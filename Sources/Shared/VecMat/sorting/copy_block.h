@@ -1,4 +1,7 @@
 // Copies of a block to the top left corner of another table.
+//
+// @missing copied unchanged
+// @empty an empty range copies nothing; 0
 #pragma once
 
 #include "../Smatrix.h"

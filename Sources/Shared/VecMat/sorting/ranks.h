@@ -9,6 +9,11 @@
 // Vectors are read in linear order; an element beyond its table reads -1.0 and takes part. No error is reported. With
 // NaN among the values the sort promises no order (see sort.h), and a NaN ties with nothing. The scratch memory is four
 // vectors at most; nothing is written before everything is read.
+//
+// @missing its rank is missing and it counts as no place (equality)
+// @weights weigh the places of a run of ties, its first element by the weight of the smallest element of all; 0 is a
+//     weight like any other
+// @empty 0 ties
 #pragma once
 
 #include "../base/api.h"
@@ -17,6 +22,8 @@
 
 /// The rank of each of the `n` elements of `x`, in the order of `x`. A missing value is an ordinary value here, the
 /// smallest: missing elements share rank 1. `ranks` is prepared with `matCheck`.
+/// @missing an ordinary value, the smallest: missing ones share rank 1
+/// @empty no rank is written
 VECMAT_API void V_GetRanks(matrix* x, int n, matrix*& ranks);
 VECMAT_API void V_GetRanks(matrix* x, int n, matrixInt*& ranks);
 
@@ -36,25 +43,33 @@ extern "C" {
 /// `ranks` must hold `n` rows and is not prepared. `*nTies` is the number of runs and `tieSizes`, prepared with
 /// `matCheck` to `n` rows, holds their lengths from the lowest value up, then 0.0. A weight of 0 is a weight like any
 /// other; a run without weight divides by 0.
+/// @divisor the sum of the weights of a run, not guarded against 0
 VECMAT_API void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix*& tieSizes);
 
 /// Ranks with tied values at the lowest of their places; missing elements as above. A run is one of equal values,
 /// without a tolerance. The weights enter into nothing. `ranks` and `tieSizes` must exist and are not prepared: what
 /// `tieSizes` holds behind the `*nTies` lengths stays.
+/// @weights enter into nothing
 VECMAT_API void V_GetRanksTiesInt(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix* tieSizes);
 
 /// `V_GetRanksTies` of `n` cells of column `col`, 1-based, into the same column of `out`, which must exist; its other
 /// columns stay.
+/// @divisor the sum of the weights of a run, not guarded against 0
 VECMAT_API void M_GetRanksTies(matrix* table, int n, int col, matrix* weights, matrix*& out, int* nTies,
                                matrix*& tieSizes);
 
 /// -1 if the `n` elements ascend, else 0. `strict` exactly -1 forbids equal neighbours; any other value allows them. A
 /// NaN passes either test, and so do fewer than two elements. Missing values are compared as the numbers they are.
+/// @missing compared like a number
+/// @empty -1 (true) for fewer than two
 VECMAT_API short V_IsSorted(matrix* x, int n, short strict);
 
 /// The step of an evenly spaced series of `n` times: the second minus the first, or the missing value if any later step
 /// differs from that one by more than 1e-6. `sorted` exactly -1 sorts a private copy first; any other value takes the
 /// order given. With fewer than two cells those that lack read -1.0. Missing times are numbers like any other.
+/// @missing an ordinary number
+/// @divisor the tolerance 1e-6 for steps that differ
+/// @empty cells that lack read -1.0
 VECMAT_API double V_TimeIntervalSize(matrix* t, int n, short sorted);
 
 /// Flat forms over vectors of `n`. The results stand in `ranks` and `tieSizes`, all other arrays stay as they were.

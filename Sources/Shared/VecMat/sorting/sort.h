@@ -15,6 +15,9 @@
 //     each row of the range; a vector of numbers with a copy of it. A merge of records serves for strings, for NaN and
 //     where that memory is short, at last without a buffer; rows beyond a table, and columns that share memory, are
 //     written row by row from a copy.
+//
+// @missing a missing key is the smallest: first ascending, last descending; data moves like any other
+// @empty a `last` below `first` changes nothing; 0. Counts of 0 are 1 in the flat forms
 #pragma once
 
 #include "../Smatrix.h"
@@ -52,11 +55,15 @@ VECMAT_API int SortQ(Smatrix** data, int nRows, int nCols, int first, int last, 
 /// Sort all `n` rows ascending by `key`, normally an indicator of 0 and 1, so that the rows with 0 come first, each
 /// group in the order of the input. The sorted keys are written back into `key`. A string table with `nCols` 0 counts
 /// as one column.
+/// @missing a missing key is the smallest: first; data moves like any other
+/// @empty nothing changes; `nCols` of 0 is one column of strings, and of any type in the flat forms
 VECMAT_API int SortDataBy01(matrix*& data, int n, int nCols, matrix*& key);
 VECMAT_API int SortDataBy01(matrix** data, int n, int nCols, matrix*& key);
 VECMAT_API int SortDataBy01(Smatrix*& data, int n, int nCols, matrix*& key);
 
 // ---- rows by columns of their own -----------------------------------------------------------------------------------
+// @missing the smallest of a key column: first ascending, last descending; so is the empty string
+// @empty a `last` below `first`, or no rows, changes nothing; 0
 
 /// Sort rows `first` to `last` by column `col`, 1-based; the first `nCols` columns move.
 VECMAT_API int SortQMatrixCol(matrix*& table, int nRows, int nCols, int col, int first, int last, short descending);
@@ -77,6 +84,8 @@ VECMAT_API int SortMatrixSeqQP1toP2(matrixInt* table, int nRows, int nCols, int 
 // ---- vectors --------------------------------------------------------------------------------------------------------
 
 /// Sort elements `first` to `last` of a vector of `n` in place. A table is taken in linear order.
+/// @missing the smallest: first ascending, last descending; so is the empty string
+/// @empty a `last` below `first` changes nothing; 0
 VECMAT_API int SortQVector(double*& x, int n, int first, int last, short descending);
 VECMAT_API int SortQVector(int*& x, int n, int first, int last, short descending);
 VECMAT_API int SortQVector(matrix*& x, int n, int first, int last, short descending);
@@ -84,6 +93,8 @@ VECMAT_API int SortQVector(matrixInt*& x, int n, int first, int last, short desc
 
 /// The same for strings. Here, unlike in every other sort, any `descending` but 0 is descending. Callers pass 1 for
 /// `first`.
+/// @missing the smallest: first ascending, last descending; so is the empty string
+/// @empty a `last` below `first` changes nothing; 0
 VECMAT_API int SortQVector(Smatrix* x, int first, int last, short descending);
 
 extern "C" {
@@ -148,6 +159,8 @@ VECMAT_API int VB_SortQByColDbl(double* data, int nRows, int nCols, int first, i
 /// in a private copy. Booleans come back as -1 and 0.
 VECMAT_API int VB_SortDataBy01(double* data, int n, int nCols, double* key);
 VECMAT_API int VB_SortDataBy01Bool(short* data, int n, int nCols, double* key);
+/// @missing a missing key is the smallest: first; data moves like any other
+/// @empty nothing changes; `nCols` of 0 is one column of strings, and of any type in the flat forms
 VECMAT_API int VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key);
 
 /// The same for strings, but no string is copied: the caller's references change places.

@@ -5,6 +5,9 @@
 // position of a source cell is checked: beyond the table it reads -1.0 (-1, an empty string), and a number past the
 // last row, or below the first, slides into the next or previous column. An order that is too short reads -1.0 as well.
 // Missing cells are moved like any other. No error is reported.
+//
+// @missing moved like any other; where doubles become ints it is the lowest int; a missing order is a row out of range
+// @empty nothing is written
 #pragma once
 
 #include "../Smatrix.h"
