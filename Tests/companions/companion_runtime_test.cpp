@@ -4,7 +4,10 @@
 #include "support/failing_new.h"
 #include "support/strings.h"
 
+#include "VecMat.h"
+
 #include <clocale>
+#include <cstdlib>
 #include <cstring>
 #include <cwchar>
 #include <limits>
@@ -144,6 +147,91 @@ TEST(SysAllocString2, IsReadBackByCW162W32)
     wchar_t* const bstr = SysAllocString2(text.c_str());
     EXPECT_EQ(CW162W32(bstr), text);
     SysFreeString2(bstr);
+}
+
+// A host that keeps its strings in blocks of its own: the length stands behind a mark that only it knows.
+struct Host
+{
+    static constexpr std::size_t mark = 12;
+    static inline int made = 0, freed = 0;
+    static inline bool hasMemory = true;
+
+    static wchar_t* allocate(const char* characters, unsigned int bytes)
+    {
+        EXPECT_EQ(characters, nullptr) << "the companion writes the characters itself";
+        if (!hasMemory)
+            return nullptr;
+        ++made;
+        char* const block = static_cast<char*>(std::calloc(mark + 4 + bytes + 2, 1));
+        std::memcpy(block, "a host's own", mark);
+        std::memcpy(block + mark, &bytes, 4);
+        return reinterpret_cast<wchar_t*>(block + mark + 4);
+    }
+    static void release(wchar_t* bstr)
+    {
+        char* const block = reinterpret_cast<char*>(bstr) - 4 - mark;
+        EXPECT_EQ(std::memcmp(block, "a host's own", mark), 0) << "a string that the host has not made";
+        ++freed;
+        std::free(block);
+    }
+
+    Host()
+    {
+        made = freed = 0;
+        hasMemory = true;
+        EXPECT_EQ(SetBstrAllocator(allocate, release), -1);
+    }
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
+    ~Host() { EXPECT_EQ(SetBstrAllocator(nullptr, nullptr), -1); }
+};
+
+TEST(SetBstrAllocator, LetsTheHostMakeAndFreeEveryString)
+{
+    const Host host;
+    EXPECT_EQ(taken(L"").length, 0u);
+    EXPECT_THAT(taken(wide({'a', 0x1F427})).units, ElementsAre('a', 0xD83D, 0xDC27, 0));
+    EXPECT_EQ(Host::made, 2);
+    EXPECT_EQ(Host::freed, 2);
+    SysFreeString2(nullptr);
+    EXPECT_EQ(SysAllocString2(nullptr), nullptr);
+    EXPECT_EQ(Host::made + Host::freed, 4) << "null is no string";
+}
+
+TEST(SetBstrAllocator, ServesEveryFunctionOfTheLibraryThatMakesStrings)
+{
+    const Host host;
+    BstrArray labels({L"b", L"", L"é"}), turned(3);
+    VB_M_TransposeStr(labels, 3, 1, turned);
+    EXPECT_EQ(Host::made, 3);
+    EXPECT_THAT(turned.takeTexts(), ElementsAre(L"b", L"", L"é"));
+    EXPECT_EQ(Host::freed, 3);
+}
+
+TEST(SetBstrAllocator, TurnsTheHostsLackOfMemoryIntoAnException)
+{
+    const Host host;
+    Host::hasMemory = false;
+    EXPECT_THROW(SysAllocString2(L"a"), std::bad_alloc);
+    EXPECT_EQ(SysAllocString2(nullptr), nullptr);
+}
+
+TEST(SetBstrAllocator, BringsThePlatformsOwnBack)
+{
+    {
+        const Host host;
+    }
+    EXPECT_EQ(taken(L"a").length, 2u);
+    EXPECT_EQ(Host::made, 0);
+}
+
+TEST(SetBstrAllocator, RefusesOneWithoutTheOther)
+{
+    const Host host;
+    EXPECT_EQ(SetBstrAllocator(Host::allocate, nullptr), 0);
+    EXPECT_EQ(SetBstrAllocator(nullptr, Host::release), 0);
+    taken(L"a");
+    EXPECT_EQ(Host::made, 1) << "the host is still asked";
 }
 
 constexpr double infinity = std::numeric_limits<double>::infinity();

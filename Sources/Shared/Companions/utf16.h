@@ -7,7 +7,9 @@
 
 namespace companions {
 
-static_assert(sizeof(wchar_t) == 4, "wide characters hold a whole code point here");
+/// Whether a wide character holds a whole code point. Where it doesn't, a wide text is UTF-16 as a BSTR is.
+constexpr bool wideHoldsCodePoints = sizeof(wchar_t) == sizeof(char32_t);
+static_assert(wideHoldsCodePoints || sizeof(wchar_t) == sizeof(char16_t));
 
 inline bool isHighSurrogate(char16_t unit)
 {
@@ -36,10 +38,14 @@ inline std::size_t lengthOf(const void* text)
 }
 
 /// Converts `length` units to wide characters, which are no more, and returns the place behind the last. A surrogate
-/// pair becomes one character; a surrogate without its partner stays as it is, so that no text is lost on the way there
-/// and back.
+/// pair becomes one character, if one can hold it; a surrogate without its partner stays as it is, so that no text is
+/// lost on the way there and back.
 inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
 {
+    if constexpr (!wideHoldsCodePoints) {
+        std::memcpy(to, text, length * sizeof(char16_t));
+        return to + length;
+    }
     for (std::size_t position = 0; position < length; ++position) {
         const char16_t unit = unitAt(text, position);
         // Behind a high surrogate stands at least the NUL, so the next unit may be read.

@@ -2,14 +2,60 @@
 
 #include "../utf16.h"
 
+#include <atomic>
 #include <cstdint>
 #include <cwchar>
 #include <new>
 #include <vector>
 
+#ifdef _WIN32
+// OLE Automation's own, declared here: its header would bring in those of the whole system.
+extern "C" {
+__declspec(dllimport) wchar_t* __stdcall SysAllocStringByteLen(const char* characters, unsigned int bytes);
+__declspec(dllimport) void __stdcall SysFreeString(wchar_t* bstr);
+}
+#endif
+
 namespace {
 
 using LengthPrefix = std::uint32_t;
+
+#ifdef _WIN32
+
+wchar_t* allocateByPlatform(const char* characters, unsigned int bytes)
+{
+    return SysAllocStringByteLen(characters, bytes);
+}
+
+void releaseByPlatform(wchar_t* bstr)
+{
+    SysFreeString(bstr);
+}
+
+#else
+
+wchar_t* allocateByPlatform(const char* characters, unsigned int bytes)
+{
+    const LengthPrefix length = bytes;
+    char* const block = static_cast<char*>(::operator new(sizeof length + length + sizeof(char16_t)));
+    char* const text = block + sizeof length;
+    std::memcpy(block, &length, sizeof length);
+    if (characters != nullptr)
+        std::memcpy(text, characters, length);
+    std::memset(text + length, 0, sizeof(char16_t));
+    return reinterpret_cast<wchar_t*>(text);
+}
+
+void releaseByPlatform(wchar_t* bstr)
+{
+    ::operator delete(reinterpret_cast<char*>(bstr) - sizeof(LengthPrefix));
+}
+
+#endif
+
+// A host sets both before anything else runs: what counts is that a thread started later sees them.
+constinit std::atomic<BstrAllocate> allocateBstr{allocateByPlatform};
+constinit std::atomic<BstrRelease> releaseBstr{releaseByPlatform};
 
 constexpr char32_t lastCharacter = 0x10FFFF;
 constexpr char32_t replacementCharacter = 0xFFFD;
@@ -70,19 +116,29 @@ const wchar_t* CW162W32(const void* bstr)
     return text.data();
 }
 
+short SetBstrAllocator(BstrAllocate allocate, BstrRelease release)
+{
+    if ((allocate == nullptr) != (release == nullptr))
+        return 0;
+    allocateBstr = allocate != nullptr ? allocate : allocateByPlatform;
+    releaseBstr = release != nullptr ? release : releaseByPlatform;
+    return -1;
+}
+
 wchar_t* SysAllocString2(const wchar_t* text)
 {
     if (text == nullptr)
         return nullptr;
-    const LengthPrefix length = static_cast<LengthPrefix>(unitsOf(text) * sizeof(char16_t));
-    char* const block = static_cast<char*>(::operator new(sizeof length + length + sizeof(char16_t)));
-    std::memcpy(block, &length, sizeof length);
-    writeUnits(text, block + sizeof length);
-    return reinterpret_cast<wchar_t*>(block + sizeof length);
+    const auto bytes = static_cast<unsigned int>(unitsOf(text) * sizeof(char16_t));
+    wchar_t* const bstr = allocateBstr.load()(nullptr, bytes);
+    if (bstr == nullptr)
+        throw std::bad_alloc();
+    writeUnits(text, reinterpret_cast<char*>(bstr));
+    return bstr;
 }
 
 void SysFreeString2(wchar_t* bstr)
 {
     if (bstr != nullptr)
-        ::operator delete(reinterpret_cast<char*>(bstr) - sizeof(LengthPrefix));
+        releaseBstr.load()(bstr);
 }
