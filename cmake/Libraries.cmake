@@ -8,7 +8,12 @@ function(vecmat_shared_library name)
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:library_options>)
-    if(APPLE) # whose linker binds calls inside a library, and calls to others to the library that has them
+    set_target_properties(${name} PROPERTIES DLL_NAME_WITH_SOVERSION OFF)
+    if(WIN32)
+        set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
+    endif()
+    # On these two the linker binds calls inside a library, and calls to others to the library that has them.
+    if(APPLE OR WIN32)
         return()
     endif()
     # The linker script keeps instantiations of the standard library's templates out of the exports: they carry
@@ -44,6 +49,10 @@ foreach(companion IN LISTS VECMAT_COMPANIONS)
 endforeach()
 
 set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
+if(WIN32 AND TARGET CompanionRuntime)
+    target_link_libraries(CompanionRuntime PRIVATE oleaut32) # which makes and frees the strings of its hosts
+endif()
+
 file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
 file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp)
 list(REMOVE_ITEM vecmat_sources ${vecmat_kernels})
@@ -57,6 +66,10 @@ set(instruction_sets baseline avx2 avx512)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
     set(avx2_options -mavx2)
     set(avx512_options -mavx512f -mavx512dq -mavx512bw -mavx512vl -mprefer-vector-width=512)
+    if(MINGW) # g++ takes the stack of a function on Windows to be aligned for wide vectors, which it isn't
+        list(APPEND avx2_options -Wa,-muse-unaligned-vector-move)
+        list(APPEND avx512_options -Wa,-muse-unaligned-vector-move)
+    endif()
 endif()
 foreach(set IN LISTS instruction_sets)
     add_library(vecmat_kernels_${set} OBJECT ${vecmat_kernels})
@@ -66,6 +79,17 @@ foreach(set IN LISTS instruction_sets)
     target_link_libraries(vecmat_kernels_${set} PRIVATE library_options)
     target_sources(VecMat PRIVATE $<TARGET_OBJECTS:vecmat_kernels_${set}>)
 endforeach()
+
+if(WIN32)
+    find_package(Python3 REQUIRED COMPONENTS Interpreter)
+    set(definition ${PROJECT_BINARY_DIR}/VecMat.def)
+    add_custom_command(TARGET VecMat PRE_LINK COMMAND_EXPAND_LISTS VERBATIM
+        COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/lib/windows_exports.py
+            ${PROJECT_SOURCE_DIR}/exports.tsv ${CMAKE_NM} $<TARGET_FILE_NAME:VecMat> ${definition}
+            $<TARGET_OBJECTS:VecMat>)
+    target_link_options(VecMat PRIVATE ${definition})
+    set_property(TARGET VecMat APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports.tsv)
+endif()
 
 # The library asks the environment for nothing, but where the instruction sets are to be compared on one machine.
 if(VECMAT_NARROWER_INSTRUCTIONS)

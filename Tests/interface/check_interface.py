@@ -12,6 +12,17 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import interface
 
 
+def imports(library):
+    """What is wrong with that which a DLL needs: it stands alone, but for its companions and the system."""
+    taken = interface.windows_imports(library)
+    companions = {"CompanionBasics.dll", "CompanionRandom.dll", "CompanionRuntime.dll"}
+    wrong = [f"the library needs {name}" for name in sorted(taken.keys() - companions - {"KERNEL32.dll", "msvcrt.dll"})]
+    # The C library of the system has a function of this name, too.
+    if "_wtof" not in taken.get("CompanionRuntime.dll", ()):
+        wrong.append("the library takes _wtof from elsewhere than its companion")
+    return wrong
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--complete", action="store_true", help="fail on what is missing, too")
@@ -23,9 +34,12 @@ def main():
     rows, wrong = interface.read_rows(Path(arguments.list).read_text(encoding="utf-8"))
     declarations, unreadable = interface.read_headers(arguments.headers)
     wrong += unreadable
-    disagreements, missing = interface.compare(rows, declarations, interface.read_symbols(arguments.library))
+    is_windows = arguments.library.endswith(".dll")
+    read_symbols = interface.read_windows_symbols if is_windows else interface.read_symbols
+    disagreements, missing = interface.compare(rows, declarations, read_symbols(arguments.library))
     wrong += disagreements
-    wrong += [f"the library calls its own {name} through the loader" for name in interface.open_calls(arguments.library)]
+    wrong += imports(arguments.library) if is_windows else [
+        f"the library calls its own {name} through the loader" for name in interface.open_calls(arguments.library)]
     umbrella = interface.check_umbrella(arguments.headers, declarations)
     if arguments.complete:
         wrong += umbrella + [f"missing: {row.signature()}" for row in missing]

@@ -93,6 +93,26 @@ def read_symbols(library, nm="nm", demangler="c++filt"):
     return {one_symbol_spelling(symbol) for symbol in demangled}
 
 
+def read_windows_symbols(library, objdump="x86_64-w64-mingw32-objdump", demangler="c++filt"):
+    """The same of a DLL, whose export table objdump prints."""
+    out = subprocess.run([objdump, "-p", library], check=True, capture_output=True, text=True).stdout
+    table = out.partition("[Ordinal/Name Pointer] Table")[2].partition("\n\n")[0]
+    symbols = sorted(re.findall(r"^\s*\[ *\d+\] (?:\+base\[ *\d+\] +\w+ )?(\S+)$", table, flags=re.M))
+    demangled = subprocess.run([demangler], input="\n".join(symbols), check=True, capture_output=True,
+                               text=True).stdout.splitlines()
+    return {one_symbol_spelling(symbol) for symbol in demangled}
+
+
+def windows_imports(library, objdump="x86_64-w64-mingw32-objdump"):
+    """What a DLL takes from other DLLs: a set of names for each."""
+    out = subprocess.run([objdump, "-p", library], check=True, capture_output=True, text=True).stdout
+    found = {}
+    for part in out.split("DLL Name: ")[1:]:
+        name, _, rest = part.partition("\n")
+        found[name.strip()] = set(re.findall(r"^\t[0-9a-f]+\t +\d+  (\S+)$", rest.partition("\n\n")[0], flags=re.M))
+    return found
+
+
 def open_calls(library, readelf="readelf", demangler="c++filt"):
     """Names that the library defines and nevertheless looks up when it is loaded.
 

@@ -6,7 +6,13 @@
 
 #include <string>
 
+#if !defined(_WIN32)
 #define COMPANION_BASICS_API __attribute__((visibility("default")))
+#elif defined(CompanionBasics_EXPORTS)
+#define COMPANION_BASICS_API __declspec(dllexport)
+#else
+#define COMPANION_BASICS_API __declspec(dllimport)
+#endif
 
 extern "C" {
 

@@ -9,7 +9,13 @@
 // Every library with these three functions can take this one's place.
 #pragma once
 
+#if !defined(_WIN32)
 #define COMPANION_RANDOM_API __attribute__((visibility("default")))
+#elif defined(CompanionRandom_EXPORTS)
+#define COMPANION_RANDOM_API __declspec(dllexport)
+#else
+#define COMPANION_RANDOM_API __declspec(dllimport)
+#endif
 
 extern "C" {
 

@@ -15,7 +15,13 @@
 // by native callers.
 #pragma once
 
+#if !defined(_WIN32)
 #define COMPANION_RUNTIME_API __attribute__((visibility("default")))
+#elif defined(CompanionRuntime_EXPORTS)
+#define COMPANION_RUNTIME_API __declspec(dllexport)
+#else
+#define COMPANION_RUNTIME_API __declspec(dllimport)
+#endif
 
 extern "C" {
 

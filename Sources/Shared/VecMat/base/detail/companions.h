@@ -18,7 +18,14 @@ const wchar_t* CW162W32(const void* bstr);
 /// A new BSTR that the caller owns, also for an empty text.
 wchar_t* SysAllocString2(const wchar_t* text);
 /// The number that the text spells, 0.0 where no number leads.
+#ifdef __MINGW32__ // whose C library has another of this name, declared as its own
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wattributes"
+#endif
 double _wtof(const wchar_t* text);
+#ifdef __MINGW32__
+#pragma GCC diagnostic pop
+#endif
 
 /// CompanionBasics: the square root, not the square.
 double sqr(double x);

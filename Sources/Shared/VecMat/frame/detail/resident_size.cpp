@@ -14,6 +14,20 @@ double vecmat::residentSize()
     return static_cast<double>(reinterpret_cast<task_basic_info_32*>(buffer)->resident_size);
 }
 
+#elif defined(_WIN32)
+
+#include <windows.h>
+
+#include <psapi.h>
+
+double vecmat::residentSize()
+{
+    PROCESS_MEMORY_COUNTERS counters{};
+    if (K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters) == 0)
+        return -1.0;
+    return static_cast<double>(counters.WorkingSetSize);
+}
+
 #else
 
 #include <cstdio>
