@@ -1,11 +1,13 @@
 """Writes the tables of a run of the benchmarks.
 
-    report.py RESULTS.md FOLDER NOTE...
+    report.py [--record PAGE.md] RESULTS.md FOLDER NOTE...
 
 FOLDER holds what tools/bench has collected: native.json, avx2.json and baseline.json of vecmat_benchmarks, r.csv and
-python.csv of the peers outside of it. Exits with 1 where a result is not what it should be.
+python.csv of the peers outside of it. Exits with 1 where a result is not what it should be; otherwise the tables also
+take the place of those between the two comments in PAGE.md.
 """
 
+import argparse
 import csv
 import json
 import math
@@ -13,10 +15,12 @@ import platform
 import re
 import sys
 from collections import defaultdict
+from datetime import date
 from pathlib import Path
 
 AIMS = Path(__file__).with_name("aims.tsv")
 SETS = ("avx2", "baseline")
+RECORDED = re.compile(r"(<!-- The tables of the last run.*?-->\n).*?(<!-- Their end. -->)", re.DOTALL)
 
 
 class Results:
@@ -191,9 +195,23 @@ def machine():
             f"{' '.join(sets)}; {platform.system()} {platform.release()}")
 
 
+def record(page, tables):
+    text, count = RECORDED.subn(lambda match: f"{match[1]}\n{tables}\n{match[2]}", page.read_text(encoding="utf-8"))
+    if count != 1:
+        sys.exit(f"{page} has no place for the tables")
+    page.write_text(text, encoding="utf-8")
+
+
 def main():
-    results = Results(Path(sys.argv[2]))
-    text = ["# Benchmarks", "", f"Machine: {machine()}.", "", *(f"- {note}" for note in sys.argv[3:]), ""]
+    parser = argparse.ArgumentParser(allow_abbrev=False)
+    parser.add_argument("--record", type=Path)
+    parser.add_argument("output", type=Path)
+    parser.add_argument("folder", type=Path)
+    parser.add_argument("notes", nargs="*")
+    arguments = parser.parse_args()
+
+    results = Results(arguments.folder)
+    text = [f"Machine: {machine()}; {date.today()}.", "", *(f"- {note}" for note in arguments.notes), ""]
     for title, intro, lines in (
         ("The workloads", "One thread, the shortest of several runs in processor time; a ratio that falls short of its "
          "aim is in bold. The columns AVX2 and baseline are plain/ours with the library kept to these instructions.",
@@ -206,9 +224,12 @@ def main():
             text += [f"## {title}", "", *([intro, ""] if intro else []), *lines, ""]
     if results.faults:
         text += ["## Results that are not what they should be", "", *(f"- {fault}" for fault in results.faults), ""]
-    Path(sys.argv[1]).write_text("\n".join(text))
+    tables = "\n".join(text)
+    arguments.output.write_text(f"# Benchmarks\n\n{tables}", encoding="utf-8")
     if results.faults:
         sys.exit("Results that are not what they should be:\n" + "\n".join(results.faults))
+    if arguments.record:
+        record(arguments.record, tables)
 
 
 if __name__ == "__main__":
