@@ -1,5 +1,5 @@
 // Products that are large enough for tiles give the bits of the plain sums: at sizes around the edges of a tile and of
-// a stretch of the inner index, with special values among the cells, and where the result lies over an operand.
+// a block of the inner index, with special values among the cells, and where the result lies over an operand.
 #include "elementary/diagonal_products.h"
 #include "elementary/matrix_products.h"
 #include "missing/missing_arithmetic.h"
@@ -18,8 +18,8 @@ constexpr int caseCount = 60;
 
 // The edges of the tiles: multiples of 4, 8, 12 and 24, and their neighbours.
 constexpr std::array edges = {1, 3, 4, 5, 7, 8, 9, 11, 12, 13, 15, 16, 17, 23, 24, 25, 31, 47, 48, 49};
-// Around one, two and three stretches.
-constexpr std::array stretches = {255, 256, 257, 511, 513, 769};
+// Around one, two and three blocks.
+constexpr std::array innerSizes = {255, 256, 257, 511, 513, 769};
 
 int lines(Cases& c)
 {
@@ -28,7 +28,8 @@ int lines(Cases& c)
 
 int terms(Cases& c)
 {
-    return c.data.chance(0.2) ? stretches[static_cast<std::size_t>(c.data.integer(0, stretches.size() - 1))] : lines(c);
+    return c.data.chance(0.2) ? innerSizes[static_cast<std::size_t>(c.data.integer(0, innerSizes.size() - 1))]
+                              : lines(c);
 }
 
 template <class Left, class Right>

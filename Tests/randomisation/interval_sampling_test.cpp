@@ -365,7 +365,7 @@ TEST(IntervalSampling, WorksOnTheCornerNamed)
     EXPECT_EQ(ids->nRows, 4);
 }
 
-/// A table of strings in one stretch, or column by column, with the checks of its storage; numbers from 1.
+/// A contiguous table of strings, or column by column, with the checks of its storage; numbers from 1.
 struct PlainRows
 {
     int rows;

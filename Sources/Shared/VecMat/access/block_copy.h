@@ -1,7 +1,6 @@
 // Copying a block of cells from any storage to any other.
 //
-// A window is an accessor moved to a corner of its storage, so that every member of the family is one call that names
-// two windows:
+// A window is an accessor moved to a corner of its storage, so that every copy is one call that names two windows:
 //
 //     copyCells(window(src, zeroBased(r1), zeroBased(c1)), window(dst, 0, 0), rows, cols);
 //

@@ -9,7 +9,7 @@
 //
 // What a loop may do in another order depends on where its cells lie. A plain accessor says it for a block at the top
 // left: `folds(rows, cols)`, whether two places of the block can be the same cell, and
-// `visitStorage(rows, cols, visit)`, which calls visit(first, last) for each stretch of memory that the block lies in.
+// `visitStorage(rows, cols, visit)`, which calls visit(first, last) for each memory range that the block lies in.
 //
 // Numbers are 0-based. Accessors are small and are passed by value; they own nothing.
 #pragma once

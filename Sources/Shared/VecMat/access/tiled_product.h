@@ -33,17 +33,17 @@ bool overlap(const Out& out, int outRows, int outCols, const Operand& operand, i
 
 namespace detail {
 
-/// A product by tiles: the operands are copied into panels as wide as a tile, a stretch of the inner index at a time.
-/// The scratch memory is a stretch of both operands, and the results where there is more than one stretch.
+/// A product by tiles: the operands are copied into panels as wide as a tile, a block of the inner index at a time.
+/// The scratch memory is a block of both operands, and the results where there is more than one block.
 template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
 class TiledProduct
 {
 public:
     TiledProduct(const Left& left, const Right& right, ProductShape shape, const Out& out)
-        : left_(left), right_(right), shape_(shape), out_(out), stretch_(std::min(shape.inner, longestStretch)),
+        : left_(left), right_(right), shape_(shape), out_(out), blockLength_(std::min(shape.inner, longestBlock)),
           rowPanels_(panels(shape.rows, kernels_.rows)), colPanels_(panels(shape.cols, kernels_.cols)),
           leftPanels_(rowPanels_ * leftPanelSize()), rightPanels_(colPanels_ * rightPanelSize()),
-          tiles_(shape.inner > stretch_ ? rowPanels_ * colPanels_ * tileSize() : tileSize())
+          tiles_(shape.inner > blockLength_ ? rowPanels_ * colPanels_ * tileSize() : tileSize())
     {
         if constexpr (missing == MissingFactor::makesResultMissing) {
             rowIsMissing_.reset(new (std::nothrow) bool[countOf(shape.rows)]());
@@ -59,15 +59,15 @@ public:
 
     void run()
     {
-        const bool oneStretch = shape_.inner <= stretch_;
-        if (!oneStretch)
+        const bool oneBlock = shape_.inner <= blockLength_;
+        if (!oneBlock)
             std::fill_n(tiles_.data(), rowPanels_ * colPanels_ * tileSize(), 0.0);
-        for (int first = 0; first < shape_.inner; first += stretch_) {
-            const int count = std::min(stretch_, shape_.inner - first);
+        for (int first = 0; first < shape_.inner; first += blockLength_) {
+            const int count = std::min(blockLength_, shape_.inner - first);
             pack(first, count);
             forEachTile([&](std::size_t rowPanel, std::size_t colPanel) {
                 double* tile = tiles_.data();
-                if (oneStretch)
+                if (oneBlock)
                     std::fill_n(tile, tileSize(), 0.0);
                 else
                     tile += (rowPanel + colPanel * rowPanels_) * tileSize();
@@ -80,7 +80,7 @@ public:
     }
 
 private:
-    static constexpr int longestStretch = 256;
+    static constexpr int longestBlock = 256;
     /// Panels of the left operand that are used for one panel of the right one while they are in the cache.
     static constexpr std::size_t panelsInCache = 12;
     /// Cells in a line of the cache, which are used while they are there, whichever way an operand is stored.
@@ -93,8 +93,8 @@ private:
         return (countOf(count) + countOf(width) - 1) / countOf(width);
     }
 
-    std::size_t leftPanelSize() const { return countOf(kernels_.rows) * std::size_t{countOf(stretch_)}; }
-    std::size_t rightPanelSize() const { return countOf(kernels_.cols) * std::size_t{countOf(stretch_)}; }
+    std::size_t leftPanelSize() const { return countOf(kernels_.rows) * std::size_t{countOf(blockLength_)}; }
+    std::size_t rightPanelSize() const { return countOf(kernels_.cols) * std::size_t{countOf(blockLength_)}; }
     std::size_t tileSize() const { return countOf(kernels_.rows) * std::size_t{countOf(kernels_.cols)}; }
 
     template <class Visit>
@@ -109,7 +109,7 @@ private:
                 }
     }
 
-    /// Copies a stretch of both operands: of the left one `kernels_.rows` cells for each k, of the right one
+    /// Copies a block of both operands: of the left one `kernels_.rows` cells for each k, of the right one
     /// `kernels_.cols`. Places behind the last row or column are zero; their results are not used.
     void pack(int first, int count)
     {
@@ -171,7 +171,7 @@ private:
     const Right& right_;
     ProductShape shape_;
     const Out& out_;
-    int stretch_;
+    int blockLength_;
     std::size_t rowPanels_;
     std::size_t colPanels_;
     Scratch leftPanels_;

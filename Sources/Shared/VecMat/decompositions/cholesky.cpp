@@ -28,7 +28,7 @@ bool factorColumn(Cells a, Factor l, int i, int terms, int n)
         if (j == i) {
             if (failsAsPivot<test>(reduced))
                 return false;
-            pivot = sqr(reduced);
+            pivot = squareRoot(reduced);
             l.set(i, i, pivot);
         } else {
             if (pivot == 0.0)

@@ -174,7 +174,7 @@ int M_VonMises(matrix* a, matrix*& v, int n)
         const double rayleigh = V_ProductTrV1V2(v, n, product);
         M_ScalarsA(v, n, 1, rayleigh, scaled.reference());
         M_ScalarsA(product, n, 1, 1.0 / rayleigh, v);
-        const double error = sqr(V_DiffSq(product, n, scaled)) / sqr(V_Sq(scaled, n));
+        const double error = squareRoot(V_DiffSq(product, n, scaled)) / squareRoot(V_Sq(scaled, n));
         if (error <= convergenceTolerance || error != error)
             break;
     }
@@ -187,7 +187,7 @@ double getNorm2(matrix* a)
         double sum = 0.0;
         for (unsigned i = 0; i < std::min(countOf(a->nRows), a->nElems); ++i)
             sum += a->X[i] * a->X[i];
-        return sqr(sum);
+        return squareRoot(sum);
     }
     TableHandle transposed = fresh(a->nCols, a->nRows);
     a->transposeTo(transposed);
@@ -196,5 +196,5 @@ double getNorm2(matrix* a)
     TableHandle values;
     TableHandle vectors;
     M_Eigen(square, values.reference(), vectors.reference(), a->nRows, -1);
-    return values != nullptr ? sqr(values->vbget(1, 1)) : missingValue;
+    return values != nullptr ? squareRoot(values->vbget(1, 1)) : missingValue;
 }

@@ -26,7 +26,7 @@ int M_SquareRoot(matrix* a, int n, matrix*& out)
         const double value = values->vbget(i, 1);
         if (!(value > -zeroTolerance))
             return -1;
-        scales->vbset(i, i, 1.0 / sqr(squaredLength) * sqr(std::max(0.0, value)));
+        scales->vbset(i, i, 1.0 / squareRoot(squaredLength) * squareRoot(std::max(0.0, value)));
     }
     M_ProductATrB(scales, n, n, vectors, n, out);
     return 0;

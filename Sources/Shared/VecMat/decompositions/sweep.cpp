@@ -16,7 +16,7 @@ namespace {
 /// Up to this order all positions are ints.
 constexpr int largestPlainOrder = 65535;
 
-/// Shorter stretches cost less than the call of a kernel.
+/// Fewer cells than this cost less than the call of a kernel.
 constexpr int leastForKernel = 8;
 
 /// Position of cell (i, j), all from 0, for an accessor in linear order. A number out of range wraps.

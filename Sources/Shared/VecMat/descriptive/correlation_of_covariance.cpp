@@ -1,5 +1,6 @@
 #include "correlation_of_covariance.h"
 
+#include "../base/detail/companions.h"
 #include "detail/pair_pass.h"
 
 using namespace vecmat;
@@ -14,7 +15,7 @@ int correlationsOf(Cells covariance, int p, Cells correlation, double fallback)
     for (int j = 0; j < p; ++j) {
         for (int k = j + 1; k < p; ++k) {
             const double product = covariance.get(j, j) * covariance.get(k, k);
-            const double r = product > 0.0 ? covariance.get(j, k) / sqr(product) : fallback;
+            const double r = product > 0.0 ? covariance.get(j, k) / squareRoot(product) : fallback;
             correlation.set(j, k, r);
             correlation.set(k, j, r);
         }

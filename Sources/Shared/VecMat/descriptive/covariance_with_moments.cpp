@@ -1,5 +1,6 @@
 #include "covariance_with_moments.h"
 
+#include "../base/detail/companions.h"
 #include "../elementary/packed_storage.h"
 #include "detail/moments_pass.h"
 
@@ -20,7 +21,7 @@ Standardisation standardisationOf(short center, short reduce)
 template <class Cells>
 void standardiseColumn(Cells x, int j, double mean, double variance, Standardisation kind, const PairOptions& options)
 {
-    const double deviation = kind == Standardisation::centred ? 1.0 : sqr(variance);
+    const double deviation = kind == Standardisation::centred ? 1.0 : squareRoot(variance);
     const bool computable = kind == Standardisation::centred || variance > 0.0;
     // A column without spread is all zeros once centred; only reduced it has no value.
     const double otherwise = kind == Standardisation::both && variance == 0.0 ? 0.0 : missingValue;

@@ -1,6 +1,7 @@
 #include "means.h"
 
 #include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "detail/side_by_side_moments.h"
 
@@ -128,7 +129,7 @@ void V_GMeanGSD(matrix* v, int n, short* mask, matrix* w, double* gmean, double*
     *gmean = std::exp(moments.mean);
     const double divisor = moments.weights - moments.weights / moments.rows;
     if (divisor != 0.0)
-        *gsd = std::exp(sqr(moments.squares / divisor));
+        *gsd = std::exp(squareRoot(moments.squares / divisor));
 }
 
 int M_Mean(matrix* X, int n, int p, matrix*& mean, matrix* w)

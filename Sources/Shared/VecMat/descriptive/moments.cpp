@@ -1,6 +1,7 @@
 #include "moments.h"
 
 #include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "detail/side_by_side_moments.h"
 
@@ -117,7 +118,7 @@ double V_Var2(matrix* v, int n, short sample, short freqWeights)
 double V_Stdev(matrix* v, int n, short* mask, matrix* w, short sample, short freqWeights)
 {
     const double variance = V_Var(v, n, mask, w, sample, freqWeights);
-    return variance == 0.0 ? 0.0 : sqr(variance);
+    return variance == 0.0 ? 0.0 : squareRoot(variance);
 }
 
 void V_MeanVar(matrix* v, int n, double* mean, double* var, short* mask, matrix* w, short sample, short freqWeights)
@@ -132,7 +133,7 @@ void V_MeanStdev(matrix* v, int n, double* mean, double* stdev, short* mask, mat
 {
     double variance = 0.0;
     V_MeanVar(v, n, mean, &variance, mask, w, sample, freqWeights);
-    *stdev = sqr(variance);
+    *stdev = squareRoot(variance);
 }
 
 int M_MeanStDev(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, short* mask, matrix* w, short sample,

@@ -7,6 +7,7 @@
 #include <vector>
 
 using vecmat::countOf;
+using vecmat::squareRoot;
 using vecmat::TableHandle;
 using vecmat::viewed;
 
@@ -29,7 +30,7 @@ double Cpp_V_Var2(double* v, int n, short sample, short freqWeights)
 double VB_V_Stdev(double* v, int n, short* mask, double* w, short sample, short freqWeights)
 {
     const double variance = V_Var(viewed(v, n, 1), n, mask, viewed(w, n, 1), sample, freqWeights);
-    return variance == 0.0 ? 0.0 : sqr(variance);
+    return variance == 0.0 ? 0.0 : squareRoot(variance);
 }
 
 void VB_V_MeanVar(double* v, int n, double* mean, double* var, short* mask, double* w, short sample, short freqWeights)
@@ -42,7 +43,7 @@ void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, short* mask, 
 {
     double variance = 0.0;
     V_MeanVar(viewed(v, n, 1), n, mean, &variance, mask, viewed(w, n, 1), sample, freqWeights);
-    *stdev = sqr(variance);
+    *stdev = squareRoot(variance);
 }
 
 int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w, short sample,

@@ -47,7 +47,7 @@ void M_Normalize(matrix*& X, int n, int p, matrix*& norms, short* mask, matrix* 
                 const double length = n < 1 ? 0.0 : std::sqrt(sum);
                 for (int i = 0; i < n; ++i)
                     if (enters(i))
-                        x.set(i, j, x.get(i, j) / length * sqr(c));
+                        x.set(i, j, x.get(i, j) / length * squareRoot(c));
                 linear(norms).set(j, length);
             }
         },

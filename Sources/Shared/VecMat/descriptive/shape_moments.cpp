@@ -1,6 +1,7 @@
 #include "shape_moments.h"
 
 #include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "../kernels/power_kernels.h"
 #include "detail/running_moments.h"
@@ -97,8 +98,8 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
     // The guard subtracts the mean weight even where the formulas subtract 1.
     const bool hasSampleSkewness = W - 2.0 * wbar > 0.0;
     const double errorOfSkewness =
-        hasSampleSkewness ? sqr((W * 6.0 * D) / ((c * 3.0 + W) * (W + c) * (W - 2.0 * c))) : missingValue;
-    *skewS = hasSampleSkewness ? sqr(W * D) * skewness / (W - 2.0 * c) : missingValue;
+        hasSampleSkewness ? squareRoot((W * 6.0 * D) / ((c * 3.0 + W) * (W + c) * (W - 2.0 * c))) : missingValue;
+    *skewS = hasSampleSkewness ? squareRoot(W * D) * skewness / (W - 2.0 * c) : missingValue;
     *seSkew = errorOfSkewness;
 
     const double kurtosis = (moments.m4 / W) / (variance * variance) + -3.0;
@@ -106,7 +107,7 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
     if (W - 2.0 * c > 0.0 && W - 3.0 * c > 0.0) {
         *kurtS = (((W + c) * (kurtosis + 3.0) - D * 3.0) * D) / ((W - 2.0 * c) * (W - 3.0 * c));
         // The error of a skewness that is missing takes part like any other number.
-        *seKurt = sqr((errorOfSkewness * errorOfSkewness * (W * W - c) * 4.0) / ((c * 5.0 + W) * (W - 3.0 * c)));
+        *seKurt = squareRoot((errorOfSkewness * errorOfSkewness * (W * W - c) * 4.0) / ((c * 5.0 + W) * (W - 3.0 * c)));
     } else {
         *kurtS = *seKurt = missingValue;
     }

@@ -1,6 +1,7 @@
 #include "standardisation.h"
 
 #include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "../frame/detail/handles.h"
 #include "detail/running_moments.h"
@@ -93,7 +94,7 @@ void M_StandardizeW(matrix* X, int n, int p, matrix* w, short sample, short freq
                 double W = moments.weights;
                 if (sample == -1)
                     W -= freqWeights == -1 ? 1.0 : (n < 1 ? 0.0 : W / n);
-                const double divisor = divisorOf(sqr(moments.squares / W));
+                const double divisor = divisorOf(squareRoot(moments.squares / W));
                 for (int i = 0; i < n; ++i)
                     z.set(i, j, (x.get(i, j) - moments.mean) / divisor);
             }
@@ -111,7 +112,7 @@ void M_StandardizeKnownMeansStDev(matrix*& X, int n, int p, matrix* mean, matrix
     const auto z = cells(Z);
     for (int j = 0; j < p; ++j) {
         const double m = linear(mean).get(j);
-        const double divisor = divisorOf(stdev != nullptr ? linear(stdev).get(j) : sqr(linear(var).get(j)));
+        const double divisor = divisorOf(stdev != nullptr ? linear(stdev).get(j) : squareRoot(linear(var).get(j)));
         for (int i = 0; i < n; ++i)
             z.set(i, j, kept.keeps(i) ? (x.get(i, j) - m) / divisor : missingValue);
     }

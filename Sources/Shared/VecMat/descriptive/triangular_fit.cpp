@@ -4,11 +4,13 @@
 
 #include <cmath>
 
+using vecmat::squareRoot;
+
 namespace {
 
 void fitLeftOfMode(double x1, double m, double x2, double prob1, double prob2, double& a, double& b)
 {
-    const double s = sqr(prob1 / prob2);
+    const double s = squareRoot(prob1 / prob2);
     a = (s * x2 - x1) / (s + -1.0);
     b = (x2 * x2 + (1.0 - prob2) * a * a + (x2 * -2.0 + m * prob2) * a) / ((m - a) * prob2);
 }
@@ -16,7 +18,7 @@ void fitLeftOfMode(double x1, double m, double x2, double prob1, double prob2, d
 void fitRightOfMode(double x1, double m, double x2, double prob1, double prob2, double& a, double& b)
 {
     const double q = 1.0 - prob1;
-    const double s = sqr((1.0 - prob2) / q);
+    const double s = squareRoot((1.0 - prob2) / q);
     b = (s * x1 - x2) / (s + -1.0);
     const double t = (x1 - m) * q;
     const double u = b - x1;

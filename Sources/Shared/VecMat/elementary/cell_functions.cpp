@@ -26,7 +26,7 @@ double M_SquareRootAij(matrix* a, int rows, int cols, matrix* out)
                     // A cell out of range reads as -1.0 and fails the test with the other negative ones.
                     if (!(x.get(i, j) >= 0.0))
                         return -1.0;
-                    root.set(i, j, sqr(x.get(i, j)));
+                    root.set(i, j, squareRoot(x.get(i, j)));
                 }
             return 0.0;
         },

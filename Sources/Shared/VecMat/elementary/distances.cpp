@@ -24,7 +24,7 @@ void pairDistances(Points points, int coordinates, int count, matrix* w, matrix*
                         const double difference = x.get(i, j) - x.get(i, k);
                         sum += weight.get(i) * (difference * difference);
                     }
-                    const double root = sqr(sum);
+                    const double root = squareRoot(sum);
                     distance.set(j, k, root);
                     distance.set(k, j, root);
                 }
@@ -47,7 +47,7 @@ void distancesToVector(Points points, int coordinates, int count, matrix* v, mat
                         sum += difference * difference;
                         ++used;
                     }
-                distance.set(j, used > 0 ? sqr(sum / used) : missingValue);
+                distance.set(j, used > 0 ? squareRoot(sum / used) : missingValue);
             }
         },
         block(points, coordinates, count), block(linear(v), coordinates), block(linear(out), count));

@@ -13,8 +13,8 @@
 // result may be one of the operands: a prepared one is then cleared before it is read, one in place is read as far as
 // it is not yet overwritten.
 //
-// Larger products are worked on tile by tile in scratch memory: a stretch of both operands, up to 256 numbers of the
-// inner index, and a copy of the results where there is more than one stretch. Where memory is short, and where a
+// Larger products are worked on tile by tile in scratch memory: a block of both operands, up to 256 numbers of the
+// inner index, and a copy of the results where there is more than one block. Where memory is short, and where a
 // result is an operand, they go without, slower and with the same results.
 //
 // @missing an ordinary number

@@ -16,7 +16,7 @@ namespace {
 /// The row, 1-based, in which the packed position k, 1-based, stands.
 int packedRow(long long k)
 {
-    return truncated(std::floor(sqr(2.0 * static_cast<double>(k) + 0.25) + 0.5 - zeroTolerance));
+    return truncated(std::floor(squareRoot(2.0 * static_cast<double>(k) + 0.25) + 0.5 - zeroTolerance));
 }
 
 } // namespace
@@ -33,7 +33,7 @@ void M_ProductVASym(matrix* v, int n, matrix* s, matrix* out)
 
 void MV_ProductAsymBsym(matrix* a, int len, matrix* b, matrix* out)
 {
-    const int order = truncated(std::floor(sqr(2.0 * len)));
+    const int order = truncated(std::floor(squareRoot(2.0 * len)));
     for (long long k = 1; k <= len; ++k) {
         const long long row = packedRow(k);
         const long long col = k - row * (row - 1) / 2;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+using vecmat::squareRoot;
 using vecmat::truncated;
 
 namespace {
@@ -22,7 +23,7 @@ void GetIJForSymMat(int k, int& i, int& j)
 {
     // The small amount keeps the last cell of a row, where the sum is whole, out of the next row, as long as it is not
     // lost in the rounding.
-    i = truncated(std::floor(sqr(2.0 * k + 0.25) + 0.5 - 1e-12));
+    i = truncated(std::floor(squareRoot(2.0 * k + 0.25) + 0.5 - 1e-12));
     j = static_cast<int>(k - cellsBefore(i));
 }
 

@@ -35,22 +35,22 @@ void multiply(matrix* x, int n, double factor)
 
 void V_Norm(matrix*& x, int n)
 {
-    divide(x, n, sqr(V_SumSq(x, n)));
+    divide(x, n, squareRoot(V_SumSq(x, n)));
 }
 
 void V_NormToVal(matrix*& x, int n, double val)
 {
-    multiply(x, n, sqr(val / V_SumSq(x, n)));
+    multiply(x, n, squareRoot(val / V_SumSq(x, n)));
 }
 
 void V_NormW(matrix*& x, int n, matrix* w)
 {
-    divide(x, n, sqr(V_SumSqW(x, n, w)));
+    divide(x, n, squareRoot(V_SumSqW(x, n, w)));
 }
 
 void V_NormToValW(matrix*& x, int n, double val, matrix* w)
 {
-    multiply(x, n, sqr(val / V_SumSqW(x, n, w)));
+    multiply(x, n, squareRoot(val / V_SumSqW(x, n, w)));
 }
 
 void V_PlusVal(matrix* x, int n, double val, short* mask)

@@ -74,7 +74,7 @@ void biplot(Storage rows, matrix* sup, Storage cols, int nA, int nB, int m, int 
 
     scaleAxes(cells(cols), m, variableFactors(eigen, k, alpha), var, 0);
     if (factor != 1.0)
-        M_ScalarsA2(var, m, k, sqr(factor));
+        M_ScalarsA2(var, m, k, squareRoot(factor));
 }
 
 /// `squares` holds the sum of squares of each row. By rows: in a result with fewer than n rows a point runs over into
@@ -142,7 +142,7 @@ void M_GetMaxDistToOrigin(matrix* a, int n, int k, double* maxDistance, int* row
                 double sum = 0.0;
                 for (int j = 0; j < k; ++j)
                     sum += x.get(i, j) * x.get(i, j);
-                const double distance = sqr(sum);
+                const double distance = squareRoot(sum);
                 if (distance > *maxDistance) {
                     *maxDistance = distance;
                     *row = i + 1;

@@ -45,7 +45,7 @@ int newtonStep(matrix* x, int n, Constraints* constraints, matrix* g, matrix* H,
             converged = false;
         x->vbset(i, 1, next);
         // A Hessian that isn't positive definite may leave a negative diagonal.
-        se->vbset(i, 1, sqr(std::fabs(Hinv->vbget(i, i))));
+        se->vbset(i, 1, squareRoot(std::fabs(Hinv->vbget(i, i))));
     }
     return converged ? 1 : 0;
 }

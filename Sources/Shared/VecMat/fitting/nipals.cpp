@@ -25,8 +25,8 @@ enum Outcome : int { done = 0, degenerate = 1, tooManyMissing = -6 };
 
 using Column = std::vector<double>;
 
-/// What the census found in a column.
-struct ColumnCensus
+/// A column before it is centred.
+struct ColumnSummary
 {
     double mean = 0.0;
     int missingCells = 0;
@@ -42,15 +42,15 @@ public:
         : rowCount_(countOf(rows)), height_(roundedUp(countOf(rows), RegressionKernels::blockHeight)),
           width_(roundedUp(countOf(cols), RegressionKernels::stripWidth)),
           columns_(height_ * countOf(cols), missingValue), strips_(height_ * width_, missingValue),
-          census_(countOf(cols))
+          summaries_(countOf(cols))
     {
     }
 
     std::size_t height() const { return height_; }
     std::size_t width() const { return width_; }
-    std::size_t cols() const { return census_.size(); }
+    std::size_t cols() const { return summaries_.size(); }
 
-    const ColumnCensus& census(std::size_t j) const { return census_[j]; }
+    const ColumnSummary& summary(std::size_t j) const { return summaries_[j]; }
     const double* column(std::size_t j) const { return columns_.data() + j * height_; }
 
     template <class Cells>
@@ -62,7 +62,7 @@ public:
                 for (int i = first; i < std::min(n, first + rowsAtOnce); ++i)
                     set(static_cast<std::size_t>(i), j, x.get(i, static_cast<int>(j)));
     }
-    /// Takes the census of a copy and centres it. False where a column is constant.
+    /// Sums up the columns of a copy and centres them. False where a column is constant.
     bool centre(const Column& w);
 
     /// Sums for the regression of each column on the scores, of `width` numbers each.
@@ -103,7 +103,7 @@ private:
     std::size_t width_;
     Column columns_;
     Column strips_;
-    std::vector<ColumnCensus> census_;
+    std::vector<ColumnSummary> summaries_;
 };
 
 struct Component
@@ -112,22 +112,22 @@ struct Component
     Column loadings; // one for each column, of length 1, filled up with 0.0
 };
 
-// ---- census and centring --------------------------------------------------------------------------------------------
+// ---- sums and centring -----------------------------------------------------------------------------------------------
 
 bool Residual::centre(const Column& w)
 {
-    std::vector<RegressionKernels::Census> found(countOf(strips()));
-    regressionKernels().takeCensus(rows(), strips(), strips_.data(), w.data(), found.data());
+    std::vector<RegressionKernels::ColumnSums> found(countOf(strips()));
+    regressionKernels().sumColumns(rows(), strips(), strips_.data(), w.data(), found.data());
     Column means(width_);
     for (std::size_t j = 0; j < cols(); ++j) {
-        const RegressionKernels::Census& sums = found[j / stripWidth];
+        const RegressionKernels::ColumnSums& sums = found[j / stripWidth];
         const std::size_t lane = j % stripWidth;
         const double total = sums.weights[lane];
         means[j] = sums.sums[lane] / total;
-        if (sqr((sums.squares[lane] - means[j] * means[j] * total) / (total - 1.0)) <= vanishing)
+        if (squareRoot((sums.squares[lane] - means[j] * means[j] * total) / (total - 1.0)) <= vanishing)
             return false;
         // Rows that only fill up are none of the table's.
-        census_[j] = {means[j], static_cast<int>(sums.missing[lane]) - static_cast<int>(height_ - rowCount_)};
+        summaries_[j] = {means[j], static_cast<int>(sums.missing[lane]) - static_cast<int>(height_ - rowCount_)};
     }
     // The weight comes before the mean is taken off; the imputation divides it out again.
     for (std::size_t j = 0; j < cols(); ++j)
@@ -155,14 +155,14 @@ double missingTotal(const Residual& residual)
 {
     double total = 0.0;
     for (std::size_t j = 0; j < residual.cols(); ++j)
-        total += residual.census(j).missingCells;
+        total += residual.summary(j).missingCells;
     return total;
 }
 
 bool withinShares(const Residual& residual, int n, double maxColumnShare, double maxTotalShare)
 {
     for (std::size_t j = 0; j < residual.cols(); ++j)
-        if (residual.census(j).missingCells > n * maxColumnShare)
+        if (residual.summary(j).missingCells > n * maxColumnShare)
             return false;
     return !(missingTotal(residual) > n * maxTotalShare * static_cast<double>(residual.cols()));
 }
@@ -186,7 +186,7 @@ public:
             loadings[j] = products_[j] / squares_[j];
             norm += loadings[j] * loadings[j];
         }
-        const double length = sqr(norm);
+        const double length = squareRoot(norm);
         for (std::size_t j = 0; j < residual.cols(); ++j)
             loadings[j] /= length;
         return true;
@@ -261,7 +261,7 @@ void impute(Cells x, Weights w, int n, const Residual& residual, const std::vect
 {
     for (std::size_t j = 0; j < residual.cols(); ++j) {
         const int col = static_cast<int>(j);
-        int left = residual.census(j).missingCells;
+        int left = residual.summary(j).missingCells;
         for (int i = 0; left > 0 && i < n; ++i) {
             if (!isMissing(x.get(i, col)))
                 continue;
@@ -269,7 +269,8 @@ void impute(Cells x, Weights w, int n, const Residual& residual, const std::vect
             x.set(i, col, 0.0);
             const double weight = w.get(i);
             if (weight != 0.0)
-                x.set(i, col, (rebuilt(components, static_cast<std::size_t>(i), j) + residual.census(j).mean) / weight);
+                x.set(i, col,
+                      (rebuilt(components, static_cast<std::size_t>(i), j) + residual.summary(j).mean) / weight);
         }
     }
 }

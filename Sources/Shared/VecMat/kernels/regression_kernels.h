@@ -17,8 +17,8 @@ struct RegressionKernels
     /// Rows are worked on in blocks of so many: `rows` is a multiple of it.
     static constexpr int blockHeight = 32;
 
-    /// What a census finds in the columns of a strip.
-    struct Census
+    /// The sums of the columns of a strip.
+    struct ColumnSums
     {
         double missing[stripWidth]; ///< the count of missing cells
         double weights[stripWidth];
@@ -29,7 +29,7 @@ struct RegressionKernels
     /// From 0.0, in the columns of strips that stand one behind the other, for each row in order whose cell x is not
     /// missing:
     ///     weights = weights + w     sums = sums + w x     squares = squares + w x x
-    void (*takeCensus)(std::ptrdiff_t rows, int strips, const double* first, const double* w, Census* census);
+    void (*sumColumns)(std::ptrdiff_t rows, int strips, const double* first, const double* w, ColumnSums* columnSums);
 
     /// x = w x - mean in one column, and in the columns of a strip, where x is not missing.
     void (*centreColumn)(std::ptrdiff_t rows, double* column, const double* w, double mean);

@@ -14,8 +14,8 @@ constexpr int width = RegressionKernels::stripWidth;
 constexpr int vectors = width / laneCount;
 static_assert(width % laneCount == 0);
 
-void takeCensus(std::ptrdiff_t rows, int strips, const double* first, const double* w,
-                RegressionKernels::Census* census)
+void sumColumns(std::ptrdiff_t rows, int strips, const double* first, const double* w,
+                RegressionKernels::ColumnSums* columnSums)
 {
     const Lanes missing = inEachLane(missingValue);
     for (int s = 0; s < strips; ++s)
@@ -32,10 +32,10 @@ void takeCensus(std::ptrdiff_t rows, int strips, const double* first, const doub
                 sums += x == missing ? nothing : w[i] * x;
                 squares += x == missing ? nothing : w[i] * x * x;
             }
-            store(census[s].missing + v, absent);
-            store(census[s].weights + v, weights);
-            store(census[s].sums + v, sums);
-            store(census[s].squares + v, squares);
+            store(columnSums[s].missing + v, absent);
+            store(columnSums[s].weights + v, weights);
+            store(columnSums[s].sums + v, sums);
+            store(columnSums[s].squares + v, squares);
         }
 }
 
@@ -151,7 +151,7 @@ void deflateStrip(std::ptrdiff_t rows, double* strip, const double* scores, cons
 
 } // namespace
 
-const RegressionKernels regressionKernels = {takeCensus, centreColumn,  centreStrip, onScores<>,
+const RegressionKernels regressionKernels = {sumColumns, centreColumn,  centreStrip, onScores<>,
                                              onLoadings, deflateColumn, deflateStrip};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -18,7 +18,7 @@ using vecmat::triangle;
 
 namespace {
 
-// A census is taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller
+// Counts are taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller
 // names may have more cells than an int counts.
 
 /// Columns whose cells are asked one by one: `missing(i, j)`.
@@ -79,27 +79,27 @@ auto inAll(int rows, int cols)
     };
 }
 
-/// Takes a census of doubles by one of the two tests.
-template <auto test, class Storage, class Census>
-auto censusOf(Storage storage, int rows, int cols, Census census)
+/// Counts in doubles by one of the two tests: `count(columns)`.
+template <auto test, class Storage, class Count>
+auto countIn(Storage storage, int rows, int cols, Count count)
 {
-    return onBlocksOrElse([&](auto x) { return census(ColumnsInMemory<test, decltype(x)>{x}); },
+    return onBlocksOrElse([&](auto x) { return count(ColumnsInMemory<test, decltype(x)>{x}); },
                           [&](auto x) {
                               const auto missing = [x](int i, int j) { return test(x.get(i, j)); };
-                              return census(ColumnsOfCells<decltype(missing)>{missing});
+                              return count(ColumnsOfCells<decltype(missing)>{missing});
                           },
                           block(storage, rows, cols));
 }
 
-/// Takes a census of strings. A place outside the table reads as an empty string, and yet none is missing there.
-template <class Census>
-auto censusOf(Smatrix* table, Census census)
+/// Counts in strings. A place outside the table reads as an empty string, and yet none is missing there.
+template <class Count>
+auto countIn(Smatrix* table, Count count)
 {
     const auto missing = [table](int i, int j) {
         const unsigned k = vecmat::linearIndex(i, j, table->nRows);
         return k < table->nElems && table->X[k].empty();
     };
-    return census(ColumnsOfCells<decltype(missing)>{missing});
+    return count(ColumnsOfCells<decltype(missing)>{missing});
 }
 
 } // namespace
@@ -131,38 +131,38 @@ int V_NbNonMissing(matrix* x, int n)
 
 void M_NbMissing(matrix* a, int nRows, int nCols, int* counts)
 {
-    censusOf<isMissing>(cells(a), nRows, nCols, byColumn(nRows, nCols, counts));
+    countIn<isMissing>(cells(a), nRows, nCols, byColumn(nRows, nCols, counts));
 }
 
 void M_NbMissing(Smatrix* a, int nRows, int nCols, int* counts)
 {
-    censusOf(a, byColumn(nRows, nCols, counts));
+    countIn(a, byColumn(nRows, nCols, counts));
 }
 
 int M_NbMissing(matrix** a, int nRows, int nCols)
 {
-    return censusOf<isMissingOrBelow>(cells(a), nRows, nCols, inAll(nRows, nCols));
+    return countIn<isMissingOrBelow>(cells(a), nRows, nCols, inAll(nRows, nCols));
 }
 
 int M_NbMissing2(matrix* a, int nRows, int nCols)
 {
-    return censusOf<isMissing>(cells(a), nRows, nCols, inAll(nRows, nCols));
+    return countIn<isMissing>(cells(a), nRows, nCols, inAll(nRows, nCols));
 }
 
 int M_NbMissing2(matrix** a, int nRows, int nCols)
 {
-    return censusOf<isMissing>(cells(a), nRows, nCols, inAll(nRows, nCols));
+    return countIn<isMissing>(cells(a), nRows, nCols, inAll(nRows, nCols));
 }
 
 int M_NbMissing2(Smatrix* a, int nRows, int nCols)
 {
-    return censusOf(a, inAll(nRows, nCols));
+    return countIn(a, inAll(nRows, nCols));
 }
 
 void M_NbMissingPerRow(matrix* a, int nRows, int nCols, int* counts)
 {
     std::fill_n(counts, countOf(nRows), 0);
-    censusOf<isMissing>(cells(a), nRows, nCols, [=](const auto& columns) {
+    countIn<isMissing>(cells(a), nRows, nCols, [=](const auto& columns) {
         for (int j = 0; j < nCols; ++j)
             columns.addByRow(nRows, j, counts);
     });

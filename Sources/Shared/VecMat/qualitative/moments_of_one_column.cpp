@@ -1,7 +1,7 @@
 #include "moments_of_one_column.h"
 
-// The update rules are shared with the moments of whole tables, which stand above this folder.
 #include "../access/cells.h"
+#include "../base/detail/companions.h"
 #include "../descriptive/detail/running_moments.h"
 
 using namespace vecmat;
@@ -23,5 +23,5 @@ void M_MeanStDevVarOneInMat(matrix* table, int nRows, int col, double* mean, dou
         column, block(linear(weights), nRows));
     *mean = moments.mean;
     *variance = untestedVariance(moments, sampleVariance, countDivisor);
-    *stdDev = sqr(*variance);
+    *stdDev = squareRoot(*variance);
 }

@@ -44,3 +44,13 @@ int cChrCount(const std::wstring& s, const std::wstring& c);
 std::wstring cStrBetweenChrAndChr(const std::wstring& s, const std::wstring& left, const std::wstring& right);
 /// The library's string for a caller's BSTR.
 std::wstring convToWstring(const void* text);
+
+namespace vecmat {
+
+/// The companion's root, under a name that does not read as a square.
+inline double squareRoot(double x)
+{
+    return sqr(x);
+}
+
+} // namespace vecmat

@@ -81,7 +81,7 @@ private:
             reduce(i, first);
             double& diagonal = strip(i)[i - first];
             const bool fails = failsAsPivot<test>(diagonal);
-            const double pivot = fails ? 0.0 : sqr(diagonal);
+            const double pivot = fails ? 0.0 : squareRoot(diagonal);
             // At the last row one of 0 divides nothing.
             if (fails || (pivot == 0.0 && i + 1 < n_)) {
                 columns_ = i;

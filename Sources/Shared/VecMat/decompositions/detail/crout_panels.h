@@ -35,7 +35,7 @@ public:
     /// From cell (i, j), i the first row of a panel, down to the last row of the panel.
     double* tile(int i, int j) const { return row(i) + std::ptrdiff_t{height_} * j; }
 
-    /// Calls visit(i, cells, count) for each stretch of column j from row `first` down to the last.
+    /// Calls visit(i, cells, count) for each contiguous part of column j from row `first` down to the last.
     template <class Visit>
     void visitColumn(int j, int first, Visit visit) const
     {

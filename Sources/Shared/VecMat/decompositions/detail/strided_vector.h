@@ -14,10 +14,10 @@
 namespace vecmat {
 
 /// A run that lies wholly inside its table.
-class PlainStretch
+class PlainStridedVector
 {
 public:
-    PlainStretch(double* first, int step) : first_(first), step_(step) {}
+    PlainStridedVector(double* first, int step) : first_(first), step_(step) {}
 
     double get(int k) const { return first_[k * step_]; }
     void set(int k, double value) const { first_[k * step_] = value; }
@@ -29,11 +29,11 @@ private:
 
 /// A run with the checks of the tables: past the end of a column it goes on in the next one, outside the table a read
 /// gives -1.0 and a write is dropped. Without a table everything is outside.
-class Stretch
+class StridedVector
 {
 public:
     /// Element 0 stands at the linear position `start`.
-    Stretch(matrix* table, unsigned start, int step) : table_(table), start_(start), step_(step) {}
+    StridedVector(matrix* table, unsigned start, int step) : table_(table), start_(start), step_(step) {}
 
     double get(int k) const { return table_ != nullptr ? readAt(*table_, position(k)) : outOfRangeValue; }
     void set(int k, double value) const
@@ -50,7 +50,7 @@ public:
         return table_ != nullptr && start_ < table_->nElems && last >= 0 &&
                last < static_cast<long long>(table_->nElems);
     }
-    PlainStretch plain() const
+    PlainStridedVector plain() const
     {
         return {table_ != nullptr && start_ < table_->nElems ? table_->X + start_ : nullptr, step_};
     }
@@ -77,7 +77,7 @@ public:
 
     double get(int row, int col) const { return table_->vbget(row, col); }
     void set(int row, int col, double value) const { table_->vbset(row, col, value); }
-    Stretch from(int row, int col, int count, int increment = 1) const
+    StridedVector from(int row, int col, int count, int increment = 1) const
     {
         return {table_,
                 linearIndex(row, col, table_->nRows) - 1u - static_cast<unsigned>(table_->nRows) +
@@ -101,7 +101,7 @@ public:
 
     double get(int row, int col) const { return from(row, col, 1).get(0); }
     void set(int row, int col, double value) const { from(row, col, 1).set(0, value); }
-    Stretch from(int row, int col, int count, int increment = 1) const
+    StridedVector from(int row, int col, int count, int increment = 1) const
     {
         return {col < 1 || col > count_ ? nullptr : columns_[col - 1],
                 static_cast<unsigned>(row) - 1u + startOffset(count, increment), increment};
@@ -113,23 +113,23 @@ private:
 };
 
 /// Runs `body` on the plain runs where all of them lie inside their tables, else on the checked ones.
-template <class Body, class... Stretches>
-decltype(auto) onRuns(Body body, int count, Stretches... stretches)
+template <class Body, class... Vectors>
+decltype(auto) onRuns(Body body, int count, Vectors... vectors)
 {
-    if constexpr ((std::is_same_v<Stretches, PlainStretch> && ...))
-        return body(stretches...);
+    if constexpr ((std::is_same_v<Vectors, PlainStridedVector> && ...))
+        return body(vectors...);
     else
-        return onBlocks(body, block(stretches, count)...);
+        return onBlocks(body, block(vectors, count)...);
 }
 
 /// Euclidean norm by a running scale and sum of squares, which neither overflows nor underflows on the way.
 template <class Run>
-double norm(int count, Run stretch)
+double norm(int count, Run vector)
 {
     if (count < 1)
         return 0.0;
     if (count == 1)
-        return std::fabs(stretch.get(0));
+        return std::fabs(vector.get(0));
     return onRuns(
         [count](auto x) {
             double scale = 0.0;
@@ -148,25 +148,25 @@ double norm(int count, Run stretch)
                     ssq = ssq + ratio * ratio;
                 }
             }
-            return scale * sqr(ssq);
+            return scale * squareRoot(ssq);
         },
-        count, stretch);
+        count, vector);
 }
 
 /// x = a x.
 template <class Run>
-void multiply(int count, double a, Run stretch)
+void multiply(int count, double a, Run vector)
 {
     onRuns(
         [=](auto x) {
             for (int k = 0; k < count; ++k)
                 x.set(k, a * x.get(k));
         },
-        count, stretch);
+        count, vector);
 }
 
 /// Inner product.
-inline double innerProduct(int count, Stretch left, Stretch right)
+inline double innerProduct(int count, StridedVector left, StridedVector right)
 {
     return onRuns(
         [count](auto x, auto y) {
@@ -179,7 +179,7 @@ inline double innerProduct(int count, Stretch left, Stretch right)
 }
 
 /// y = y + a x; nothing is touched where a is exactly 0.
-inline void addMultiple(int count, double a, Stretch source, Stretch target)
+inline void addMultiple(int count, double a, StridedVector source, StridedVector target)
 {
     if (a == 0.0)
         return;
@@ -192,7 +192,7 @@ inline void addMultiple(int count, double a, Stretch source, Stretch target)
 }
 
 /// Plane rotation: x' = c x + s y, y' = c y - s x.
-inline void rotate(int count, Stretch left, Stretch right, double c, double s)
+inline void rotate(int count, StridedVector left, StridedVector right, double c, double s)
 {
     onRuns(
         [=](auto x, auto y) {
@@ -205,7 +205,7 @@ inline void rotate(int count, Stretch left, Stretch right, double c, double s)
         count, left, right);
 }
 
-inline void exchange(int count, Stretch left, Stretch right)
+inline void exchange(int count, StridedVector left, StridedVector right)
 {
     onRuns(
         [=](auto x, auto y) {
@@ -237,7 +237,7 @@ inline Rotation makeRotation(double& a, double& b)
     }
     const double ratioA = a / scale;
     const double ratioB = b / scale;
-    const double r = scale * sqr(ratioA * ratioA + ratioB * ratioB) * FSign(1.0, roe);
+    const double r = scale * squareRoot(ratioA * ratioA + ratioB * ratioB) * FSign(1.0, roe);
     const Rotation rotation{a / r, b / r};
     double z = sizeA > sizeB ? rotation.s : 1.0;
     if (sizeB >= sizeA && rotation.c != 0.0)

@@ -2,6 +2,7 @@
 // publication.
 #pragma once
 
+#include "../../base/detail/companions.h"
 #include "../../base/missing_value.h"
 #include "strided_vector.h"
 
@@ -30,9 +31,9 @@ struct SingularVectors
 template <class Store, class Then>
 void reflectColumns(Store store, int l, int first, int last, int row, int count, Then then)
 {
-    const Stretch reflection = store.from(row, l, count);
+    const StridedVector reflection = store.from(row, l, count);
     for (int j = first; j <= last; ++j) {
-        const Stretch target = store.from(row, j, count);
+        const StridedVector target = store.from(row, j, count);
         addMultiple(count, -innerProduct(count, reflection, target) / store.get(row, l), reflection, target);
         then(j);
     }
@@ -45,7 +46,7 @@ void reflectRows(Store store, int first, int last, int count, TableStore e, Tabl
 {
     for (int i = 0; i < count; ++i)
         work.set(first + i, 1, 0.0);
-    const Stretch products = work.from(first, 1, count);
+    const StridedVector products = work.from(first, 1, count);
     for (int j = first; j <= last; ++j)
         addMultiple(count, e.get(j, 1), store.from(first, j, count), products);
     for (int j = first; j <= last; ++j)
@@ -332,7 +333,7 @@ private:
         const double c = (sm * emm1) * (sm * emm1);
         double shift = 0.0;
         if (b != 0.0 || c != 0.0) {
-            shift = sqr(b * b + c);
+            shift = squareRoot(b * b + c);
             if (b < 0.0)
                 shift = -shift;
             shift = c / (b + shift);

@@ -30,7 +30,7 @@ public:
 
     double get(int row, int col) const { return *at(row, col); }
     void set(int row, int col, double value) const { *at(row, col) = value; }
-    PlainStretch from(int row, int col, int /*count*/) const { return {at(row, col), 1}; }
+    PlainStridedVector from(int row, int col, int /*count*/) const { return {at(row, col), 1}; }
 
 private:
     double* first_;

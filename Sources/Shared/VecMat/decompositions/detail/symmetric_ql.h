@@ -39,7 +39,7 @@ bool makeReflection(Row row, int count, double& offDiagonal, double& h)
         h += row.get(k) * row.get(k);
     }
     const double f = row.get(last);
-    const double root = f > 0.0 ? -sqr(h) : sqr(h);
+    const double root = f > 0.0 ? -squareRoot(h) : squareRoot(h);
     offDiagonal = scale * root;
     h -= f * root;
     row.set(last, f - root);
@@ -133,7 +133,7 @@ template <class Diagonal, class Vector, class Rotate>
 void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
 {
     double g = (d.get(l + 1) - d.get(l)) / (e.get(l) + e.get(l));
-    double r = sqr(g * g + 1.0);
+    double r = squareRoot(g * g + 1.0);
     g = (d.get(m) - d.get(l)) + e.get(l) / (g + FSign(r, g));
     double s = 1.0;
     double c = 1.0;
@@ -144,13 +144,13 @@ void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
         // The branch on the larger term stands in place of a hypotenuse; a vanishing radius is not looked for.
         if (std::fabs(g) <= std::fabs(f)) {
             c = g / f;
-            r = sqr(c * c + 1.0);
+            r = squareRoot(c * c + 1.0);
             e.set(i + 1, f * r);
             s = 1.0 / r;
             c = c * s;
         } else {
             s = f / g;
-            r = sqr(s * s + 1.0);
+            r = squareRoot(s * s + 1.0);
             e.set(i + 1, g * r);
             c = 1.0 / r;
             s = s * c;

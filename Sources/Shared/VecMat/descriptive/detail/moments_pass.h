@@ -3,6 +3,7 @@
 #pragma once
 
 #include "../../access/operands.h"
+#include "../../base/detail/companions.h"
 #include "covariance_pass.h"
 
 namespace vecmat {
@@ -63,7 +64,7 @@ void correlate(int p, Out C, const ColumnMoments& moments, double fallback)
 inline void takeRoots(int p, const ColumnMoments& moments)
 {
     for (int j = 0; j < p; ++j)
-        moments.deviations.set(j, sqr(moments.variances.get(j)));
+        moments.deviations.set(j, squareRoot(moments.variances.get(j)));
 }
 
 } // namespace vecmat

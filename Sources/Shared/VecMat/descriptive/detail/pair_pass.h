@@ -277,7 +277,7 @@ void correlate(int p, double fallback, Variance variance, Covariance covariance,
             if (hasNoCorrelation<rule>(product))
                 store(j, k, fallback);
             else
-                store(j, k, j == k ? 1.0 : covariance(j, k) / sqr(product));
+                store(j, k, j == k ? 1.0 : covariance(j, k) / squareRoot(product));
         }
 }
 

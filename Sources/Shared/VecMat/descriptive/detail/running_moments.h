@@ -1,8 +1,8 @@
 // Running moments: the one-pass updates of means and variances, and the divisors. Internal to the library.
 //
 // Each row adds to the sum of weights W, then with d = x - mean to the sum of squared deviations, then to the mean.
-// The families write the two terms differently, so that they round differently; each keeps its own form. A family is
-// named by three choices: its update rule, what a weight of zero does, and which test tells a missing cell.
+// Functions write the two terms differently, so that they round differently; each keeps its own form. Three choices
+// tell them apart: the update rule, what a weight of zero does, and which test finds a missing cell.
 #pragma once
 
 #include "../../base/detail/companions.h"
@@ -141,7 +141,7 @@ double testedVariance(const Moments& m, short sample, short freqWeights)
 
 inline double deviationOf(double variance)
 {
-    return isMissing(variance) ? missingValue : sqr(variance);
+    return isMissing(variance) ? missingValue : squareRoot(variance);
 }
 
 /// Computes `results` moments, each over `terms` terms in their order: `add(moments, result, term)`, then once

@@ -12,7 +12,7 @@ namespace vecmat {
 
 namespace detail {
 
-/// Can the kernel for weighted moments stand in for this family?
+/// Can the kernel for weighted moments stand in for these moments?
 template <class Moments>
 inline constexpr bool hasKernel =
     std::is_same_v<typename Moments::Rule, update::Weighted>&& Moments::zeroWeight != ZeroWeight::updated;

@@ -78,7 +78,7 @@ void estimateSlopes(const ModelMoments& moments, int n, const FitResults& result
         if (!(std::fabs(sd[k]) > zeroTolerance))
             continue;
         results.beta->X[k] = moments.at(m, k) * sd[m] / sd[k];
-        results.se->X[k] = df != 0.0 ? sqr(std::fabs(moments.at(k, k) * residual) / df) * sd[m] / sd[k] : 0.0;
+        results.se->X[k] = df != 0.0 ? squareRoot(std::fabs(moments.at(k, k) * residual) / df) * sd[m] / sd[k] : 0.0;
     }
 }
 
@@ -117,7 +117,7 @@ void estimateIntercept(const ModelMoments& moments, int n, double W, const FitRe
     for (int k = 0; k < m; ++k)
         b0 -= results.beta->X[k] * moments.mean->X[k];
     results.beta->X[m] = b0;
-    results.se->X[m] = sqr(interceptVariance(moments, n, W, results.se));
+    results.se->X[m] = squareRoot(interceptVariance(moments, n, W, results.se));
 }
 
 /// Some rows at a time, column by column: the terms of each row are still added in the order of the columns.

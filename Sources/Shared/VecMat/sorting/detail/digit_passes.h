@@ -73,14 +73,14 @@ struct Spread
 };
 
 /// What the ranks of numbers do not tell.
-struct Census
+struct SpecialValues
 {
     std::size_t missing = 0;
     bool anyNan = false;
     bool anyBelowMissing = false;
     bool anyMinusZero = false;
 
-    Census(const double* numbers, std::size_t n)
+    SpecialValues(const double* numbers, std::size_t n)
     {
         constexpr auto minusZero = std::bit_cast<std::uint64_t>(-0.0);
         for (std::size_t k = 0; k < n; ++k) {

@@ -170,13 +170,13 @@ bool withSpare(std::size_t n, Sort sort)
 
 RowOrder stableOrder(const double* keys, std::size_t n, Direction direction, void* spare)
 {
-    const Census census(keys, n);
-    RowOrder order = census.anyNan ? RowOrder() : orderOver(n, spare);
+    const SpecialValues special(keys, n);
+    RowOrder order = special.anyNan ? RowOrder() : orderOver(n, spare);
     if (!order)
         return order;
     const WordSort wordSort(keys, direction);
     Word* const spareWords = static_cast<Word*>(spare);
-    if (const std::size_t missing = census.missingApart(); missing > 0)
+    if (const std::size_t missing = special.missingApart(); missing > 0)
         wordSort.sort(numberMissingApart(keys, n, missing, direction, order.words()), spareWords, n - missing);
     else
         wordSort.sortAll(order.words(), spareWords, n);
@@ -193,11 +193,11 @@ RowOrder stableOrder(const int* keys, std::size_t n, Direction direction, void* 
 
 bool sortNumbers(double* x, std::size_t n, Direction direction)
 {
-    const Census census(x, n);
-    if (census.anyNan || census.anyMinusZero)
+    const SpecialValues special(x, n);
+    if (special.anyNan || special.anyMinusZero)
         return false;
     return withSpare<double>(n, [&](double* spare) {
-        const std::size_t missing = census.missingApart();
+        const std::size_t missing = special.missingApart();
         double* const others = missing > 0 ? moveMissingApart(x, n, missing, direction) : x;
         sortByRank(others, spare, n - missing, RankOf(direction));
     });

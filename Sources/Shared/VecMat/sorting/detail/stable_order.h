@@ -94,7 +94,7 @@ void placeInStableOrder(RowRange range, Direction direction, Load load, Place pl
 RowOrder ascendingRows(matrix* x, int n);
 
 /// The rows of one table that follow a sort. Keeps a working copy of the range, row after row, so that a row that is
-/// fetched from anywhere costs one stretch of memory however many columns there are.
+/// fetched from anywhere costs one contiguous read however many columns there are.
 ///
 /// Reads and writes are those of the accessor: beyond a table a cell is -1.0 (-1, empty), and is not written. With no
 /// columns the table is never looked at and may be absent.
