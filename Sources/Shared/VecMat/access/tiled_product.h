@@ -4,11 +4,11 @@
 
 #include "../base/detail/scratch.h"
 #include "../kernels/tile_kernels.h"
+#include "overlap.h"
 #include "product.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <functional>
 #include <memory>
 #include <new>
 
@@ -16,20 +16,6 @@ namespace vecmat {
 
 /// Which results there are: all, or those on and below the diagonal, each stored at its mirror place too.
 enum class ResultPart { whole, lowerMirrored };
-
-/// Can a write to `out` be seen in an operand?
-template <class Out, class Operand>
-bool overlap(const Out& out, int outRows, int outCols, const Operand& operand, int rows, int cols)
-{
-    const std::less<const void*> before;
-    bool found = false;
-    out.visitStorage(outRows, outCols, [&](const void* first, const void* last) {
-        operand.visitStorage(rows, cols, [&](const void* from, const void* to) {
-            found = found || (before(first, to) && before(from, last));
-        });
-    });
-    return found;
-}
 
 namespace detail {
 
@@ -194,8 +180,8 @@ bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, c
     const auto [rows, inner, cols] = shape;
     if (std::min({rows, inner, cols}) < fewestLines || double{1} * rows * inner * cols < fewestProducts)
         return false;
-    if (out.folds(rows, cols) || overlap(out, rows, cols, left, rows, inner) ||
-        overlap(out, rows, cols, right, inner, cols))
+    if (out.folds(rows, cols) || overlap(storageOf(out, rows, cols), storageOf(left, rows, inner)) ||
+        overlap(storageOf(out, rows, cols), storageOf(right, inner, cols)))
         return false;
     TiledProduct<missing, part, Left, Right, Out> product(left, right, shape, out);
     if (!product.hasMemory())

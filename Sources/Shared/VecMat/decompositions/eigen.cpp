@@ -1,7 +1,7 @@
 #include "eigen.h"
 
 #include "../access/cells.h"
-#include "../access/storage_overlap.h"
+#include "../access/overlap.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/local_array.h"
 #include "../elementary/matrix_products.h"
@@ -81,11 +81,7 @@ constexpr int smallestInWorkspace = 20;
 template <class Cells>
 bool eigenOfPlainCells(Cells a, PlainVector<matrix> d, PlainVector<matrix> e, int n)
 {
-    if (n >= smallestInWorkspace && !a.folds(n, n) && standApart([=](auto visit) {
-            a.visitStorage(n, n, visit);
-            d.visitStorage(n, visit);
-        }))
-    {
+    if (n >= smallestInWorkspace && !a.folds(n, n) && areApart(storageOf(a, n, n), storageOf(d, n))) {
         SymmetricWorkspace<Cells> workspace(a, n);
         if (workspace.hasMemory())
             return workspace.run(d, e);

@@ -1,7 +1,7 @@
 #include "singular_values.h"
 
 #include "../access/cells.h"
-#include "../access/storage_overlap.h"
+#include "../access/overlap.h"
 #include "../frame/detail/handles.h"
 #include "detail/svd_iteration.h"
 #include "detail/svd_workspace.h"
@@ -31,12 +31,10 @@ bool decomposeApart(From x, int n, int p, matrix* s, PlainVector<matrix> values,
 {
     const int rowsU = wanted.left ? n : 0;
     const int rowsV = wanted.right ? p : 0;
-    if (x.folds(n, p) || u.folds(rowsU, wanted.leftColumns) || v.folds(rowsV, p) || !standApart([=](auto visit) {
-            x.visitStorage(n, p, visit);
-            values.visitStorage(std::min(n + 1, p), visit);
-            u.visitStorage(rowsU, wanted.leftColumns, visit);
-            v.visitStorage(rowsV, p, visit);
-        }))
+    if (x.folds(n, p) || u.folds(rowsU, wanted.leftColumns) || v.folds(rowsV, p))
+        return false;
+    if (!areApart(storageOf(x, n, p), storageOf(values, std::min(n + 1, p)), storageOf(u, rowsU, wanted.leftColumns),
+                  storageOf(v, rowsV, p)))
         return false;
     return decomposeInWorkspace(x, n, p, s, u, v, wanted, info);
 }

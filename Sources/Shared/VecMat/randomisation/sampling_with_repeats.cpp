@@ -12,14 +12,14 @@ using namespace vecmat;
 
 namespace {
 
-void addStorage(Smatrix* table, int /*cols*/, Stretches& stretches)
+void addMemory(Smatrix* table, int /*cols*/, MemoryRanges& ranges)
 {
-    stretches.add(table->X, table->nElems);
+    ranges.add(memoryOf(table->X, table->nElems));
 }
-void addStorage(Smatrix** columns, int cols, Stretches& stretches)
+void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
 {
     for (int j = 0; j < cols; ++j)
-        stretches.add(columns[j]->X, columns[j]->nElems);
+        ranges.add(memoryOf(columns[j]->X, columns[j]->nElems));
 }
 
 /// Does each row of the sample have cells of its own, of which the population has none? Then all that is read is what
@@ -29,10 +29,10 @@ bool rowsStandApart(Rows S, Rows Z, int n, int p)
 {
     if (p < 1 || n < 1 || !cells(Z).covers(n, p) || cells(Z).plain().folds(n, p))
         return false;
-    Stretches stretches;
-    addStorage(S, p, stretches);
-    addStorage(Z, p, stretches);
-    return stretches.areApart();
+    MemoryRanges ranges;
+    addMemory(S, p, ranges);
+    addMemory(Z, p, ranges);
+    return ranges.areApart();
 }
 
 /// `Rows` is a table, or an array of columns.

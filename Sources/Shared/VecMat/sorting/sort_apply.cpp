@@ -72,10 +72,10 @@ bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Ou
     if (nRows < fewestRows || nCols < 1 || !cells(source).covers(source->nRows, nCols) ||
         !cells(out).covers(nRows, nCols) || cells(out).plain().folds(nRows, nCols))
         return false;
-    Stretches memory;
-    memory.add(source->X, source->nElems);
-    memory.add(order->X, order->nElems);
-    memory.add(out->X, out->nElems);
+    MemoryRanges memory;
+    memory.add(memoryOf(source->X, source->nElems));
+    memory.add(memoryOf(order->X, order->nElems));
+    memory.add(memoryOf(out->X, out->nElems));
     const RowOrder rows = memory.areApart() ? rowsInside(order, nRows, source->nRows) : RowOrder();
     if (!rows)
         return false;

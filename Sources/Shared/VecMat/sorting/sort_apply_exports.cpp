@@ -1,8 +1,7 @@
 #include "sort_apply.h"
 
-#include "../base/detail/memory_ranges.h"
-#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/in_place.h"
 
 using namespace vecmat;
 
@@ -12,15 +11,12 @@ namespace {
 template <class Number>
 void applyToArrays(Number* source, int nRows, int nCols, double* order, Number* out)
 {
-    Stretches arrays;
-    arrays.add(source, elementCount(nRows, nCols));
-    arrays.add(order, elementCount(nRows, 1));
-    arrays.add(out, elementCount(nRows, nCols));
-    View result(out, nRows, nCols);
-    if (arrays.areApart())
-        SortApply(View(source, nRows, nCols), nRows, nCols, View(order, nRows, 1), result.reference());
-    else
-        SortApply(copied(source, nRows, nCols), nRows, nCols, copied(order, nRows, 1), result.reference());
+    const CallerArray cells{source, nRows, nCols};
+    const CallerArray numbers{order, nRows, 1};
+    onViewsOrCopies<Copies::dropped>(
+        areApart(cells, numbers, CallerArray{out, nRows, nCols}),
+        [=](auto* from, matrix* rows) { SortApply(from, nRows, nCols, rows, View(out, nRows, nCols).reference()); },
+        cells, numbers);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "sort.h"
 
-#include "../base/detail/memory_ranges.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/in_place.h"
 #include "detail/sort_by_key.h"
 
 #include <cstddef>
@@ -74,26 +74,22 @@ struct RowSort
     template <class Element, class Key, class Companion>
     int runFlat(Element* data, Key* key, Companion* companion) const
     {
-        if constexpr (isNumber<Element>)
-            if (areApart(data, key, companion))
-                return SortQ(View(data, nRows, nCols).reference(), nRows, nCols, first, last,
-                             View(key, nRows, 1).reference(), View(companion, nRows, nCompanionCols).reference(),
-                             nCompanionCols, descending, writeKeys);
-        auto table = copied(data, nRows, nCols);
-        run(table.reference(), key, companion);
-        handBack(table, data);
-        return 0;
-    }
-
-private:
-    template <class Element, class Key, class Companion>
-    bool areApart(const Element* data, const Key* key, const Companion* companion) const
-    {
-        Stretches arrays;
-        arrays.add(data, elementCount(nRows, nCols));
-        arrays.add(key, elementCount(nRows, 1));
-        arrays.add(companion, elementCount(nRows, nCompanionCols));
-        return arrays.areApart();
+        if constexpr (isNumber<Element>) {
+            const CallerArray keys{key, nRows, 1};
+            const CallerArray companions{companion, nRows, nCompanionCols};
+            const CallerArray table{data, nRows, nCols};
+            return onViewsOrCopies<Copies::handedBack>(
+                areApart(keys, companions, table),
+                [this](auto*& k, auto*& c, auto*& x) {
+                    return SortQ(x, nRows, nCols, first, last, k, c, nCompanionCols, descending, writeKeys);
+                },
+                keys, companions, table);
+        } else {
+            auto table = copied(data, nRows, nCols);
+            run(table.reference(), key, companion);
+            handBack(table, data);
+            return 0;
+        }
     }
 };
 

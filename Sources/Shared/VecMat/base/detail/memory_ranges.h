@@ -5,63 +5,87 @@
 #include <array>
 #include <cstddef>
 #include <functional>
-#include <utility>
+#include <new>
 #include <vector>
 
 namespace vecmat {
 
-/// Stretches of memory, collected to see whether a write to one can be seen in another.
-class Stretches
+/// The bytes from `first` up to `last`, which is not one of them.
+struct MemoryRange
+{
+    const void* first;
+    const void* last;
+
+    bool isEmpty() const { return first == last; }
+    bool overlaps(const MemoryRange& other) const
+    {
+        const std::less<const void*> before;
+        return before(first, other.last) && before(other.first, last);
+    }
+};
+
+template <class Element>
+MemoryRange memoryOf(const Element* array, std::size_t count)
+{
+    return {array, array != nullptr ? array + count : nullptr};
+}
+
+/// Ranges collected to see whether a write to one can be seen in another.
+class MemoryRanges
 {
 public:
-    template <class Number>
-    void add(const Number* first, std::size_t count)
+    void add(const MemoryRange& range)
     {
-        if (first != nullptr)
-            addRange(first, first + count);
-    }
-    void addRange(const void* first, const void* last)
-    {
-        if (first == last)
+        if (range.isEmpty() || !isComplete_)
             return;
-        if (fewCount_ < few_.size())
-            few_[fewCount_++] = {first, last};
-        else
-            others_.emplace_back(first, last);
+        if (fewCount_ < few_.size()) {
+            few_[fewCount_++] = range;
+            return;
+        }
+        try {
+            others_.push_back(range);
+        } catch (const std::bad_alloc&) {
+            isComplete_ = false;
+        }
     }
 
-    /// Does each byte belong to one of them only?
+    /// Does each byte belong to one of them only? No where memory is short: the caller then takes the way that asks for
+    /// nothing, and the result is the same.
     bool areApart()
     {
+        if (!isComplete_)
+            return false;
         if (others_.empty())
             return fewAreApart();
-        others_.insert(others_.end(), few_.begin(), few_.end());
-        std::sort(others_.begin(), others_.end(),
-                  [](const Range& left, const Range& right) { return before(left.first, right.first); });
-        return std::adjacent_find(others_.begin(), others_.end(), share) == others_.end();
+        try {
+            others_.insert(others_.end(), few_.begin(), few_.begin() + fewCount_);
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+        fewCount_ = 0;
+        std::sort(others_.begin(), others_.end(), [](const MemoryRange& left, const MemoryRange& right) {
+            return std::less<const void*>()(left.first, right.first);
+        });
+        return std::adjacent_find(others_.begin(), others_.end(),
+                                  [](const MemoryRange& left, const MemoryRange& right) {
+                                      return left.overlaps(right);
+                                  }) == others_.end();
     }
 
 private:
-    using Range = std::pair<const void*, const void*>;
-
-    static bool before(const void* left, const void* right) { return std::less<const void*>()(left, right); }
-    static bool share(const Range& left, const Range& right)
-    {
-        return before(left.first, right.second) && before(right.first, left.second);
-    }
-
     bool fewAreApart() const
     {
         for (std::size_t j = 1; j < fewCount_; ++j)
             for (std::size_t k = 0; k < j; ++k)
-                if (share(few_[j], few_[k]))
+                if (few_[j].overlaps(few_[k]))
                     return false;
         return true;
     }
 
-    std::array<Range, 6> few_; // these need no call for memory
+    std::array<MemoryRange, 6> few_; // these need no call for memory
     std::size_t fewCount_ = 0;
-    std::vector<Range> others_;
+    std::vector<MemoryRange> others_;
+    bool isComplete_ = true;
 };
 
 } // namespace vecmat

@@ -2,6 +2,7 @@
 // order as in the row form, which stays the way for small tables and wherever the order of the cells can be seen.
 #pragma once
 
+#include "../../access/overlap.h"
 #include "../../access/tiled_product.h"
 #include "../../base/detail/companions.h"
 #include "../../base/detail/scratch.h"
@@ -117,7 +118,7 @@ inline constexpr int leastStripOrder = 40;
 template <PivotTest test, class Cells, class Factor>
 std::optional<int> factorByStrips(Cells a, Factor l, int n)
 {
-    if (n < leastStripOrder || l.folds(n, n) || overlap(l, n, n, a, n, n))
+    if (n < leastStripOrder || l.folds(n, n) || overlap(storageOf(l, n, n), storageOf(a, n, n)))
         return std::nullopt;
     StripCholesky<test, Cells, Factor> strips(a, l, n);
     if (!strips.hasMemory())

@@ -1,6 +1,7 @@
 // The inverse of a triangular table by substitution. Its diagonal is done already.
 #pragma once
 
+#include "../../access/overlap.h"
 #include "../../access/tiled_product.h"
 #include "../../base/detail/scratch.h"
 #include "../../kernels/substitution_kernels.h"
@@ -118,7 +119,7 @@ template <class Cells, class Out>
 bool invertSideBySide(Cells a, Out out, int n, Triangle triangle)
 {
     if constexpr (requires { a.column(0); }) {
-        if (n < leastTriangleSideBySide || out.folds(n, n) || overlap(out, n, n, a, n, n))
+        if (n < leastTriangleSideBySide || out.folds(n, n) || overlap(storageOf(out, n, n), storageOf(a, n, n)))
             return false;
         TriangularInverse<Cells, Out> inverse(a, out, n, triangle);
         if (!inverse.hasMemory() || !inverse.isFinite())

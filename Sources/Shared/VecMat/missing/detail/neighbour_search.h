@@ -2,6 +2,7 @@
 // stands with the exported functions.
 #pragma once
 
+#include "../../access/overlap.h"
 #include "../../base/detail/masks.h"
 #include "../../base/detail/memory_ranges.h"
 #include "../../base/missing_value.h"
@@ -264,18 +265,17 @@ private:
     /// filled.
     bool rowsStandApart() const
     {
-        Stretches columns;
-        return addColumns(primary_, columns) && addColumns(second_, columns) && columns.areApart();
+        MemoryRanges memory;
+        return addColumns(primary_, memory) && addColumns(second_, memory) && memory.areApart();
     }
 
     template <class Block>
-    bool addColumns(const Block& block, Stretches& columns) const
+    bool addColumns(const Block& block, MemoryRanges& memory) const
     {
         if constexpr (!Block::hasNumbers)
             return true;
         else if constexpr (requires { block.cells.folds(0, 0); }) {
-            block.cells.visitStorage(rows_, block.cols,
-                                     [&](const void* first, const void* last) { columns.addRange(first, last); });
+            addTo(memory, storageOf(block.cells, rows_, block.cols));
             return !block.cells.folds(rows_, block.cols);
         } else
             return false;

@@ -5,6 +5,7 @@
 // the writes can be seen: where rows lie beyond a table, or two columns share memory.
 #pragma once
 
+#include "../../access/overlap.h"
 #include "../../base/detail/memory_ranges.h"
 #include "../../base/detail/scratch.h"
 #include "key_order.h"
@@ -71,12 +72,10 @@ bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys 
 {
     const int last = range.last;
     if constexpr (sizeof...(Plain) > 0) {
-        Stretches written;
+        MemoryRanges written;
         if (keys == SortedKeys::written)
-            written.add(key, countOf(last));
-        (tables.cells.visitStorage(last, tables.nCols,
-                                   [&](const void* from, const void* to) { written.addRange(from, to); }),
-         ...);
+            written.add(memoryOf(key, countOf(last)));
+        (addTo(written, storageOf(tables.cells, last, tables.nCols)), ...);
         if ((tables.cells.folds(last, tables.nCols) || ...) || !written.areApart())
             return false;
     }
