@@ -43,11 +43,12 @@ VECMAT_API double V_SumW2(double* x, int n, double* w);
 // ---- flat forms -----
 // @empty -1.0
 
+VECMAT_API int VB_Count(int* x);
+VECMAT_API int VB_Version(int n);
 VECMAT_API double VB_V_SumDbl(double* x, int n);
 VECMAT_API double VB_V_SumW2(double* x, int n, double* w);
 /// @missing ends the sum
 VECMAT_API double VB_V_SumMask(double* x, int n, short* mask);
-VECMAT_API int VB_Version(int n);
 
 } // extern "C"
 
@@ -94,8 +95,19 @@ class Rules(unittest.TestCase):
         self.assertEqual(self.tags("VB_V_SumMask(double*, int, short*)"),
                          {"missing": "ends the sum", "mask": "a nonzero entry excludes its row", "empty": "0.0"})
 
+    def test_a_flat_form_of_overloads_that_differ_takes_nothing(self):
+        text = HEADER + "/// @missing wins\nVECMAT_API int V_Max(short* x);\nVECMAT_API int VB_V_Max(double* x);\n"
+        text = text.replace("/// @missing wins", "/// @missing wins\n/// @empty 1")
+        tags = contracts.read_unit(text.replace("VECMAT_API int VB_V_Max", "// ---- more\nVECMAT_API int VB_V_Max"),
+                                   "missing/sums")[-1].tags
+        self.assertNotIn("missing", tags)
+        self.assertNotIn("empty", tags)
+
     def test_the_section_is_nearer_than_the_file(self):
-        self.assertEqual(self.tags("VB_Version(int)")["empty"], "-1.0")
+        self.assertEqual(self.tags("VB_Count(int*)")["empty"], "-1.0")
+
+    def test_tags_of_a_file_hold_only_where_they_could_matter(self):
+        self.assertEqual(self.tags("VB_Version(int)"), {})
 
     def test_a_function_is_nearer_than_its_section(self):
         self.assertEqual(self.tags("V_Max(double*)")["empty"], "the lowest")

@@ -41,8 +41,9 @@ FAMILIES = {
 # A function with a parameter of such a name needs the tag.
 ASKED_BY_NAME = {"mask": {"mask", "filter", "constraints"}, "weights": {"w", "weights"},
                  "divisor": {"sample", "freqWeights", "sampleVariance", "countDivisor"}}
-# A tag of a file or section holds only for functions with such a parameter; in a `///` comment it holds for all.
-NEEDS_PARAMETER = ("mask", "weights")
+# Tags that in a file or section hold only for functions with a parameter that they can be about: for the first two any
+# array, also one of ints. In a `///` comment they hold for all functions.
+NEEDS_PARAMETER = ("missing", "empty", "mask", "weights")
 # Arrays and tables whose cells can be missing, and all of them.
 CELLS = re.compile(r"\b(matrix|Smatrix|SAFEARRAY)\b|\bdouble\b.*[*&]|\bwchar_t\*\*")
 ARRAY = re.compile(r"\b(matrix|matrixInt|Smatrix|SAFEARRAY)\b|\b(double|int|short|bool)\*|\bwchar_t\*\*")
@@ -87,28 +88,26 @@ def asks_for(tag, declaration):
     return bool(ASKED_BY_NAME.get(tag, set()) & set(declaration.names))
 
 
-def _own(declaration, comments, tag, levels):
-    """The tag in the nearest of some levels of comments that has it."""
-    for block in levels:
-        if tag in block.tags and (block is comments.function or tag not in NEEDS_PARAMETER
-                                  or asks_for(tag, declaration)):
-            return block.tags[tag]
-    return None
+def _nearest(tag, declaration, comments):
+    """The tag in the nearest comment in which it holds for a declaration."""
+    can_be_about = tag not in NEEDS_PARAMETER or asks_for("empty" if tag == "missing" else tag, declaration)
+    return next((block.tags[tag] for block in comments.nearest_first()
+                 if tag in block.tags and (can_be_about or block is comments.function)), None)
 
 
 def read_unit(text, unit):
     """The contracts of the functions that the text of a header exports.
 
-    A flat form takes the tags of its function, but for those in the `///` comment ahead of it.
+    A flat form takes the tags of its function, but for those in the `///` comment ahead of it. Where the overloads of
+    its function differ in a tag it has none but its own.
     """
     held = comments_by_line(text)
     declarations = read_header(text, unit + ".h")
     names = {declaration.name for declaration in declarations}
-    found = {}
 
     def tags_of(declaration):
         comments = held[declaration.line - 1]
-        return {tag: _own(declaration, comments, tag, comments.nearest_first()) for tag in TITLES}
+        return {tag: _nearest(tag, declaration, comments) for tag in TITLES}
 
     by_name = {}
     for declaration in declarations:
@@ -120,8 +119,8 @@ def read_unit(text, unit):
         if base:
             for tag in TITLES:
                 texts = {overload[tag] and overload[tag].text for overload in by_name[base]}
-                if tag not in comments.function.tags and len(texts) == 1:
-                    found[tag] = by_name[base][0][tag]
+                if tag not in comments.function.tags:
+                    found[tag] = by_name[base][0][tag] if len(texts) == 1 else None
         kept = {tag: value for tag, value in found.items() if value}
         contracts.append(Contract(unit, declaration, {tag: value.text for tag, value in kept.items()
                                                       if value.text != NONE},

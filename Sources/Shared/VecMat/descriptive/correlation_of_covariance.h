@@ -1,13 +1,12 @@
 // The correlation table of a covariance table.
 //
-// Off the diagonal, the covariance divided by the root of the product of the two variances where that product is above
-// 0; on the diagonal, 1.0 where the variance is above 1e-12. Where they are not (a NaN is not) the cell can't be
-// computed and holds the fallback. The thresholds differ: a variance of 1e-13 gives a fallback on the diagonal beside
-// real correlations. Missing covariances are divided like any other number. Everything returns 0.
+// Off the diagonal, the covariance divided by the root of the product of the two variances; on the diagonal, 1.0. The
+// thresholds differ: a variance of 1e-13 gives a fallback on the diagonal beside real correlations. Everything returns
+// 0.
 //
 // @missing an ordinary number
 // @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
-//     is above 1e-12; elsewhere missing, or 0.0 for `zeroForMissing` exactly -1
+//     is above 1e-12; elsewhere, a NaN included, the fallback: missing, or 0.0 for `zeroForMissing` exactly -1
 // @empty nothing is written
 #pragma once
 
@@ -18,10 +17,10 @@
 extern "C" {
 
 /// From S into R, both of order p; R must exist, is not prepared, and may be S. Only the upper triangle and the
-/// diagonal of S are read; R is symmetric. The fallback is 0.0 for `zeroForMissing` exactly -1, else the missing value.
+/// diagonal of S are read; R is symmetric.
 VECMAT_API int M_CorrMatFromCovMat(matrix* S, int p, matrix* R, short zeroForMissing);
 
-/// In place in a triangle of p columns, column j holding pair (j, k) in cell k - j; the fallback is the missing value.
+/// In place in a triangle of p columns, column j holding pair (j, k) in cell k - j.
 /// @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
 ///     is above 1e-12; elsewhere missing
 VECMAT_API int M_CorrMatFromCovMatSPV2_T(matrix** C, int p);

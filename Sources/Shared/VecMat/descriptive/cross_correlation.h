@@ -1,15 +1,14 @@
 // Covariances and correlations between two sets of columns, and the correlation of two vectors.
 //
-// n observations. A row enters a pair where its mask entry is 0 (any other value drops it; a null mask keeps every row)
-// and neither cell is missing, by the equality test. The weights w (n cells) must be given; a row of weight 0 counts
-// among the rows and moves nothing. The variances of a pair come from the very rows of the pair, unlike those of
-// `covariance.h`. Divisors (`sample`, `freqWeights`) are the ones told there.
+// n observations. A row enters a pair where the mask keeps it and neither cell is missing. The weights w have n cells.
+// The variances of a pair come from the rows of that pair, unlike those of `covariance.h`. Divisors (`sample`,
+// `freqWeights`) are those of `covariance.h`.
 //
 // @missing excludes its row of the pair (equality)
 // @mask a nonzero entry excludes the row; may be null
-// @weights required; a row of weight 0 counts and changes nothing
-// @divisor as in `covariance.h`, not tested; correlations: the variances of the last pair of each column; missing, or
-//     0.0 for `zeroForMissing` not 0, where the product is not above 1e-12
+// @weights required; a row of weight 0 counts in m, else changes nothing
+// @divisor as in `covariance.h`, not tested. Correlations: the root of the product of two variances; where |product| -
+//     1e-12 is not above 0 (a NaN is not) missing, or 0.0 for a nonzero `zeroForMissing`
 // @empty a pair without rows gives 0/0, or 0/-1 for frequencies
 #pragma once
 
@@ -20,25 +19,22 @@
 extern "C" {
 
 /// Covariances, or for any `corr` but 0 correlations, of the p columns of X with the q columns of Y. C is p by q,
-/// prepared with `matCheck`; X is one table, or an array of columns. The divisor is not tested: a pair without rows
-/// gives 0/0, or 0/-1 for frequencies.
+/// prepared with `matCheck`; X is one table, or an array of columns.
 ///
 /// A correlation divides by the root of a variance of the column of X times one of the column of Y. With missing cells
-/// a column has another variance in each pair; the one that counts is that of its last pair, so of each column of X
-/// with the last column of Y, and of each column of Y with the last column of X. Where |product| - 1e-12 is not above 0
-/// (a NaN is not) the cell holds the missing value, or 0.0 where `zeroForMissing` is not 0. Otherwise, where `square`
-/// is not 0, the correlation is squared. Returns 0.
+/// a column has another variance in each pair; the one used is that of its last pair: of each column of X with the last
+/// column of Y, and of each column of Y with the last column of X. With a nonzero `square` a correlation that is
+/// computed is squared. Returns 0.
 VECMAT_API int M_CorrMatMat(matrix* X, int n, int p, matrix* Y, int q, matrix*& C, short* mask, matrix* w, short corr,
                             short square, short sample, short freqWeights, short zeroForMissing);
 VECMAT_API int M_CorrMatMatSPV(matrix** X, int n, int p, matrix* Y, int q, matrix*& C, short* mask, matrix* w,
                                short corr, short square, short sample, short freqWeights, short zeroForMissing);
 
-/// Pearson's correlation of two vectors. `sample` and `freqWeights` have no effect: the divisor cancels. Without rows,
-/// 0.0; where neither vector varies, also in a single row or in rows of weight 0 alone, 1.0; where one of them does
-/// not, the missing value, or 0.0 for `zeroForMissing` exactly -1; where the cross products sum to 0, 0.0.
+/// Pearson's correlation of two vectors. Where neither varies, which includes a single row and rows of weight 0 alone,
+/// it is 1.0; where the cross products sum to 0, 0.0.
 /// @missing excludes its row (equality)
-/// @divisor cancels: `sample` and `freqWeights` have no effect. Neither varies: 1.0; one does not: missing, or 0.0 for
-///     `zeroForMissing` exactly -1
+/// @divisor cancels: `sample` and `freqWeights` have no effect. Where just one of the vectors varies: missing, or 0.0
+///     for `zeroForMissing` exactly -1
 /// @empty 0.0
 VECMAT_API double CorrelPearson(matrix* x, matrix* y, int n, short* mask, matrix* w, short sample, short freqWeights,
                                 short zeroForMissing);

@@ -1,23 +1,22 @@
 // Means, variances and standard deviations of a vector, and of the columns or rows of a table.
 //
-// Only the first n rows (and p columns) are read. A mask holds n entries: 0 keeps the row, anything else drops it; a
-// null mask keeps every row. The weights w are used as they are, without normalisation; they must be given, except
-// where a function says what a null table means. A missing cell is left out; the test is for exactly the missing value,
-// so that a NaN enters.
+// Only the first n rows (and p columns) are read. A mask has n entries. The weights w are not normalised. A NaN enters.
 //
-// Variances come from one pass of running updates: W += w, d = x - mean, Q += d d (w - w w / W), mean += d w / W
-// (Welford 1962; West 1979). With W the sum of weights and m the count of rows, the divisor of Q is
+// Variances come from one pass of running updates: W += w, d = x - mean, Q += d d (w - w w / W), mean += d w / W. With
+// W the sum of weights and m the count of rows, the divisor of Q is
 //     W            for `sample` other than -1
 //     W - 1        for `sample` -1 and `freqWeights` -1: the weights are frequencies
 //     W - W/m      for `sample` -1 and any other `freqWeights`
-// The functions differ in whether a row of weight 0 counts in m, in what they do without rows, and in whether they test
-// the divisor. Nothing reports an error but the missing value in a result.
+// The functions differ in whether a row of weight 0 counts in m, in what they return without rows, and in whether they
+// test the divisor. Errors show only as the missing value in a result.
 //
 // @missing left out (equality)
 // @mask a nonzero entry excludes its row; may be null
 // @weights required; a row of weight 0 changes no sum but counts in m
-// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not above 0: missing
+// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not above 0 (a NaN is not): missing
 // @empty 0/0, a NaN
+// @source Welford (1962), Note on a method for calculating corrected sums of squares and products; West (1979),
+//     Updating mean and variance estimates: an improved method
 #pragma once
 
 #include "../base/api.h"
@@ -27,7 +26,7 @@ extern "C" {
 
 // ---- vectors --------------------------------------------------------------------------------------------------------
 
-/// Variance. A row of weight 0 counts in m and moves nothing. The division is not tested: no rows give 0/0, a NaN.
+/// Variance.
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested
 VECMAT_API double V_Var(matrix* v, int n, short* mask, matrix* w, short sample, short freqWeights);
 VECMAT_API double VB_V_Var(double* v, int n, short* mask, double* w, short sample, short freqWeights);
@@ -43,8 +42,7 @@ VECMAT_API double Cpp_V_Var2(double* v, int n, short sample, short freqWeights);
 VECMAT_API double V_Stdev(matrix* v, int n, short* mask, matrix* w, short sample, short freqWeights);
 VECMAT_API double VB_V_Stdev(double* v, int n, short* mask, double* w, short sample, short freqWeights);
 
-/// Mean and variance as `V_Var` has them, with these guards: without rows both are 0.0, and where Q is 0 the variance
-/// is 0.0 whatever the divisor, so that a single row has variance 0.0.
+/// Mean and variance as in `V_Var`, with two guards. A single row has variance 0.0.
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; where Q is 0 the variance is 0.0 whatever the
 ///     divisor
 /// @empty both 0.0
@@ -64,17 +62,14 @@ VECMAT_API void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, sh
 
 // ---- columns and rows of a table ------------------------------------------------------------------------------------
 //
-// Results are prepared with `matCheck`, p by 1 unless told otherwise. A null `stdev` stays null and is not computed.
-// Where the divisor is not above 0 (a NaN is not) the variance is the missing value, and a missing variance gives a
-// missing standard deviation; the mean is written all the same. The `SPV` forms read an array of column tables. All
-// return 0. In the flat forms each result has p cells and `stdev` may be null.
+// Results are prepared with `matCheck`, p by 1 unless a comment says otherwise. A null `stdev` stays null and is not
+// computed. A missing variance gives a missing standard deviation; the mean is written all the same. The `SPV` forms
+// read an array of column tables. All return 0. In the flat forms each result has p cells and `stdev` may be null.
 
-/// A row of weight 0 does not enter and is not counted in m. `ignoreMask` 0 applies the mask; -1 keeps every row
-/// whatever the mask; any other value drops every row. A null w is a weight of 1 for each row. A column without rows
-/// has a missing mean and standard deviation.
-/// @mask `ignoreMask` 0: a nonzero entry excludes its row; -1: not read; any other: every row is dropped; may be null
-/// @weights a row of weight 0 does not enter and is not counted in m; null is 1 each
-/// @empty a column without rows has a missing mean and deviation
+/// Mean and standard deviation of each column.
+/// @mask `ignoreMask` 0: a nonzero entry excludes its row; -1: not read; any other: every row is excluded; may be null
+/// @weights a row of weight 0 does not enter and does not count in m; null means 1 each
+/// @empty a column without rows has a missing mean and standard deviation
 VECMAT_API int M_MeanStDev(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, short* mask, matrix* w, short sample,
                            short freqWeights, short ignoreMask);
 VECMAT_API int M_MeanStDevSPV(matrix** X, int n, int p, matrix*& mean, matrix*& stdev, short* mask, matrix* w,
@@ -82,8 +77,7 @@ VECMAT_API int M_MeanStDevSPV(matrix** X, int n, int p, matrix*& mean, matrix*& 
 VECMAT_API int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w,
                               short sample, short freqWeights, short ignoreMask);
 
-/// A row of weight 0 counts in m and moves nothing, unlike above, and w must be given. A column without rows has mean
-/// 0.0 and a missing variance.
+/// Mean, standard deviation and variance of each column. Rows of weight 0 count in m, unlike above.
 /// @empty a column without rows has mean 0.0 and a missing variance
 VECMAT_API int M_MeanStDevVar(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix*& var, short* mask,
                               matrix* w, short sample, short freqWeights);
@@ -92,17 +86,15 @@ VECMAT_API int M_MeanStDevVarSPV(matrix** X, int n, int p, matrix*& mean, matrix
 VECMAT_API int VB_M_MeanStDevVar(double* X, int n, int p, double* mean, double* stdev, double* var, short* mask,
                                  double* w, short sample, short freqWeights);
 
-/// Mean and standard deviation of each row over its p columns, which are weighted by the p cells of w (null: 1 each).
-/// The test for a weight of 0 looks at the row's own number: row i loses all its columns where cell i of w is 0, and
-/// none where i is beyond w. What enters the sums for column j is cell j, which is not tested: while the weights still
-/// sum to 0 it divides 0 by 0. A row without columns has a missing mean and standard deviation.
+/// Mean and standard deviation of each row over its p columns, which are weighted by the p cells of w.
 ///
 /// `mean` is prepared with n rows, `stdev` with p rows, and n results are written to each: with n above p those that do
 /// not fit into `stdev` are dropped; with p above n a table of n rows is replaced. In the flat form, where both arrays
-/// have n cells, the caller's `stdev` is then left as it was.
-/// @weights of the columns, null is 1 each; the test for 0 looks at the row's own number: row i loses all columns where
-///     cell i of w is 0; a zero of a column is not tested
-/// @empty a row without columns has a missing mean and deviation
+/// have n cells, the caller's `stdev` is then left unchanged.
+/// @weights of the columns; null means 1 each. The test for 0 reads the cell of the row's own number: row i loses all
+///     its columns where cell i of w is 0, and none where i is beyond w. Cell j, the weight of column j, is not tested:
+///     while the weights still sum to 0 it divides 0 by 0
+/// @empty a row without columns has a missing mean and standard deviation
 VECMAT_API int M_MeanStDevByRow(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix* w, short sample,
                                 short freqWeights);
 VECMAT_API int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, double* w, short sample,

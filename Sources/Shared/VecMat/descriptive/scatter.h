@@ -1,7 +1,7 @@
 // The weighted scatter of observations about the centres of their groups.
 //
 // @missing an ordinary number
-// @weights multiply each term, untested: zero adds 0.0
+// @weights multiply each term, not tested: zero adds 0.0
 // @empty nothing is added
 #pragma once
 
@@ -13,10 +13,9 @@
 /// (x(i, b) - c(b)) to T(a, b), for all pairs of the p columns, where c is row g[i] of `centres`. Groups count from 0:
 /// that is the first row. T is p by p, prepared with `matCheck`. g and w have n cells.
 ///
-/// No cell is tested for the missing value, no weight for 0. A group without a row in `centres` reads what the checked
-/// access finds there, -1.0 at the end. In the form over doubles g[i] is compared as it is and truncated for the row.
-/// Nothing is added where the row count of T differs from the column count of X: in a T kept larger than p, or from an
-/// X with more than p columns. Returns 0.
+/// A group without a row in `centres` reads what the checked access finds there, -1.0 at the end. In the form over
+/// doubles g[i] is compared as it is and truncated for the row. Nothing is added where the row count of T differs from
+/// the column count of X: in a T kept larger than p, or from an X with more than p columns. Returns 0.
 VECMAT_API int M_Inertie_W(matrix* X, int n, int p, matrix* w, int group, matrix* g, matrix* centres, matrix*& T);
 VECMAT_API int M_Inertie_W(matrix* X, int n, int p, matrix* w, int group, matrixInt* g, matrix* centres, matrix*& T);
 

@@ -1,7 +1,6 @@
 // Whole arrays copied, converted, resized and reversed.
 //
-// Cells are copied as they are, missing ones too. A count below 1 copies nothing. String forms store a new BSTR in each
-// element of the target.
+// String forms store a new BSTR in each element of the target.
 //
 // @missing copied unchanged
 // @empty nothing is copied
@@ -22,17 +21,16 @@ VECMAT_API void VB_M_DuplicateDbl(double* src, int r, int c, double* dst);
 VECMAT_API void VB_M_DuplicateLng(int* src, int r, int c, int* dst);
 VECMAT_API void VB_M_DuplicateStr(wchar_t** src, int r, int c, wchar_t** dst);
 
-/// Truncates towards zero; the missing value, like any number outside the range of int, becomes the lowest int.
-/// @missing the lowest int
+/// Truncates towards zero. Numbers outside the range of int become the lowest int.
+/// @missing becomes the lowest int
 VECMAT_API void VB_V_DuplicateDblToLng(double* src, int n, int* dst);
 VECMAT_API void VB_V_DuplicateLngToDbl(int* src, int n, double* dst);
 
 // ---- resized --------------------------------------------------------------------------------------------------------
 
-/// Reads `src` as `r` by `c` and writes newR by newC cells: cell (i, j), from 0, is the cell at i + j*r of `src`. So
-/// rows beyond `r` run into the next column, and past the end of `src` -1.0 (an empty string) is stored. A `c` of 0
-/// means one column on both sides, whatever newC is.
-/// @empty `c` of 0 is one column on both sides; a place past the end of the source becomes -1.0, or empty
+/// Reads `src` as `r` by `c` and writes newR by newC cells: cell (i, j), from 0, is element i + j*r of `src`. Rows
+/// beyond `r` therefore run into the next column, and past the end of `src` -1.0 (an empty string) is stored.
+/// @empty a `c` of 0 means one column on both sides, whatever newC is
 VECMAT_API void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC);
 VECMAT_API void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, int newC);
 
@@ -43,8 +41,8 @@ VECMAT_API void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, i
 VECMAT_API void V_Reverse(matrix* x, int n, matrix* out);
 VECMAT_API void VB_V_ReverseDbl(double* x, int n, double* out);
 
-/// out[k] = x[n + 1 - k] for k from 0 to n-1. This is not the reversal of `x` but of its elements 2 to n + 1, from 0:
-/// `x` must have n + 2 elements.
+/// out[k] = x[n + 1 - k] for k from 0 to n-1. This reverses not `x` but its elements 2 to n + 1, counted from 0: `x`
+/// must have n + 2 elements.
 /// @missing Booleans are never missing
 VECMAT_API void V_ReverseBool(short* x, int n, short* out);
 VECMAT_API void VB_V_ReverseBool(short* x, int n, short* out);

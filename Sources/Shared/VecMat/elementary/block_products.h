@@ -1,9 +1,9 @@
 // Products with a block diagonal table, held as a list of square tables with their sizes.
 //
-// A size is read by checked access (a missing entry is -1) and truncated. An offset, the sum of the sizes so far, walks
-// along the other table, whose row count is its stride. Reads outside a table yield -1.0, writes outside are dropped;
-// results are written in place and cells that are not covered stay. No test for the missing value. With no block
-// nothing happens; with one the product is the plain one of that size, which clears its result first and skips no cell.
+// A size is read by checked access and truncated. An offset, the sum of the sizes so far, advances along the other
+// table, whose row count is its stride. Reads outside a table yield -1.0, writes outside are dropped; results are
+// written in place, and cells that are not covered keep their values. A single block gives the plain product of that
+// size, which clears its result first and skips no cell.
 //
 // @missing an ordinary number, unless structure skips it; a missing size is -1
 // @empty without blocks nothing happens

@@ -1,14 +1,14 @@
 // Blocks of cells copied between tables, arrays of columns and triangles of columns.
 //
-// Rules of the whole unit. Numbers of rows and columns count from 1, ranges include both ends, and an empty range
-// copies nothing. No cell is tested for the missing value. No target is prepared: it must exist, and cells outside the
-// block keep what they held. A read outside the source stores -1.0 (-1, an empty string); a write outside the target is
-// dropped. Only the linear index of a table is checked, so that a row number above its row count runs into the next
-// column; in an array of columns it never does. Columns of an array that are used must exist.
+// Rules of the whole unit. Row and column numbers count from 1, and ranges include both ends. No target is prepared: it
+// must exist, and cells outside the block keep their values. A read outside the source stores -1.0 (-1, an empty
+// string); a write outside the target is dropped. Only the linear index of a table is checked, so a row number above
+// its row count runs into the next column; in an array of columns it never does. Columns of an array that are used must
+// exist.
 //
-// Cells are written row by row, from left to right. This shows where two cells of the block fall on one cell of the
-// target: in a triangle, where (R, C) and (C, R) are one cell and the later one, below the diagonal, stays; and where
-// a row runs over.
+// Cells are written row by row, from left to right. The order matters where two cells of the block fall on one cell of
+// the target: in a triangle, where (R, C) and (C, R) are one cell and the later one, below the diagonal, stays; and
+// where a row runs over.
 //
 // @missing copied unchanged
 // @empty an empty block or range copies nothing
@@ -49,8 +49,8 @@ VECMAT_API void M_DuplicateStrSPV(Smatrix** src, int rows, int cols, Smatrix** d
 
 // ---- by rows and columns of the source ------------------------------------------------------------------------------
 
-/// Copies rows r1 to r2 and columns c1 to c2 to the top left of `dst`; table 0 of an array of columns takes column c1.
-/// The forms between two plain tables stand with the sorts.
+/// Copies rows r1 to r2 and columns c1 to c2 to the top left of `dst`; table 0 of an array of columns receives column
+/// c1. The form between two plain tables is in `sorting/copy_block.h`.
 VECMAT_API void M_CopyBlock(matrix** src, int r1, int r2, int c1, int c2, matrix* dst);
 VECMAT_API void M_CopyBlock(matrix* src, int r1, int r2, int c1, int c2, matrix** dst);
 VECMAT_API void M_CopyBlock(matrix** src, int r1, int r2, int c1, int c2, matrix** dst);

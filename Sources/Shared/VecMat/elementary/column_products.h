@@ -1,12 +1,12 @@
 // Cell-by-cell products: of two tables, and of every column of one with every column of another (Horiz), as the columns
 // of an interaction.
 //
-// `rows` and the column counts are as passed and drive the loops; each table's own row count is its stride. A read
-// outside a table yields -1.0, which takes part; a write outside is dropped. Results are written in place. New column
-// i*`colsB` + j, from 0, belongs to column i of a and column j of b.
+// `rows` and the column counts bound the loops; each table's own row count is its stride. A read outside a table yields
+// -1.0, which takes part; a write outside is dropped. Results are written in place. New column i*`colsB` + j, from 0,
+// belongs to column i of a and column j of b.
 //
 // @missing an ordinary number
-// @weights add up to P and Q of each column; a zero weight adds nothing
+// @weights summed over the rows with 1 (P) and with -1 (Q) in each new column; a zero weight adds nothing
 // @empty nothing is written
 #pragma once
 
@@ -15,27 +15,26 @@
 
 extern "C" {
 
-/// out(i, j) = a(i, j) b(i, j). No test for the missing value.
+/// out(i, j) = a(i, j) b(i, j).
 VECMAT_API void M_ProductByElement(matrix* a, int rows, int cols, matrix* b, matrix*& out);
 
-/// The products of all pairs of columns. No test for the missing value.
+/// The products of all pairs of columns.
 VECMAT_API void M_ProductHorizAB(matrix* a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 
-/// The same over a itself, through a temporary, where a missing cell in either factor (equality test) gives a missing
-/// cell. `*cols` becomes `*cols` times `colsB`; a must have room for that many columns.
+/// The same over a itself, through a temporary. `*cols` becomes `*cols` times `colsB`; a must have room for that many
+/// columns.
 /// @missing in either factor makes the cell missing (equality)
 /// @empty no cell is written; `*cols` is multiplied all the same
 VECMAT_API void M_ProductHorizAB2(matrix* a, int rows, int* cols, matrix* b, int colsB);
 
 /// The columns of a design for the interaction of two coded tables, whose cells are near 1, -1 or 0, over a itself.
 ///
-/// The first new column is the product of the first columns as it is. In every other the cell is set by the product p:
-/// above 2.2e-16 it is 1.0 or -1.0 after the sign of the factor from a; below -2.2e-16 it is -1.0 where the column
-/// comes from the first column of a or of b; else it is 0.0. `*cols` becomes `*cols` times `colsB`; a must have room
-/// for that many columns. Then, for each new column, P is the sum of the weights w of the rows with 1 and Q of those
-/// with -1, zero weights adding nothing; with `mode` 3, and Q above 2.2e-16, the cells with -1 become -P/Q, which
-/// balances the column. Cell c of out takes the P of column c. No test for the missing value.
-/// @divisor -P/Q, with `mode` 3 only and where Q is above 2.2e-16
+/// The first new column is the plain product of the first columns. In every other the product p decides the cell: above
+/// 2.2e-16 it is 1.0 or -1.0, with the sign of the factor from a; below -2.2e-16 it is -1.0 where the column comes from
+/// the first column of a or of b; otherwise it is 0.0. `*cols` becomes `*cols` times `colsB`; a must have room for that
+/// many columns. Cell c of out receives P of column c. With `mode` 3 the cells with -1 become -P/Q, which balances the
+/// column.
+/// @divisor Q, with `mode` 3 only; where Q is at most 2.2e-16 the cells stay -1.0
 /// @empty no cell of `a` is written, P is 0.0; `*cols` is multiplied all the same
 VECMAT_API void M_ProductDesignAB2(matrix* a, int rows, int* cols, matrix* b, int colsB, int mode, matrix* w,
                                    matrix*& out);

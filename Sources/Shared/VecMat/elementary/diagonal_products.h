@@ -1,7 +1,6 @@
 // Products with a diagonal table, given as a square table of which only the diagonal is read (D, Diag) or as a vector
-// (DiagV). What `matrix_products.h` says of names, dimensions, checked access, order of sums and results holds here
-// too. Factors are multiplied from left to right: a term of `a diag(d) a'` is (a d) a. A missing cell enters a product
-// as the large negative number that it is, except where told.
+// (DiagV). Names, dimensions, checked access, order of sums and results are as in `matrix_products.h`. Factors are
+// multiplied from left to right: a term of `a diag(d) a'` is (a d) a.
 //
 // @missing an ordinary number
 // @empty an empty sum is 0.0
@@ -22,22 +21,20 @@ VECMAT_API void M_ProductTrADA(matrix* a, int rows, int cols, matrix* d, matrix*
 VECMAT_API void M_ProductADiag(matrix* a, int rows, int cols, matrix* d, matrix*& out);
 VECMAT_API void M_ProductTrADiag(matrix* a, int rows, int cols, matrix* d, matrix*& out);
 
-/// diag(v) a in place, v of `rows` cells. Here the missing value counts (equality test): a missing cell of v makes its
-/// whole row missing, a missing cell of a makes its cell missing.
-/// @missing in v makes its row missing, in a its cell (equality)
+/// diag(v) a in place, v of `rows` cells.
+/// @missing in v makes its whole row missing, in a its cell (equality)
 /// @empty nothing is written
 VECMAT_API void M_ProductDiagVA(matrix* v, int rows, matrix* a, int cols, matrix* out);
 VECMAT_API void M_ProductDiagVASPV(matrix* v, int rows, matrix** a, int cols, matrix** out);
 
-/// a diag(v) in place, v of `cols` cells. No test for the missing value, unlike the form above.
+/// a diag(v) in place, v of `cols` cells.
 /// @missing an ordinary number, unlike in `M_ProductDiagVA`
 /// @empty nothing is written
 VECMAT_API void M_ProductADiagV(matrix* a, int rows, int cols, matrix* v, matrix*& out);
 VECMAT_API void M_ProductADiagVSPV(matrix** a, int rows, int cols, matrix* v, matrix** out);
 
-/// (diag(va) a) diag(vb) in place, through a temporary: the first product by the rule of `M_ProductDiagVA`, the second
-/// by that of `M_ProductADiagV`, so that a cell made missing is then multiplied.
-/// @missing made missing by the first factor (equality), then multiplied by the second like a number
+/// (diag(va) a) diag(vb) in place, through a temporary: `M_ProductDiagVA`, then `M_ProductADiagV`.
+/// @missing the first product makes the cell missing (equality), the second multiplies it like an ordinary number
 /// @empty nothing is written
 VECMAT_API void M_ProductDiagV1ADiagV2(matrix* va, int rows, matrix* a, int cols, matrix* vb, matrix*& out);
 VECMAT_API void M_ProductDiagV1ADiagV2SPV(matrix* va, int rows, matrix** a, int cols, matrix* vb, matrix** out);
@@ -58,10 +55,10 @@ VECMAT_API void M_ProductADiagVB(matrix* a, int rows, int cols, matrix* v, matri
 /// @empty nothing is written
 VECMAT_API void M_ProductTrADiagV(matrix* a, int rows, int cols, matrix* v, matrix* out);
 
-// Flat forms: arrays with just the dimensions of their role, results in the caller's array in place; with two
-// exceptions. `VB_M_ProductADiagVTrB` opens out as `rows` by `rows`, so that columns of the result beyond `rows` are
-// dropped. `VB_M_ProductADiagVB` opens out in the same way, and b with `colsB` rows and `cols` columns: with any other
-// shapes than those the strides decide what is read.
+// Flat forms: each array has the dimensions of its role, results go to the caller's array in place, with two
+// exceptions. `VB_M_ProductADiagVTrB` opens out as `rows` by `rows`, so columns of the result beyond `rows` are
+// dropped. `VB_M_ProductADiagVB` does so too, and opens b with `colsB` rows and `cols` columns: with any other shape
+// the strides decide what is read.
 VECMAT_API void VB_M_ProductADTrA(double* a, int rows, int cols, double* d, double* out);
 VECMAT_API void VB_M_ProductTrADA(double* a, int rows, int cols, double* d, double* out);
 VECMAT_API void VB_M_ProductADiag(double* a, int rows, int cols, double* d, double* out);

@@ -1,7 +1,7 @@
 // Arrays and vectors filled with one value, or with 1, 2, ..., n.
 //
-// A count below 1 fills nothing. The forms that take a `matrix*&` (`matrixInt*&`) prepare it as an n by 1 table: a
-// table that is larger is kept, and the first n cells of its block are filled.
+// The forms that take a `matrix*&` (`matrixInt*&`) prepare it as an n by 1 table: a larger table is kept, and the first
+// n cells of its block are filled.
 //
 // @missing overwritten
 // @empty nothing is filled
@@ -40,7 +40,7 @@ VECMAT_API void VB_InitVectorToFalse(short* v, int n);
 VECMAT_API void VB_InitVectorToTrue(short* v, int n);
 VECMAT_API void VB_V_SetToValue(double* v, int n, double value);
 VECMAT_API void VB_V_SetToValueLng(int* v, int n, int value);
-/// `value` is one string of 32-bit characters, used as it stands; each element of `v` becomes a new BSTR.
+/// `value` is one string of 32-bit characters, used as given; each element of `v` becomes a new BSTR.
 VECMAT_API void VB_V_SetToValueStr(wchar_t** v, int n, const wchar_t* value);
 VECMAT_API void VB_V_Set1toNDbl(double* v, int n);
 VECMAT_API void VB_V_Set1toNLng(int* v, int n);

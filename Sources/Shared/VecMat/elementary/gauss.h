@@ -1,8 +1,10 @@
 // Linear equations by elimination.
 //
-// @missing a large number like any other; a NaN is never found as a pivot
-// @divisor a pivot that is 0.0, or none above 1e-12, ends it with -2
+// @missing an ordinary number, a large one
+// @divisor the pivot; singular where it is exactly 0.0 or none is found
 // @empty 0, nothing changed
+// @failure -2 for a singular table; a and b are then left as the steps so far have made them
+// @source full pivoting: Golub and Van Loan, Matrix Computations, section 3.4
 #pragma once
 
 #include "../base/api.h"
@@ -10,16 +12,13 @@
 
 extern "C" {
 
-/// Gauss-Jordan elimination with full pivoting: a, `n` by `n`, becomes its inverse and b, `n` by `m`, the solutions;
-/// for complete pivoting see Golub and Van Loan, Matrix Computations, section 3.4. The pivot of a step is the cell of
-/// largest magnitude among the rows and columns not yet used; a cell replaces the largest so far only where it is above
-/// it by more than 1e-12, so that the first of nearly equal cells stays. With `noPivot` the pivots are the diagonal
-/// cells in order; with `noSwap` they are searched, but the diagonal cell of the column found takes the pivot's place,
-/// and no rows and columns are exchanged.
-///
-/// Returns 0, or -2 for a singular table, where no cell is found or the pivot is exactly 0.0: a and b are then left as
-/// the steps so far have made them. Cells outside a table read as -1.0, also as a pivot. A missing cell is a large
-/// number like any other; a NaN is never found as a pivot.
+/// Gauss-Jordan elimination with full pivoting: a, `n` by `n`, becomes its inverse and b, `n` by `m`, the solutions.
+/// The pivot of a step is the cell of largest magnitude among the rows and columns not yet used; a cell replaces the
+/// largest so far only where it exceeds it by more than 1e-12, so the first of nearly equal cells stays, and a table
+/// whose cells are all within 1e-12 of 0 has no pivot. A NaN is never found as a pivot. With `noPivot` the pivots are
+/// the diagonal cells in order; with `noSwap` they are searched, but the diagonal cell of the column found takes the
+/// pivot's place, and no rows and columns are exchanged. Cells outside a table read as -1.0, also as a pivot. Returns
+/// 0, or -2.
 VECMAT_API int M_Gauss(matrix* a, int n, int m, matrix* b, bool noSwap, bool noPivot);
 
 // Flat forms, with full pivoting and for one right-hand side or `m`: both arrays are written back, after -2 too.

@@ -1,9 +1,9 @@
 // Tables and vectors merged side by side: the first argument's cells in the left columns, the second's in the right.
 //
 // A result given as a reference is prepared with as many rows as the longer side has. In a new result the cells below
-// the shorter side are 0.0 (0, an empty string); a numeric table that is large enough already is kept with its own
-// stride, and only the head of its block is cleared. Cells are copied as they are, missing ones too. A read outside a
-// table stores -1.0 (-1, an empty string); a vector given as `double*` is read directly.
+// the shorter side are 0.0 (0, an empty string); a numeric table that is already large enough is kept with its own
+// stride, and only the head of its block is cleared. A read outside a table stores -1.0 (-1, an empty string); a vector
+// given as `double*` is read directly.
 //
 // @missing copied unchanged; towards ints it becomes the lowest int
 // @empty an empty side adds no column or leaves 0.0 (0, an empty string) in a new result
@@ -42,8 +42,7 @@ VECMAT_API void HMergeVectCol(matrix* v, int n, matrix* t, int r, int col, matri
 
 // ---- tables ---------------------------------------------------------------------------------------------------------
 
-/// max(r1, r2) by c1 + c2. Towards a `matrixInt` each double is truncated, so that a missing cell becomes the lowest
-/// int.
+/// max(r1, r2) by c1 + c2. Towards a `matrixInt` each double is truncated.
 VECMAT_API void HMergeTables(matrix* a, int r1, int c1, matrix* b, int r2, int c2, matrix*& out);
 VECMAT_API void HMergeTables(matrix* a, int r1, int c1, matrix* b, int r2, int c2, matrixInt*& out);
 VECMAT_API void HMergeTables(matrixInt* a, int r1, int c1, matrixInt* b, int r2, int c2, matrixInt*& out);
@@ -58,7 +57,7 @@ VECMAT_API void HMergeTables(matrix** a, int r1, int c1, matrix** b, int r2, int
 
 extern "C" {
 
-/// `out` has the size of the result, told above, and may be one of the sources.
+/// `out` has the size of the result, as given above, and may be one of the sources.
 VECMAT_API void VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out);
 VECMAT_API void VB_HMergeTableVect(double* t, int r, int c, double* v, int n, double* out);
 VECMAT_API void VB_HMergeVectTable(double* v, int n, double* t, int r, int c, double* out);

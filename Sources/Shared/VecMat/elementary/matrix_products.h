@@ -1,21 +1,19 @@
 // Products of tables.
 //
 // A name reads as the formula it computes, left to right: A, B, C are tables, V, V1, V2 vectors, Tr is the transpose of
-// what follows. `rows` and `cols` are those of the first table as passed; they drive the loops, and each table's own
-// row count is its stride. A read outside a table yields -1.0, which takes part; a write outside is dropped. Every
-// result is one running sum from +0.0 over the inner index from first to last; with no terms it is 0.0.
+// what follows. `rows` and `cols` are those of the first table; they bound the loops, and each table's own row count is
+// its stride. A read outside a table yields -1.0, which takes part; a write outside is dropped. Every result is one
+// running sum from +0.0 over the inner index from first to last. The `SPV` forms hold a table as an array of columns
+// and give the same bits.
 //
-// A missing cell enters a product as the large negative number that it is, except in the `Missing` forms. The `SPV`
-// forms hold a table as an array of columns and give the same bits.
+// A result `matrix*&` described as "prepared" goes through `matCheck` with 0.0, so a table that is too small is
+// replaced. Every other result must exist and is written in place, by rows; cells that are not covered keep their
+// values. A result may be one of the operands: a prepared one is then cleared before it is read, one in place is read
+// as far as it is not yet overwritten.
 //
-// A result `matrix*&` told as "prepared" goes through `matCheck` with 0.0, so a table that is too small is replaced.
-// Every other result must exist and is written in place, by rows; cells that are not covered stay as they were. A
-// result may be one of the operands: a prepared one is then cleared before it is read, one in place is read as far as
-// it is not yet overwritten.
-//
-// Larger products are worked on tile by tile in scratch memory: a block of both operands, up to 256 numbers of the
-// inner index, and a copy of the results where there is more than one block. Where memory is short, and where a
-// result is an operand, they go without, slower and with the same results.
+// @memory larger products are worked on tile by tile in scratch memory: a block of both operands, up to 256 numbers of
+//     the inner index, and a copy of the results where there is more than one block. Where memory is short, and where a
+//     result is an operand, they do without, slower and with the same results
 //
 // @missing an ordinary number
 // @empty an empty sum is 0.0
@@ -33,9 +31,8 @@ VECMAT_API int M_ProductAB(matrix* a, int rows, int cols, matrix* b, int colsB, 
 VECMAT_API int M_ProductABSPV(matrix** a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABSPV2(matrix** a, int rows, int cols, matrix** b, int colsB, matrix** out);
 
-/// a b, where a factor that is the missing value (equality test, in either table) ends the sum and makes the result
-/// missing. Prepared as above, in place in an array of columns. Return 0.
-/// @missing the first one, in either factor, ends the sum and makes it missing (equality)
+/// a b. Prepared as above, in place in an array of columns. Return 0.
+/// @missing the first one, in either factor, ends the sum and makes the result missing (equality)
 VECMAT_API int M_ProductABMissingSPV(matrix** a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABMissingSPV2(matrix* a, int rows, int cols, matrix* b, int colsB, matrix** out);
 VECMAT_API int M_ProductABMissingSPV3(matrix** a, int rows, int cols, matrix* b, int colsB, matrix** out);
@@ -72,17 +69,16 @@ VECMAT_API void M_ProductTrABV(matrix* a, int rows, int cols, matrix* b, int col
 
 /// (a b) c: b is `cols` by `colsB`, c `colsB` by `colsC`; the result, `rows` by `colsC`, in place. Each of the two
 /// products looks for structure. Where a row of the left or a column of the right operand is all zero the cell is +0.0;
-/// in a row of a square left operand that is zero off the diagonal (its column too) the cell is one product, and so it
-/// is in such a column of a square right operand. A cell that this skips does not count, be it infinite or a NaN, and
-/// a product of zeros keeps its sign: so the bits differ from those of two plain products.
+/// in a row of a square left operand that is zero off the diagonal (its column too) the cell is one product, and
+/// likewise in such a column of a square right operand. A cell that is skipped in this way has no effect, even if it is
+/// infinite or a NaN, and a product of zeros keeps its sign: the bits differ from those of two plain products.
 /// @missing an ordinary number, unless structure skips its term
 VECMAT_API void M_ProductABC(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* c, int colsC, matrix* out);
 
 } // extern "C"
 
 /// a' a and a a'. The lower triangle is computed and mirrored. Prepared, `cols` by `cols` and `rows` by `rows`. Sums
-/// are doubles also for ints; a result in ints is truncated, and a sum outside their range becomes the lowest int.
-/// @missing an ordinary number; a sum outside the range of int becomes the lowest int
+/// are doubles for ints too; a result in ints is truncated, and a sum outside their range becomes the lowest int.
 VECMAT_API void M_ProductTrAA(matrix* a, int rows, int cols, matrix*& out);
 VECMAT_API void M_ProductTrAA(matrix* a, int rows, int cols, matrixInt*& out);
 VECMAT_API void M_ProductTrAA(matrixInt* a, int rows, int cols, matrixInt*& out);
@@ -90,8 +86,8 @@ VECMAT_API void M_ProductTrAA(matrixInt* a, int rows, int cols, matrix*& out);
 VECMAT_API void M_ProductATrA(matrix* a, int rows, int cols, matrix*& out);
 VECMAT_API void M_ProductATrA(matrixInt* a, int rows, int cols, matrix*& out);
 
-// Flat forms of the functions above: each array is column-major with just the dimensions that its role needs, and a
-// result is written to the caller's array in place. The operands are not changed.
+// Flat forms of the functions above: each array is column-major with the dimensions of its role, and a result is
+// written to the caller's array in place. The operands are not changed.
 extern "C" {
 
 VECMAT_API int VB_M_ProductAB(double* a, int r, int c, double* b, int c2, double* out);

@@ -1,6 +1,6 @@
 // Products with symmetric tables in packed form (Sym): the lower triangle by rows, element (i, j), 1-based, at position
 // i(i-1)/2 + j for j at most i, and at j(j-1)/2 + i otherwise. A read outside the packed table yields -1.0, which takes
-// part; a write outside is dropped. No test for the missing value. Results are written in place.
+// part; a write outside is dropped. Results are written in place.
 //
 // @missing an ordinary number
 // @empty nothing is written

@@ -1,7 +1,7 @@
 // Tables packed into vectors and back: whole, by columns of unequal length, and the lower triangle of a symmetric one.
 //
 // Vectors are tables taken in linear order. A read outside a table stores -1.0, a write outside is dropped. No target
-// is prepared: it must exist. Cells are copied as they are, missing ones too.
+// is prepared: it must exist.
 //
 // @missing copied unchanged
 // @empty nothing is written
@@ -17,8 +17,8 @@ extern "C" {
 VECMAT_API void MatToVect(matrix* a, int rows, int cols, matrix* v);
 
 /// Unpacks columns of unequal length. Cell (i, j), from 0, takes the next cell of `v` while counts[j] is at least i +
-/// 1, and the missing value, without advancing in `v`, otherwise: also where counts[j] is missing or a NaN.
-/// @missing copied unchanged; a place beyond the count of its column, or with a missing or NaN count, becomes missing
+/// 1; otherwise it becomes missing, and `v` does not advance.
+/// @missing copied unchanged; a missing or NaN count makes its column missing
 VECMAT_API void VectToMat(matrix* v, matrix* counts, int rows, int cols, matrix* out);
 
 /// Packs the lower triangle by rows: row i gives cells (i, 1) to (i, i) in turn, n(n+1)/2 cells in all.

@@ -1,7 +1,7 @@
 // Rows and columns removed, moved up or exchanged.
 //
-// Numbers count from 1. Cells are copied as they are, missing ones too. A read outside a table yields -1.0 (an empty
-// string) and that is stored; a write outside is dropped. Results are not prepared: they must exist.
+// Numbers count from 1. A read outside a table yields -1.0 (an empty string), which is stored; a write outside is
+// dropped. Results are not prepared: they must exist.
 //
 // @missing copied unchanged
 // @empty nothing happens
@@ -23,24 +23,24 @@ VECMAT_API void M_RemoveRow(matrix* a, int rows, int cols, int row, matrix* out)
 VECMAT_API void M_MoveRow(matrix*& a, int cols, int r1, int r2);
 
 /// In place: the columns to + 1 to `cols` move left to start at `from`. The table keeps its shape, and the columns at
-/// its end their old cells.
+/// its end keep their cells.
 VECMAT_API void M_RemoveCols2(matrix*& a, int rows, int cols, int from, int to);
 
 } // extern "C"
 
 /// In place: the rows to + 1 to `rows` move up to start at `from`. The table keeps its shape, and the rows at its end
-/// their old cells.
+/// keep their cells.
 VECMAT_API void M_RemoveRows2(matrix*& a, int rows, int cols, int from, int to);
 VECMAT_API void M_RemoveRows2(Smatrix*& a, int rows, int cols, int from, int to);
 
-/// Remove the rows (columns) flagged 1: those flagged 0 go to the head of `out` in the order they had. Returns how many
-/// are removed.
+/// Remove the rows (columns) flagged 1: those flagged 0 go to the head of `out` in their order. Returns how many are
+/// removed.
 ///
-/// `flags` is expected to hold 0 and 1: what is removed is as many rows as the flags sum to (missing flags of a
-/// `matrix` left out of the sum, the sum truncated), from the end of the rows sorted by their flags. A flag outside the
-/// table is -1.0. Where everything is to go, `out` stays as it is.
-/// @missing copied unchanged; a missing flag of doubles is left out of the sum of flags
-/// @empty 0 removed; `out` stays
+/// `flags` is expected to hold 0 and 1: as many rows are removed as the flags sum to (the sum truncated), from the end
+/// of the rows sorted by their flags. A flag outside the table is -1.0. Where every row is to go, `out` is left
+/// unchanged.
+/// @missing copied unchanged; a missing flag of a `matrix` is left out of the sum of the flags
+/// @empty 0 removed; `out` is left unchanged
 VECMAT_API int M_RemoveRowsInList(matrix* a, int rows, int cols, matrixInt* flags, matrix* out);
 VECMAT_API int M_RemoveRowsInList(matrix* a, int rows, int cols, matrix* flags, matrix* out);
 VECMAT_API int M_RemoveColsInList(matrix* a, int rows, int cols, matrixInt* flags, matrix* out);

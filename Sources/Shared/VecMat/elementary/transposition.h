@@ -1,10 +1,10 @@
 // Transposition: cell (i, j) of the source goes to (j, i) of the target, for `rows` rows and `cols` columns of the
 // source.
 //
-// Cells are copied as they are, missing ones too; a read outside the source stores -1.0 (-1, an empty string).
+// A read outside the source stores -1.0 (-1, an empty string).
 //
 // @missing copied unchanged
-// @empty nothing is copied; a plain target is prepared
+// @empty nothing is copied; a target that is a plain table is prepared all the same
 #pragma once
 
 #include "../Smatrix.h"

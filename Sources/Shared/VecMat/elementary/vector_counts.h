@@ -9,13 +9,13 @@
 
 extern "C" {
 
-/// Number of elements that are exactly -1; another non-zero value does not count. 0 for `n` below 1. The two names are
-/// one function.
+/// Number of elements that are exactly -1. The two names are one function.
 VECMAT_API int V_NbTrue(short* x, int n);
 VECMAT_API int VB_V_NbTrue(short* x, int n);
 
-/// The same over the 1-based elements `from` to `to`; 0 where `from` is above `to`. A `from` below 1 starts at the
-/// first element. `n` is not used: the caller provides `to` elements.
+/// The same over the 1-based elements `from` to `to`. A `from` below 1 starts at the first element. `n` is not used:
+/// the caller provides `to` elements.
+/// @empty 0, also where `from` is above `to`
 VECMAT_API int V_NbTrueFromTo(short* x, int from, int to);
 VECMAT_API int VB_V_NbTrueFromTo(short* x, int n, int from, int to);
 

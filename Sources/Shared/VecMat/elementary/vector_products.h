@@ -1,11 +1,9 @@
 // Products and comparisons of vectors.
 //
 // A vector is the first `n` cells of a table in linear order. A read outside a table yields -1.0, which takes part; a
-// write outside is dropped. Sums start at +0.0 and run from the first cell to the last. No test for the missing value
-// except where told. Results are written in place.
+// write outside is dropped. Sums start at +0.0 and run from the first cell to the last. Results are written in place.
 //
 // @missing an ordinary number
-// @weights a zero weight adds nothing; a missing one is left out of the divisor
 // @empty nothing is written
 #pragma once
 
@@ -15,15 +13,15 @@
 
 extern "C" {
 
-/// The sum of a(i) b(i); 0.0 for `n` below 1.
+/// The sum of a(i) b(i).
 /// @empty 0.0
 VECMAT_API double V_ProductTrV1V2(matrix* a, int n, matrix* b);
 
-/// The weighted mean product: the sum of a(i) b(i) w(i) over the cells where neither a(i) nor b(i) is missing (equality
-/// test), divided by the sum of the weights that are not missing, those of the cells left out too, if that is above 0,
-/// and else as it is. A zero weight adds nothing to either.
-/// @missing left out, in either vector (equality); its weight counts in the divisor all the same
-/// @divisor the sum of the weights that are not missing; not divided where that is not above 0
+/// The weighted mean product: the sum of a(i) b(i) w(i) divided by the sum of the weights.
+/// @missing left out, in either vector (equality); its weight still counts in the divisor
+/// @weights a zero weight adds nothing; a missing one is left out of the divisor
+/// @divisor the sum of the weights that are not missing, those of left-out cells included; not divided where that is
+///     not above 0
 /// @empty 0.0
 VECMAT_API double V_ProductWTrV1V2(matrix* a, int n, matrix* b, matrix* w);
 
@@ -38,7 +36,7 @@ VECMAT_API void V_ProductV1TrV2(matrix* a, int n, matrix* b, matrix* out);
 /// The table a must have room for that many.
 VECMAT_API void V_ProductHorizV1V22(matrix* a, int* n, matrix* b, int m);
 
-/// -1 unless some a(i, j) of the `n` by `cols` table is above v(i), then 0. Neither a NaN nor an empty table is above.
+/// -1 unless some a(i, j) of the `n` by `cols` table is above v(i), then 0.
 /// @missing compared like a number; a NaN is not above anything
 /// @empty -1
 VECMAT_API short V_V1GreaterThanMatCols(matrix* v, int n, matrix* a, int cols);
@@ -65,7 +63,7 @@ VECMAT_API short VB_V_V1inferiorV2(double* a, int n, double* b);
 
 } // extern "C"
 
-/// The product of the first `n` cells, from 1.0 on, as a double; 1.0 for `n` below 1.
+/// The product of the first `n` cells, starting from 1.0, as a double.
 /// @empty 1.0 (1)
 VECMAT_API double V_Product1toN(matrix* x, int n);
 /// @empty 1.0 (1)

@@ -1,13 +1,9 @@
 // Sums, sums of squares and squared distances of vectors.
 //
 // A vector is a table walked in linear order from its first cell, whatever its shape. `n` cells are visited; a cell
-// beyond the table, also one of a weight table, reads as -1.0 and takes part as that number. Every sum runs in order
-// from +0.0 and is 0.0 for `n` below 1. "Missing" is the equality test: a NaN and the numbers below the missing value
-// are added. Nothing here fails or reports.
+// beyond the table, or beyond a table of weights, reads as -1.0 and takes part. Every sum runs in order from +0.0.
 //
 // @missing an ordinary number
-// @mask a nonzero entry excludes its row; may be null
-// @weights a zero or negative one counts like any other; null is 1.0 each
 // @empty 0.0
 #pragma once
 
@@ -17,36 +13,35 @@
 
 extern "C" {
 
-/// Sum of w[i] x[i] over the cells whose mask entry is 0 and where neither x[i] nor w[i] is missing. A zero or negative
-/// weight counts like any other. `mask` (n entries, any value but 0 drops) and `w` may be null: nothing is dropped,
-/// every weight is 1.0.
+/// Sum of w[i] x[i].
 /// @missing left out, in the cell or in the weight (equality)
+/// @mask a nonzero entry excludes its cell; may be null
+/// @weights a zero or negative one counts like any other; null means 1.0 each
 VECMAT_API double V_Sum(matrix* x, int n, short* mask, matrix* w);
 
-/// Sum of squares: `V_Sq` of all cells with no test, `V_SumSq` of those that are not missing.
+/// Sum of squares: `V_Sq` of all cells, `V_SumSq` of the present ones.
 VECMAT_API double V_Sq(matrix* x, int n);
 /// @missing left out (equality)
 VECMAT_API double V_SumSq(matrix* x, int n);
 
-/// Sum of w[i-1] x[i]^2 over the cells of `x` that are not missing; weights are not tested. The weight is the one
-/// before the cell, on purpose: the first cell has none and counts with -1.0, and the last weight is not used.
+/// Sum of w[i-1] x[i]^2. The weight is the one before the cell, on purpose: the first cell has none and counts with
+/// -1.0, and the last weight is not used.
 /// @missing left out (equality)
-/// @weights used as given; the weight of a cell is the one before its place, -1.0 for the first cell
+/// @weights not tested; the weight of a cell is the one before its place, -1.0 for the first cell
 VECMAT_API double V_SumSqW(matrix* x, int n, matrix* w);
 
-/// Sum of (a[i] - b[i])^2, plain and with weights w[i], aligned with the cells. No test: a missing cell is the number
-/// it is.
+/// Sum of (a[i] - b[i])^2, plain and with weights w[i], aligned with the cells.
 VECMAT_API double V_DiffSq(matrix* a, int n, matrix* b);
-/// @weights used as given, untested
+/// @weights not tested
 VECMAT_API double V_DiffSqW(matrix* a, int n, matrix* b, matrix* w);
 
-/// `V_DiffSq` over the 1-based cells `start` to `n`: 0.0 where `start` is above `n`; one below 1 starts at the first
-/// cell.
+/// `V_DiffSq` over the 1-based cells `start` to `n`; a `start` below 1 starts at the first cell.
+/// @empty 0.0, also where `start` is above `n`
 VECMAT_API double V_DiffSqStart(matrix* a, int n, matrix* b, int start);
 
 } // extern "C"
 
-/// Sum of the cells: without the missing ones in a table of doubles, all of them in one of ints.
+/// Sum of the cells.
 /// @missing left out (equality); ints are never missing
 /// @empty 0.0 (0)
 VECMAT_API double V_Sum2(matrix* x, int n);
@@ -54,15 +49,15 @@ VECMAT_API double V_Sum2(matrixInt* x, int n);
 
 /// Sum of the second to the (n+1)th element: the first is left out and one past the `n` is read, on purpose. The caller
 /// provides n + 1 elements.
-/// @missing left out (equality); ints are never missing
-/// @empty 0.0 (0)
+/// @missing ints are never missing
+/// @empty 0
 VECMAT_API double V_Sum2(int* x, int n);
 
 // ---- flat forms: x, w, a, b have n elements and are never written ---------------------------------------------------
 
 extern "C" {
 
-/// The functions of the same names. `mask` and `w` of `VB_V_Sum` may be null.
+/// The functions of the same names.
 VECMAT_API double VB_V_Sum(double* x, int n, short* mask, double* w);
 VECMAT_API double VB_V_SumSq(double* x, int n);
 VECMAT_API double VB_V_SumSqW(double* x, int n, double* w);
@@ -70,14 +65,18 @@ VECMAT_API double VB_V_DiffSq(double* a, int n, double* b);
 VECMAT_API double VB_V_DiffSqW(double* a, int n, double* b, double* w);
 VECMAT_API double Cpp_V_DiffSqStart(double* a, int n, double* b, int start);
 
-/// Sum of the elements that are not missing.
+/// `V_Sum2` over an array.
+/// @missing left out (equality)
+/// @empty 0.0
 VECMAT_API double VB_V_Sum2Dbl(double* x, int n);
 
 /// Sum from the first element on, in 32 bits: it wraps on overflow.
+/// @missing ints are never missing
+/// @empty 0
 VECMAT_API int VB_V_Sum2Lng(int* x, int n);
 
-/// Sum of the 1-based elements `from` to `to`, with no test for a missing one; 0 where `from` is above `to`. `n` is not
-/// used: the caller provides `to` elements. A `from` below 1 starts at the first element. The integer form wraps.
+/// Sum of the 1-based elements `from` to `to`. `n` is not used: the caller provides `to` elements. A `from` below 1
+/// starts at the first element. The integer form wraps.
 /// @empty 0.0 (0) where `from` is above `to`
 VECMAT_API double VB_V_SumFromTo(double* x, int n, int from, int to);
 VECMAT_API int VB_V_SumFromToLng(int* x, int n, int from, int to);

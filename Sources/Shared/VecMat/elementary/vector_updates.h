@@ -1,12 +1,9 @@
 // Functions that change a vector: scaling to a norm, adding to it, replacing and removing values.
 //
 // A vector is a table walked in linear order from its first cell, whatever its shape; `n` cells are visited. A cell
-// beyond the table reads as -1.0 and a write there is dropped. "Missing" is the equality test. Nothing happens for `n`
-// below 1, and nothing here fails or reports.
+// beyond the table reads as -1.0 and a write there is dropped. Nothing here reports an error.
 //
-// @missing not in the sum of squares (equality), but scaled like the others
-// @mask a nonzero entry makes its cell missing
-// @weights used as given; the weight of a cell is the one before its place, -1.0 for the first cell
+// @missing left out of the sum of squares (equality), but scaled like the others: it is no longer missing
 // @empty nothing happens
 #pragma once
 
@@ -16,28 +13,25 @@
 extern "C" {
 
 /// Scale in place. `V_Norm` divides each cell by the root of the sum of squares S; `V_NormToVal` multiplies each by the
-/// root of val/S, which makes `val` the sum of squares. S is that of `V_SumSq`, or in the `W` forms that of `V_SumSqW`,
-/// whose weights stand one place before their cells; missing cells are not in S, but they are scaled like the others
-/// and are no longer missing then. An S of 0 or below is not guarded against: the division and the root give what they
-/// give.
-/// @divisor the sum of squares (its root), not guarded against 0
+/// root of val/S, which makes `val` the sum of squares. S is that of `V_SumSq`, in the `W` forms that of `V_SumSqW`.
+/// @divisor S (its root), not guarded against 0
 VECMAT_API void V_Norm(matrix*& x, int n);
 VECMAT_API void V_NormToVal(matrix*& x, int n, double val);
-/// @divisor the weighted sum of squares (its root), not guarded against 0 or below
+/// @weights not tested; the weight of a cell is the one before its place, -1.0 for the first cell
+/// @divisor S (its root), not guarded against 0 or below
 VECMAT_API void V_NormW(matrix*& x, int n, matrix* w);
 VECMAT_API void V_NormToValW(matrix*& x, int n, double val, matrix* w);
 
-/// Adds `val` to each cell that is not missing and whose `mask` entry is 0. A mask entry other than 0 does not protect
-/// its cell: it sets it to the missing value. A missing cell stays missing.
+/// Adds `val` to each cell.
 /// @missing stays missing (equality)
+/// @mask a nonzero entry does not protect its cell: it makes it missing
 VECMAT_API void V_PlusVal(matrix* x, int n, double val, short* mask);
 
-/// Adds `val` to each cell that is not missing.
+/// Adds `val` to each cell.
 /// @missing stays missing (equality)
 VECMAT_API void V_PlusVal2(matrix* x, int n, double val);
 
-/// Copies `x` to `out`, which may be `x`, with `to` in place of each cell that equals `from` exactly. No missing test:
-/// the missing value is replaced like any other.
+/// Copies `x` to `out`, which may be `x`, with `to` in place of each cell that equals `from` exactly.
 /// @missing replaced where it equals `from`, like any value
 VECMAT_API void V_ReplaceVal(matrix* x, int n, double from, double to, matrix* out);
 

@@ -1,8 +1,8 @@
 // Tables and vectors merged one above the other.
 //
 // A result given as a reference is prepared; in a new one the cells beside the narrower table are 0.0. A numeric table
-// that is large enough already is kept with its own stride, and only the head of its block is cleared. Cells are copied
-// as they are, missing ones too. A read outside a table stores -1.0 (an empty string); a write outside is dropped.
+// that is already large enough is kept with its own stride, and only the head of its block is cleared. A read outside a
+// table stores -1.0 (an empty string); a write outside is dropped.
 //
 // @missing copied unchanged
 // @empty an empty side adds nothing
@@ -33,7 +33,7 @@ VECMAT_API void VMergeTablesSPV(matrix** a, int r1, int c1, matrix* b, int r2, i
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
 
-/// `out` has the size of the result, told above, and may be one of the sources.
+/// `out` has the size of the result, as given above, and may be one of the sources.
 VECMAT_API void VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double* out);
 VECMAT_API void VB_VMergeVectorsStr(wchar_t** a, int nA, wchar_t** b, int nB, wchar_t** out);
 VECMAT_API void VB_VMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2, double* out);

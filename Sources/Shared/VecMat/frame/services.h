@@ -1,7 +1,4 @@
 // Small services of the library: number conversions of whole arrays, memory status, column labels.
-//
-// @missing no cell is read
-// @empty nothing is special
 #pragma once
 
 #include "../base/api.h"

@@ -74,11 +74,15 @@ VECMAT_API int M_NbMissing2(Smatrix* a, int nRows, int nCols);
 
 extern "C" {
 
+/// The functions of the same names.
 VECMAT_API int VB_V_NbMissing(double* x, int n);
 VECMAT_API int VB_V_NbMissingStr(wchar_t** x, int n);
 VECMAT_API int VB_V_NbNonMissing(double* x, int n);
+/// `M_NbMissing` of one table.
+/// @missing counted (equality, or empty strings)
 VECMAT_API void VB_M_NbMissing(double* a, int nRows, int nCols, int* counts);
 VECMAT_API void VB_M_NbMissingStr(wchar_t** a, int nRows, int nCols, int* counts);
+/// The functions of the same names.
 VECMAT_API int VB_M_NbMissing2(double* a, int nRows, int nCols);
 VECMAT_API int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols);
 VECMAT_API void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);

@@ -3,9 +3,6 @@
 // An address list consists of pieces joined by ",", each of the form 'Sheet'!$A:$C. Columns are named by letters in
 // base 26: A is 1, Z is 26, AA is 27. Nothing is validated and no error is reported: whatever the text, a text
 // comes back.
-//
-// @missing there is none; nothing is validated
-// @empty a text comes back, of no letters the empty one
 #pragma once
 
 #include "../base/api.h"

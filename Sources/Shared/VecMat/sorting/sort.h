@@ -2,22 +2,22 @@
 //
 // Common to all of them, unless the comment of a function says otherwise:
 //   - The range `first` to `last` is 1-based with both ends included, and need not be the whole table: what lies
-//     outside stays as it was, in the data, the companion and the key. A `last` below `first` changes nothing.
+//     outside stays as it was, in the data, the companion and the key.
 //   - `descending` is exactly -1 for a descending sort; every other value, 1 too, is ascending. Rows with equal keys
 //     keep the order of the input in both directions.
-//   - The order is the plain less-than: 0.0 and -0.0 tie. Missing keys are the smallest, so they come first ascending
-//     and last descending, and so do empty strings; strings go by the numbers of their characters, without a locale.
-//     With NaN keys the rows come in an order that nothing promises, each of them once.
-//   - Nothing is tested and no error is reported: beyond a table a cell, also one of the key, reads -1.0 (-1, empty)
-//     and takes part in the sort, and is not written. The result is 0. A failed allocation is the exception of `new`,
-//     raised before a sort writes anything (a sort by several columns in turn may have finished some of them).
-//   - Numbers are sorted by the bits of their keys and moved column by column, with a column of scratch and 8 bytes for
-//     each row of the range; a vector of numbers with a copy of it. A merge of records serves for strings, for NaN and
-//     where that memory is short, at last without a buffer; rows beyond a table, and columns that share memory, are
-//     written row by row from a copy.
+//   - The order is the plain less-than: 0.0 and -0.0 tie. Strings are ordered by their character codes, without a
+//     locale. With NaN keys the rows come in an unspecified order, each of them once.
+//   - Nothing is tested and no error is reported: beyond a table a cell, or a cell of the key, reads -1.0 (-1, empty)
+//     and takes part in the sort, and is not written. The result is 0.
+//   - Numbers are sorted by the bits of their keys and moved column by column. A merge of records serves for strings,
+//     for NaN and where memory is short; rows beyond a table, and columns that share memory, are written row by row
+//     from a copy.
 //
-// @missing a missing key is the smallest: first ascending, last descending; data moves like any other
-// @empty a `last` below `first` changes nothing; 0. Counts of 0 are 1 in the flat forms
+// @missing the smallest key, as the empty string is: first ascending, last descending; data moves like any other
+// @empty a `last` below `first` changes nothing. Counts of 0 are 1 in the flat forms
+// @memory a column of scratch and 8 bytes for each row of the range; for a vector of numbers a copy of it. Where that
+//     is short it goes without, in the end without a buffer. A failed allocation is the exception of `new`, raised
+//     before a sort writes anything (a sort by several columns in turn may have finished some of them)
 #pragma once
 
 #include "../Smatrix.h"
@@ -30,7 +30,7 @@
 
 /// Rearrange the rows of `data` (over its `nCols` columns) and of `companion` (over `nCompanionCols`) in the order of
 /// `key`, element i of which belongs to row i. `writeKeys` exactly -1 writes the sorted keys back into elements `first`
-/// to `last`; any other value leaves `key` as it was, out of step with the rows. `nRows` is not used: the stride of a
+/// to `last`; any other value leaves `key` unchanged, out of step with the rows. `nRows` is not used: the stride of a
 /// table is its own. `matrix**` and `Smatrix**` are arrays of column tables.
 ///
 /// Integer keys are compared as doubles and come back unchanged.
@@ -53,17 +53,16 @@ VECMAT_API int SortQ(Smatrix** data, int nRows, int nCols, int first, int last, 
                      int nCompanionCols, short descending, short writeKeys);
 
 /// Sort all `n` rows ascending by `key`, normally an indicator of 0 and 1, so that the rows with 0 come first, each
-/// group in the order of the input. The sorted keys are written back into `key`. A string table with `nCols` 0 counts
-/// as one column.
-/// @missing a missing key is the smallest: first; data moves like any other
+/// group in the order of the input. The sorted keys are written back into `key`.
+/// @missing the smallest key: first; data moves like any other
 /// @empty nothing changes; `nCols` of 0 is one column of strings, and of any type in the flat forms
 VECMAT_API int SortDataBy01(matrix*& data, int n, int nCols, matrix*& key);
 VECMAT_API int SortDataBy01(matrix** data, int n, int nCols, matrix*& key);
 VECMAT_API int SortDataBy01(Smatrix*& data, int n, int nCols, matrix*& key);
 
 // ---- rows by columns of their own -----------------------------------------------------------------------------------
-// @missing the smallest of a key column: first ascending, last descending; so is the empty string
-// @empty a `last` below `first`, or no rows, changes nothing; 0
+// @missing the smallest of a key column, as the empty string is: first ascending, last descending
+// @empty a `last` below `first`, or no rows, changes nothing
 
 /// Sort rows `first` to `last` by column `col`, 1-based; the first `nCols` columns move.
 VECMAT_API int SortQMatrixCol(matrix*& table, int nRows, int nCols, int col, int first, int last, short descending);
@@ -84,8 +83,8 @@ VECMAT_API int SortMatrixSeqQP1toP2(matrixInt* table, int nRows, int nCols, int 
 // ---- vectors --------------------------------------------------------------------------------------------------------
 
 /// Sort elements `first` to `last` of a vector of `n` in place. A table is taken in linear order.
-/// @missing the smallest: first ascending, last descending; so is the empty string
-/// @empty a `last` below `first` changes nothing; 0
+/// @missing the smallest: first ascending, last descending
+/// @empty a `last` below `first` changes nothing
 VECMAT_API int SortQVector(double*& x, int n, int first, int last, short descending);
 VECMAT_API int SortQVector(int*& x, int n, int first, int last, short descending);
 VECMAT_API int SortQVector(matrix*& x, int n, int first, int last, short descending);
@@ -93,8 +92,8 @@ VECMAT_API int SortQVector(matrixInt*& x, int n, int first, int last, short desc
 
 /// The same for strings. Here, unlike in every other sort, any `descending` but 0 is descending. Callers pass 1 for
 /// `first`.
-/// @missing the smallest: first ascending, last descending; so is the empty string
-/// @empty a `last` below `first` changes nothing; 0
+/// @missing the empty string is the smallest: first ascending, last descending
+/// @empty a `last` below `first` changes nothing
 VECMAT_API int SortQVector(Smatrix* x, int first, int last, short descending);
 
 extern "C" {
@@ -108,11 +107,12 @@ VECMAT_API int SortQByCol(matrix*& data, int nRows, int nCols, int first, int la
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
 //
-// The arrays are column-major with the dimensions given. Numbers are sorted where they are; arrays that overlap, and
-// those whose cells have to be converted, are copied in, and copied back as a whole: the key, the companion, the data.
-// String arrays come back as new BSTRs in every cell, also outside the range; what stood there is not released.
+// The arrays are column-major with the dimensions given. Numbers are sorted in place; arrays that overlap, and those
+// whose cells have to be converted, are copied in, and copied back as a whole: the key, the companion, the data. String
+// arrays come back as new BSTRs in every cell, including those outside the range; the old ones are not released.
 
 /// Vectors of `n`; in the string form any `descending` but 0 is descending.
+/// @missing the smallest, as the empty string is: first ascending, last descending
 VECMAT_API int VB_SortQVectorDbl(double* x, int n, int first, int last, short descending);
 VECMAT_API int VB_SortQVectorLng(int* x, int n, int first, int last, short descending);
 VECMAT_API int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending);
@@ -130,9 +130,9 @@ VECMAT_API int VB_SortMatrixSeqQP1toP2Dbl(double* table, int nRows, int nCols, i
 VECMAT_API int VB_SortMatrixSeqQP1toP2Lng(int* table, int nRows, int nCols, int firstCol, int lastCol,
                                           short lastToFirst);
 
-/// `SortQ`: data `nRows` by `nCols`, `nRows` keys, companion `nRows` by `nCompanionCols`. 0 counts as 1 in both column
-/// counts, so there is always a companion and it is always rearranged. In order: doubles by doubles, doubles by ints,
-/// ints by ints, Booleans by doubles (every true cell comes back as -1), strings by doubles.
+/// `SortQ`: data `nRows` by `nCols`, `nRows` keys, companion `nRows` by `nCompanionCols`. As 0 counts as 1 in both
+/// column counts, there is always a companion and it is always rearranged. In order: doubles by doubles, doubles by
+/// ints, ints by ints, Booleans by doubles (every true cell comes back as -1), strings by doubles.
 VECMAT_API int VB_SortQDbl(double* data, int nRows, int nCols, int first, int last, double* key, double* companion,
                            int nCompanionCols, short descending, short writeKeys);
 VECMAT_API int VB_SortQDbl2(double* data, int nRows, int nCols, int first, int last, int* key, double* companion,

@@ -4,9 +4,10 @@
 // truncated towards zero: 2.9 is row 2, 0.5 is row 1. A source row may appear any number of times. Only the linear
 // position of a source cell is checked: beyond the table it reads -1.0 (-1, an empty string), and a number past the
 // last row, or below the first, slides into the next or previous column. An order that is too short reads -1.0 as well.
-// Missing cells are moved like any other. No error is reported.
+// No error is reported.
 //
-// @missing moved like any other; where doubles become ints it is the lowest int; a missing order is a row out of range
+// @missing moved like any other; where doubles become ints it becomes the lowest int; a missing order is a row out of
+//     range
 // @empty nothing is written
 #pragma once
 
@@ -17,7 +18,7 @@
 
 /// Cell (i, j) of `out` takes cell (order[i], j) of `source`, for `nRows` rows and `nCols` columns. `out` is prepared
 /// with `matCheck` and must be another table than `source`. Ints are widened; doubles are truncated towards zero, those
-/// outside the range of int (missing cells too) to the lowest int.
+/// outside the range of int to the lowest int.
 VECMAT_API void SortApply(matrix* source, int nRows, int nCols, matrix* order, matrix*& out);
 VECMAT_API void SortApply(matrixInt* source, int nRows, int nCols, matrix* order, matrix*& out);
 VECMAT_API void SortApply(matrix* source, int nRows, int nCols, matrix* order, matrixInt*& out);
@@ -33,8 +34,8 @@ extern "C" {
 VECMAT_API void SortApplyStr(Smatrix* source, int nRows, int nCols, matrix* order, Smatrix* out);
 
 /// Flat forms over column-major arrays of `nRows` by `nCols` and an order of `nRows`. The forms with a 2 work in place.
-/// The result may share memory with the source and the order, which then are copied first. Strings are stored as new
-/// BSTRs in every cell; what stood there is not released.
+/// The result may share memory with the source and the order, which are then copied first. Strings are stored as new
+/// BSTRs in every cell; the old ones are not released.
 VECMAT_API void VB_SortApply(double* source, int nRows, int nCols, double* order, double* out);
 VECMAT_API void VB_SortApply2(double* table, int nRows, int nCols, double* order);
 VECMAT_API void VB_SortApplyLng(int* source, int nRows, int nCols, double* order, int* out);
