@@ -49,8 +49,8 @@ def box(floor, edges):
 
 
 def arrow(edge):
-    kind = "up" if edge.is_upward else "down"
-    return (f'"{edge.source}" -> "{edge.target}" [class={kind} label="{edge.count}" '
+    kind = "class=up constraint=false" if edge.is_upward else "class=down"  # whatever runs upwards, the rows stay
+    return (f'"{edge.source}" -> "{edge.target}" [{kind} label="{edge.count}" '
             f"penwidth={1 + min(edge.count, 40) / 20:g}]")
 
 
