@@ -1,11 +1,10 @@
 // Rows with missing cells removed before an analysis and put back after it, and tables stacked without them.
 //
-// A mask has one 16-bit entry for each row; here any value but 0 counts. The block is `nRows` by `nCols`; a read
-// outside a table yields -1.0 (-1, an empty string) and a write outside is dropped. Nothing is resized; the caller is
-// believed as to how many rows a mask marks.
+// A mask has one 16-bit entry for each row. The block is `nRows` by `nCols`; a read outside a table yields -1.0 (-1, an
+// empty string) and a write outside is dropped. Nothing is resized; the caller's count of marked rows is not checked.
 //
-// @missing with one column a missing cell (order), or an empty string, excludes its row whatever the mask; with more
-//     the mask alone decides
+// @missing with two or more columns the mask alone decides; with one column (`nCols` below 2) a missing cell (order),
+//     or an empty string, excludes its row as well, whatever its mask entry
 // @mask a nonzero entry excludes the row
 // @empty no row moves
 #pragma once
@@ -15,9 +14,7 @@
 #include "../matrix.h"
 #include "../matrixInt.h"
 
-/// Moves the rows whose mask entry is 0 up to the top, in their order; below them the cells stay what they were. With
-/// two or more columns the mask alone decides. With `nCols` below 2 there is one column, and a row that is itself
-/// missing (the missing value, anything below it, minus infinity; an empty string) goes too, whatever its mask entry.
+/// Moves the rows that are kept up to the top, in their order; below them the cells keep their values.
 VECMAT_API void RemoveRowsWithMissing(matrix*& a, int nRows, int nCols, short* mask);
 VECMAT_API void RemoveRowsWithMissing(Smatrix*& a, int nRows, int nCols, short* mask);
 
@@ -29,10 +26,10 @@ VECMAT_API void VB_RemoveRowsWithMissing(double* data, int nRows, int nCols, int
 VECMAT_API void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemoved, short* mask,
                                             wchar_t** out);
 
-/// The reverse: fills the `nRows` + `nInsert` rows of `out`, for each of which the mask has an entry. A marked row
-/// becomes missing in every column; any other takes the next row of `data`. The missing integer is -2147483648, which
-/// no function looks for.
-/// @missing copied unchanged; a marked row becomes missing, in ints -2147483648, which no function looks for
+/// The reverse: fills the `nRows` + `nInsert` rows of `out`, for each of which the mask has an entry. A row that is not
+/// marked takes the next row of `data`.
+/// @missing copied unchanged; a marked row becomes missing in every column, in ints -2147483648, which no function
+///     looks for
 /// @mask a nonzero entry marks a row to be inserted
 /// @empty nothing is written
 VECMAT_API void M_InsertMissing(matrix* data, int nRows, int nCols, short* mask, int nInsert, matrix* out);
@@ -40,9 +37,9 @@ VECMAT_API void M_InsertMissingLng(matrixInt* data, int nRows, int nCols, short*
 VECMAT_API void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out);
 VECMAT_API void Cpp_M_InsertMissingLng(int* data, int nRows, int nCols, short* mask, int nInsert, int* out);
 
-/// Stacks the cells that are not missing (equality), column by column, into `out`, which keeps what it holds beyond
-/// them. Cell j of `counts` grows by 1 for each cell of column j that is present; if it is 0 after the column,
-/// `*emptyCols` grows by 1. Both are added to and must arrive initialised.
+/// Stacks the present cells, column by column, into `out`, which keeps its values beyond them. Cell j of `counts` grows
+/// by 1 for each present cell of column j; if it is 0 after the column, `*emptyCols` grows by 1. Both are added to and
+/// must be initialised.
 /// @missing left out (equality)
 /// @empty a column whose count is 0 adds 1 to `*emptyCols`
 VECMAT_API void MatToVect_NoMissing(matrix* data, int nRows, int nCols, matrix* counts, double* emptyCols, matrix* out);

@@ -1,16 +1,14 @@
 // Missing numbers filled with the mean of their column.
 //
-// A cell is filled where it is missing (the missing value, anything below it, minus infinity; not a NaN) and the mask
-// entry of its row, one of `nRows`, is not 0; any other value than 0 marks the row. Missing cells of the other rows
-// stay. The means are weighted, and are those of `V_Mean` and `M_Mean`: they leave out the missing value alone. The
-// weights, one for each row of the statistics, count there and nowhere else: a row of weight 0 is filled like any
-// other. All means are taken before the first cell is filled.
+// The means are weighted, and are those of `V_Mean` and `M_Mean`, taken before the first cell is filled. Missing cells
+// of rows that are not marked stay.
 //
-// @missing filled with the mean of its column in a marked row (order); the means leave out the missing value alone
-//     (equality)
+// @missing filled with the mean of its column in a marked row (order; not a NaN); the means leave out the missing value
+//     alone (equality)
 // @mask a nonzero entry marks a row to be filled
-// @weights count in the means alone: a row of weight 0 is filled like any other
-// @divisor the sum of the weights of the column's mean, which is 0.0 without data
+// @weights one for each row of the statistics; they count in the means alone: a row of weight 0 is filled like any
+//     other
+// @divisor the sum of the weights of the column's mean; a column without data has mean 0.0, which fills its cells
 // @empty `nCols` below 1 is a vector, whose mean without data is missing, so that its cells stay missing
 #pragma once
 
@@ -21,13 +19,11 @@
 extern "C" {
 
 /// Fills `X`, `nRows` by `nCols`, with the means of the columns of `statX`, which has `nStat` rows and may be `X`
-/// itself. A column without data has mean 0.0, and its cells become 0.0. With `nCols` below 1 both are vectors of
-/// `nStat` and `nRows` cells; the mean of one without data is missing, and its cells stay missing.
+/// itself. With `nCols` below 1 both are vectors of `nStat` and `nRows` cells.
 VECMAT_API void EstimateRowsWithMissingMean(matrix* statX, int nStat, matrix*& X, int nRows, int nCols, short* mask,
                                             matrix* weights);
 
-/// The same over an array of columns, with statistics from the same data. There is no case of a vector: without columns
-/// nothing happens.
+/// The same over an array of columns, with statistics from the same data. A vector is no special case.
 /// @empty without columns nothing happens
 VECMAT_API void EstimateRowsWithMissingMeanSPV(matrix** X, int nRows, int nCols, short* mask, matrix* weights);
 

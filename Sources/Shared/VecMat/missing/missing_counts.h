@@ -1,12 +1,12 @@
 // The tests for a missing value, and counts of missing cells.
 //
-// A missing cell of a `matrix` holds the missing value, one of an `Smatrix` the empty string. Two tests tell a missing
-// double: "equality" takes the missing value alone, "order" also what is below it and minus infinity; a NaN is missing
-// under neither. Each function says which it uses.
+// A missing cell of a `matrix` holds the missing value, one of an `Smatrix` the empty string. There are two tests for a
+// missing double: "equality" takes the missing value alone, "order" also what is below it and minus infinity; a NaN is
+// missing under neither.
 //
-// What is scanned is the block that the caller names, `nRows` by `nCols` or the first `n` cells in linear order. A cell
-// of it that lies outside the table counts as present, in a table of strings too. Counts by column or row are written
-// over what stood there, as 0 where the column or row has no cells. Nothing fails or reports.
+// The block named by the caller is read, `nRows` by `nCols` or the first `n` cells in linear order. A cell of it that
+// lies outside the table counts as present, in a table of strings too. Counts by column or row overwrite the old ones,
+// with 0 where the column or row has no cells. No error is reported.
 //
 // @missing counted (equality, or empty strings)
 // @empty 0
@@ -21,51 +21,51 @@
 
 extern "C" {
 
-/// -1 where the value is missing (order), else 0. The two names are one function.
+/// -1 where the value is missing, otherwise 0. The two names are one function.
 /// @missing the order test: -1
-/// @empty always a value
+/// @empty takes no array
 VECMAT_API short IsMissingValueDbl(double x);
 VECMAT_API short VB_IsMissingValueDbl(double x);
 
-/// -1 where the string has no characters, else 0. The flat form reads 32-bit characters up to a NUL.
+/// -1 where the string has no characters, otherwise 0. The flat form reads 32-bit characters up to a NUL.
 /// @missing the empty string: -1
 /// @empty the empty string is the missing one
 VECMAT_API short IsMissingValueStr(std::wstring s);
 VECMAT_API short VB_IsMissingValueStr(const wchar_t* s);
 
-/// `n` less the missing cells of a vector (equality); for `n` below 1 it is `n` itself, also a negative one.
+/// `n` less the missing cells of a vector.
 /// @missing not counted (equality)
-/// @empty a vector of `n` below 1 has `n`; a column without rows 0
+/// @empty `n` itself, even a negative one
 VECMAT_API int V_NbNonMissing(matrix* x, int n);
 
-/// The missing cells of each row (equality), in `nRows` counts.
+/// The missing cells of each row, in `nRows` counts.
 VECMAT_API void M_NbMissingPerRow(matrix* a, int nRows, int nCols, int* counts);
 
-/// The cells of each column that are not missing (equality), in `nCols` counts.
+/// The present cells of each column, in `nCols` counts.
 /// @missing not counted (equality)
-/// @empty a vector of `n` below 1 has `n`; a column without rows 0
+/// @empty 0 for a column without rows
 VECMAT_API void M_NbNonMissing(matrix* a, int nRows, int nCols, int* counts);
 
-/// The missing cells (equality) off the diagonal of a symmetric table of order `n`, held as a triangle of columns: each
-/// cell below the diagonal stands for two. The diagonal is not looked at.
-/// @missing counted (equality), twice for each cell below the diagonal; the diagonal is not read
+/// The missing cells off the diagonal of a symmetric table of order `n`, held as a triangle of columns. The diagonal is
+/// not read.
+/// @missing counted (equality), twice for each cell below the diagonal, which represents two
 VECMAT_API int M_NbMissingSPV_T(matrix** a, int n, int unused);
 
 } // extern "C"
 
-/// The missing cells of a vector: by the equality test, or the empty strings. 0 for `n` below 1.
+/// The missing cells of a vector.
 VECMAT_API int V_NbMissing(matrix* x, int n);
 VECMAT_API int V_NbMissing(Smatrix* x, int n);
 
-/// The missing cells of each column, in `nCols` counts: by the equality test, or the empty strings.
+/// The missing cells of each column, in `nCols` counts.
 VECMAT_API void M_NbMissing(matrix* a, int nRows, int nCols, int* counts);
 VECMAT_API void M_NbMissing(Smatrix* a, int nRows, int nCols, int* counts);
 
-/// The missing cells of an array of columns, by the order test, unlike all other counts. 0 for `nRows` below 1.
+/// The missing cells of an array of columns.
 /// @missing counted by the order test, unlike all others here
 VECMAT_API int M_NbMissing(matrix** a, int nRows, int nCols);
 
-/// All missing cells: by the equality test, also in an array of columns, or the empty strings.
+/// All missing cells of a table or an array of columns.
 VECMAT_API int M_NbMissing2(matrix* a, int nRows, int nCols);
 VECMAT_API int M_NbMissing2(matrix** a, int nRows, int nCols);
 VECMAT_API int M_NbMissing2(Smatrix* a, int nRows, int nCols);

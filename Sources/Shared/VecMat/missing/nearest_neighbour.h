@@ -1,22 +1,17 @@
 // Missing cells filled from the most similar row: nearest-neighbour imputation over up to three blocks of columns.
 //
 // One data set is held in a primary block (numbers, or strings in the `Str` form), a second block of numbers Y and a
-// block of strings S, all with `nRows` rows. Each missing cell of each row t that `mask` (`nRows` entries, non-zero:
-// flagged) flags takes the value that the nearest row that is not flagged has in its column; where there is none it
-// takes the column's mean, or the most frequent category. Rows go in order, within a row the columns of the primary
-// block, then Y, then S. A filled cell counts as present from then on, but its row stays flagged and is never a
-// neighbour. A flag on a complete row only keeps that row from being a neighbour. Rows that are not flagged are never
-// written.
+// block of strings S, all with `nRows` rows. Each missing cell of each row t flagged by `mask` takes the value that the
+// nearest unflagged row has in its column; where there is none it takes the column's mean, or the most frequent
+// category. Rows go in order, within a row the columns of the primary block, then Y, then S. A filled cell counts as
+// present from then on, but its row stays flagged. A flag on a complete row only keeps that row from being a neighbour.
+// Rows that are not flagged are never written.
 //
-// A number is missing at or below the missing value (a NaN is present), a string when it is empty. A block without
-// columns, or a null Y or S, takes no part. Without rows nothing happens.
-//
-// Column statistics come from the statistics tables (statX, statY, statS; `nStat` rows, `weights` of `nStat` cells,
-// which must be given), before the first cell is filled. These may be the target tables themselves. Rows of the
-// statistics tables are never copied from: neighbours are rows of the target tables. Means and variances are those of
-// `M_MeanStDevVar` over all rows, with the weights as frequencies in the primary block and with the other corrected
-// divisor in Y; most frequent categories are those of `M_InfoQuali`, with its answer for a column without any. A column
-// without any number has the mean 0.0.
+// Column statistics come from the statistics tables (statX, statY, statS; `nStat` rows, `weights` of `nStat` cells),
+// before the first cell is filled. These may be the target tables themselves. Rows of the statistics tables are never
+// copied from: neighbours are rows of the target tables. Means and variances are those of `M_MeanStDevVar` over all
+// rows; most frequent categories are those of `M_InfoQuali`, with its answer for a column without any. A column without
+// any number has mean 0.0.
 //
 // The distance of a candidate row c is the sum of these terms, in the order of blocks and columns:
 //     numbers   (x(t,k) - x(c,k))^2 / variance(k), where the variance is above 0 and x(t,k) is present
@@ -31,25 +26,24 @@
 //     S               any column, own cell   any column, own cell   any column, own cell
 //
 // The lines for the blocks name the cells of c that reject it when missing. The "own cell" is the one that would be
-// copied: it is looked at only along with the columns of the blocks so marked. Where these have no columns a row whose
-// own cell is missing can win, and the cell stays missing. Only in the primary block is the row passed over the target
-// row (which is flagged anyhow); elsewhere row j is never a neighbour for column j, though it be the nearest.
+// copied: it is tested only along with the columns of the blocks so marked. Where these have no columns a row whose own
+// cell is missing can win, and the cell stays missing. Only in the primary block is the row passed over the target row
+// (which is flagged anyhow); elsewhere row j is never a neighbour for column j, even if it is the nearest.
 //
 // A candidate wins only while some term has been added, a numeric one of 0.0 included; equal strings add none. In the
-// primary block this is asked of the candidate itself. In Y and S it is enough that a term was added in the call since
-// the last candidate row of the last primary search was reached, so that a row without anything to compare can win
+// primary block this must hold for the candidate itself. In Y and S it is enough that a term was added in the call
+// since the last candidate row of the last primary search was reached, so a row without anything to compare can win
 // there at distance 0.0.
 //
-// With 50 rows or more the search works in a copy of the numbers of the rows that are not flagged, to pass over those
-// that are too far away; where memory is short it does without, with the same result.
-//
-// @missing filled from the nearest row in a flagged row (a number at or below the missing value, an empty string);
-//     rejects a candidate row
+// @missing in a flagged row filled from the nearest row (a number at or below the missing value, not a NaN; an empty
+//     string); in a candidate row it rejects the row at once, whatever its distance so far
 // @mask a nonzero entry flags a row: to be filled, and never a neighbour
-// @weights required; count in means, variances and modes alone: frequencies in the primary block, the other corrected
-//     divisor in Y
+// @weights required; they count in means, variances and modes alone: frequencies in the primary block, the other
+//     corrected divisor in Y
 // @divisor each squared difference by its column's variance, where that is above 0
-// @empty without rows nothing happens; a block without columns takes no part
+// @empty without rows nothing happens; a block without columns, or a null Y or S, takes no part
+// @memory with 50 rows or more a copy of the numbers of the unflagged rows, to skip those that are too far away; where
+//     that is short the search does without, with the same result
 #pragma once
 
 #include "../Smatrix.h"

@@ -10,8 +10,7 @@
 extern "C" {
 
 /// The covariance table Q C Q' of the `nRows` linear combinations in the rows of Q (`nRows` by `nCols`) of variables
-/// with the covariance table C, of which only the lower triangle is read. No test for the missing value; a cell outside
-/// Q or C reads as -1.0.
+/// with the covariance table C, of which only the lower triangle is read. A cell outside Q or C reads as -1.0.
 ///
 /// Cell i of `variances`, which must exist, becomes the sum, for each variable j in turn, of Q(i,j)^2 C(j,j) and, for
 /// each k before j, of 2 Q(i,j) Q(i,k) C(j,k). `covariances` is prepared with `matCheck`, `nRows` by `nRows`. Its
@@ -20,8 +19,8 @@ extern "C" {
 ///     cov(i, m) = var(i + m)/2 - (var(i) + var(m))/2,
 ///
 /// with the coefficients t = Q(i,.) + Q(m,.), in the order of the sum above. A variable whose |t| is not above
-/// 2.220446049250313e-16 is passed over with its cross terms; as the k of a later j it counts. So the last bits differ
-/// from those of a product of tables. With `nRows` below 1 only `covariances` is prepared.
+/// 2.220446049250313e-16 is skipped with its cross terms; as the k of a later j it counts. So the last bits differ from
+/// those of a product of tables.
 VECMAT_API void ComputeNewVar(matrix* Q, int nRows, int nCols, matrix* C, matrix* variances, matrix*& covariances);
 
 /// C is `nCols` by `nCols`; `variances` has `nRows` elements and `covariances` `nRows` by `nRows`.

@@ -1,10 +1,9 @@
 // Repeated rows, and the distinct values of a vector.
 //
-// Equality is the plain one: 0.0 equals -0.0, a missing cell another, a NaN nothing. Among numbers the missing value is
-// the smallest; an empty string is a value like any other. A vector is a table in linear order. The input is not
+// Equality is that of doubles: 0.0 equals -0.0, a NaN nothing. A vector is a table in linear order. The input is not
 // written.
 //
-// @missing a value like any other; so is the empty string
+// @missing a value like any other, the smallest number, equal to itself; so is the empty string
 // @empty 1 for `n` below 2
 #pragma once
 
@@ -23,22 +22,21 @@ extern "C" {
 ///     nCols + 3            1 in a kept row, 0 in a repeated one
 /// First come the `*nKept` kept rows, by ascending identifier, then the repeated ones likewise; where identifiers are
 /// equal, by ascending keys from the first column on, then in the order of the input. Of equal rows the first of the
-/// input is kept. Without rows none is.
-/// @missing equals itself; the smallest of keys
-/// @empty nothing kept
+/// input is kept.
+/// @missing a key like any other, the smallest, equal to itself
+/// @empty no row is kept
 VECMAT_API void M_Dedupe(matrix* data, int nRows, int nCols, int* nKept, matrix*& out);
 
 /// The values in ascending order, without those that lie above the one before by no more than the tolerance: the
 /// smaller of 2.220446049250313e-16 and the range of the values. So the last of a chain of close values may be far from
-/// the one that stands for it. `distinct` has room for n cells; those beyond `*count` are left as they are. Nothing
-/// counts 1, a value of -1.0.
+/// the one that represents it. `distinct` has room for n cells; those beyond `*count` are left unchanged.
 /// @missing a value like any other, the smallest
 /// @empty one value, -1.0
 VECMAT_API void V_ExtractDistinct(matrix* x, int n, matrix* distinct, int* count);
 
 } // extern "C"
 
-/// The number of distinct values, without a tolerance, so that it can be higher than the count above; 1 for n below 2.
+/// The number of distinct values, without a tolerance, so it can be higher than the count above.
 VECMAT_API int V_NbDistinct(matrix* x, int n);
 VECMAT_API int V_NbDistinct(matrixInt* x, int n);
 VECMAT_API int V_NbDistinct(Smatrix* x, int n);

@@ -1,11 +1,10 @@
 // Weighted frequency of one value in a vector.
 //
-// The sum of the weights of the cells that match, in order from +0.0; 0.0 for `n` below 1. Vectors are walked in linear
-// order; `weights` holds n cells, must be given and is not tested. A cell beyond a table of numbers is -1.0, one beyond
-// a table of strings empty. There is no missing test: the missing value and the empty string are values like any other.
+// The sum of the weights of the cells that match, in order from +0.0. Vectors are walked in linear order; `weights` has
+// n cells. A cell beyond a table of numbers is -1.0, one beyond a table of strings empty.
 //
 // @missing a value like any other; so is the empty string
-// @weights required, used as given, untested
+// @weights required, not tested
 // @empty 0.0 (0)
 #pragma once
 

@@ -1,12 +1,11 @@
 // One row for each group of rows with the same key.
 //
-// `out`, nRows by nCols, must exist: it takes the data sorted ascending by the 1-based column `keyCol`, rows of a group
-// in the order of the input, and then in rows 1 to `*nGroups` the groups: the key, and an aggregate of each other
-// column. Below, it keeps what the sort left there. `data` is not written. Rows whose key is missing are a group like
-// any other, which comes first; a row whose key is a NaN is a group of its own, in a place that nothing promises.
-// Without rows there are no groups.
+// `out`, nRows by nCols, must exist: it receives the data sorted ascending by the 1-based column `keyCol`, rows of a
+// group in the order of the input, and then in rows 1 to `*nGroups` the groups: the key, and an aggregate of each other
+// column. Below, it keeps what the sort left there. `data` is not written. A row whose key is a NaN is a group of its
+// own, in an unspecified place.
 //
-// A column whose entry of `colTypes` (nCols of them) is not 0, or is beyond that table, gets the mode of its codes
+// A column whose entry of `colTypes` (nCols of them) is nonzero, or is beyond that table, gets the mode of its codes
 // (`V_ModeCat`), whatever `aggregate` says: there a code counts where it lies below the number of rows of its group,
 // and a group of one row gives 0. The others, by `aggregate`:
 //
@@ -21,11 +20,10 @@
 //     6  maximum     V_Max2
 //     7  maximum less minimum; the missing value where the maximum is not above it
 //
-// so that missing cells count as those functions have it. Any other code leaves these columns of the rows as sorted.
-// Nothing is reported.
+// Any other code leaves these columns of the rows as sorted. No error is reported.
 //
-// @weights sorted with the rows; every group takes the first of them, whichever its own rows have; zero as in the
-//     functions named
+// @missing a missing key makes a group like any other, the first; in the other columns as in the function named
+// @weights required; a zero counts as in the function named
 // @empty no groups
 #pragma once
 
@@ -35,17 +33,14 @@
 
 extern "C" {
 
-/// @missing a missing key makes a group like any other, the first; in the other columns as `V_Sum2`, `V_Mean2`,
-///     `V_Quantile`, `V_Min2`, `V_Max2`, `V_ModeCat` have it
 /// @divisor of the mean: the count of present cells
 VECMAT_API void M_GroupBy(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate,
                           int* nGroups, matrix*& out);
 
-/// `weights` (nRows cells) comes back in the order of the sorted rows. The sum, mean and median of every group, not of
-/// the first alone, take its first entries: row k of any group has the weight of row k of the sorted table.
-/// @missing a missing key makes a group like any other, the first; in the other columns as `V_Sum`, `V_Mean`,
-///     `V_QuantileW`, `V_Min2`, `V_Max2`, `V_ModeCat` have it
+/// `weights` (nRows cells) comes back in the order of the sorted rows.
 /// @divisor of the mean: the sum of weights
+/// @weak the sum, mean and median of every group, not of the first alone, take the first entries of the sorted weights:
+///     row k of any group has the weight of row k of the sorted table, not its own
 VECMAT_API void M_GroupByW(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate,
                            int* nGroups, matrix*& out, matrix* weights);
 

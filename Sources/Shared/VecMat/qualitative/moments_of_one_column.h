@@ -4,6 +4,7 @@
 // @weights required; a row of weight 0 changes no sum but counts in m
 // @divisor W; with `sampleVariance` -1 W - 1 for `countDivisor` -1, else W - W/m; not tested
 // @empty mean 0.0, the other two NaN
+// @source Welford (1962) and West (1979), as in `descriptive/moments.h`
 #pragma once
 
 #include "../base/api.h"
@@ -11,15 +12,9 @@
 
 extern "C" {
 
-/// The moments of column `col`, 1-based, over its first nRows cells, by the running updates W += w, d = x - mean,
-/// Q += d d (w - w w / W), mean += d w / W (Welford 1962; West 1979). A cell enters where it is above the missing
-/// value, which a NaN is not. A row of weight 0 moves nothing and is counted in m. With W the sum of weights, the
-/// variance is Q divided by
-///     W            for `sampleVariance` other than -1
-///     W - 1        for `sampleVariance` -1 and `countDivisor` -1
-///     W - W/m      for `sampleVariance` -1 and any other `countDivisor`
-/// without a test: no rows give mean 0.0 and a NaN in the other two. `weights`, nRows cells, must be given. A cell
-/// beyond either table is -1.0.
+/// The moments of column `col`, 1-based, over its first nRows cells, by the running updates W += w, d = x - mean, Q +=
+/// d d (w - w w / W), mean += d w / W. The variance is Q over the divisor, m being the count of the rows that enter. A
+/// cell beyond either table is -1.0.
 VECMAT_API void M_MeanStDevVarOneInMat(matrix* table, int nRows, int col, double* mean, double* stdDev,
                                        double* variance, matrix* weights, short sampleVariance, short countDivisor);
 

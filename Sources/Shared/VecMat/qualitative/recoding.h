@@ -1,9 +1,9 @@
 // Strings into codes, and values into 0 and 1.
 //
 // In the functions over categories row j of `categories` lists the categories of column j of the table, of which the
-// first nCats[j] are searched in their order: the first match gives the code. An empty cell matches an empty category,
-// also a place beyond the table of categories. `out` is nRows by nCols and must exist: no function here prepares it,
-// and a cell that is not written keeps what it held. Looking a text up costs no walk over the categories.
+// first nCats[j] are searched in their order: the first match gives the code. A place beyond the table of categories is
+// empty. `out` is nRows by nCols and must exist: no function here prepares it, and a cell that is not written keeps its
+// value. A text is looked up by a hash, without a search through the categories.
 //
 // @mask a row with a nonzero entry becomes missing; may be null
 // @empty nothing is written
@@ -18,26 +18,24 @@
 
 extern "C" {
 
-/// The code is the 1-based place. A cell that matches nothing leaves `out` as it was.
-/// @missing an empty string matches an empty category; what matches nothing leaves `out` as it was
+/// The code is the 1-based place. A cell that matches nothing leaves `out` unchanged.
+/// @missing an empty string matches an empty category
 VECMAT_API void M_ReplaceCatByCodes(Smatrix* table, int nRows, int nCols, int* nCats, Smatrix* categories,
                                     matrix*& out);
 
-/// The code is the 0-based place plus `firstCode`. A cell that matches nothing, unlike above, and every cell of a row
-/// whose `mask` entry is not 0 is the missing value. A null mask keeps every row.
-/// @missing an empty string matches an empty category; what matches nothing becomes missing
+/// The code is the 0-based place plus `firstCode`. A cell that matches nothing becomes missing, unlike above.
+/// @missing an empty string matches an empty category
 VECMAT_API void M_ReplaceStrByCodes(Smatrix* table, int nRows, int nCols, int* nCats, Smatrix* categories, short* mask,
                                     int firstCode, matrix*& out);
 
-/// 1.0 where a cell equals `value`, else 0.0, for the first n cells in linear order. `out` must exist.
+/// 1.0 where a cell equals `value`, otherwise 0.0, for the first n cells in linear order. `out` must exist.
 /// @missing an empty string is compared like any other
 VECMAT_API void V_RecodeToBinary(Smatrix* x, int n, std::wstring value, matrix* out);
 
-/// 0 where the absolute value is below 2.220446049250313e-16, else 1, also for a NaN. Only the copy keeps a cell that
-/// holds exactly the missing value; in place there is no test, and a missing cell becomes 1.
+/// 0 where the absolute value is below 2.220446049250313e-16, otherwise 1, also for a NaN.
 /// @missing stays missing (equality)
 VECMAT_API void M_Binarize(matrix* table, int nRows, int nCols, matrix* out);
-/// @missing becomes 1, unlike in the copy
+/// @missing not tested: it becomes 1, unlike in the copy
 /// @empty nothing happens
 VECMAT_API void M_Binarize2(matrix* table, int nRows, int nCols);
 VECMAT_API void M_Binarize2SPV(matrix** table, int nRows, int nCols);
