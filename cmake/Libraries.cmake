@@ -62,8 +62,9 @@ vecmat_shared_library(VecMat ${vecmat_sources})
 # stand side by side become vector instructions: what the compiler needs to know for it is that nobody looks at errno
 # or at the floating-point exception flags.
 set(vecmat_kernel_options -fno-math-errno -fno-trapping-math $<$<NOT:$<CONFIG:Debug>>:-O3>)
-set(instruction_sets baseline avx2 avx512)
+set(instruction_sets baseline)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
+    list(APPEND instruction_sets avx2 avx512)
     set(avx2_options -mavx2)
     set(avx512_options -mavx512f -mavx512dq -mavx512bw -mavx512vl -mprefer-vector-width=512)
     if(MINGW) # g++ takes the stack of a function on Windows to be aligned for wide vectors, which it isn't

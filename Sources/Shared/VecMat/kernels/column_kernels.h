@@ -67,7 +67,7 @@ extern const ColumnKernels columnKernels;
 
 inline const ColumnKernels& columnKernels()
 {
-    return forThisMachine(baseline::columnKernels, avx2::columnKernels, avx512::columnKernels);
+    return forThisMachine<baseline::columnKernels, avx2::columnKernels, avx512::columnKernels>();
 }
 
 } // namespace vecmat

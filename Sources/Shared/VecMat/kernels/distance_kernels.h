@@ -38,7 +38,7 @@ extern const DistanceKernels distanceKernels;
 
 inline const DistanceKernels& distanceKernels()
 {
-    return forThisMachine(baseline::distanceKernels, avx2::distanceKernels, avx512::distanceKernels);
+    return forThisMachine<baseline::distanceKernels, avx2::distanceKernels, avx512::distanceKernels>();
 }
 
 } // namespace vecmat

@@ -8,8 +8,8 @@
 
 namespace vecmat {
 
-/// In ascending order. The baseline is what every processor of the platform has. `avx512` asks for the foundation
-/// together with its double and quad word, byte and word, and vector length parts.
+/// In ascending order. The baseline is what every processor of the platform has: SSE2 on x86, Advanced SIMD on 64-bit
+/// Arm. `avx512` asks for the foundation together with its double and quad word, byte and word, and vector length parts.
 enum class InstructionSet { baseline, avx2, avx512 };
 
 /// The widest set that the machine has, settled when the library is loaded. A library built to compare the sets on one
@@ -17,17 +17,24 @@ enum class InstructionSet { baseline, avx2, avx512 };
 /// "baseline" or "avx2"; any other looks at nothing but the machine.
 InstructionSet instructionSet();
 
-template <class Kernels>
-const Kernels& forThisMachine(const Kernels& baseline, const Kernels& avx2, const Kernels& avx512)
+#if defined(__x86_64__) || defined(__i386__)
+inline constexpr bool platformHasWiderSets = true;
+#else
+inline constexpr bool platformHasWiderSets = false;
+#endif
+
+/// The kernels of one kind for the machine. Elsewhere than on x86 there are those of the baseline alone: the names of
+/// the others are not asked for.
+template <const auto& baseline, const auto& avx2, const auto& avx512>
+decltype(baseline) forThisMachine()
 {
-    switch (instructionSet()) {
-    case InstructionSet::avx512:
-        return avx512;
-    case InstructionSet::avx2:
-        return avx2;
-    default:
-        return baseline;
+    if constexpr (platformHasWiderSets) {
+        if (instructionSet() == InstructionSet::avx512)
+            return avx512;
+        if (instructionSet() == InstructionSet::avx2)
+            return avx2;
     }
+    return baseline;
 }
 
 } // namespace vecmat

@@ -4,6 +4,12 @@
 
 #include <cstddef>
 
+#if defined(__AVX512F__)
+#include <immintrin.h>
+#elif defined(__aarch64__)
+#include <arm_neon.h>
+#endif
+
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 #if defined(__AVX512F__)
@@ -34,5 +40,29 @@ inline Lanes inEachLane(double x)
 {
     return x - Lanes{};
 }
+
+// Where the machine fuses a product with a sum: sum + x y and sum - x y, rounded once. Only for steps that are proved to
+// give the bits of the unfused ones.
+#if defined(__AVX512F__)
+#define VECMAT_FUSES_LANES
+inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)
+{
+    return _mm512_fmadd_pd(x, y, sum);
+}
+inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
+{
+    return _mm512_fnmadd_pd(x, y, sum);
+}
+#elif defined(__aarch64__)
+#define VECMAT_FUSES_LANES
+inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)
+{
+    return Lanes(vfmaq_f64(float64x2_t(sum), float64x2_t(x), float64x2_t(y)));
+}
+inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
+{
+    return Lanes(vfmsq_f64(float64x2_t(sum), float64x2_t(x), float64x2_t(y)));
+}
+#endif
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET

@@ -29,7 +29,7 @@ extern const MissingKernels missingKernels;
 
 inline const MissingKernels& missingKernels()
 {
-    return forThisMachine(baseline::missingKernels, avx2::missingKernels, avx512::missingKernels);
+    return forThisMachine<baseline::missingKernels, avx2::missingKernels, avx512::missingKernels>();
 }
 
 } // namespace vecmat

@@ -55,7 +55,7 @@ extern const MomentKernels momentKernels;
 
 inline const MomentKernels& momentKernels()
 {
-    return forThisMachine(baseline::momentKernels, avx2::momentKernels, avx512::momentKernels);
+    return forThisMachine<baseline::momentKernels, avx2::momentKernels, avx512::momentKernels>();
 }
 
 } // namespace vecmat

@@ -58,7 +58,7 @@ extern const PairKernels pairKernels;
 
 inline const PairKernels& pairKernels()
 {
-    return forThisMachine(baseline::pairKernels, avx2::pairKernels, avx512::pairKernels);
+    return forThisMachine<baseline::pairKernels, avx2::pairKernels, avx512::pairKernels>();
 }
 
 } // namespace vecmat

@@ -30,7 +30,7 @@ extern const PowerKernels powerKernels;
 
 inline const PowerKernels& powerKernels()
 {
-    return forThisMachine(baseline::powerKernels, avx2::powerKernels, avx512::powerKernels);
+    return forThisMachine<baseline::powerKernels, avx2::powerKernels, avx512::powerKernels>();
 }
 
 /// cube[k] = std::pow(x[k], 3.0) and fourth[k] = std::pow(x[k], 4.0), for up to `mostPowers` numbers.

@@ -11,10 +11,6 @@
 
 #include "lanes.h"
 
-#if defined(__AVX512F__)
-#include <immintrin.h>
-#endif
-
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 /// Divides.
@@ -36,7 +32,7 @@ struct Division
     Lanes of(Lanes numerator) const { return numerator / divisor; }
 };
 
-#if defined(__AVX512F__)
+#ifdef VECMAT_FUSES_LANES
 
 /// Divides by sums of weights, with their reciprocals.
 class FusedDivision
@@ -86,8 +82,8 @@ public:
     Lanes of(Lanes numerator) const
     {
         const Lanes q = numerator * reciprocal_;
-        const Lanes rest = _mm512_fnmadd_pd(q, divisor_, numerator);
-        return _mm512_fmadd_pd(rest, reciprocal_, q);
+        const Lanes rest = fusedDifference(numerator, q, divisor_);
+        return fusedSum(q, rest, reciprocal_);
     }
 
 private:

@@ -65,7 +65,7 @@ extern const RegressionKernels regressionKernels;
 
 inline const RegressionKernels& regressionKernels()
 {
-    return forThisMachine(baseline::regressionKernels, avx2::regressionKernels, avx512::regressionKernels);
+    return forThisMachine<baseline::regressionKernels, avx2::regressionKernels, avx512::regressionKernels>();
 }
 
 } // namespace vecmat

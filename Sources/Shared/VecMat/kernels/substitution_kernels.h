@@ -42,7 +42,7 @@ extern const SubstitutionKernels substitutionKernels;
 
 inline const SubstitutionKernels& substitutionKernels()
 {
-    return forThisMachine(baseline::substitutionKernels, avx2::substitutionKernels, avx512::substitutionKernels);
+    return forThisMachine<baseline::substitutionKernels, avx2::substitutionKernels, avx512::substitutionKernels>();
 }
 
 } // namespace vecmat

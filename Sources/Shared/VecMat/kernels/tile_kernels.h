@@ -43,7 +43,7 @@ extern const TileKernels tileKernels;
 
 inline const TileKernels& tileKernels()
 {
-    return forThisMachine(baseline::tileKernels, avx2::tileKernels, avx512::tileKernels);
+    return forThisMachine<baseline::tileKernels, avx2::tileKernels, avx512::tileKernels>();
 }
 
 } // namespace vecmat

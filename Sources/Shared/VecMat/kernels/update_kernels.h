@@ -29,7 +29,7 @@ extern const UpdateKernels updateKernels;
 
 inline const UpdateKernels& updateKernels()
 {
-    return forThisMachine(baseline::updateKernels, avx2::updateKernels, avx512::updateKernels);
+    return forThisMachine<baseline::updateKernels, avx2::updateKernels, avx512::updateKernels>();
 }
 
 } // namespace vecmat
