@@ -71,11 +71,12 @@ def family_of(unit):
 
 def base_of(name, names):
     """The function of which a name is the flat form, or nothing where that can't be told."""
-    base = re.sub(r"^(VB|Cpp)_", "", name)
+    base = re.sub(r"^(VB_|Cpp_|Run)", "", name)
     if base == name:
-        return ""
+        return f"c{name}" if f"c{name}" in names else ""
     without_type = re.sub(r"(Dbl|Lng|Str|Bool)(?=(\d|SPV\w*)?$)", "", base)
-    return next((other for other in (base, without_type) if other in names), "")
+    without_storage = re.sub(r"SPV$", "", without_type)  # where the forms for tables and columns are overloads
+    return next((other for other in (base, without_type, without_storage) if other in names), "")
 
 
 def asks_for(tag, declaration):

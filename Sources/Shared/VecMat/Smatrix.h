@@ -29,7 +29,7 @@ public:
 
     VECMAT_API Smatrix(Smatrix& src);
     /// @missing freed with the table
-    /// @empty nothing is special
+    /// @empty nothing special
     VECMAT_API ~Smatrix();
 
     Smatrix& operator=(const Smatrix&) = delete;
@@ -48,19 +48,19 @@ public:
             X[k] = std::move(v);
     }
 
-    /// Keeps a table of exactly this shape, with its strings as they are. Any other is replaced by an empty one and is
-    /// not deleted: unlike in the numeric tables, the caller who built it deletes it.
-    /// @missing the strings of a table of the same shape stay
+    /// Keeps a table of exactly this shape. Any other is replaced by an empty one and is not deleted: unlike in the
+    /// numeric tables, the caller who built it deletes it.
+    /// @missing the strings of a table that is kept stay
     /// @empty a table without cells, unless there is one
     VECMAT_API static void matCheck(Smatrix*& ref, int rows, int cols);
 
-    /// Sets the dimensions of `dst`, which must have that many cells already, and assigns every string.
-    /// @missing copied unchanged; as a BSTR it is an empty one
+    /// Sets the dimensions of `dst`, which must already have that many cells, and assigns every string.
+    /// @missing copied unchanged
     /// @empty no cell is copied
     VECMAT_API void copyMatTo(Smatrix* dst);
 
-    /// Stores a new BSTR for each cell, in linear order. The caller owns them; what stood in `dst` is not released.
-    /// @missing copied unchanged; as a BSTR it is an empty one
+    /// Stores a new BSTR for each cell, in linear order. The caller owns them; the old ones in `dst` are not released.
+    /// @missing an empty string becomes an empty BSTR
     /// @empty no cell is copied
     VECMAT_API void copyMatTo(wchar_t** dst);
 

@@ -49,7 +49,7 @@ public:
 
     /// @missing freed with the table; the array of a view is not
     /// @weights freed with the table
-    /// @empty nothing is special
+    /// @empty nothing special
     ~matrixInt();
 
     matrixInt(const matrixInt&) = delete;

@@ -11,13 +11,13 @@ extern "C" {
 
 /// Decides from `n` eigenvalues in descending order how many axes to keep.
 ///
-/// From the end, as long as more than one is left: an eigenvalue below `floor` is taken off the list (`drop` not 0);
-/// with `drop` 0 the last one is set to 0.0 in `eig` if it is below `floor`, and no other. `kept` is what remains of
-/// the list. `percent` (`matCheck`, n by 1) receives the percentage of each kept eigenvalue in the sum of those not
-/// missing (equality test), or 0.0 throughout where that sum is 0. `selected` is the least of: `kept`; the first count
-/// whose running percentage reaches `cumPercent`, if that is above 0; `maxCount`, if at least 1; and, if `minValue` is
-/// above 0, the count less one for each kept eigenvalue below `minValue` + 1e-12. Returns 0.
-/// @divisor the sum of the eigenvalues not missing; where it is 0 every percentage is 0.0
+/// From the end, as long as more than one is left: an eigenvalue below `floor` is taken off the list (`drop` nonzero);
+/// with `drop` 0 the last one is set to 0.0 in `eig` if it is below `floor`, and no other. `kept` is the length of what
+/// remains. `percent` (`matCheck`, n by 1) receives the percentage of each kept eigenvalue in the sum of them all.
+/// `selected` is the least of: `kept`; the first count whose running percentage reaches `cumPercent`, if that is above
+/// 0; `maxCount`, if at least 1; and, if `minValue` is above 0, the count less one for each kept eigenvalue below
+/// `minValue` + 1e-12. Returns 0.
+/// @divisor the sum of the present eigenvalues; where it is 0 every percentage is 0.0
 VECMAT_API int FilterEigen(matrix*& eig, int n, short drop, double floor, double cumPercent, int maxCount,
                            double minValue, int& kept, int& selected, matrix*& percent);
 
@@ -26,7 +26,7 @@ VECMAT_API void VB_FilterEigen(double* eig, int n, short drop, double floor, dou
                                double minValue, int* kept, int* selected, double* percent);
 
 /// For each of `n` rows: flags 1.0 where cell `colA` is above 0 and its sum with cell `colB` (both 1-based) is above
-/// `threshold`, else 0.0. A cell of colA outside the table gives 0.0, one of colB enters as -1.0. No missing test.
+/// `threshold`, otherwise 0.0. A cell of colA outside the table gives 0.0, one of colB enters as -1.0.
 /// @missing an ordinary number
 /// @empty nothing is written
 VECMAT_API void FilterOnSumOfSquares(matrix* m, int n, int colA, int colB, double threshold, double* flags);

@@ -1,14 +1,12 @@
 // Inverses and determinants of what linear constraints leave of a square table of order `n`.
 //
-// `constraints` has n entries: one above 0 removes row and column i, one of exactly 0 keeps them; there are no others.
 // An inverse goes to the kept rows of `out`, each over all n columns, with 0.0 in the columns that were removed; rows
-// that were removed keep what they held. `out` exists and is not prepared. One kept row has an inverse of its own: the
-// reciprocal of the cell, which counts as 1e-12 where it is exactly 0. The input survives. No test for the missing
-// value.
+// that were removed keep their values. `out` exists and is not prepared. A single kept row has an inverse of its own:
+// the reciprocal of the cell. The input is left unchanged.
 //
 // @missing an ordinary number
-// @mask above 0 removes row and column, exactly 0 keeps
-// @divisor a pivot up to 1e-8: 1, and `out` has the g2 inverse; one kept cell of 0 counts as 1e-12
+// @mask `constraints`, n entries: above 0 removes row and column, exactly 0 keeps them; there are no other entries
+// @divisor a pivot up to 1e-8 is singular; a single kept cell of exactly 0 counts as 1e-12
 // @empty nothing kept is a success: 0
 #pragma once
 
@@ -16,14 +14,15 @@
 #include "../matrix.h"
 #include "../matrixInt.h"
 
-/// Inverse of the block by `matrix::inverse1` with its larger threshold, 1e-8 for a pivot. Never fails: returns 0, or 1
-/// where that is singular and `out` has the g2 inverse instead, with a tolerance of 1e-12. Nothing kept is a success.
+/// Inverse of the block by `matrix::inverse1` with its larger threshold.
+/// @failure none: returns 0, or 1 where the block is singular and `out` has its g2 inverse instead, with a tolerance of
+///     1e-12
 VECMAT_API int cCleanConstraintsAndInvert(int n, matrix* constraints, matrix* a, matrix*& out);
 VECMAT_API int cCleanConstraintsAndInvert(int n, matrixInt* constraints, matrix* a, matrix*& out);
 
-/// Inverse of a triangular block by `M_InverseTriang` with a tolerance of 1e-12. Returns 0, or -1 with `out` untouched:
-/// there is no generalised inverse to fall back on.
-/// @divisor a diagonal cell below 1e-12 in absolute terms: -1 with `out` untouched; one kept cell of 0 counts as 1e-12
+/// Inverse of a triangular block by `M_InverseTriang` with a tolerance of 1e-12.
+/// @divisor a diagonal cell below 1e-12 in absolute terms fails; a single kept cell of exactly 0 counts as 1e-12
+/// @failure -1 with `out` untouched: there is no generalised inverse to fall back on. Otherwise 0
 VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrix* constraints, matrix* a, short lower, matrix*& out);
 VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrixInt* constraints, matrix* a, short lower, matrix*& out);
 
@@ -39,9 +38,8 @@ VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints,
 extern "C" {
 
 VECMAT_API int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out);
-/// @divisor a diagonal cell below 1e-12 in absolute terms: -1 with `out` untouched; one kept cell of 0 counts as 1e-12
+/// @failure -1 with `out` untouched: there is no generalised inverse to fall back on. Otherwise 0
 VECMAT_API int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out);
-/// @divisor as `M_Determinant`
 VECMAT_API double VB_M_DeterminantCleaned(double* a, int n, int* constraints, short* status);
 
 } // extern "C"

@@ -1,11 +1,12 @@
 // Echelon forms of symmetric tables: what a set of estimable functions is read from.
 //
 // The result table exists and is not prepared. All access is checked: outside a table a read gives -1.0, which takes
-// part, and a write is dropped. Tolerances are 1e-12 in absolute terms. No test for the missing value, and no failure.
+// part, and a write is dropped. Tolerances are absolute. Nothing fails.
 //
 // @missing an ordinary number
 // @divisor a pivot up to 1e-12 gives a row of zeros
 // @empty nothing is written
+// @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
 #pragma once
 
 #include "../base/api.h"
@@ -13,11 +14,10 @@
 
 extern "C" {
 
-/// Forward Doolittle reduction (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician
-/// 33, 149-158): the upper triangle of `a` becomes an upper echelon form in `out`, with pivots of 1 and rows of zeros
-/// where a pivot is up to 1e-12. `a` is read on and above the diagonal.
+/// Forward Doolittle reduction: the upper triangle of `a` becomes an upper echelon form in `out`, with pivots of 1. `a`
+/// is read on and above the diagonal.
 ///
-/// It departs from the publication: when a pivot is taken off, the row right below it is divided at once by what its
+/// It departs from the publication: when a pivot is eliminated, the row right below it is divided at once by what its
 /// own diagonal becomes (or zeroed where that is up to 1e-12), while the rows beyond it are reduced without a division.
 VECMAT_API void M_ForwardDoolittle(matrix* a, int n, matrix* out);
 

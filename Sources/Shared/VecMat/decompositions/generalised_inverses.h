@@ -1,15 +1,16 @@
-// Moore-Penrose inverses of square tables that may be singular, from the singular value decomposition a = U S V'
-// (Golub, Kahan: Calculating the singular values and pseudo-inverse of a matrix, SIAM Journal on Numerical Analysis 2,
-// 1965).
+// Moore-Penrose inverses of square tables that may be singular, from the singular value decomposition a = U S V'.
 //
-// `out` of order `n` exists and is written in place. A singular value at or above `tol`, in absolute terms, is inverted
-// and the others count as 0; `*rank` is the number of those that were not left out. Returns 0, or -1 where the
-// decomposition did not converge: then each value is judged for itself, since they are not sorted, a NaN is kept, and
-// rank and result are written all the same. No test for the missing value. Scratch: four tables of n by n.
+// `out` of order `n` exists and is written in place. `*rank` is the number of singular values that were inverted.
 //
 // @missing an ordinary number
-// @divisor a singular value below `tol` in absolute terms counts as 0
+// @divisor a singular value below `tol` counts as 0
 // @empty 0, rank 0
+// @failure -1 where the decomposition did not converge: then each value is tested by itself, since they are not sorted,
+//     a NaN is kept, and rank and result are written all the same. Otherwise 0
+// @memory four tables of n by n
+// @source Golub and Kahan (1965), Calculating the singular values and pseudo-inverse of a matrix, SIAM Journal on
+//     Numerical Analysis 2
+// @weak `tol` is absolute: rank and inverse change with the scale of the table
 #pragma once
 
 #include "../base/api.h"
@@ -17,7 +18,7 @@
 
 extern "C" {
 
-/// V inv(S) U', of a plain table and of `n` columns. The input survives.
+/// V inv(S) U', of a plain table and of `n` columns. The input is left unchanged.
 VECMAT_API int M_InvGeneralized(matrix* a, int n, matrix* out, double tol, int* rank);
 VECMAT_API int M_InvGeneralizedSPV(matrix** a, int n, matrix* out, double tol, int* rank);
 

@@ -1,12 +1,12 @@
 // Products through the inverse of a square table, named by their formula: Tr is a transpose, inv an inverse.
 //
-// The inverse is that of `matrix::inverse1` with a positive tolerance, so that a pivot up to 1e-8 is singular; its
-// order is the row count of `b`. Nothing reports a singular `b`: its inverse then counts as 0.0 throughout, and the
-// product goes on with that. Access, sums and missing cells are those of the products of tables. The operands survive.
+// The inverse is that of `matrix::inverse1` with a positive tolerance; its order is the row count of `b`. Access, sums
+// and missing cells are as in the products of tables. The operands are left unchanged.
 //
 // @missing an ordinary number
-// @divisor a singular `b` (a pivot up to 1e-8) counts as an inverse of 0.0 throughout
+// @divisor a pivot of `b` up to 1e-8 makes it singular: its inverse then counts as 0.0 throughout
 // @empty an empty sum is 0.0
+// @failure a singular `b` is not reported
 #pragma once
 
 #include "../base/api.h"

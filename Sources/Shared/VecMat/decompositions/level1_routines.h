@@ -1,10 +1,9 @@
-// Level-1 kernels over runs of table cells, in the manner of the BLAS, with the library's checked access.
+// Level-1 routines over runs of table cells, in the manner of the BLAS, with the library's checked access.
 //
-// A vector of `count` elements begins at (row, col), 1-based, and goes on in linear order by `inc` elements at a time:
-// past the end of a column it continues in the next one. A negative increment starts the walk at (1 - count) * inc, as
-// in the BLAS. Reads outside the table give -1.0, writes outside it are dropped; a count below 1 touches nothing. There
-// is no missing test. In the SPV forms `col` selects the table of the array and the walk stays inside it; a column
-// below 1 is outside.
+// A vector of `count` elements begins at (row, col), 1-based, and continues in linear order by `inc` elements at a
+// time: past the end of a column it continues in the next one. A negative increment starts at (1 - count) * inc, as in
+// the BLAS. Reads outside the table give -1.0, writes outside it are dropped. In the SPV forms `col` selects the table
+// of the array and the vector stays inside it; a column below 1 is outside.
 //
 // @missing an ordinary number
 // @empty nothing is changed
@@ -15,7 +14,7 @@
 
 extern "C" {
 
-/// Euclidean norm by scale and sum of squares; 0.0 for a count or an increment below 1.
+/// Euclidean norm by scale and sum of squares.
 /// @empty 0.0, also for an increment below 1
 VECMAT_API double DNRM2(int count, matrix* x, int inc, int row, int col);
 VECMAT_API double DNRM2SPV(int count, matrix** x, int inc, int row, int col);
@@ -25,8 +24,8 @@ VECMAT_API void dscal(int count, double a, matrix* x, int inc, int row, int col)
 VECMAT_API void dscalSPV(int count, double a, matrix** x, int inc, int row, int col);
 
 /// Builds the rotation that brings (a, b) to (r, 0): stores r in `*a`, the reconstruction number z in `*b`, the cosine
-/// and sine. For a and b both 0 the rotation is the identity and r and z are 0.
-/// @divisor a and b both 0: the identity, r and z 0
+/// and sine.
+/// @divisor with a and b both 0 the rotation is the identity, and r and z are 0
 /// @empty takes no array
 VECMAT_API void drotg(double* a, double* b, double* c, double* s);
 
@@ -36,7 +35,7 @@ VECMAT_API double ddot(int count, matrix* x, int incx, matrix* y, int incy, int 
 VECMAT_API double ddotSPV(int count, matrix** x, int incx, matrix** y, int incy, int rowx, int colx, int rowy,
                           int coly);
 
-/// y = y + a x; y stays bit for bit where a is exactly 0.
+/// y = y + a x; y keeps its bits where a is exactly 0.
 VECMAT_API void daxpy(int count, double a, matrix* x, int incx, matrix* y, int incy, int rowx, int colx, int rowy,
                       int coly);
 VECMAT_API void daxpySPV(int count, double a, matrix** x, int incx, matrix** y, int incy, int rowx, int colx, int rowy,

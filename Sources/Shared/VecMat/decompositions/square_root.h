@@ -1,7 +1,7 @@
 // A square root of a symmetric table that is positive semidefinite.
 //
-// @missing the eigenvalues cannot be had: -1, `out` untouched
-// @divisor an eigenvalue between -1e-12 and 0 counts as 0; not above -1e-12: -1
+// @missing -1 with `out` untouched (equality): there are no eigenvalues
+// @divisor an eigenvalue above -1e-12 and up to 0 counts as 0; one not above -1e-12 fails
 // @empty 0
 #pragma once
 
@@ -11,13 +11,10 @@
 extern "C" {
 
 /// With a = V D V' from `M_Eigen`, the eigenvalues in descending order: the table sqrt(D) V' of order `n` into `out`
-/// (`matCheck`). It is not the symmetric root: out' out gives `a` back. An eigenvalue between -1e-12 and 0 counts as 0.
-/// V enters through V'V, so that its columns are brought to unit length once more and what is left off the diagonal of
-/// V'V stays in.
-///
-/// Returns 0; -1 for an eigenvalue not above -1e-12, also where the eigenvalues cannot be had because a cell is
-/// missing; -2 for a column of V whose length is not above 0. Then `out` is untouched. That the eigenvalues did not
-/// converge is not looked at. The input survives.
+/// (`matCheck`). It is not the symmetric root: out' out gives `a` back. V enters through V'V, so its columns are
+/// brought to unit length once more and what is left off the diagonal of V'V stays in. The input is left unchanged.
+/// @failure -1 for such an eigenvalue, -2 for a column of V whose length is not above 0, both with `out` untouched;
+///     that the eigenvalues did not converge is not tested. Otherwise 0
 VECMAT_API int M_SquareRoot(matrix* a, int n, matrix*& out);
 
 /// Flat form: n by n arrays, the result in place.

@@ -53,10 +53,8 @@ VECMAT_API void VB_V_ProductV1TrV2(double* a, int n, double* b, double* out);
 /// out[i*m + j] = a[i] b[j].
 VECMAT_API void VB_V_ProductHorizV1V2(double* a, int n, double* b, int m, double* out);
 VECMAT_API void VB_V_ProductHorizV1V22(double* a, int* n, double* b, int m);
-/// @empty 1.0 (1)
 VECMAT_API double VB_V_Product1toNDbl(double* x, int n);
 /// The product in doubles, truncated; outside the range of int it is the lowest int.
-/// @empty 1.0 (1)
 VECMAT_API int VB_V_Product1toNLng(int* x, int n);
 VECMAT_API short VB_V_V1GreaterThanMatCols(double* v, int n, double* a, int cols);
 VECMAT_API short VB_V_V1inferiorV2(double* a, int n, double* b);

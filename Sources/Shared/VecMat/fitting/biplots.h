@@ -1,8 +1,7 @@
 // Coordinates of factorial maps: biplots, squared cosines of points on the axes, the point farthest from the origin.
 //
-// Dimensions are as passed and drive the loops; each table's own row count is its stride. A read outside a table yields
-// -1.0 (-1 of ints), which takes part; a write outside is dropped. "Missing" is the equality test. A count below 1
-// leaves nothing to do. Nothing is reported.
+// Dimensions bound the loops; each table's own row count is its stride. A read outside a table yields -1.0 (-1 of
+// ints), which takes part; a write outside is dropped. No error is reported.
 //
 // @missing stays missing (equality)
 // @empty nothing is written
@@ -14,22 +13,21 @@
 #include "../matrixInt.h"
 
 /// Moves the weight of the k eigenvalues between the observations and the variables of an analysis by the exponent
-/// `alpha`: 1 leaves the observations and shrinks the variables, 0 leaves the variables and shrinks the observations
-/// (Gabriel, K. R. (1971), The biplot graphic display of matrices with application to principal component analysis,
-/// Biometrika 58, 453-467).
+/// `alpha`: 1 leaves the observations and shrinks the variables, 0 leaves the variables and shrinks the observations.
 ///
 ///     obs    nA + nB by k (`matCheck`): each row of `rows` (nA by k), then each of `sup` (nB by k), times
-///            pow(eigen, alpha/2 - 1/2) of its axis. An eigenvalue of 0 thus gives an infinite factor for `alpha` below
-///            1, and 1.0 for 1.
-///     var    m by k (`matCheck`): each row of `cols` (m by k) times pow(eigen, -alpha/2) of its axis, or times 0.0
-///            where the eigenvalue is exactly 0. With `alpha` exactly 0 they are the cells themselves. Then, unless
-///            `factor` is exactly 1.0, `M_ScalarsA2` by the root of `factor`, which leaves a larger var as m by k.
+///            pow(eigen, alpha/2 - 1/2) of its axis.
+///     var    m by k (`matCheck`): each row of `cols` (m by k) times pow(eigen, -alpha/2) of its axis. With `alpha`
+///            exactly 0 they are the cells themselves. Then, unless `factor` is exactly 1.0, `M_ScalarsA2` by the root
+///            of `factor`, which leaves a larger var as m by k.
 ///
-/// A missing cell stays missing. With nB below 1 there are no supplementary observations and `sup` may be null. In the
-/// second form `rows` and `cols` are arrays of k columns.
-/// @divisor powers of the eigenvalue; 0 gives an infinite factor of observations for `alpha` below 1, and 0.0 for
-///     variables
-/// @empty a count below 1 leaves nothing to do; without supplementary rows `sup` is not read
+/// In the second form `rows` and `cols` are arrays of k columns.
+/// @divisor powers of the eigenvalue; for an eigenvalue of 0 the factor of the observations is infinite with `alpha`
+///     below 1, and 1.0 with 1; that of the variables is 0.0
+/// @empty nothing is done; with nB below 1 there are no supplementary observations, and `sup` is not read and may be
+///     null
+/// @source Gabriel, K. R. (1971), The biplot graphic display of matrices with application to principal component
+///     analysis, Biometrika 58, 453-467
 VECMAT_API void BiplotTransData(matrix* rows, matrix* sup, matrix* cols, int nA, int nB, int m, int k, matrix* eigen,
                                 double factor, double alpha, matrix*& obs, matrix*& var);
 VECMAT_API void BiplotTransData(matrix** rows, matrix* sup, matrix** cols, int nA, int nB, int m, int k, matrix* eigen,
@@ -37,24 +35,23 @@ VECMAT_API void BiplotTransData(matrix** rows, matrix* sup, matrix** cols, int n
 
 extern "C" {
 
-/// Squared cosines of n points on k axes, a(i, j)^2 over the sum of squares r of the point's row. A row with a missing
-/// cell is missing throughout; where r is not above 1e-12, its cells of `out` keep what they held. `out` exists and is
+/// Squared cosines of n points on k axes, a(i, j)^2 over the sum of squares r of the point's row. `out` exists and is
 /// not prepared; it may be a. In the SPV form a is an array of columns.
 /// @missing makes its whole row missing (equality)
-/// @divisor the sum of squares of the row; not above 1e-12: its cells stay
+/// @divisor r; where it is not above 1e-12 the row of `out` keeps its cells
 VECMAT_API void cComputeCosines(matrix* a, int n, int k, matrix*& out);
 VECMAT_API void cComputeCosinesSPV(matrix** a, int n, int k, matrix*& out);
 
-/// Sets cell (i, best(i)) of `flags` to -1 for each of the n points; column numbers are 1-based. Other cells stay. The
-/// check is on the linear position: a column number out of range is dropped unless it falls on another cell.
+/// Sets cell (i, best(i)) of `flags` to -1 for each of the n points; column numbers are 1-based. Other cells are left
+/// unchanged. The check is on the linear position: a column number out of range is dropped unless it falls on another
+/// cell.
 /// @missing no cell is tested
 VECMAT_API void M_BoldCosines(matrixInt* best, int n, matrixInt* flags);
 
 /// The largest distance to the origin among the n rows of a in k dimensions, and its 1-based row: the first of equal
-/// ones; 0.0 and row 0 where no distance is above 0.0. No test for the missing value: its distance is infinite and
-/// wins.
-/// @missing no test: its distance is infinite and wins
-/// @empty 0.0 and row 0
+/// ones.
+/// @missing an ordinary number: its distance is infinite and wins
+/// @empty 0.0 and row 0, also where no distance is above 0.0
 VECMAT_API void M_GetMaxDistToOrigin(matrix* a, int n, int k, double* maxDistance, int* row);
 
 // ---- flat forms: results in place in the caller's arrays ------------------------------------------------------------
@@ -64,16 +61,11 @@ VECMAT_API void M_GetMaxDistToOrigin(matrix* a, int n, int k, double* maxDistanc
 /// be above `storedAxes`.
 VECMAT_API void VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m, int k, double* eigen,
                                    double factor, double alpha, double* obs, double* var);
-/// @divisor powers of the eigenvalue; 0 gives an infinite factor of observations for `alpha` below 1, and 0.0 for
-///     variables
-/// @empty a count below 1 leaves nothing to do; without supplementary rows `sup` is not read
 VECMAT_API void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m,
                                       int storedAxes, int k, double* eigen, double factor, double alpha, double* obs,
                                       double* var);
 
 /// `a` and `out` n by k; they may be one.
-/// @missing makes its whole row missing (equality)
-/// @divisor the sum of squares of the row; not above 1e-12: its cells stay
 VECMAT_API void ComputeCosines(double* a, int n, int k, double* out);
 /// `best` n elements, `flags` n by `cols`.
 VECMAT_API void Cpp_M_BoldCosines(int* best, int n, int* flags, int cols);

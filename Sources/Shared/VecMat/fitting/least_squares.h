@@ -1,34 +1,33 @@
 // Ordinary least squares with weights: the correlations of the model's columns and the response are swept on the
-// columns that enter (Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33,
-// 149-158).
+// columns that enter.
 //
-// n observations of p explanatory columns X and a response y; w holds their n weights, which are not normalised, and W
-// is their sum without missing ones. With `degree` 1 the columns of the model are those of X, whatever `interactions`
-// says. Otherwise they are the powers 1 to `degree` of all columns, power by power, and with `interactions` -1 behind
-// them the products of columns a and b, a below b, ordered by a: m columns in all. A `degree` below 1 makes no powers.
+// n observations of p explanatory columns X and a response y; w holds their n weights, and W is their sum without
+// missing ones. With `degree` 1 the columns of the model are those of X, whatever `interactions` says. Otherwise they
+// are the powers 1 to `degree` of all columns, power by power, followed with `interactions` -1 by the products of
+// columns a and b, a below b, ordered by a: m columns in all. A `degree` below 1 makes no powers.
 //
-// The line has an intercept unless `noIntercept` is anything but 0: it then passes through the origin, and the cross
-// products are raw ones. A column enters where its tolerance, one minus its squared multiple correlation with the
-// columns before it that are in, is above `tol`; a NaN is not. So their order decides, and of two equal columns the
-// first enters. A column that stays out has coefficient and standard error 0.0, and still counts in the degrees of
-// freedom.
+// The line has an intercept unless `noIntercept` is nonzero: it then passes through the origin, and the cross products
+// are raw ones. A column enters where its tolerance, one minus its squared multiple correlation with the columns before
+// it that are in, is above `tol`; a NaN is not. So their order decides, and of two equal columns the first enters. A
+// column that stays out has coefficient and standard error 0.0, and still counts in the degrees of freedom.
 //
 // Results, prepared with `matCheck` and cleared at the start:
 //     beta     m + 1 coefficients, the intercept last (0.0 through the origin)
-//     se       their standard errors, in the same order. Those of the slopes have n - m - 1 degrees of freedom,
-//              whatever the weights, through the origin too, and are 0.0 where that is 0; that of the intercept has
-//              W - m - 1 (0.0 through the origin)
-//     fitted   n values; a term whose cell of the model is missing is left out of its sum, the others stand
-// A missing cell (the equality test) is left out of the correlations pair by pair, and multiplied like any number where
-// the columns are widened and in the raw cross products. A row of weight 0 moves no coefficient, and still counts in n.
-// Without columns the fit is the weighted mean of y. Nothing reports a failure: where W is at most m + 1 the divisors
-// are 0 or negative, and the arithmetic goes through as it stands. X, y and w are not changed.
+//     se       their standard errors, in the same order; that of the intercept is 0.0 through the origin
+//     fitted   n values
+// X, y and w are left unchanged.
 //
-// @missing left out of the correlations pair by pair (equality); multiplied like a number where columns are widened and
-//     in the raw cross products; a term of it is left out of a fitted value
-// @weights not normalised; a row of weight 0 moves no coefficient and counts in n
-// @divisor degrees of freedom n - m - 1 for the slopes (0.0 where that is 0), W - m - 1 for the intercept; not guarded
-// @empty without columns the weighted mean of y
+// @missing left out of the correlations pair by pair (equality); multiplied like an ordinary number where columns are
+//     widened and in the raw cross products; a term with a missing cell is left out of a fitted value
+// @weights not normalised; a row of weight 0 changes no coefficient but counts in n
+// @divisor degrees of freedom n - m - 1 for the slopes, whatever the weights (0.0 where that is 0), W - m - 1 for the
+//     intercept; not guarded: where W is at most m + 1 they are 0 or negative
+// @empty without columns the fit is the weighted mean of y
+// @failure not reported
+// @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
+// @weak the sweeps set what is below 1e-12 to 0: where 1 - R2 is below that the standard errors are 0, and a column
+//     with a standard deviation below that is dropped without notice. Through the origin the degrees of freedom still
+//     count an intercept
 #pragma once
 
 #include "../base/api.h"

@@ -2,7 +2,6 @@
 // Hessian at the present parameters, and calls again until the step reports convergence.
 //
 // @missing an ordinary number
-// @mask above 0 fixes a parameter, exactly 0 frees it
 // @divisor the inverse of the Hessian, a g2 inverse where that is singular
 // @empty converged: 1
 #pragma once
@@ -11,19 +10,18 @@
 #include "../matrix.h"
 #include "../matrixInt.h"
 
-/// Moves the n parameters x by -H^-1 g, in place. A parameter is free where its entry in `constraints` (n cells) is
-/// exactly 0, and fixed where it is above 0: a fixed one keeps its x and its se, and takes no part in the test for
-/// convergence. `Hinv`, n by n, receives the inverse of H without the rows and columns of the fixed parameters, by
-/// `cCleanConstraintsAndInvert`, a g2 inverse where that is singular; `se`, n cells, the roots of the absolute values
-/// of its diagonal. x, se and Hinv exist and are not prepared; rows of Hinv that belong to a fixed parameter keep what
-/// they held.
+/// Moves the n parameters x by -H^-1 g, in place. A fixed parameter keeps its x and its se, and takes no part in the
+/// test for convergence. `Hinv`, n by n, receives the inverse of H without the rows and columns of the fixed
+/// parameters, by `cCleanConstraintsAndInvert`; `se`, n cells, the roots of the absolute values of its diagonal. x, se
+/// and Hinv exist and are not prepared; rows of Hinv that belong to a fixed parameter keep their values.
 ///
 /// With `limitStep` exactly -1 a step whose largest change is above `maxStep` is shortened to it without a change of
 /// direction. The changes are those of all parameters, also what the rows of fixed ones in Hinv make of the gradient.
 ///
-/// Returns 1 where no free parameter changed by more than `tol`, after the shortening: converged; 0 where one did; -1,
-/// with x and se untouched, where the inversion fails, which it never does at present. No test for the missing value; a
+/// Returns 1 where no free parameter changed by more than `tol`, after the shortening: converged; 0 where one did. A
 /// NaN step is not above `tol`. The forms differ in the type of `constraints`.
+/// @mask `constraints`, n entries: above 0 fixes a parameter, exactly 0 frees it
+/// @failure -1, with x and se untouched, where the inversion fails, which it never does at present
 VECMAT_API int cNewtonRaphson(matrix*& x, int n, matrixInt* constraints, matrix* g, matrix* H, double tol, matrix*& se,
                               matrix*& Hinv, short limitStep, double maxStep);
 VECMAT_API int cNewtonRaphson(matrix*& x, int n, matrix* constraints, matrix* g, matrix* H, double tol, matrix*& se,

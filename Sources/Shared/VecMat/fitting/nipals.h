@@ -1,12 +1,13 @@
-// Missing cells filled from principal components: nonlinear iterative partial least squares (Wold, H. (1966),
-// Estimation of principal components and related models by iterative least squares, in Krishnaiah, P. R. (ed.),
-// Multivariate Analysis, Academic Press, 391-420).
+// Missing cells filled from principal components: nonlinear iterative partial least squares.
 //
 // @missing filled with what the components rebuild (equality)
 // @weights multiply the cells before the mean is taken off; a row of weight exactly 0 takes part with the mean, and its
 //     missing cells become 0.0
 // @divisor W - 1 in the test for a constant column: a deviation up to 1e-6 ends it with 1
 // @empty 0
+// @memory two tables of the size of X
+// @source Wold, H. (1966), Estimation of principal components and related models by iterative least squares, in
+//     Krishnaiah, P. R. (ed.), Multivariate Analysis, Academic Press, 391-420
 #pragma once
 
 #include "../base/api.h"
@@ -14,9 +15,9 @@
 
 extern "C" {
 
-/// Extracts `components` principal components of X (n by p) past its missing cells, each as regressions of the columns
-/// on the scores and of the rows on the loadings by turns, and replaces each missing cell by what they rebuild. The
-/// other cells stay; scores and loadings are not handed out. "Missing" is the equality test.
+/// Extracts `components` principal components of X (n by p) past its missing cells, each by alternating regressions of
+/// the columns on the scores and of the rows on the loadings, and replaces each missing cell by what they rebuild. The
+/// other cells are left unchanged; scores and loadings are not returned.
 ///
 ///     0    done; or no cell was missing, and no component is extracted
 ///     1    a column is constant, its standard deviation with the divisor W - 1 being at most 1e-6 (W: the sum of the
@@ -28,19 +29,20 @@ extern "C" {
 /// also in a complete table and in one with too many missing cells. A spread that is not a number, as that of a column
 /// without any cell, is not constant.
 ///
-/// `w` (n by 1) multiplies the cells before the mean is taken off: the components are those of w x - m, m being the
-/// weighted mean of the column; the columns are not divided by their standard deviations. A missing cell becomes
-/// (rebuilt + m) / w, and 0.0 in a row of weight exactly 0, which takes part with -m in all its other cells. A row
-/// without a present cell has no scores and gets m / w, as does every missing cell for `components` below 1.
+/// The components are those of w x - m, m being the weighted mean of the column; the columns are not divided by their
+/// standard deviations. A missing cell becomes (rebuilt + m) / w. A row of weight 0 takes part with -m in its present
+/// cells. A row without a present cell has no scores and gets m / w, as does every missing cell for `components` below
+/// 1.
 ///
 /// The scores start from the first column of what is left of the table; rows where that cell is missing do not enter
 /// the first loadings. Loadings are scaled to length 1. From the second pass on a component is settled when the
 /// variance, with the divisor p - 1, of the change in its loadings is not above `tol`: 1e-6 is usual. With one column
-/// that variance is not a number, and the second pass is the last. A component that does not settle, as with a negative
-/// `tol` or one below what the arithmetic can reach, is taken as it stands after 100000 passes.
+/// that variance is not a number, and the second pass is the last.
 ///
-/// Works in two tables of the size of X. The dimensions drive the loops; the table's own row count is its stride. A
-/// read outside a table yields -1.0, which takes part. Without rows or columns nothing is done and 0 is returned.
+/// The dimensions bound the loops; the table's own row count is its stride. A read outside a table yields -1.0, which
+/// takes part.
+/// @weak a component that does not settle, as with a negative `tol` or one below what the arithmetic can reach, is used
+///     as it is after 100000 passes, without notice
 VECMAT_API int NIPALS(int n, int p, matrix* X, matrix* w, double tol, int components, double maxColumnShare,
                       double maxTotalShare);
 

@@ -10,15 +10,14 @@
 
 extern "C" {
 
-/// Copies T (n by p) to R without the rows and columns whose sums are at or below 1e-12. The rows and columns that are
-/// kept move up and to the left in R; what R held behind them stays, except for cells over which they moved.
+/// Copies T (n by p) to R without the rows and columns whose sums are at or below 1e-12, so without lines of negative
+/// sum too. The rows and columns that are kept move up and to the left in R; R keeps its values after them, except for
+/// cells that they moved over. A sum that is NaN is kept.
 ///
-/// Both margins are taken once, from the whole of T: a dropped column still counts in the sums of the rows. Missing
-/// cells (equality test) do not count in a sum; a line that is missing throughout, one with a negative sum and one
-/// without cells are dropped. A sum that is NaN is kept.
+/// Both margins are taken once, from the whole of T: a dropped column still counts in the sums of the rows.
 ///
-/// Entry j of `zeroCols` and entry i of `zeroRows` become 1 for a dropped line. Those of kept lines stay as they are,
-/// so the caller clears both before. `colsLeft` and `rowsLeft` are the numbers of lines kept. R may be T itself.
+/// Entry j of `zeroCols` and entry i of `zeroRows` become 1 for a dropped line. Those of kept lines are not written, so
+/// the caller clears both before. `colsLeft` and `rowsLeft` are the numbers of lines kept. R may be T itself.
 VECMAT_API void CheckForMarginalSums(matrix& T, int n, int p, matrix& R, int& rowsLeft, int& colsLeft,
                                      matrixInt& zeroRows, matrixInt& zeroCols);
 

@@ -1,7 +1,7 @@
 // The Kronecker product.
 //
 // @missing an ordinary number
-// @empty where C has another shape than the product nothing is done
+// @empty nothing happens
 #pragma once
 
 #include "../base/api.h"
@@ -10,9 +10,9 @@
 extern "C" {
 
 /// The Kronecker product of A (m by n) and B (p by q): cell (k, l) of block (i, j) of C is A(i, j) B(k, l). C must
-/// exist with exactly p m rows and q n columns; with any other shape nothing is done, silently. The missing value is
-/// multiplied like any other number; a cell beyond A or B reads -1.0 and takes part. C must be another table than A
-/// and B.
+/// exist with exactly p m rows and q n columns. A cell beyond A or B reads -1.0 and takes part. C must be another table
+/// than A and B.
+/// @failure with any other shape of C nothing happens, and nothing is reported
 VECMAT_API void KroneckerTensorProduct(matrix* A, int m, int n, matrix* B, int p, int q, matrix* C);
 
 /// The same over column-major arrays: A of m by n, B of p by q, C of `rowsC` by `colsC`, written in place.

@@ -1,11 +1,10 @@
-// Samples in which a row may stand more than once: drawn with replacement, or copied as often as a table of counts
-// says.
+// Samples in which a row may be repeated: drawn with replacement, or copied as often as a table of counts says.
 //
 // Common to the sampling designs, here and in the units beside this one:
 //   - The population `S` is a table of strings of `N` rows and `p` columns, the sample `Z` one of as many columns,
-//     which must exist. In the SPV forms both are arrays of `p` tables of one column. Cells are copied as they are,
-//     empty ones too. `S` is not written, unless a function says so.
-//   - Row numbers are 1-based and stand in tables of doubles, which must exist and are not prepared.
+//     which must exist. In the SPV forms both are arrays of `p` tables of one column. `S` is not written, unless a
+//     function says so.
+//   - Row numbers are 1-based and are held in tables of doubles, which must exist and are not prepared.
 //   - `seed`, `seedFlag` and `seedOut` are the frame of a series of draws, as in permutations.h.
 //   - Nothing is tested and no error is reported. Beyond a table a cell reads -1.0, or empty, and is not written; in a
 //     plain table a row below the last is the next column's, in an array of columns it is outside.
@@ -22,21 +21,18 @@
 extern "C" {
 
 /// Draw `n` rows with replacement: draw u, of `n` in one series, takes row floor(u N) + 1. The sample comes out in the
-/// order of the population, repeats beside each other, and `ids`, of `n` cells, receives the rows taken in that order.
-///
-/// With `n` below 1 the series is opened and closed, and nothing else happens. A `p` of 0 copies nothing; the sort then
-/// moves the first column of a plain `Z`, but no column of an array.
+/// order of the population, repeats next to each other, and `ids`, of `n` cells, receives the rows taken in that order.
+/// A `p` of 0 copies nothing; the sort then moves the first column of a plain `Z`, but no column of an array.
 VECMAT_API void M_SamplingWithReplacement(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
                                           short seedFlag, int* seedOut);
 VECMAT_API void M_SamplingWithReplacementSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,
                                              short seedFlag, int* seedOut);
 
 /// Copy row i of the population f times, f being cell i of `freq` truncated to an integer, and not at all where that is
-/// not above 0; so a missing, infinite or NaN count is none. `Z` and `ids`, which receives the number of the row
-/// copied, have a row for each copy; rows beyond the copies stay as they were. With `N` below 1 nothing is done. No
-/// draw.
-/// @missing copied unchanged; a missing count copies no row
-/// @empty with `N` below 1 nothing is done
+/// not above 0. `Z` and `ids`, which receives the number of the row copied, have a row for each copy; rows beyond the
+/// copies are left unchanged. Nothing is drawn.
+/// @missing copied unchanged; a missing count, like an infinite or NaN one, copies no row
+/// @empty with `N` below 1 nothing happens
 VECMAT_API void M_SampleUserDefined(Smatrix* S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids);
 VECMAT_API void M_SampleUserDefinedSPV(Smatrix** S, int N, int p, Smatrix** Z, matrix* freq, matrix* ids);
 

@@ -1,10 +1,10 @@
-// Random samples within strata that a column of labels names, with a quota for each.
-// Of such designs: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 5.
+// Random samples within strata given by a column of labels, with a quota for each.
 //
-// What the tables are, and what is beyond them, is told in sampling_with_repeats.h; the seed in permutations.h.
+// Tables, and what is beyond them, are as in sampling_with_repeats.h; the seed as in permutations.h.
 //
 // @missing copied unchanged; so is the empty string
-// @empty with `nStrata` below 1 the population is sorted, nothing is drawn, and `seedOut` takes `seed`
+// @empty with `nStrata` below 1 the population is sorted, nothing is drawn, and `seedOut` receives `seed`
+// @source W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 5
 #pragma once
 
 #include "../Smatrix.h"
@@ -16,24 +16,22 @@ extern "C" {
 
 /// Draw a sample of `n` of the `N` rows of `S` by strata. Row i has the label `rowIds`[i] and belongs to the stratum
 /// whose label is `strata`[i]; stratum k, of `nStrata`, has `sizes`[k] rows (truncated), and `quota`[k] of them are
-/// wanted, which may be a fraction. `sizes` and `quota` stand in the order of the stratum labels, smallest first. `n`
-/// rows of `Z` and cells of `outIds` take the sample and the labels of its rows, stratum after stratum.
+/// wanted, which may be a fraction. `sizes` and `quota` are in the order of the stratum labels, smallest first. `n`
+/// rows of `Z` and cells of `outIds` receive the sample and the labels of its rows, stratum after stratum.
 ///
 /// First the population is put in order: the rows of `S` and `rowIds` are sorted by `strata`, ascending and stably, and
 /// so is `strata` itself; all three stay so. Then each stratum is one block of rows, of which a number w is drawn: the
-/// quota rounded half up, but in the last stratum what is still missing from `n`, whatever its quota.
+/// quota rounded half up, but in the last stratum the remainder of `n`, whatever its quota.
 ///   - Without replacement, normally: each of the m rows of the block takes one key, in order, and the w rows with the
 ///     smallest keys, of equal keys the first, are the sample of the stratum, sorted by their labels.
 ///   - With replacement, where the quota is above the size as given, or m is below w: as `M_SamplingWithReplacement`
 ///     of the block, w draws, in the order of the block. A stratum without rows gives empty rows with the label 0.0.
 ///
-/// Each stratum has a series of its own, also where it draws nothing: the first with the caller's `seed` and
-/// `seedFlag`, and what the generator makes of this `seed` is the caller's; each later one with what the series before
-/// stored, and the flag -1. `seedOut` takes what the last one stored. With `nStrata` below 1 the population is sorted,
-/// nothing is drawn, and `seedOut` takes `seed`.
-///
 /// If the strata before the last already give `n` rows or more, none is taken of the last, and the rows beyond the
 /// sample are treated as any beyond their table.
+/// @seed each stratum has a series of its own, also where it draws nothing: the first with the caller's `seed` and
+///     `seedFlag`, and what the generator makes of this `seed` is returned to the caller; each later one with what the
+///     series before stored, and the flag -1. `seedOut` receives what the last one stored
 VECMAT_API void M_SamplingRandomStratifiedByStr(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* rowIds,
                                                 matrix* outIds, matrix* strata, matrix* quota, matrix* sizes,
                                                 int nStrata, int* seed, short seedFlag, int* seedOut);
@@ -43,7 +41,7 @@ VECMAT_API void M_SamplingRandomStratifiedByStrSPV(Smatrix** S, int N, int p, in
 
 /// Flat forms: `rowIds` and `strata` of `N` cells, `outIds` of `n`, `quota` and `sizes` of `nStrata`. `Z` (every
 /// element a new BSTR that the caller owns), `outIds` and `rowIds`, the latter in sorted order, come back; the caller's
-/// `S` and `strata` stay as they were.
+/// `S` and `strata` are left unchanged.
 VECMAT_API void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar_t** Z, double* rowIds,
                                                     double* outIds, double* strata, double* quota, double* sizes,
                                                     int nStrata, int* seed, short seedFlag, int* seedOut);

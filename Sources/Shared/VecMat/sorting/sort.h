@@ -160,7 +160,6 @@ VECMAT_API int VB_SortQByColDbl(double* data, int nRows, int nCols, int first, i
 VECMAT_API int VB_SortDataBy01(double* data, int n, int nCols, double* key);
 VECMAT_API int VB_SortDataBy01Bool(short* data, int n, int nCols, double* key);
 /// @missing a missing key is the smallest: first; data moves like any other
-/// @empty nothing changes; `nCols` of 0 is one column of strings, and of any type in the flat forms
 VECMAT_API int VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key);
 
 /// The same for strings, but no string is copied: the caller's references change places.
