@@ -11,9 +11,9 @@ foreach(header IN ITEMS VecMat.h LISTS public_headers)
     get_filename_component(folder ${header} DIRECTORY)
     install(FILES ${vecmat_source}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/${folder})
 endforeach()
-install(FILES Bindings/c/VecMatFlat.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat)
+install(FILES Bindings/c/VecMatFlat.h Bindings/c/VecMatGuarded.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat)
 install(FILES Bindings/vba/VecMat.bas Bindings/vba/VecMatExample.bas DESTINATION ${CMAKE_INSTALL_DATADIR}/VecMat)
-install(TARGETS VecMat EXPORT VecMatTargets)
+install(TARGETS VecMat VecMatGuarded EXPORT VecMatTargets)
 
 if(VECMAT_COMPANIONS_DIR)
     # The companions stay where they are, and the installed library finds them there.

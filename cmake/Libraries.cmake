@@ -103,3 +103,10 @@ target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMat PRIVATE ${companion_targets})
+
+# The guarded calls are a library of their own: what VecMat exports is settled.
+vecmat_shared_library(VecMatGuarded Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)
+target_include_directories(VecMatGuarded PUBLIC
+    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
+    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
+target_link_libraries(VecMatGuarded PRIVATE VecMat)

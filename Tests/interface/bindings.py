@@ -178,14 +178,45 @@ def compare_c(text, declarations):
         if not match[3].strip():
             wrong.append(f"C: {match[2]}() takes anything: say (void)")
         found[match[2]] = (one_spelling(match[1]), *parameters(match[3]))
-    expected = {d.name: d for d in declarations
-                if d.linkage == "C" and d.returns in C_TYPES and all(kind in C_TYPES for kind in d.types)}
+    expected = flat_in_c(declarations)
     wrong += compare_sets("C", list(found), expected)
     for name in set(found) & set(expected):
         header = expected[name]
         if found[name] != (header.returns, header.types, header.names):
             wrong.append(f"C: {name} is {found[name]}, the header has {(header.returns, header.types, header.names)}")
     return wrong
+
+
+def flat_in_c(declarations):
+    return {d.name: d for d in declarations
+            if d.linkage == "C" and d.returns in C_TYPES and all(kind in C_TYPES for kind in d.types)}
+
+
+def compare_guarded(text, declarations):
+    """What is wrong with the header of the guarded calls: one for each flat function, with a place for its result."""
+    code = re.sub(r"/\*.*?\*/|^#[^\n]*(\n    [^\n]*\\)*", " ", text, flags=re.S | re.M)
+    found, wrong = {}, []
+    for returns, name, parts in re.findall(r"VECMAT_GUARDED_API ([\w\s*]+?[\s*])(\w+)\s*\(([^()]*)\);",
+                                           re.sub(r"\bstruct ", "", code)):
+        if name in found:
+            wrong.append(f"guarded: {name} is declared twice")
+        found[name] = (one_spelling(returns), *parameters(parts))
+    if found.pop("vecmat_guarded_error", None) != ("const char*", (), ()):
+        wrong.append("guarded: vecmat_guarded_error is not declared, or otherwise")
+    expected = {}
+    for name, d in flat_in_c(declarations).items():
+        place = () if d.returns == "void" else (d.returns + "*",)
+        expected["vecmat_guarded_" + name] = ("int", d.types + place, d.names + ("returned",) * len(place))
+    wrong += compare_sets("guarded", list(found), expected)
+    return wrong + [f"guarded: {name} is {found[name]}, the header has {expected[name]}"
+                    for name in sorted(set(found) & set(expected)) if found[name] != expected[name]]
+
+
+def compare_guarded_symbols(symbols, declarations):
+    """What is wrong with the exports of the library of guarded calls."""
+    expected = {"vecmat_guarded_" + name for name in flat_in_c(declarations)} | {"vecmat_guarded_error"}
+    return ([f"guarded: the library lacks {name}" for name in sorted(expected - symbols)]
+            + [f"guarded: the library exports {name}, too" for name in sorted(symbols - expected)])
 
 
 def calls_in(text, names):

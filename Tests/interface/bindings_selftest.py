@@ -54,6 +54,17 @@ wchar_t* Step(const void* input);
 }
 #endif
 """
+GUARDED = """
+#define VECMAT_GUARDED_API __declspec(dllexport)
+VECMAT_GUARDED_API const char* vecmat_guarded_error(void);
+VECMAT_GUARDED_API int vecmat_guarded_VB_V_Mean(double* v, int n, short* mask, double* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_Label(wchar_t** labels, int len, const wchar_t* text, struct SAFEARRAY** a,
+                                               const void* one);
+VECMAT_GUARDED_API int vecmat_guarded_VB_Factor(short N, int* n, short* status, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_Native(double x);
+VECMAT_GUARDED_API int vecmat_guarded_Step(const void* input, wchar_t** returned);
+"""
+
 
 DECLARATIONS = read_header(HEADER, "a.h")
 
@@ -146,6 +157,31 @@ class Example(unittest.TestCase):
                          ["example: VB_V_Mean is called with 2 arguments, not 3"])
         self.assertIn("VB_V_Meen is not a function", self.wrong("x = VB_V_Meen(v(0), 3, m(0))")[0])
         self.assertEqual(self.wrong("x = 3"), ["example: nothing is called"])
+
+
+class Guarded(unittest.TestCase):
+    def found(self, old="", new=""):
+        return bindings.compare_guarded(GUARDED.replace(old, new) if old else GUARDED, DECLARATIONS)
+
+    def test_right(self):
+        self.assertEqual(self.found(), [])
+
+    def test_wrong(self):
+        for old, new, words in (("int n, short* mask, double* returned", "int n, short* mask", "VB_V_Mean"),
+                                ("double* returned", "int* returned", "VB_V_Mean"),
+                                ("(double x)", "(double x, double* returned)", "Cpp_Native"),
+                                ("int vecmat_guarded_Step", "void vecmat_guarded_Step", "Step"),
+                                ("guarded_Step(", "guarded_Stop(", "Step is not declared"),
+                                ("const char* vecmat", "char* vecmat", "vecmat_guarded_error")):
+            with self.subTest(new=new):
+                self.assertIn(words, "".join(self.found(old, new)))
+
+    def test_symbols(self):
+        symbols = {"vecmat_guarded_" + name for name in ("VB_V_Mean", "VB_Label", "VB_Factor", "Cpp_Native", "Step",
+                                                         "error")}
+        self.assertEqual(bindings.compare_guarded_symbols(symbols, DECLARATIONS), [])
+        self.assertIn("lacks", "".join(bindings.compare_guarded_symbols(symbols - {"vecmat_guarded_Step"}, DECLARATIONS)))
+        self.assertIn("too", "".join(bindings.compare_guarded_symbols(symbols | {"other"}, DECLARATIONS)))
 
 
 if __name__ == "__main__":

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""check_bindings.py [--complete] ROOT: are the declarations for macros and for C those of the headers?
+"""check_bindings.py [--complete] ROOT [GUARDED]: are the declarations for macros and for C those of the headers?
 
-And are the files what tools/bindings writes? Without --complete a function may be declared of which the
+GUARDED is the library of the guarded calls, whose exports are compared, too. And are the files what tools/bindings writes? Without --complete a function may be declared of which the
 header is still to come.
 """
 
@@ -20,6 +20,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--complete", action="store_true")
     parser.add_argument("root", type=Path)
+    parser.add_argument("guarded", nargs="?")
     arguments = parser.parse_args()
     root = arguments.root
     declarations, wrong = interface.read_headers(root / "Sources/Shared/VecMat")
@@ -29,6 +30,11 @@ def main():
     wrong += bindings.compare_macros(module, declarations)
     wrong += bindings.compare_example(example, declarations)
     wrong += bindings.compare_c((root / "Bindings/c/VecMatFlat.h").read_text(encoding="ascii"), declarations)
+    wrong += bindings.compare_guarded((root / "Bindings/c/VecMatGuarded.h").read_text(encoding="ascii"), declarations)
+    if arguments.guarded:
+        is_windows = arguments.guarded.endswith(".dll")
+        read_symbols = interface.read_windows_symbols if is_windows else interface.read_symbols
+        wrong += bindings.compare_guarded_symbols(read_symbols(arguments.guarded), declarations)
     if not arguments.complete:
         listed = {row.name for row in interface.read_rows((root / "exports.tsv").read_text(encoding="utf-8"))[0]}
         to_come = listed - {declaration.name for declaration in declarations}
