@@ -29,6 +29,15 @@ function(vecmat_shared_library name)
     endif()
 endfunction()
 
+set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
+
+# The elementary functions, compiled once for the library and the companion.
+file(GLOB mathematics_sources CONFIGURE_DEPENDS ${vecmat_source}/base/detail/mathematics/*.cpp)
+add_library(vecmat_mathematics STATIC ${mathematics_sources})
+target_compile_features(vecmat_mathematics PRIVATE cxx_std_20)
+target_link_libraries(vecmat_mathematics PRIVATE library_options)
+target_include_directories(vecmat_mathematics INTERFACE $<BUILD_INTERFACE:${vecmat_source}>)
+
 set(VECMAT_COMPANIONS CompanionRandom CompanionRuntime CompanionBasics)
 set(companions_source ${PROJECT_SOURCE_DIR}/Sources/Shared/Companions)
 foreach(companion IN LISTS VECMAT_COMPANIONS)
@@ -48,14 +57,16 @@ foreach(companion IN LISTS VECMAT_COMPANIONS)
     list(APPEND companion_targets VecMat::${companion})
 endforeach()
 
-set(vecmat_source ${PROJECT_SOURCE_DIR}/Sources/Shared/VecMat)
+if(TARGET CompanionBasics)
+    target_link_libraries(CompanionBasics PRIVATE $<BUILD_INTERFACE:vecmat_mathematics>)
+endif()
 if(WIN32 AND TARGET CompanionRuntime)
     target_link_libraries(CompanionRuntime PRIVATE oleaut32) # which makes and frees the strings of its hosts
 endif()
 
 file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
 file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp)
-list(REMOVE_ITEM vecmat_sources ${vecmat_kernels})
+list(REMOVE_ITEM vecmat_sources ${vecmat_kernels} ${mathematics_sources})
 vecmat_shared_library(VecMat ${vecmat_sources})
 
 # The kernels are compiled once for each instruction set; which is used is decided at run time. Loops whose results
@@ -102,6 +113,7 @@ target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
+<<<<<<< HEAD
 target_link_libraries(VecMat PRIVATE ${companion_targets})
 
 # The guarded calls are a library of their own: what VecMat exports is settled.
@@ -110,3 +122,6 @@ target_include_directories(VecMatGuarded PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMatGuarded PRIVATE VecMat)
+=======
+target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
+>>>>>>> 738d435 (wip3)

@@ -1,0 +1,51 @@
+// The parts of a double.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+namespace vecmat::mathematics {
+
+inline constexpr std::uint64_t signBit = 0x8000000000000000;
+inline constexpr std::uint64_t infinityBits = 0x7ff0000000000000;
+inline constexpr std::uint64_t leastNormalBits = 0x0010000000000000;
+inline constexpr std::uint64_t fractionBits = 0x000fffffffffffff;
+
+inline std::uint64_t bitsOf(double x)
+{
+    return std::bit_cast<std::uint64_t>(x);
+}
+
+inline double doubleOf(std::uint64_t bits)
+{
+    return std::bit_cast<double>(bits);
+}
+
+inline double magnitudeOf(double x)
+{
+    return doubleOf(bitsOf(x) & ~signBit);
+}
+
+/// The same magnitude, negative where told.
+inline double withSign(bool negative, double magnitude)
+{
+    return negative ? -magnitude : magnitude;
+}
+
+/// mantissa 2^exponent, for a finite number other than 0; its sign is left out.
+struct WholeAndExponent
+{
+    std::uint64_t mantissa;
+    int exponent;
+};
+
+inline WholeAndExponent partsOf(double x)
+{
+    const std::uint64_t magnitude = bitsOf(x) & ~signBit;
+    const int biased = static_cast<int>(magnitude >> 52);
+    if (biased == 0)
+        return {magnitude, -1074};
+    return {(magnitude & fractionBits) | leastNormalBits, biased - 1075};
+}
+
+} // namespace vecmat::mathematics
