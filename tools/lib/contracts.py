@@ -75,8 +75,9 @@ def base_of(name, names):
     if base == name:
         return f"c{name}" if f"c{name}" in names else ""
     without_type = re.sub(r"(Dbl|Lng|Str|Bool)(?=(\d|SPV\w*)?$)", "", base)
+    of_table = re.sub(r"^V_", "M_", base)
     without_storage = re.sub(r"SPV$", "", without_type)  # where the forms for tables and columns are overloads
-    return next((other for other in (base, without_type, without_storage) if other in names), "")
+    return next((other for other in (base, without_type, of_table, without_storage) if other in names), "")
 
 
 def asks_for(tag, declaration):

@@ -16,11 +16,10 @@ union TableInPlace; // where the call frame makes tables
 /// Dense table of doubles, column-major, with optional weights and per-column caches. A vector is a table of one
 /// column.
 ///
-/// The fields are public and are read directly by the computing functions. Cell (i, j), from 0, is `X[i + nRows*j]`.
-/// A cell without a value holds the missing value of `base/missing_value.h`; no member replaces it by anything else.
-/// Numbers of rows and columns in the members are 0-based, but for `vbget` and `vbset`. Nothing here reports an error
-/// by throwing on purpose: a bad index reads -1.0, a bad write is dropped. Allocation failure is the exception of
-/// `new`.
+/// The fields are public and are read directly by the computing functions. Cell (i, j), from 0, is `X[i + nRows*j]`. A
+/// missing cell holds the missing value of `base/missing_value.h`. Row and column numbers in the members are 0-based,
+/// except in `vbget` and `vbset`. No member throws on purpose: a bad index reads -1.0, a bad write is dropped.
+/// Allocation failure is the exception of `new`.
 class VECMAT_API matrix
 {
 public:
@@ -42,40 +41,35 @@ public:
     unsigned char inFrame = 0; ///< 1: it lies in the frame of a call and ends with it; `matCheck` does not delete it
 
     /// A new block in which every cell is `value`.
-    /// @missing copied unchanged; -1.0 beyond a table that is copied
-    /// @weights copied along from a table that has them, else none
+    /// @missing overwritten
     matrix(int rows, int cols, int value);
     matrix(int rows, int cols, double value);
 
     /// With `view` the caller's array is used in place and left alive; without, its first rows*cols doubles are copied.
-    /// @missing copied unchanged; -1.0 beyond a table that is copied
-    /// @weights copied along from a table that has them, else none
+    /// @missing copied unchanged
     matrix(int rows, int cols, double* src, bool view);
 
     /// Opens a table at its final size over a source of `srcRows` by `srcCols` (0: the table's own count): the source
     /// is copied in linear order, not re-strided, and the other cells are 0.0. `nCol` and `weightcorr` are allocated,
     /// cleared.
-    /// @missing copied unchanged; -1.0 beyond a table that is copied
-    /// @weights copied along from a table that has them, else none
+    /// @missing copied unchanged
     matrix(int rows, int cols, double* src, int srcRows, int srcCols);
 
     /// A Boolean array: true becomes -1.0, false 0.0. `nCol` and `weightcorr` as above.
-    /// @missing copied unchanged; -1.0 beyond a table that is copied
-    /// @weights copied along from a table that has them, else none
+    /// @missing Booleans are never missing
     matrix(int rows, int cols, short* src);
 
-    /// `rows` rows and the columns of `src`, copied in linear order; what lies beyond the source is -1.0. Weights,
-    /// caches of counts and, from a normalized table, `norMu` and `norSigma` come along; `descMu`, `descSigma` never
-    /// do.
-    /// @missing copied unchanged; -1.0 beyond a table that is copied
-    /// @weights copied along from a table that has them, else none
+    /// `rows` rows and the columns of `src`, copied in linear order; what lies beyond the source is -1.0. Caches of
+    /// counts and, from a normalized table, `norMu` and `norSigma` are copied too; `descMu`, `descSigma` never are.
+    /// @missing copied unchanged
+    /// @weights copied too
     matrix(int rows, matrix* src);
     matrix(matrix& src);
 
     /// Frees what the table owns; never the caller's array of a view.
-    /// @missing freed with the table; the array of a view is not
+    /// @missing freed with the table
     /// @weights freed with the table
-    /// @empty nothing is special
+    /// @empty nothing special
     ~matrix();
 
     matrix& operator=(const matrix&) = delete;
@@ -125,68 +119,63 @@ public:
     void condenseTo(matrix* dst);
 
     /// Cell (i, j) goes to (j, i) of `dst`, whose dimensions are set and whose block must be large enough.
-    /// @missing copied unchanged; -1.0 where this block ends
+    /// @missing copied unchanged
     /// @empty no cell is copied
     void transposeTo(matrix* dst);
 
     /// Copies a column over the source's row count: in a table with fewer rows the tail runs into the next column.
-    /// Nothing happens for a number out of range or a source without rows.
     /// @missing copied unchanged
-    /// @empty nothing happens
+    /// @empty nothing happens, also for a number out of range
     void copyCol(matrix* src, int srcCol, int dstCol);
     void copyCol(matrixInt* src, int srcCol, int dstCol);
 
-    /// Copies, or exchanges, a row over the source's column count, each table with its own stride. Checks as for a
-    /// column.
+    /// Copies, or exchanges, a row over the source's column count, each table with its own stride.
     /// @missing copied unchanged
-    /// @empty nothing happens
+    /// @empty nothing happens, also for a number out of range
     void copyLine(matrix* src, int srcRow, int dstRow);
     void transferLineFrom(matrix* src, int srcRow, int dstRow);
 
     /// Prepares a result. A table with at least `rows` rows and `cols` columns is kept as large as it is, and the first
     /// rows*cols doubles of its block, in linear order, are set to `value`; any other is deleted and replaced.
     /// @missing overwritten by the value
-    /// @weights stay in a table that is kept
-    /// @empty a table of no cells is made where there is none large enough
+    /// @weights kept in a table that is kept
+    /// @empty without a table that is large enough one of no cells is made
     static void matCheck(matrix*& ref, int rows, int cols, double value);
 
-    /// Allocate `weights` (all 1.0), `weightcorr` (nRows - 1), `nCol` (nRows); nothing happens where they exist.
+    /// Allocate `weights`, `weightcorr` (nRows - 1), `nCol` (nRows), unless they exist.
     /// @missing not read
-    /// @weights made where there are none: 1.0 each
+    /// @weights `InitWeights` makes 1.0 each
     /// @empty an array without entries
     void InitWeights();
     void InitWeightcorr();
     void InitnCol();
 
-    /// Sets the row weights from `nRows` cells; a cell beyond the table `w` gives weight -1.0.
+    /// Sets the row weights from `nRows` cells.
     /// @missing copied like an ordinary number
-    /// @weights set, whatever they are; -1.0 beyond the table given
+    /// @weights not tested; a cell beyond the given table is -1.0
     /// @empty an array without entries
     void weighting(double* w);
     void weighting(matrix* w);
 
     // The members below compute. A `double` member returns -1.0 for a shape or column it cannot work with, and changes
-    // nothing then; otherwise it returns 0.0 or its value. Cells are read and written with the checks above, so that a
-    // number out of range takes part as -1.0. "Missing" is the equality test: an infinity or a NaN is a cell like any
-    // other. Where weights are read and there are none, `InitWeights` makes them. No member may be given this very
-    // table as a factor of the result that it writes here.
+    // nothing then; otherwise it returns 0.0 or its value. Cells are read and written with the checks above, so a number
+    // out of range takes part as -1.0. An infinity or a NaN is a cell like any other. Where weights are read and there
+    // are none, `InitWeights` makes them. No member may be given this very table as a factor of the result that it
+    // writes here.
+    // @empty nothing happens
 
     /// Weighted mean and standard deviation of each column into `descMu`, `descSigma`, and the divisor into
-    /// `weightcorr`; the cells stay. Missing cells are left out. `mode` exactly -1 corrects the sum of weights W to
-    /// W - W/c, c counting the rows present, those of weight 0 too, which add nothing else; any other `mode` divides by
-    /// W. Sigma is missing where the divisor is not above 0.0, both results where no row is present or the table has no
-    /// rows. Runs again only for another `mode`, whatever has happened to the cells.
-    ///
-    /// The moments come from running updates in the manner of West, D. H. D. (1979), Updating mean and variance
-    /// estimates: an improved method, Comm. ACM 22 (9), 532-535.
+    /// `weightcorr`; the cells are left unchanged. W is the sum of the weights of the present rows, c their number.
+    /// Runs again only for another `mode`, even if the cells have changed.
     /// @missing left out (equality)
-    /// @weights the table's own; a row of weight 0 counts in c and adds nothing else
+    /// @weights the table's own; a row of weight 0 counts in c, else changes nothing
     /// @divisor W; for `mode` exactly -1 W - W/c; not above 0.0: sigma missing
-    /// @empty both missing
+    /// @empty both missing, also where no row is present
+    /// @source running updates: West, D. H. D. (1979), Updating mean and variance estimates: an improved method, Comm.
+    ///     ACM 22 (9), 532-535
     void calcDescStat(short mode);
 
-    /// The mean and deviation of a column, computed first where they stand for another `mode` or not at all; -1.0 for a
-    /// column out of range.
+    /// The mean and deviation of a column, computed first unless they are there for this `mode`.
     /// @missing as `calcDescStat`
     /// @weights as `calcDescStat`
     /// @divisor as `calcDescStat`
@@ -194,169 +183,147 @@ public:
     double getDescMu(int col, short mode);
     double getDescSigma(int col, short mode);
 
-    /// Centres and reduces each column in place by the moments of `calcDescStat(-1)`, kept in `norMu` and `norSigma`; a
-    /// sigma of 0.0 divides as 1.0, a missing one divides as the number it is. Missing cells stay. A column without a
-    /// present row has mean and sigma 0.0, not the missing value. Returns 0, or -1 with nothing changed on a normalized
-    /// table.
+    /// Centres and reduces each column in place by the moments of `calcDescStat(-1)`, kept in `norMu` and `norSigma`.
     /// @missing stays missing (equality)
     /// @weights the table's own
     /// @divisor sigma of `calcDescStat(-1)`; 0.0 divides as 1.0, a missing one as an ordinary number
-    /// @empty a column without a present row has mean and sigma 0.0
+    /// @empty a column without a present row has mean and sigma 0.0, not the missing value
+    /// @failure -1 on a normalized table, with nothing changed. Otherwise 0
     int Normalize();
 
-    /// Subtracts the weighted mean of each column in place, kept in `norMu` (0.0 without a present row), with
-    /// `norSigma` 1.0. Missing cells stay. Returns as `Normalize()`.
+    /// Subtracts the weighted mean of each column in place, kept in `norMu`, with `norSigma` 1.0.
     /// @missing stays missing (equality)
     /// @weights the table's own
     /// @divisor the sum of weights
     /// @empty a column without a present row has mean 0.0
+    /// @failure -1 on a normalized table, with nothing changed. Otherwise 0
     int Center();
 
-    /// The saved mean and divisor of a column; -1.0 unless `normalized` is 1 and `col` is in range.
+    /// The saved mean and divisor of a column.
     /// @missing no cell is read
-    /// @empty -1.0 unless normalized and in range
+    /// @empty -1.0 unless `normalized` is 1 and `col` is in range
     double getNorMu(int col);
     double getNorSigma(int col);
 
-    /// Sum of the present cells divided by `nCol[col]`, which is not their count unless the caller set it so; 0.0 on a
-    /// normalized table, -1.0 for a column out of range.
-    /// @missing left out (equality)
+    /// Mean of a column; 0.0 on a normalized table.
+    /// @missing left out of the sum (equality)
     /// @divisor `nCol[col]`, which is not the count of present cells unless the caller set it so
     /// @empty -1.0 for a column out of range
     double calcMu(int col);
 
-    /// Divides the column by the root of its sum of squares, untested against 0.0; missing cells stay. Has nothing to
-    /// do with `normalized`. Returns 0.0.
+    /// Divides the column by the root of its sum of squares. Has nothing to do with `normalized`. Returns 0.0.
     /// @missing stays missing, and is left out of the sum of squares (equality)
-    /// @divisor the root of the sum of squares, untested against 0.0
+    /// @divisor the root of the sum of squares, not tested against 0.0
     /// @empty 0.0
     double Normalize(int col);
 
-    /// Sum of squares of the present cells of a column, 0.0 without rows. With `m`, over the rows i whose cell
-    /// (other, i) of `m` (`flag` true) or (i, other) (false) is present too; the weighted form multiplies each square
-    /// by `weights[i]`, whatever its sign.
-    /// @missing left out, of this table and where given of the partner (equality)
+    /// Sum of squares of the cells of a column. With `m`, the partner, over the rows i whose cell (other, i) of `m`
+    /// (`flag` true) or (i, other) (false) is present; the weighted form multiplies each square by `weights[i]`.
+    /// @missing left out, of this table and of a partner (equality)
     /// @empty 0.0
     double VInnerProd(int col);
     double VInnerProd(int col, bool flag, int other, matrix* m);
-    /// @missing left out, of this table and of the partner (equality)
     /// @weights multiply each square, whatever their sign
     double VInnerProdWeighted(int col, bool flag, int other, matrix* m);
 
-    /// Sum of x y w over the rows of two columns where both cells are present and the weight of this table is above
-    /// 0.0; -1.0 where the row counts differ.
+    /// Sum of x y w over the rows of two columns.
     /// @missing left out, in either column (equality)
-    /// @weights a row enters where its weight is above 0.0
+    /// @weights this table's own; a row enters where its weight is above 0.0
     /// @empty -1.0 where the row counts differ
     double VSProd(int col, matrix* m, int mCol);
 
-    /// Sum of products of two rows, where both cells are present, without weights; -1.0 where the column counts differ.
+    /// Sum of products of two rows, without weights.
     /// @missing left out, in either row (equality)
     /// @empty -1.0 where the column counts differ
     double transVSProd(int row, matrix* m, int mRow);
 
-    /// Sum of squares of the present cells of a row; -1.0 for a row out of range.
+    /// Sum of squares of the cells of a row.
     /// @missing left out (equality)
     /// @empty -1.0 for a row out of range
     double lineSqrSum(int row);
 
-    /// Sum of squared differences of two columns over this table's rows; no missing test.
-    /// @empty -1.0 for a column or shape it cannot work with, else 0.0 without rows
+    /// Sum of squared differences of two columns over this table's rows.
+    /// @empty 0.0 without rows; -1.0 for a column or shape it cannot work with
     double VDiff(matrix* m, int col, int mCol);
 
-    /// Multiplies a row by `f`, missing cells too: they stop being missing unless `f` is 1.0.
+    /// Multiplies a row by `f`.
     /// @missing multiplied like an ordinary number: it stops being missing unless `f` is 1.0
-    /// @empty nothing happens without columns
     void SProd(int row, double f);
 
-    /// `SProd(r, w[r])` for each row r below `n`. Despite its name it does not touch `weights`.
+    /// `SProd(r, w[r])` for each row r below `n`.
     /// @missing multiplied like an ordinary number
-    /// @weights multiply rows; the table's own weights stay
-    /// @empty nothing happens
+    /// @weights multiply rows; the table's own weights are not touched
     void weighting(double* w, int n);
 
-    /// Subtracts `m`, each table with its own stride, no missing test; -1.0 where this table has more rows or columns.
-    /// @empty -1.0 for shapes that do not fit, nothing changed
+    /// Subtracts `m`, each table with its own stride.
+    /// @failure -1.0 where this table has more rows or columns than `m`, with nothing changed. Otherwise 0.0
     double MDiff(matrix* m);
 
-    /// This table becomes a b, or a' b, without a missing test; -1.0 unless all three shapes agree exactly.
-    /// @empty -1.0 for shapes that do not fit, nothing changed
+    /// This table becomes a b, or a' b.
+    /// @failure -1.0 unless all three shapes agree exactly, with nothing changed. Otherwise 0.0
     double matProd(matrix* a, matrix* b);
     double transMatProd(matrix* a, matrix* b);
 
-    /// Cell (i, j) becomes a(i, col) b(j, bCol) over all of this table; -1.0 unless `a` has as many rows. Neither the
-    /// rows of `b` nor the missing value are tested.
-    /// @empty -1.0 for shapes that do not fit, nothing changed
+    /// Cell (i, j) becomes a(i, col) b(j, bCol) over all of this table. The rows of `b` are not tested.
+    /// @failure -1.0 unless `a` has as many rows, with nothing changed. Otherwise 0.0
     double vecProd(matrix* a, int col, matrix* b, int bCol);
 
-    /// Adds one weighted term of a scatter table: cell (i, j) grows by
-    /// f (a(row, i) - b(bRow, i)) (a(row, j) - b(bRow, j)), f the cell `row` of `v`; -1.0 unless this table has as many
-    /// rows as `a` has columns. No missing test.
-    /// @empty -1.0 for shapes that do not fit, nothing changed
+    /// Adds one weighted term of a scatter table: cell (i, j) grows by f (a(row, i) - b(bRow, i)) (a(row, j) - b(bRow,
+    /// j)), f the cell `row` of `v`.
+    /// @failure -1.0 unless this table has as many rows as `a` has columns, with nothing changed. Otherwise 0.0
     double trans1vecProd(matrix* a, int row, matrix* v, matrix* b, int bRow);
 
-    /// Column `dst` becomes `a` times column `col` of `b`; -1.0 unless the columns of `a` match the rows of `b`, and
-    /// its rows this table's. The sums run to this table's column count, which must be that of `a` for the full product
-    /// and is not tested.
-    /// @empty -1.0 for shapes that do not fit, nothing changed
+    /// Column `dst` becomes `a` times column `col` of `b`. The sums run to this table's column count, which must be
+    /// that of `a` for the full product and is not tested.
+    /// @failure -1.0 unless the columns of `a` match the rows of `b`, and its rows this table's, with nothing changed.
+    ///     Otherwise 0.0
     double matVecProd(matrix* a, matrix* b, int col, int dst);
 
-    /// The identity minus this table; no missing test.
-    /// @empty nothing happens
+    /// The identity minus this table.
     void oneMinus();
 
-    /// Deflation: each cell (i, j) loses t(i, k) p(j, k); it stays where one of the three is missing.
-    /// @missing a cell stays where one of the three is missing (equality)
-    /// @empty nothing happens
+    /// Deflation: each cell (i, j) loses t(i, k) p(j, k).
+    /// @missing in any of the three leaves the cell unchanged (equality)
     void subtractResidual(matrix* t, int k, matrix* p);
 
-    /// Sum over k below n and all columns j of t(tRow, k) p(j, k) this(row, j), without the terms that have a missing
-    /// factor; 0.0 for `n` below 1.
+    /// Sum over k below n and all columns j of t(tRow, k) p(j, k) this(row, j).
     /// @missing a term with a missing factor is left out (equality)
     /// @empty 0.0 for `n` below 1
     double predictLine(matrix* t, matrix* p, int row, int n, int tRow);
 
     /// Projection steps of an iteration in the presence of missing cells. Each cell i of column `col` of `out`, over
-    /// the rows of `out`, takes the ratio of a sum of products with column `col` of `x` to a sum of squares of that
-    /// column; a zero divisor is 1.0. Row i of this table goes into the sums, in the `trans` forms column i; where its
-    /// cell is missing the term is left out of both. The forms differ on purpose:
-    ///
-    /// - A missing cell of `x` is left out of the divisor by all, of the products by `transGaussProdWeighted` only.
-    /// - `GaussProdWeighted` multiplies each product by the one weight of target row i, and adds nothing unless it is
-    ///   above 0.0 (as for a row beyond this table); its divisor has no weights.
-    /// - `transGaussProdWeighted` multiplies each product by the weight of its row where that is above 0.0, and each
-    ///   square of the divisor by the weights of `x`, not of this table.
+    /// the rows of `out`, receives the ratio of a sum of products with column `col` of `x` to a sum of squares of that
+    /// column. Row i of this table enters the sums, in the `trans` forms column i. The forms differ on purpose.
     /// @missing in this table leaves its term out of both sums; in `x` out of the divisor only (equality)
-    /// @divisor the sum of squares; 0 divides as 1.0
+    /// @divisor the sum of squares, without weights; 0 divides as 1.0
     /// @empty a sum without terms over 1.0
     void GaussProd(matrix* x, int col, matrix* out);
     void transGaussProd(matrix* x, int col, matrix* out);
-    /// @weights the one weight of the target row, which adds nothing unless above 0.0; none in the divisor
+    /// @weights each product takes the one weight of target row i, and adds nothing unless that is above 0.0 (as for a
+    ///     row beyond this table)
     void GaussProdWeighted(matrix* x, int col, matrix* out);
     /// @missing leaves its term out of both sums, in this table and in `x` (equality)
-    /// @weights of each row where above 0.0; in the divisor those of `x`
+    /// @weights each product takes the weight of its row where that is above 0.0, each square of the divisor the
+    ///     weights of `x`, not of this table
     /// @divisor the weighted sum of squares; 0 divides as 1.0
     void transGaussProdWeighted(matrix* x, int col, matrix* out);
 
     /// Which of the `cols` columns and `rows` rows of the block at (row0, col0) are zero throughout, and for which i of
-    /// a square block row i and column i are zero off the diagonal, whatever stands on it. A NaN is not zero. `diag`
-    /// has max(rows, cols) entries and is false throughout where `rows` differs from `cols`. Reads are not checked: the
-    /// block must lie inside the table.
-    /// @missing an ordinary number; a NaN is not zero
+    /// a square block row i and column i are zero off the diagonal, whatever the diagonal cell. A NaN is not zero.
+    /// `diag` has max(rows, cols) entries and is false throughout where `rows` differs from `cols`. Reads are not
+    /// checked: the block must lie inside the table.
     /// @empty nothing is read
     void calcStrucInfo(int rows, int cols, bool* colZero, bool* rowZero, bool* diag, int row0, int col0);
 
     /// Inverse of the leading square block of order `nRows` into `out`, which must be large enough, from a private
-    /// copy: Crout's LU with implicit scaled pivoting, then forward and back substitution for each unit vector (ludcmp
-    /// and lubksb of Press, Flannery, Teukolsky, Vetterling: Numerical Recipes, 1st edition), except that it ends at a
-    /// pivot of 1e-8 or less in absolute terms; of 2.220446049250313e-16 or less where `tol` is 0 or below, of which
-    /// nothing but the sign counts (a NaN is positive). Of equal candidates for a pivot the last wins. No missing test.
-    ///
-    /// Returns 0, or -1 with `status` -1 and `out` untouched, for such a pivot or a row of zeros; `status` is not
-    /// cleared on success.
-    /// @divisor a pivot up to 1e-8, or 2.220446049250313e-16 for `tol` at or below 0, or a row of zeros: -1, `out`
-    ///     untouched
+    /// copy: Crout's LU with implicit scaled pivoting, then forward and back substitution for each unit vector. Of
+    /// `tol` only the sign counts (a NaN is positive). Of equal candidates for a pivot the last wins.
+    /// @divisor a pivot up to 1e-8 in absolute terms, or 2.220446049250313e-16 for `tol` at or below 0, or a row of
+    ///     zeros fails
     /// @empty 0
+    /// @failure -1 with `status` -1 and `out` untouched. Otherwise 0; `status` is not cleared
+    /// @source ludcmp and lubksb of Press, Flannery, Teukolsky and Vetterling, Numerical Recipes, 1st edition
+    /// @weak the pivot is tested in absolute terms: a regular table of small scale fails
     int inverse1(matrix* out, short& status, double tol);
 
 private:
@@ -380,7 +347,6 @@ private:
     }
 };
 
-/// Square root, or the missing value for `x` below 0.0. A NaN stays one.
-/// @missing below 0.0, so it gives itself
-/// @empty takes no array
+/// Square root. A NaN stays one.
+/// @missing the result for any `x` below 0.0, so the missing value gives itself
 extern "C" VECMAT_API double sqr2(double x);

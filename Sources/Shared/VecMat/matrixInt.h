@@ -1,6 +1,6 @@
 // The table of 32-bit integers: category codes, positions, arrays of Longs.
 //
-// @missing ints are never missing; -1 beyond a table that is copied
+// @missing ints are never missing
 // @empty a table without rows or columns has a block and no cells
 #pragma once
 
@@ -34,17 +34,17 @@ public:
     short descMode = 0;
 
     /// A new block in which every cell is `value`.
-    /// @weights copied along from a table that has them
+    /// @weights none
     matrixInt(int rows, int cols, int value);
 
     /// With `view` the caller's array is used in place; without, its first rows*cols ints are copied. Either way `nCol`
     /// is filled with `rows` and `weightcorr` with rows - 1, unlike in the twin.
-    /// @weights copied along from a table that has them
+    /// @weights none
     matrixInt(int rows, int cols, int* src, bool view);
 
-    /// `rows` rows and the columns of `src`, in linear order; cells beyond the source are -1. Weights, counts and the
-    /// saved means and divisors of a normalized table come along.
-    /// @weights copied along from a table that has them
+    /// `rows` rows and the columns of `src`, in linear order; cells beyond the source are -1. Counts and the saved
+    /// means and divisors of a normalized table are copied too.
+    /// @weights copied too
     matrixInt(int rows, matrixInt* src);
 
     /// @missing freed with the table; the array of a view is not
@@ -56,7 +56,6 @@ public:
     matrixInt& operator=(const matrixInt&) = delete;
 
     /// Checked access, 1-based, on the linear index alone: out of range a read gives -1 and a write is dropped.
-    /// @missing ints are never missing; -1 out of range
     /// @empty -1
     VECMAT_API int vbget(int i, int j)
     {
@@ -73,16 +72,15 @@ public:
     }
 
     /// All cells in linear order; the form towards a table sets its dimensions and needs a block that is large enough.
-    /// @missing copied unchanged
     /// @weights not copied
     /// @empty no cell is copied
     void copyMatTo(int* dst);
     void copyMatTo(matrixInt* dst);
 
     /// Prepares a result as `matrix::matCheck` does, with `value` truncated first; a pointer is tested for null only.
-    /// @missing overwritten by the value, truncated
-    /// @weights stay in a table that is kept
-    /// @empty a table of no cells is made where there is none large enough
+    /// @missing ints are never missing; `value` overwrites
+    /// @weights kept in a table that is kept
+    /// @empty without a table that is large enough one of no cells is made
     static void matCheck(matrixInt*& ref, int rows, int cols, double value);
 
 private:

@@ -38,7 +38,6 @@ VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints,
 extern "C" {
 
 VECMAT_API int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out);
-/// @failure -1 with `out` untouched: there is no generalised inverse to fall back on. Otherwise 0
 VECMAT_API int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out);
 VECMAT_API double VB_M_DeterminantCleaned(double* a, int n, int* constraints, short* status);
 

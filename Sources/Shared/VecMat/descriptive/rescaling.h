@@ -42,7 +42,8 @@ VECMAT_API void VB_M_NormalizeMatrix(double* X, int n, int p, double* Y, int nY,
 VECMAT_API void VB_V_Rescale(double* v, int n, double low, double high, short* mask, double* out);
 
 /// `VB_V_Rescale` over its own array.
-/// @divisor maximum less minimum; where it is below 2.220446049250313e-16 every kept cell becomes the middle of the range
+/// @divisor maximum less minimum; where it is below 2.220446049250313e-16 every kept cell becomes the middle of the
+///     range
 VECMAT_API void VB_V_Rescale2(double* x, int n, double low, double high, short* mask);
 
 /// Each column by itself, with a mask of its own. The form with a 2 writes over X.

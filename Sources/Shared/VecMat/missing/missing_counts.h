@@ -87,9 +87,9 @@ VECMAT_API int VB_M_NbMissing2(double* a, int nRows, int nCols);
 VECMAT_API int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols);
 VECMAT_API void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);
 
-/// `M_NbMissing` of an array of columns: the order test.
+VECMAT_API int VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused);
+/// `M_NbMissing` of an array of columns.
 /// @missing counted by the order test, unlike all others here
 VECMAT_API int Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols);
-VECMAT_API int VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused);
 
 } // extern "C"

@@ -159,7 +159,6 @@ VECMAT_API int VB_SortQByColDbl(double* data, int nRows, int nCols, int first, i
 /// in a private copy. Booleans come back as -1 and 0.
 VECMAT_API int VB_SortDataBy01(double* data, int n, int nCols, double* key);
 VECMAT_API int VB_SortDataBy01Bool(short* data, int n, int nCols, double* key);
-/// @missing a missing key is the smallest: first; data moves like any other
 VECMAT_API int VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key);
 
 /// The same for strings, but no string is copied: the caller's references change places.
