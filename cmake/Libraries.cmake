@@ -113,8 +113,7 @@ target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${vecmat_source}>
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
-<<<<<<< HEAD
-target_link_libraries(VecMat PRIVATE ${companion_targets})
+target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
 
 # The guarded calls are a library of their own: what VecMat exports is settled.
 vecmat_shared_library(VecMatGuarded Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)
@@ -122,6 +121,3 @@ target_include_directories(VecMatGuarded PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMatGuarded PRIVATE VecMat)
-=======
-target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
->>>>>>> 738d435 (wip3)
