@@ -22,15 +22,19 @@ FlatTable correlationsWithColumns(const Components& components, int axes)
     return result;
 }
 
-FlatTable meanScores(FlatTable& scores, std::span<const Group> groups)
+FlatTable meanScores(FlatTable& scores, std::span<const Group> groups, const Table& table)
 {
     FlatTable means(static_cast<int>(groups.size()), scores.columns);
     for (int i = 0; i < means.rows; ++i)
         for (int k = 0; k < means.columns; ++k) {
+            const Group& group = groups[static_cast<std::size_t>(i)];
             std::vector<double> ofGroup;
-            for (const int row : groups[static_cast<std::size_t>(i)].rows)
+            for (const int row : group.rows)
                 ofGroup.push_back(scores.at(row, k));
-            means.at(i, k) = VB_V_Mean2(ofGroup.data(), static_cast<int>(ofGroup.size()));
+            std::vector<double> weights = weightsOf(table, group);
+            const int n = static_cast<int>(ofGroup.size());
+            means.at(i, k) =
+                weights.empty() ? VB_V_Mean2(ofGroup.data(), n) : VB_V_Mean(ofGroup.data(), n, noMask, weights.data());
         }
     return means;
 }
@@ -80,18 +84,12 @@ std::string inShort(const Components& components, const Biplot& biplot)
            percentage(components.percent[0] + components.percent[1], 100.0) + " of the variance.";
 }
 
-DataTable pointsOf(const std::string& name, const FlatTable& points, const std::vector<std::string>& names,
-                   const std::vector<std::string>& groups = {})
+DataTable pointsOf(const std::string& name, const FlatTable& points, const std::vector<std::string>& names)
 {
     DataTable data{name, {{"name", "component_1", "component_2"}}};
-    if (!groups.empty())
-        data.records.front().emplace_back("group");
-    for (int i = 0; i < points.rows; ++i) {
-        const auto place = static_cast<std::size_t>(i);
-        data.records.push_back({names[place], withAllDigits(points.at(i, 0)), withAllDigits(points.at(i, 1))});
-        if (!groups.empty())
-            data.records.back().push_back(groups[place]);
-    }
+    for (int i = 0; i < points.rows; ++i)
+        data.records.push_back(
+            {names[static_cast<std::size_t>(i)], withAllDigits(points.at(i, 0)), withAllDigits(points.at(i, 1))});
     return data;
 }
 
@@ -101,30 +99,35 @@ Picture pictureOf(const Biplot& biplot, const Components& components, std::span<
     std::vector<std::string> columnNames;
     for (const Column* column : components.columns)
         columnNames.push_back(column->name);
-    std::vector<std::string> rowNames;
-    for (int i = 1; i <= biplot.rows.rows; ++i)
-        rowNames.push_back(std::to_string(i));
     std::vector<std::string> groupNames;
-    std::vector<std::string> groupOfRow(groups.empty() ? 0 : rowNames.size());
+    std::vector<const std::string*> groupOfRow(static_cast<std::size_t>(biplot.rows.rows));
     for (const Group& group : groups) {
         groupNames.push_back(group.name);
         for (const int row : group.rows)
-            groupOfRow[static_cast<std::size_t>(row)] = group.name;
+            groupOfRow[static_cast<std::size_t>(row)] = &group.name;
+    }
+    DataTable rows{"biplot_rows", {{"name", "component_1", "component_2"}}};
+    if (!groups.empty())
+        rows.records.front().emplace_back("group");
+    for (int i = 0; i < biplot.rows.rows; i += thinning(biplot.rows.rows)) {
+        rows.records.push_back(
+            {std::to_string(i + 1), withAllDigits(biplot.rows.at(i, 0)), withAllDigits(biplot.rows.at(i, 1))});
+        if (!groups.empty())
+            rows.records.back().push_back(*groupOfRow[static_cast<std::size_t>(i)]);
     }
     return {"biplot",
             {pointsOf("biplot_columns", biplot.columns, columnNames),
-             pointsOf("biplot_groups", biplot.groups, groupNames),
-             pointsOf("biplot_rows", biplot.rows, rowNames, groupOfRow)}};
+             pointsOf("biplot_groups", biplot.groups, groupNames), std::move(rows)}};
 }
 
 } // namespace
 
-Biplot biplotOf(const Components& components, std::span<const Group> groups)
+Biplot biplotOf(const Components& components, std::span<const Group> groups, const Table& table)
 {
     const int axes = std::min(2, components.count());
     FlatTable scores = components.scores;
     scores.keepColumns(axes);
-    FlatTable centres = meanScores(scores, groups);
+    FlatTable centres = meanScores(scores, groups, table);
     FlatTable vectors = correlationsWithColumns(components, axes);
     std::vector<double> variances = components.variances;
 
@@ -142,7 +145,7 @@ void addBiplot(Document& document, const Components& components, const Subject& 
     std::span<const Group> groups = subject.groupsOfColumn();
     if (groups.size() > mostListed)
         groups = {};
-    const Biplot biplot = biplotOf(components, groups);
+    const Biplot biplot = biplotOf(components, groups, subject.table);
     std::vector<TextTable::Column> headings = {{"kind", Align::left}, {"point", Align::left}};
     for (int k = 1; k <= biplot.rows.columns; ++k)
         headings.push_back({"component " + std::to_string(k), Align::point});
@@ -157,7 +160,7 @@ void addBiplot(Document& document, const Components& components, const Subject& 
     Section& section = document.add("biplot", "Biplot", inShort(components, biplot));
     section.addTable(std::move(text));
     if (biplot.rows.columns > 1)
-        section.picture = pictureOf(biplot, components, groups);
+        section.pictures.push_back(pictureOf(biplot, components, groups));
     section.note = "The coordinates of a column are its correlations with the components; those of the rows are scores "
                    "of variance 1.";
     if (!areListed(biplot.rows))

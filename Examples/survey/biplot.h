@@ -20,7 +20,7 @@ struct Biplot
 };
 
 /// `groups` without that of all rows.
-Biplot biplotOf(const Components& components, std::span<const Group> groups);
+Biplot biplotOf(const Components& components, std::span<const Group> groups, const Table& table);
 
 void addBiplot(Document& document, const Components& components, const Subject& subject);
 

@@ -87,6 +87,12 @@ BstrArray::BstrArray(const std::vector<std::string>& texts) : BstrArray(texts.si
         present_[i] = given_[i] = newBstr(texts[i]);
 }
 
+BstrArray::BstrArray(const std::vector<const std::string*>& texts) : BstrArray(texts.size())
+{
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        present_[i] = given_[i] = newBstr(*texts[i]);
+}
+
 BstrArray::~BstrArray()
 {
     for (std::size_t i = 0; i < given_.size(); ++i) {
@@ -107,9 +113,24 @@ std::string BstrArray::text(std::size_t place) const
 
 BstrArray textsOf(const std::vector<const Column*>& columns)
 {
-    std::vector<std::string> texts;
+    return textsOf(columns, RowRange{0, columns.empty() ? 0 : static_cast<int>(columns.front()->texts.size())});
+}
+
+BstrArray textsOf(const std::vector<const Column*>& columns, RowRange range)
+{
+    std::vector<const std::string*> texts;
     for (const Column* column : columns)
-        texts.insert(texts.end(), column->texts.begin(), column->texts.end());
+        for (int i = 0; i < range.count; ++i)
+            texts.push_back(&column->texts[static_cast<std::size_t>(range.first + i)]);
+    return BstrArray(texts);
+}
+
+BstrArray textsOf(const std::vector<const Column*>& columns, const std::vector<int>& rows)
+{
+    std::vector<const std::string*> texts;
+    for (const Column* column : columns)
+        for (const int row : rows)
+            texts.push_back(&column->texts[static_cast<std::size_t>(row)]);
     return BstrArray(texts);
 }
 

@@ -1,6 +1,7 @@
 // Texts as the library's flat forms take them and give them: arrays of BSTRs.
 #pragma once
 
+#include "flat_call.h"
 #include "table.h"
 
 #include <cstddef>
@@ -18,6 +19,7 @@ class BstrArray
 {
 public:
     explicit BstrArray(const std::vector<std::string>& texts);
+    explicit BstrArray(const std::vector<const std::string*>& texts);
     /// Room for the texts of a result.
     explicit BstrArray(std::size_t size) : given_(size, nullptr), present_(size, nullptr) {}
     BstrArray(const BstrArray&) = delete;
@@ -36,5 +38,8 @@ private:
 
 /// The texts of some columns, column after column.
 BstrArray textsOf(const std::vector<const Column*>& columns);
+/// Those of some of the rows.
+BstrArray textsOf(const std::vector<const Column*>& columns, RowRange range);
+BstrArray textsOf(const std::vector<const Column*>& columns, const std::vector<int>& rows);
 
 } // namespace survey

@@ -14,11 +14,12 @@ struct Categories
 {
     std::vector<std::string> names;
     std::vector<int> counts;
-    int missing;               ///< rows without a text
-    std::vector<double> codes; ///< of the rows: places in `names`, from 1, and the missing value
+    std::vector<double> weights; ///< of the rows of each; the counts where rows have none
+    int missing;                 ///< rows without a text
+    std::vector<double> codes;   ///< of the rows: places in `names`, from 1, and the missing value
 };
 
-Categories categoriesOf(const Column& column);
+Categories categoriesOf(const Column& column, const std::vector<double>& weights = {});
 
 void addCategories(Document& document, const Table& table);
 

@@ -13,14 +13,13 @@ namespace survey {
 namespace {
 
 /// Brings the columns to mean 0 and variance 1, and gives their correlations.
-FlatTable standardised(FlatTable& numbers)
+FlatTable standardised(FlatTable& numbers, std::vector<double> weights)
 {
     const int p = numbers.columns;
     FlatTable correlations(p, p);
     FlatTable means(p, 1), deviations(p, 1), variances(p, 1);
-    std::vector<double> weights = unitWeights(numbers.rows);
     VB_M_CovCorrAndMeanStDevVar(numbers.data(), numbers.rows, p, correlations.data(), means.data(), deviations.data(),
-                                variances.data(), yes, noMask, weights.data(), yes, yes, yes, yes);
+                                variances.data(), yes, noMask, weights.data(), yes, areFrequencies, yes, yes);
     return correlations;
 }
 
@@ -99,7 +98,7 @@ std::optional<Components> componentsOf(const Table& complete)
     if (p < 2 || complete.rows < 3)
         return std::nullopt;
     FlatTable numbers = numbersOf(columns, complete.rows);
-    FlatTable correlations = standardised(numbers);
+    FlatTable correlations = standardised(numbers, weightsOf(complete));
     std::vector<double> variances(columns.size());
     FlatTable vectors(p, p);
     if (VB_M_Eigen(correlations.data(), variances.data(), vectors.data(), p, yes) != 0)
@@ -129,7 +128,7 @@ void addComponents(Document& document, const Components& components)
     section.addTable("component_variances", variancesOf(components));
     section.addTable("component_coefficients", coefficientsOf(components));
     if (components.count() > 1)
-        section.picture = {"scree", {dataOf(components)}};
+        section.pictures.push_back({"scree", {dataOf(components)}});
     section.note = "The gaps of the columns were filled, and the columns brought to mean 0 and variance 1. The "
                    "coefficients are those of the first components, as many as make up 80 % of the variance, but no "
                    "more than five.";

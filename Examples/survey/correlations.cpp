@@ -23,7 +23,7 @@ std::vector<short> rowsToLeaveOut(FlatTable& columns)
 
 } // namespace
 
-Correlation correlationOf(const Column& x, const Column& y)
+Correlation correlationOf(const Column& x, const Column& y, const std::vector<double>& rowWeights)
 {
     const int n = static_cast<int>(x.numbers.size());
     FlatTable pair = numbersOf({&x, &y}, n);
@@ -34,34 +34,44 @@ Correlation correlationOf(const Column& x, const Column& y)
     // In a table of all columns the variances would come from other rows than the covariance, and coefficients could
     // lie beyond 1. The mask gives a pair its rows.
     FlatTable correlations(2, 2);
-    std::vector<double> weights = unitWeights(n);
+    std::vector<double> weights = rowWeights.empty() ? unitWeights(n) : rowWeights;
     VB_M_CovCorr(pair.data(), n, 2, correlations.data(), yes, mask.data(), weights.data(), no, no);
     return {correlations.at(0, 1), count};
 }
 
 namespace {
 
-/// The coefficients of all pairs below each other.
-DataTable dataOf(const std::vector<const Column*>& columns)
+/// Of each two columns, in a square table.
+using Square = std::vector<std::vector<Correlation>>;
+
+Square allOf(const std::vector<const Column*>& columns, const std::vector<double>& weights)
 {
-    DataTable data{"correlation_map", {{"column", "with", "coefficient", "rows"}}};
-    for (const Column* x : columns)
-        for (const Column* y : columns) {
-            const Correlation correlation = correlationOf(*x, *y);
-            data.records.push_back(
-                {x->name, y->name, withAllDigits(correlation.coefficient), std::to_string(correlation.count)});
-        }
-    return data;
+    Square all(columns.size(), std::vector<Correlation>(columns.size()));
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        for (std::size_t j = 0; j <= i; ++j)
+            all[i][j] = all[j][i] = correlationOf(*columns[i], *columns[j], weights);
+    return all;
+}
+
+/// The coefficients of all pairs below each other.
+std::vector<std::vector<std::string>> recordsOf(const std::vector<const Column*>& columns, const Square& all)
+{
+    std::vector<std::vector<std::string>> records = {{"column", "with", "coefficient", "rows"}};
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        for (std::size_t j = 0; j < columns.size(); ++j)
+            records.push_back({columns[i]->name, columns[j]->name, withAllDigits(all[i][j].coefficient),
+                               std::to_string(all[i][j].count)});
+    return records;
 }
 
 /// The pair of columns with the coefficient farthest from 0.
-std::string inShort(const std::vector<const Column*>& columns)
+std::string inShort(const std::vector<const Column*>& columns, const Square& all)
 {
     std::string strongest;
     double farthest = 0.0;
     for (std::size_t i = 0; i < columns.size(); ++i)
         for (std::size_t j = 0; j < i; ++j) {
-            const double coefficient = correlationOf(*columns[i], *columns[j]).coefficient;
+            const double coefficient = all[i][j].coefficient;
             if (coefficient == vecmat::missingValue || std::fabs(coefficient) <= farthest)
                 continue;
             farthest = std::fabs(coefficient);
@@ -78,24 +88,29 @@ void addCorrelations(Document& document, const Table& table)
     const std::vector<const Column*> columns = table.ofKind(Kind::numeric);
     if (columns.size() < 2)
         return;
+    const Square all = allOf(columns, table.weights);
+    const std::size_t shown = columns.size() > mostListed ? listedOfMany : columns.size();
     std::vector<TextTable::Column> headings = {{"column", Align::left}};
-    for (const Column* column : columns)
-        headings.push_back({column->name, Align::point});
+    for (std::size_t j = 0; j < shown; ++j)
+        headings.push_back({columns[j]->name, Align::point});
     TextTable text(std::move(headings), 1);
-    for (std::size_t i = 0; i < columns.size(); ++i) {
+    for (std::size_t i = 0; i < shown; ++i) {
         std::vector<std::string> cells = {columns[i]->name};
-        for (std::size_t j = 0; j < columns.size(); ++j) {
-            const Correlation correlation = correlationOf(*columns[i], *columns[j]);
-            cells.push_back(i < j ? std::to_string(correlation.count) : withDecimals(correlation.coefficient, 3));
-        }
+        for (std::size_t j = 0; j < shown; ++j)
+            cells.push_back(i < j ? std::to_string(all[i][j].count) : withDecimals(all[i][j].coefficient, 3));
         text.addRow(std::move(cells));
     }
-    Section& section = document.add("correlations", "Correlations", inShort(columns));
-    section.addTable(std::move(text));
-    if (columns.size() <= mostListed)
-        section.picture = {"correlation_map", {dataOf(columns)}};
+    Section& section = document.add("correlations", "Correlations", inShort(columns, all));
     section.note = "Pearson's coefficients, and above the diagonal the number of rows from which they come: those in "
                    "which neither cell is missing. A dash stands where a column doesn't vary in them.";
+    if (shown < columns.size()) {
+        section.addTable("correlations", std::move(text), recordsOf(columns, all));
+        section.note +=
+            " Shown are the first " + std::to_string(shown) + " of " + counted(columns.size(), "column") + '.';
+    } else {
+        section.addTable(std::move(text));
+        section.pictures.push_back({"correlation_map", {{"correlation_map", recordsOf(columns, all)}}});
+    }
 }
 
 } // namespace survey

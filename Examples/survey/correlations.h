@@ -4,6 +4,8 @@
 #include "document.h"
 #include "table.h"
 
+#include <vector>
+
 namespace survey {
 
 /// Pearson's, over the rows in which neither of two cells is missing: the missing value where one of the columns doesn't
@@ -14,7 +16,7 @@ struct Correlation
     int count; ///< of those rows
 };
 
-Correlation correlationOf(const Column& x, const Column& y);
+Correlation correlationOf(const Column& x, const Column& y, const std::vector<double>& weights = {});
 
 /// Nothing where there is only one numeric column.
 void addCorrelations(Document& document, const Table& table);

@@ -2,125 +2,95 @@
 
 #include "input_error.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
-#include <utility>
-
 namespace survey {
 
 namespace {
 
-/// Walks through the text once, field by field.
-class CsvReader
+std::size_t byteOf(char c)
 {
-public:
-    CsvReader(std::string_view text, const std::string& file) : rest_(text), file_(file) {}
-
-    bool atEnd() const { return rest_.empty(); }
-
-    CsvRecord record()
-    {
-        CsvRecord fields;
-        do
-            fields.push_back(field(static_cast<int>(fields.size()) + 1));
-        while (take(','));
-        takeLineEnd();
-        return fields;
-    }
-
-private:
-    CsvField field(int column)
-    {
-        const Place place{.file = file_, .line = line_, .column = column};
-        CsvField field{"", line_};
-        if (!take('"')) {
-            field.text = takeUpTo(",\r\n");
-            return field;
-        }
-        do {
-            takeQuoted(field.text, place);
-        } while (take('"') && (field.text += '"', true)); // a doubled quote stands for one, and the field goes on
-        if (!atEnd() && std::string_view(",\r\n").find(rest_.front()) == std::string_view::npos)
-            throw InputError(place, "more text follows the closing quote of " + quoted(field.text));
-        return field;
-    }
-
-    /// Takes a stretch up to and with its closing quote.
-    void takeQuoted(std::string& text, const Place& place)
-    {
-        while (true) {
-            text += takeUpTo("\"\r\n");
-            if (atEnd())
-                throw InputError(place, "the quote that opens here is never closed");
-            if (take('"'))
-                return;
-            text += takeLineEnd();
-        }
-    }
-
-    bool take(char wanted)
-    {
-        if (atEnd() || rest_.front() != wanted)
-            return false;
-        rest_.remove_prefix(1);
-        return true;
-    }
-
-    std::string_view takeUpTo(const char* stops)
-    {
-        const std::string_view taken = rest_.substr(0, rest_.find_first_of(stops));
-        rest_.remove_prefix(taken.size());
-        return taken;
-    }
-
-    std::string_view takeLineEnd()
-    {
-        const std::string_view start = rest_;
-        const bool carriageReturn = take('\r');
-        const bool lineFeed = take('\n');
-        line_ += carriageReturn || lineFeed ? 1 : 0;
-        return start.substr(0, start.size() - rest_.size());
-    }
-
-    std::string_view rest_;
-    const std::string& file_;
-    int line_ = 1;
-};
-
-struct CloseFile
-{
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
+    return static_cast<unsigned char>(c);
+}
 
 } // namespace
 
-std::string fileContent(const std::string& path)
+CsvReader::CsvReader(std::string_view text, const std::string& file, char delimiter)
+    : text_(text), file_(file), delimiter_(delimiter)
 {
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(path.c_str(), "rb"));
-    std::string content;
-    char buffer[1 << 16];
-    while (file) {
-        const std::size_t count = std::fread(buffer, 1, sizeof buffer, file.get());
-        content.append(buffer, count);
-        if (count < sizeof buffer)
-            break;
-    }
-    if (!file || std::ferror(file.get()))
-        throw InputError({.file = path}, std::strerror(errno));
-    return content;
+    for (const char end : {delimiter, '\r', '\n'})
+        ends_[byteOf(end)] = true;
 }
 
-std::vector<CsvRecord> parsedCsv(std::string_view text, const std::string& file)
+const CsvRecord& CsvReader::record()
 {
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
-    std::vector<CsvRecord> records;
-    for (CsvReader reader(text, file); !reader.atEnd();)
-        records.push_back(reader.record());
-    return records;
+    record_.clear();
+    unescaped_.clear();
+    do
+        record_.push_back(field());
+    while (take(delimiter_));
+    takeLineEnd();
+    return record_;
+}
+
+CsvField CsvReader::field()
+{
+    if (!atEnd() && text_[place_] == '"')
+        return quotedField();
+    const std::size_t first = place_;
+    while (place_ < text_.size() && !ends_[byteOf(text_[place_])])
+        ++place_;
+    return {text_.substr(first, place_ - first), line_};
+}
+
+CsvField CsvReader::quotedField()
+{
+    const Place place{.file = file_, .line = line_, .column = static_cast<int>(record_.size()) + 1};
+    const int line = line_;
+    std::size_t first = ++place_;
+    std::string* unescaped = nullptr;
+    std::string_view stretch;
+    while (true) {
+        while (!atEnd() && text_[place_] != '"') {
+            if (text_[place_] == '\r' || text_[place_] == '\n')
+                takeLineEnd();
+            else
+                ++place_;
+        }
+        if (atEnd())
+            throw InputError(place, "the quote that opens here is never closed");
+        stretch = text_.substr(first, place_++ - first);
+        if (!take('"'))
+            break;
+        if (unescaped == nullptr) // a doubled quote stands for one, and the field goes on
+            unescaped = &unescaped_.emplace_back();
+        *unescaped += stretch;
+        *unescaped += '"';
+        first = place_;
+    }
+    if (unescaped != nullptr)
+        stretch = *unescaped += stretch;
+    if (!atEnd() && !ends_[byteOf(text_[place_])])
+        throw InputError(place, "more text follows the closing quote of " + quoted(std::string(stretch)));
+    return {stretch, line};
+}
+
+bool CsvReader::take(char wanted)
+{
+    if (atEnd() || text_[place_] != wanted)
+        return false;
+    ++place_;
+    return true;
+}
+
+void CsvReader::takeLineEnd()
+{
+    const bool carriageReturn = take('\r');
+    const bool lineFeed = take('\n');
+    line_ += carriageReturn || lineFeed ? 1 : 0;
+}
+
+bool isEmptyLine(const CsvRecord& record)
+{
+    return record.size() == 1 && record.front().text.empty();
 }
 
 } // namespace survey

@@ -69,45 +69,96 @@ Record described(const NamedTable& named)
     return record;
 }
 
-void writeContents(std::ostream& out, const Document& document)
+/// A field as RFC 4180 has it.
+void writeCsvField(std::ostream& out, const std::string& field)
 {
-    writeRecord(out, {"title", document.title, document.summary});
-    for (const LabelledList& list : document.lists) {
-        Record record = {"list", list.label};
-        record.insert(record.end(), list.items.begin(), list.items.end());
+    if (field.find_first_of(",\"\r\n") == std::string::npos) {
+        out << field;
+        return;
+    }
+    out << '"';
+    for (const char c : field)
+        out << (c == '"' ? "\"\"" : std::string(1, c));
+    out << '"';
+}
+
+void writeCsv(std::ostream& out, const std::vector<Record>& records)
+{
+    for (const Record& record : records) {
+        for (std::size_t j = 0; j < record.size(); ++j) {
+            if (j > 0)
+                out << ',';
+            writeCsvField(out, record[j]);
+        }
+        out << '\n';
+    }
+}
+
+void writeRecords(std::ostream& out, const std::vector<Record>& records)
+{
+    for (const Record& record : records)
         writeRecord(out, record);
-    }
-    for (const Section& section : document.sections) {
-        writeRecord(out, {"section", section.name, section.title, section.lead, section.note});
-        for (const NamedTable& table : section.tables)
-            writeRecord(out, described(table));
-        if (section.picture)
-            writeRecord(out, {"picture", section.picture->name});
-    }
+}
+
+OutputError notWritten(const std::filesystem::path& path)
+{
+    return OutputError(path.string() + ": the file can't be written");
 }
 
 } // namespace
 
-void writeDataFiles(const Document& document, const std::filesystem::path& directory)
+DataFiles::DataFiles(const std::filesystem::path& directory)
+    : data_(directory / "data"), textPath_(directory / "survey.txt")
 {
-    const std::filesystem::path data = directory / "data";
     std::error_code error;
-    std::filesystem::create_directories(data, error);
+    std::filesystem::create_directories(data_, error);
     if (error)
-        throw OutputError(data.string() + ": " + error.message());
-    writeFile(directory / "survey.txt", [&](std::ostream& out) { print(out, document); });
-    for (const Section& section : document.sections) {
-        for (const auto& [name, table] : section.tables)
-            writeFile(data / (name + ".tsv"), [&table = table](std::ostream& out) { writeTable(out, table); });
-        if (!section.picture)
-            continue;
-        for (const DataTable& table : section.picture->data)
-            writeFile(data / (table.name + ".tsv"), [&](std::ostream& out) {
-                for (const Record& record : table.records)
-                    writeRecord(out, record);
-            });
+        throw OutputError(data_.string() + ": " + error.message());
+    text_.open(textPath_, std::ios::binary);
+    if (!text_)
+        throw notWritten(textPath_);
+}
+
+void DataFiles::add(const Document& part)
+{
+    print(text_, part);
+    if (!part.title.empty())
+        addContents({"title", part.title, part.summary});
+    for (const LabelledList& list : part.lists) {
+        Record record = {"list", list.label};
+        record.insert(record.end(), list.items.begin(), list.items.end());
+        addContents(std::move(record));
     }
-    writeFile(data / "contents.tsv", [&](std::ostream& out) { writeContents(out, document); });
+    for (const std::string& remark : part.remarks)
+        addContents({"remark", remark});
+    for (const Section& section : part.sections)
+        addSection(section);
+}
+
+void DataFiles::addSection(const Section& section)
+{
+    addContents({"section", section.name, section.title, section.lead, section.note});
+    for (const NamedTable& named : section.tables) {
+        writeFile(data_ / (named.name + ".tsv"), [&](std::ostream& out) { writeTable(out, named.table); });
+        addContents(described(named));
+        if (!named.whole)
+            continue;
+        writeFile(data_ / (named.name + ".csv"), [&](std::ostream& out) { writeCsv(out, named.whole->records); });
+        addContents({"whole", named.name, std::to_string(named.whole->records.size() - 1)});
+    }
+    for (const Picture& picture : section.pictures) {
+        for (const DataTable& table : picture.data)
+            writeFile(data_ / (table.name + ".tsv"), [&](std::ostream& out) { writeRecords(out, table.records); });
+        addContents({"picture", picture.name});
+    }
+}
+
+void DataFiles::finish()
+{
+    text_.close();
+    if (!text_)
+        throw notWritten(textPath_);
+    writeFile(data_ / "contents.tsv", [&](std::ostream& out) { writeRecords(out, contents_); });
 }
 
 } // namespace survey

@@ -8,7 +8,7 @@ namespace survey {
 
 Section& Document::add(std::string name, std::string sectionTitle, std::string lead)
 {
-    sections.push_back({std::move(name), onOneLine(sectionTitle), std::move(lead), {}, std::nullopt, ""});
+    sections.push_back({std::move(name), onOneLine(sectionTitle), std::move(lead), {}, {}, ""});
     return sections.back();
 }
 

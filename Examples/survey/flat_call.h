@@ -48,14 +48,31 @@ private:
     }
 };
 
+/// So many rows from the first one on, which is counted from 0.
+struct RowRange
+{
+    int first;
+    int count;
+};
+
 /// The numbers of some columns that have as many rows.
 FlatTable numbersOf(const std::vector<const Column*>& columns, int rows);
+/// Those of some of the rows.
+FlatTable numbersOf(const std::vector<const Column*>& columns, RowRange range);
+FlatTable numbersOf(const std::vector<const Column*>& columns, const std::vector<int>& rows);
 
 /// The numeric columns of a table without gaps that have a variance: their cells aren't all equal, nor too far apart to
 /// be squared.
 std::vector<const Column*> varyingColumns(const Table& complete);
 
+/// The weights of the rows: 1 for each where the table has none.
+std::vector<double> weightsOf(const Table& table);
+
 /// The weights of rows that all count alike.
 std::vector<double> unitWeights(int rows);
+
+/// Weights that say how much a row counts beside others, not how often it was seen: the divisor of a variance is then
+/// W - W/m, with W the sum of m weights, which is n - 1 where there are none.
+inline constexpr short areFrequencies = no;
 
 } // namespace survey

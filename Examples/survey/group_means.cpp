@@ -9,19 +9,36 @@ namespace survey {
 
 namespace {
 
+/// The same as `meansByCategory` has, with weights: what the library has for groups takes those of other rows.
+FlatTable weightedMeans(const Table& table, const Column& by, const std::vector<const Column*>& columns)
+{
+    const std::vector<Group> groups = groupsBy(by);
+    FlatTable means(static_cast<int>(groups.size()), static_cast<int>(columns.size()));
+    for (int i = 0; i < means.rows; ++i)
+        for (int j = 0; j < means.columns; ++j) {
+            const Group& group = groups[static_cast<std::size_t>(i)];
+            std::vector<double> cells = cellsOf(*columns[static_cast<std::size_t>(j)], group);
+            std::vector<double> weights = weightsOf(table, group);
+            means.at(i, j) = VB_V_Mean(cells.data(), static_cast<int>(cells.size()), noMask, weights.data());
+        }
+    return means;
+}
+
 /// A line for each category with the means of the columns.
-void addMeans(TextTable& text, const Column& by, const std::vector<const Column*>& columns)
+void addMeans(TextTable& text, const Table& table, const Column& by, const std::vector<const Column*>& columns,
+              const std::vector<NumberFormat>& formats)
 {
     const Categories categories = categoriesOf(by);
     if (categories.names.size() > mostListed)
         return;
     text.addGap();
-    const FlatTable means = meansByCategory(numbersOf(columns, static_cast<int>(by.texts.size())), categories);
+    const FlatTable means = table.isWeighted() ? weightedMeans(table, by, columns)
+                                               : meansByCategory(numbersOf(columns, table.rows), categories);
     for (int i = 0; i < means.rows; ++i) {
         const auto place = static_cast<std::size_t>(i);
         std::vector<std::string> cells = {by.name, place < categories.names.size() ? categories.names[place] : noText};
         for (int j = 0; j < means.columns; ++j)
-            cells.push_back(NumberFormat(*columns[static_cast<std::size_t>(j)]).statistic(means.at(i, j)));
+            cells.push_back(formats[static_cast<std::size_t>(j)].statistic(means.at(i, j)));
         text.addRow(std::move(cells));
     }
 }
@@ -55,8 +72,11 @@ void addGroupMeans(Document& document, const Table& table)
     for (const Column* column : columns)
         headings.push_back({column->name, Align::point});
     TextTable text(std::move(headings), 2);
+    std::vector<NumberFormat> formats;
+    for (const Column* column : columns)
+        formats.emplace_back(*column);
     for (const Column* by : table.ofKind(Kind::text))
-        addMeans(text, *by, columns);
+        addMeans(text, table, *by, columns, formats);
     if (text.empty())
         return;
     document

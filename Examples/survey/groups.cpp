@@ -6,6 +6,19 @@
 
 namespace survey {
 
+namespace {
+
+std::vector<double> ofRows(const std::vector<double>& numbers, const Group& group)
+{
+    std::vector<double> chosen;
+    chosen.reserve(group.rows.size());
+    for (const int row : group.rows)
+        chosen.push_back(numbers[static_cast<std::size_t>(row)]);
+    return chosen;
+}
+
+} // namespace
+
 std::vector<Group> groupsBy(const Column& column)
 {
     std::vector<Group> groups;
@@ -37,11 +50,12 @@ Group allRows(const Table& table)
 
 std::vector<double> cellsOf(const Column& column, const Group& group)
 {
-    std::vector<double> cells;
-    cells.reserve(group.rows.size());
-    for (const int row : group.rows)
-        cells.push_back(column.numbers[static_cast<std::size_t>(row)]);
-    return cells;
+    return ofRows(column.numbers, group);
+}
+
+std::vector<double> weightsOf(const Table& table, const Group& group)
+{
+    return table.isWeighted() ? ofRows(table.weights, group) : std::vector<double>();
 }
 
 } // namespace survey

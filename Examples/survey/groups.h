@@ -27,4 +27,7 @@ Group allRows(const Table& table);
 /// The cells of a group in a numeric column, with the missing ones.
 std::vector<double> cellsOf(const Column& column, const Group& group);
 
+/// The weights of a group's rows; empty where the table has none.
+std::vector<double> weightsOf(const Table& table, const Group& group);
+
 } // namespace survey

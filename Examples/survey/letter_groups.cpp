@@ -3,44 +3,13 @@
 #include "bstr_array.h"
 #include "flat_call.h"
 #include "number_format.h"
-#include "statistics.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace survey {
 
 namespace {
-
-double squaresAround(const Moments& group)
-{
-    return group.count > 1 ? group.standardDeviation * group.standardDeviation * (group.count - 1) : 0.0;
-}
-
-/// The variance within the groups; the missing value where none has two cells.
-double varianceWithin(const std::vector<Moments>& groups)
-{
-    double squares = 0.0;
-    int freedom = 0;
-    for (const Moments& group : groups) {
-        squares += squaresAround(group);
-        freedom += group.count - 1;
-    }
-    return freedom > 0 ? squares / freedom : vecmat::missingValue;
-}
-
-/// For each two groups, in a square table: do their means lie apart?
-std::vector<int> comparisons(const std::vector<Moments>& groups, double variance)
-{
-    std::vector<int> apart;
-    for (const Moments& a : groups)
-        for (const Moments& b : groups) {
-            const double standardError = std::sqrt(variance * (1.0 / a.count + 1.0 / b.count));
-            apart.push_back(std::fabs(a.mean - b.mean) > 2.0 * standardError ? 1 : 0);
-        }
-    return apart;
-}
 
 /// Letters side by side, each in a place of its own.
 std::string row(const BstrArray& labels, int row, int rows, int columns)
@@ -60,23 +29,33 @@ std::string row(const BstrArray& labels, int row, int rows, int columns)
     return text;
 }
 
+/// For each two of the groups with a mean, in a square table: do they lie apart?
+std::vector<int> apartOf(const Comparisons& comparisons, const std::vector<std::size_t>& present)
+{
+    std::vector<int> apart(present.size() * present.size());
+    const auto place = [&](std::size_t group) {
+        return static_cast<std::size_t>(std::lower_bound(present.begin(), present.end(), group) - present.begin());
+    };
+    for (const Comparison& pair : comparisons.pairs) {
+        const std::size_t i = place(pair.first);
+        const std::size_t k = place(pair.second);
+        apart[i * present.size() + k] = apart[k * present.size() + i] = pair.correctedP < significance ? 1 : 0;
+    }
+    return apart;
+}
+
 /// The letters of groups that all have a mean.
-std::vector<std::string> lettersOf(const std::vector<Moments>& groups, double variance)
+std::vector<std::string> lettersOf(std::vector<double> means, std::vector<int> apart)
 {
     constexpr int mostLetters = 256; // of the library
     constexpr int onlyColumn = 0;
-    const int n = static_cast<int>(groups.size());
-    std::vector<double> means;
-    means.reserve(groups.size());
-    for (const Moments& group : groups)
-        means.push_back(group.mean);
-    std::vector<int> apart = comparisons(groups, variance);
-    std::vector<int> order(groups.size());
-    BstrArray labels(groups.size() * mostLetters);
+    const int n = static_cast<int>(means.size());
+    std::vector<int> order(means.size());
+    BstrArray labels(means.size() * mostLetters);
     int letters;
     Cpp_GetCompMatrices(means.data(), n, onlyColumn, apart.data(), yes, order.data(), labels.data(), &letters);
     std::vector<std::string> rows;
-    rows.reserve(groups.size());
+    rows.reserve(means.size());
     for (int i = 0; i < n; ++i)
         rows.push_back(row(labels, i, n, std::min(letters, mostLetters)));
     return rows;
@@ -84,28 +63,28 @@ std::vector<std::string> lettersOf(const std::vector<Moments>& groups, double va
 
 } // namespace
 
-std::vector<LetterGroup> letterGroupsOf(const std::vector<std::vector<double>>& groups)
+std::vector<LetterGroup> letterGroupsOf(const std::vector<Moments>& groups, Correction correction)
 {
     std::vector<LetterGroup> result;
-    std::vector<Moments> present;
-    for (const std::vector<double>& cells : groups) {
-        const Moments moments = momentsOf(cells);
-        result.push_back({moments.mean, ""});
-        if (moments.count > 0)
-            present.push_back(moments);
+    std::vector<std::size_t> present;
+    std::vector<double> means;
+    for (std::size_t k = 0; k < groups.size(); ++k) {
+        result.push_back({groups[k].mean, ""});
+        if (groups[k].count == 0)
+            continue;
+        present.push_back(k);
+        means.push_back(groups[k].mean);
     }
-    const double variance = varianceWithin(present);
-    if (present.size() < 2 || variance == vecmat::missingValue)
+    const auto comparisons = comparisonsOf(groups, correction);
+    if (!comparisons)
         return result;
-    const std::vector<std::string> letters = lettersOf(present, variance);
-    auto next = letters.begin();
-    for (LetterGroup& group : result)
-        if (group.mean != vecmat::missingValue)
-            group.letters = *next++;
+    const std::vector<std::string> letters = lettersOf(means, apartOf(*comparisons, present));
+    for (std::size_t i = 0; i < present.size(); ++i)
+        result[present[i]].letters = letters[i];
     return result;
 }
 
-void addLetterGroups(Document& document, const Subject& subject)
+void addLetterGroups(Document& document, const Subject& subject, Correction correction)
 {
     const auto groups = subject.groupsOfColumn();
     if (groups.size() < 2 || groups.size() > mostListed)
@@ -118,10 +97,7 @@ void addLetterGroups(Document& document, const Subject& subject)
     for (const Column* column : subject.table.ofKind(Kind::numeric)) {
         text.addGap();
         const NumberFormat format(*column);
-        std::vector<std::vector<double>> cells;
-        for (const Group& group : groups)
-            cells.push_back(cellsOf(*column, group));
-        const std::vector<LetterGroup> letters = letterGroupsOf(cells);
+        const std::vector<LetterGroup> letters = letterGroupsOf(momentsByGroup(subject, *column), correction);
         for (std::size_t i = 0; i < groups.size(); ++i)
             text.addRow({column->name, groups[i].name, format.statistic(letters[i].mean),
                          letters[i].letters.empty() ? "-" : letters[i].letters});
@@ -129,8 +105,8 @@ void addLetterGroups(Document& document, const Subject& subject)
     Section& section = document.add("letter_groups", "Letter groups of the means",
                                     "Means of a column that share a letter don't lie apart; A is the lowest.");
     section.addTable(std::move(text));
-    section.note = "Two means lie apart where they differ by more than twice the standard error of their difference, "
-                   "from the variance within the groups.";
+    section.note = std::string("Two means lie apart where the ") +
+                   (correction == Correction::none ? "" : "corrected ") + "p of their comparison is below 0.05.";
 }
 
 } // namespace survey

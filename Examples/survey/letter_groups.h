@@ -1,6 +1,7 @@
 // Section: which group means lie apart.
 #pragma once
 
+#include "comparisons.h"
 #include "document.h"
 #include "subject.h"
 
@@ -16,11 +17,11 @@ struct LetterGroup
         letters; ///< a place for each letter in use, blank where the group doesn't have it; empty without a mean
 };
 
-/// The means of some groups of cells, and letters for them, from A at the lowest: means that share one do not lie apart.
-/// Two lie apart where their difference is above twice its standard error, from the variance within all the groups. No
-/// letters where fewer than two groups have a mean, or no variance within them can be told.
-std::vector<LetterGroup> letterGroupsOf(const std::vector<std::vector<double>>& groups);
+/// The means of some groups, and letters for them, from A at the lowest: means that share one do not lie apart. Two lie
+/// apart where the corrected p of their comparison is below `significance`. No letters where the groups can't be
+/// compared.
+std::vector<LetterGroup> letterGroupsOf(const std::vector<Moments>& groups, Correction correction);
 
-void addLetterGroups(Document& document, const Subject& subject);
+void addLetterGroups(Document& document, const Subject& subject, Correction correction = Correction::holm);
 
 } // namespace survey

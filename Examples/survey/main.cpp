@@ -1,57 +1,59 @@
-// survey [--report DIRECTORY] FILE.csv [GROUPING_COLUMN]
+// survey [OPTION...] FILE [GROUPING_COLUMN]
+#include "call.h"
 #include "data_files.h"
 #include "input_error.h"
+#include "progress.h"
+#include "read_table.h"
 #include "survey.h"
-#include "table.h"
 #include "terminal.h"
+
+#include <unistd.h>
 
 #include <iostream>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace {
 
-struct Call
+void run(const survey::Call& call)
 {
-    std::string file;
-    std::optional<std::string> grouping;
-    std::optional<std::string> report;
-};
-
-std::optional<Call> parsedCall(std::vector<std::string> arguments)
-{
-    Call call;
-    if (arguments.size() >= 2 && arguments[0] == "--report") {
-        call.report = arguments[1];
-        arguments.erase(arguments.begin(), arguments.begin() + 2);
-    }
-    if (arguments.empty() || arguments.size() > 2 || arguments[0] == "--report")
-        return std::nullopt;
-    call.file = arguments[0];
-    if (arguments.size() > 1)
-        call.grouping = arguments[1];
-    return call;
+    survey::ProgressDisplay display(std::cerr, isatty(STDERR_FILENO) != 0);
+    const survey::Progress progress = [&](const std::string& what, double share) { display.show(what, share); };
+    const survey::Table table = survey::readTable(call.file, call.reading, progress);
+    const auto& grouping = call.reading.grouping;
+    const survey::Subject subject = survey::subjectOf(table, grouping ? table.named(*grouping) : nullptr);
+    std::optional<survey::DataFiles> files;
+    if (call.report)
+        files.emplace(*call.report);
+    const auto take = [&](const survey::Document& part) {
+        display.clear();
+        survey::print(std::cout, part);
+        if (!std::cout.flush())
+            throw survey::OutputError("the output can't be written");
+        if (files)
+            files->add(part);
+    };
+    survey::survey(subject, call.settings, take, progress);
+    display.clear();
+    if (files)
+        files->finish();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const auto call = parsedCall({argv + 1, argv + argc});
-    if (!call) {
-        std::cerr << "usage: survey [--report DIRECTORY] FILE.csv [GROUPING_COLUMN]\n";
-        return 2;
-    }
     try {
-        const survey::Table table = survey::readTable(call->file, call->grouping);
-        const survey::Document document =
-            survey::surveyOf(survey::subjectOf(table, call->grouping ? table.named(*call->grouping) : nullptr));
-        survey::print(std::cout, document);
-        if (!std::cout.flush())
-            throw survey::OutputError("the output can't be written");
-        if (call->report)
-            survey::writeDataFiles(document, *call->report);
+        const survey::Call call = survey::callOf(argc, argv);
+        if (call.wish == survey::Call::Wish::help)
+            std::cout << survey::help();
+        else if (call.wish == survey::Call::Wish::version)
+            std::cout << "survey of VecMat " SURVEY_VECMAT_VERSION "\n";
+        else
+            run(call);
+    } catch (const survey::CallError& error) {
+        std::cerr << "survey: " << error.what() << '\n' << survey::usage() << " (--help tells more)\n";
+        return 2;
     } catch (const std::runtime_error& error) { // InputError, OutputError
         std::cerr << "survey: " << error.what() << '\n';
         return 1;

@@ -8,6 +8,7 @@
 #include <map>
 #include <numeric>
 #include <string>
+#include <utility>
 
 namespace survey {
 
@@ -23,27 +24,42 @@ struct Counts
 
 // The library counts by column; the rows of a table are the columns of the transposed one.
 
-Counts missingNumbers(const std::vector<const Column*>& columns, int rows)
+Counts missingNumbers(const std::vector<const Column*>& columns, RowRange range)
 {
-    Counts counts(rows, columns.size());
-    FlatTable table = numbersOf(columns, rows);
-    FlatTable transposed(table.columns, rows);
-    VB_M_Transpose(table.data(), rows, table.columns, transposed.data());
-    VB_M_NbMissing(table.data(), rows, table.columns, counts.byColumn.data());
-    VB_M_NbMissing(transposed.data(), table.columns, rows, counts.byRow.data());
+    Counts counts(range.count, columns.size());
+    FlatTable table = numbersOf(columns, range);
+    FlatTable transposed(table.columns, range.count);
+    VB_M_Transpose(table.data(), table.rows, table.columns, transposed.data());
+    VB_M_NbMissing(table.data(), table.rows, table.columns, counts.byColumn.data());
+    VB_M_NbMissing(transposed.data(), transposed.rows, transposed.columns, counts.byRow.data());
     return counts;
 }
 
-Counts missingTexts(const std::vector<const Column*>& columns, int rows)
+Counts missingTexts(const std::vector<const Column*>& columns, RowRange range)
 {
-    Counts counts(rows, columns.size());
+    Counts counts(range.count, columns.size());
     const int columnCount = static_cast<int>(columns.size());
-    BstrArray table = textsOf(columns);
-    BstrArray transposed(columns.size() * static_cast<std::size_t>(rows));
-    VB_M_TransposeStr(table.data(), rows, columnCount, transposed.data());
-    VB_M_NbMissingStr(table.data(), rows, columnCount, counts.byColumn.data());
-    VB_M_NbMissingStr(transposed.data(), columnCount, rows, counts.byRow.data());
+    BstrArray table = textsOf(columns, range);
+    BstrArray transposed(columns.size() * static_cast<std::size_t>(range.count));
+    VB_M_TransposeStr(table.data(), range.count, columnCount, transposed.data());
+    VB_M_NbMissingStr(table.data(), range.count, columnCount, counts.byColumn.data());
+    VB_M_NbMissingStr(transposed.data(), columnCount, range.count, counts.byRow.data());
     return counts;
+}
+
+/// Counts block by block of rows, so that a large table isn't held three times.
+template <class CountsOf>
+Counts inBlocks(int rows, const std::vector<const Column*>& columns, const CountsOf& countsOf)
+{
+    constexpr int blockRows = 20000;
+    Counts all(rows, columns.size());
+    for (int first = 0; first < rows; first += blockRows) {
+        const Counts counts = countsOf(columns, RowRange{first, std::min(blockRows, rows - first)});
+        for (std::size_t j = 0; j < columns.size(); ++j)
+            all.byColumn[j] += counts.byColumn[j];
+        std::copy(counts.byRow.begin(), counts.byRow.end(), all.byRow.begin() + first);
+    }
+    return all;
 }
 
 std::string described(Kind kind)
@@ -69,27 +85,40 @@ TextTable tableByColumn(const Table& table, const MissingCells& missing)
     return text;
 }
 
+constexpr std::size_t mostNumbered = 12;
+
 /// Row numbers in a list, from 1; the first ones of many.
 std::string numbered(const std::vector<int>& rows)
 {
-    constexpr std::size_t most = 12;
     std::string text;
-    for (std::size_t i = 0; i < rows.size() && i < most; ++i)
+    for (std::size_t i = 0; i < rows.size() && i < mostNumbered; ++i)
         text += (i > 0 ? ", " : "") + std::to_string(rows[i] + 1);
-    if (rows.size() > most)
-        text += " and " + std::to_string(rows.size() - most) + " more";
+    if (rows.size() > mostNumbered)
+        text += " and " + std::to_string(rows.size() - mostNumbered) + " more";
     return text;
 }
 
-TextTable tableByRow(const Table& table, const MissingCells& missing)
+/// Some row numbers for each number of missing cells; where there are more, all of them are in a file.
+void addTableByRow(Section& section, const Table& table, const MissingCells& missing)
 {
     std::map<int, std::vector<int>> rowsByCount;
     for (int i = 0; i < table.rows; ++i)
         rowsByCount[missing.byRow[static_cast<std::size_t>(i)]].push_back(i);
     TextTable text({{"missing in a row", Align::right}, {"rows", Align::right}, {"row numbers", Align::left}}, 1);
-    for (const auto& [count, rows] : rowsByCount)
+    bool isCut = false;
+    for (const auto& [count, rows] : rowsByCount) {
         text.addRow({std::to_string(count), std::to_string(rows.size()), count > 0 ? numbered(rows) : ""});
-    return text;
+        isCut = isCut || (count > 0 && rows.size() > mostNumbered);
+    }
+    if (!isCut) {
+        section.addTable("missing_by_row", std::move(text));
+        return;
+    }
+    std::vector<std::vector<std::string>> all = {{"row", "missing"}};
+    for (std::size_t i = 0; i < missing.byRow.size(); ++i)
+        if (missing.byRow[i] > 0)
+            all.push_back({std::to_string(i + 1), std::to_string(missing.byRow[i])});
+    section.addTable("missing_by_row", std::move(text), std::move(all));
 }
 
 long long sumOf(const std::vector<int>& counts)
@@ -116,8 +145,8 @@ std::string inShort(const Table& table, const MissingCells& missing)
 
 MissingCells missingCellsOf(const Table& table)
 {
-    const Counts numbers = missingNumbers(table.ofKind(Kind::numeric), table.rows);
-    const Counts texts = missingTexts(table.ofKind(Kind::text), table.rows);
+    const Counts numbers = inBlocks(table.rows, table.ofKind(Kind::numeric), missingNumbers);
+    const Counts texts = inBlocks(table.rows, table.ofKind(Kind::text), missingTexts);
     MissingCells missing;
     auto nextNumeric = numbers.byColumn.begin();
     auto nextText = texts.byColumn.begin();
@@ -138,7 +167,7 @@ void addMissingCells(Document& document, const Table& table, const MissingCells&
     section.addTable("missing_by_column", tableByColumn(table, missing));
     if (sumOf(missing.byRow) == 0)
         return;
-    section.addTable("missing_by_row", tableByRow(table, missing));
+    addTableByRow(section, table, missing);
     section.note = "Rows are numbered from 1, below the heading.";
     if (!table.ofKind(Kind::empty).empty())
         section.note += " The empty columns don't count in the rows.";

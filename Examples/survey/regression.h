@@ -15,6 +15,7 @@ struct Coefficient
     double standardError;
 };
 
+/// `fitted` and `residuals` have an entry for each row, the latter times the root of its weight.
 struct Regression
 {
     const Column* response;
@@ -23,7 +24,10 @@ struct Regression
     std::vector<const Column*> leftOut;    ///< columns that those before them determine
     double determination;                  ///< R squared
     double residualDeviation;
-    int freedom; ///< of the residuals
+    int freedom;    ///< of the residuals
+    double f = 0.0; ///< what the terms explain, over what they leave, each by its degrees of freedom
+    std::vector<double> fitted{};
+    std::vector<double> residuals{};
 };
 
 /// By least squares over all rows of a table without gaps, on the columns that vary. None where the response has no

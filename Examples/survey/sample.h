@@ -5,7 +5,6 @@
 #include "subject.h"
 
 #include <span>
-#include <string>
 #include <vector>
 
 namespace survey {
@@ -14,18 +13,11 @@ namespace survey {
 /// for those of which most was cut off, the first of equals.
 std::vector<int> shares(int total, const std::vector<int>& sizes);
 
-struct SampledRow
-{
-    int row; ///< from 0
-    std::size_t group;
-    std::vector<std::string> cells; ///< one for each column of the table
-};
-
-/// `count` rows, from each group in proportion to its size; group by group, in the order of the rows. The groups hold
-/// every row of the table once. The seed decides which rows.
-std::vector<SampledRow> stratifiedSample(const Table& table, std::span<const Group> groups, int count, int seed);
+/// `count` rows (from 0), from each group in proportion to its size; group by group, in the order of the rows. The
+/// groups have so many rows at least, and none in common. The seed decides which rows.
+std::vector<int> stratifiedSample(std::span<const Group> groups, int count, int seed);
 
 /// Nothing without a grouping column, or where the table is no larger than the sample.
-void addSample(Document& document, const Subject& subject);
+void addSample(Document& document, const Subject& subject, int seed = 1);
 
 } // namespace survey

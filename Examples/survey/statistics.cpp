@@ -1,25 +1,45 @@
 #include "statistics.h"
 
-#include "VecMat.h"
+#include "flat_call.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace survey {
 
 namespace {
-
-// Booleans of the flat forms are -1 and 0; an array that isn't needed is null.
-constexpr short yes = -1;
-constexpr short no = 0;
-short* const noMask = nullptr;
-double* const noWeights = nullptr;
 
 int sizeOf(const std::vector<double>& cells)
 {
     return static_cast<int>(cells.size());
 }
 
+/// Drops missing cells along with their weights, so that no call has to look at them again.
+void dropMissing(std::vector<double>& cells, std::vector<double>& weights)
+{
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        if (cells[i] == vecmat::missingValue)
+            continue;
+        cells[kept] = cells[i];
+        if (!weights.empty())
+            weights[kept] = weights[i];
+        ++kept;
+    }
+    cells.resize(kept);
+    weights.resize(std::min(weights.size(), kept));
+}
+
+double weightOf(std::vector<double> cells, std::vector<double> weights)
+{
+    dropMissing(cells, weights);
+    return weights.empty() ? static_cast<double>(cells.size()) : std::accumulate(weights.begin(), weights.end(), 0.0);
+}
+
 } // namespace
 
-Moments momentsOf(std::vector<double> cells)
+Moments momentsOf(std::vector<double> cells, std::vector<double> weights)
 {
     double* const x = cells.data();
     const int n = sizeOf(cells);
@@ -28,30 +48,30 @@ Moments momentsOf(std::vector<double> cells)
     result.count = n - result.missing;
     result.minimum = VB_V_Min2(x, n);
     result.maximum = VB_V_Max2(x, n);
+    result.weight = weightOf(cells, weights);
     // Of the functions that give a standard deviation, this one has none for a single cell.
-    VB_M_MeanStDev(x, n, 1, &result.mean, &result.standardDeviation, noMask, noWeights, yes, yes, yes);
+    double* const w = weights.empty() ? noWeights : weights.data();
+    VB_M_MeanStDev(x, n, 1, &result.mean, &result.standardDeviation, noMask, w, yes, areFrequencies, yes);
     // G1 and G2 rest on the variance with divisor n; what else comes with them isn't used.
-    std::vector<double> weights(cells.size(), 1.0);
+    if (weights.empty())
+        weights = unitWeights(n);
     double mean, variance, skewP, kurtP, seSkew, seKurt;
     VB_V_MeanVarSkewPKurtP(x, n, &mean, &variance, &skewP, &kurtP, &result.skewness, &result.kurtosis, &seSkew, &seKurt,
-                           noMask, weights.data(), no, yes);
+                           noMask, weights.data(), no, areFrequencies);
     return result;
 }
 
-Quartiles quartilesOf(std::vector<double> cells)
+Quantiles quantilesOf(std::vector<double> cells, std::vector<double> weights)
 {
-    const auto quantile = [&](double p) { return VB_V_QuantileM(cells.data(), sizeOf(cells), noMask, p); };
-    return {quantile(0.25), quantile(0.5), quantile(0.75)};
-}
-
-std::array<double, 13> thirteenQuantilesOf(std::vector<double> cells)
-{
-    std::erase(cells, vecmat::missingValue); // which the function would count as the lowest number
-    std::array<double, 13> result;
-    result.fill(vecmat::missingValue);
-    if (!cells.empty())
-        Cpp_V_Quantiles13(cells.data(), sizeOf(cells), result.data());
-    return result;
+    dropMissing(cells, weights);
+    Quantiles quantiles;
+    for (std::size_t k = 0; k < thirteenPercentages.size(); ++k) {
+        const double p = thirteenPercentages[k] / 100.0;
+        quantiles.thirteen[k] = weights.empty()
+                                    ? VB_V_QuantileM(cells.data(), sizeOf(cells), noMask, p)
+                                    : VB_V_QuantileMW(cells.data(), sizeOf(cells), noMask, weights.data(), p);
+    }
+    return quantiles;
 }
 
 } // namespace survey

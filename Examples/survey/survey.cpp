@@ -2,6 +2,7 @@
 
 #include "biplot.h"
 #include "categories.h"
+#include "comparisons.h"
 #include "completion.h"
 #include "components.h"
 #include "correlations.h"
@@ -60,34 +61,53 @@ Document overviewOf(const Subject& subject)
         groups.front().insert(0, onOneLine(subject.grouping->name) + ": ");
         addList("grouped by", std::move(groups));
     }
+    document.remarks = table.remarks;
     return document;
 }
 
 } // namespace
 
-Document surveyOf(const Subject& subject)
+void survey(const Subject& subject, const SurveySettings& settings, const Tell& take, const Progress& progress)
 {
     const Table& table = subject.table;
+    take(overviewOf(subject));
+    double done = 0.0;
+    const auto section = [&](const char* what, double share, const auto& add) {
+        tell(progress, what, done);
+        Document part;
+        add(part);
+        take(part);
+        done += share;
+    };
     const MissingCells missing = missingCellsOf(table);
-    const Completion completion = completed(table, missing);
-    Document document = overviewOf(subject);
-    addMissingCells(document, table, missing);
-    addMoments(document, subject);
-    addQuartiles(document, subject);
-    addThirteenQuantiles(document, subject);
-    addCategories(document, table);
-    addGroupMeans(document, table);
-    addCorrelations(document, table);
-    addCompletion(document, table, completion);
-    if (const auto components = componentsOf(completion.table)) {
-        addComponents(document, *components);
-        addBiplot(document, *components, subject);
-    }
-    if (const auto regression = regressionOf(completion.table))
-        addRegression(document, *regression);
-    addLetterGroups(document, subject);
-    addSample(document, subject);
-    return document;
+    section("counting missing cells", 0.02, [&](Document& part) { addMissingCells(part, table, missing); });
+    section("moments", 0.05, [&](Document& part) { addMoments(part, subject); });
+    section("quantiles", 0.15, [&](Document& part) {
+        const QuantileTable quantiles = quantilesOf(subject);
+        addQuartiles(part, subject, quantiles);
+        addThirteenQuantiles(part, subject, quantiles);
+    });
+    section("categories", 0.05, [&](Document& part) { addCategories(part, table); });
+    section("means by category", 0.05, [&](Document& part) { addGroupMeans(part, table); });
+    section("correlations", 0.1, [&](Document& part) { addCorrelations(part, table); });
+    section("comparisons", 0.05, [&](Document& part) {
+        addComparisons(part, subject, settings.correction);
+        addLetterGroups(part, subject, settings.correction);
+    });
+    section("sample", 0.02, [&](Document& part) { addSample(part, subject, settings.seed); });
+    const Completion completion = completed(subject, missing, settings.seed, progress);
+    section("filled cells", 0.4, [&](Document& part) { addCompletion(part, table, completion); });
+    section("components", 0.05, [&](Document& part) {
+        const auto components = componentsOf(completion.table);
+        if (!components)
+            return;
+        addComponents(part, *components);
+        addBiplot(part, *components, subject);
+    });
+    section("regression", 0.05, [&](Document& part) {
+        if (const auto regression = regressionOf(completion.table))
+            addRegression(part, *regression);
+    });
 }
 
 } // namespace survey

@@ -24,9 +24,7 @@ void printList(std::ostream& out, const LabelledList& list, std::size_t labelWid
     out << label << wrapped(items, lineWidth, widthOf(label)) << '\n';
 }
 
-} // namespace
-
-void print(std::ostream& out, const Document& document)
+void printHead(std::ostream& out, const Document& document)
 {
     out << document.title << ": " << document.summary << "\n\n";
     std::size_t labelWidth = 0;
@@ -35,6 +33,16 @@ void print(std::ostream& out, const Document& document)
     for (const LabelledList& list : document.lists)
         printList(out, list, labelWidth);
     out << '\n';
+    for (const std::string& remark : document.remarks)
+        printParagraph(out, remark);
+}
+
+} // namespace
+
+void print(std::ostream& out, const Document& document)
+{
+    if (!document.title.empty())
+        printHead(out, document);
     for (const Section& section : document.sections) {
         out << '\n';
         print(out, section);

@@ -9,12 +9,6 @@ g2 <- function(x) moment(x, 4) / moment(x, 2)^2 - 3
 G1 <- function(x) { n <- length(x); g1(x) * sqrt(n * (n - 1)) / (n - 2) }
 G2 <- function(x) { n <- length(x); (n - 1) / ((n - 2) * (n - 3)) * ((n + 1) * g2(x) + 6) }
 
-# Quantiles at position (n-1)p + 1/2 up to p = 0.5 and (n-1)p + 1 above, counted from 1.
-shifted <- function(x, p) {
-    x <- sort(x)
-    h <- pmax((length(x) - 1) * p + ifelse(p <= 0.5, 0.5, 1), 1)
-    approx(seq_along(x), x, h)$y
-}
 thirteen <- c(0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.75, 0.8, 0.9, 0.95)
 
 digits <- function(values) paste(sprintf("%.17g", values), collapse = ", ")
@@ -35,7 +29,7 @@ for (column in measurements)
         cat(sprintf('{"%s", "%s", %d, %d,\n', column, species, length(x), sum(is.na(cells))),
             " {", digits(c(min(x), max(x), mean(x), sd(x), G1(x), G2(x))), "},\n",
             " {", digits(quantile(x, c(0.25, 0.5, 0.75), type = 7, names = FALSE)), "},\n",
-            " {", digits(shifted(x, thirteen)), "}},\n", sep = "")
+            " {", digits(quantile(x, thirteen, type = 7, names = FALSE)), "}},\n", sep = "")
     }
 cat("};\n")
 
@@ -133,16 +127,51 @@ table4("regressionReferences", fit$coefficients[, 1:2])
 cat("inline const std::array<double, 3> regressionQuality = {", digits(c(fit$r.squared, fit$sigma, fit$df[2])), "};\n",
     sep = "")
 
-# The groups of the table as it was, each two compared with the pooled standard deviation.
-cat("\n// Per measurement: do Adelie and Chinstrap, Adelie and Gentoo, Chinstrap and Gentoo lie apart by more than two\n",
-    "// standard errors?\n",
-    "inline const bool apartReferences[4][3] = {\n", sep = "")
+cat("\n// summary(lm(...)), confint(lm(...)): p values and 95 % intervals, the intercept first; F of the fit.\n", sep = "")
+model <- lm(body_mass_g ~ ., completed[measurements])
+table3 <- cbind(fit$coefficients[, 4], confint(model))
+table4("regressionIntervals", table3)
+f <- fit$fstatistic
+cat("inline const std::array<double, 2> regressionF = {",
+    digits(c(f[1], pf(f[1], f[2], f[3], lower.tail = FALSE))), "};\n", sep = "")
+
+# Weights that differ: relative ones, as lm takes them.
+weights <- 1 + seq_len(nrow(completed)) %% 3
+weighted <- lm(body_mass_g ~ ., completed[measurements], weights = weights)
+summarised <- summary(weighted)
+cat("\n// The same fit with weights 2, 3, 1, 2, 3, 1, ...: coefficients, errors, p values, 95 % intervals; R squared and\n",
+    "// sigma with the weights brought to a mean of 1.\n", sep = "")
+table4("weightedRegression", cbind(summarised$coefficients[, c(1, 2, 4)], confint(weighted)))
+cat("inline const std::array<double, 2> weightedQuality = {",
+    digits(c(summarised$r.squared, summarised$sigma / sqrt(mean(weights)))), "};\n", sep = "")
+
+# Analyses of variance and all comparisons: pooled, with each correction.
+compared <- list(c("Adelie", "Chinstrap"), c("Adelie", "Gentoo"), c("Chinstrap", "Gentoo"))
+cat("\n// Per measurement: F and p of oneway.test(var.equal = TRUE).\n",
+    "inline const double varianceReferences[4][2] = {\n", sep = "")
 for (column in measurements) {
-    residuals <- resid(lm(penguins[[column]] ~ penguins$species))
-    pooled <- sqrt(sum(residuals^2) / (length(residuals) - 3))
-    x <- lapply(species, function(s) na.omit(penguins[[column]][penguins$species == s]))
-    apart <- function(a, b) abs(mean(a) - mean(b)) > 2 * pooled * sqrt(1 / length(a) + 1 / length(b))
-    flags <- c(apart(x[[1]], x[[2]]), apart(x[[1]], x[[3]]), apart(x[[2]], x[[3]]))
-    cat("{", paste(tolower(flags), collapse = ", "), "},\n", sep = "")
+    test <- oneway.test(penguins[[column]] ~ penguins$species, var.equal = TRUE)
+    cat("{", digits(c(test$statistic, test$p.value)), "},\n", sep = "")
 }
 cat("};\n")
+cat("\n// Per measurement and two species (Chinstrap - Adelie, Gentoo - Adelie, Gentoo - Chinstrap): difference, standard\n",
+    "// error, 95 % interval by the variance within all three; pairwise.t.test without correction, by Bonferroni, Holm, BH.\n",
+    "inline const double comparisonReferences[12][8] = {\n", sep = "")
+for (column in measurements) {
+    p <- lapply(c("none", "bonferroni", "holm", "BH"), function(method)
+        pairwise.t.test(penguins[[column]], penguins$species, p.adjust.method = method)$p.value)
+    for (pair in compared) {
+        releveled <- lm(penguins[[column]] ~ relevel(factor(penguins$species), ref = pair[1]))
+        row <- grep(pair[2], rownames(summary(releveled)$coefficients))
+        cat("{", digits(c(summary(releveled)$coefficients[row, 1:2], confint(releveled)[row, ],
+                          sapply(p, function(m) m[pair[2], pair[1]]))), "},\n", sep = "")
+    }
+}
+cat("};\n")
+
+cat("\n// p.adjust of 0.01, 0.04, 0.03, 0.005, 0.2 by Bonferroni, Holm, BH.\n",
+    "inline const double correctedReferences[3][5] = {\n", sep = "")
+for (method in c("bonferroni", "holm", "BH"))
+    cat("{", digits(p.adjust(c(0.01, 0.04, 0.03, 0.005, 0.2), method)), "},\n", sep = "")
+cat("};\n")
+

@@ -1,7 +1,7 @@
 // Numbers of the penguins by R, and the penguins themselves as the survey reads them.
 #pragma once
 
-#include "table.h"
+#include "read_table.h"
 
 #include <gtest/gtest.h>
 
@@ -46,7 +46,7 @@ struct FilledReference
 /// With the species as grouping column.
 inline const Table& penguins()
 {
-    static const Table table = readTable(SURVEY_DATA "/penguins.csv", "species");
+    static const Table table = readTable(SURVEY_DATA "/penguins.csv", {.grouping = "species"});
     return table;
 }
 

@@ -24,12 +24,12 @@ constexpr double tolerance = 1e-9;
 
 Table table(std::string_view text)
 {
-    return tableOf(parsedCsv(text, "f.csv"), "f.csv");
+    return tableOf(text, "f.csv");
 }
 
 const Table& completePenguins()
 {
-    static const Table complete = completed(penguins(), missingCellsOf(penguins())).table;
+    static const Table complete = completed(subjectOf(penguins(), nullptr), missingCellsOf(penguins())).table;
     return complete;
 }
 
@@ -139,7 +139,7 @@ TEST(Biplot, OfThePenguinsHasTheCoordinatesOfPrcomp)
 {
     const auto components = componentsOf(completePenguins());
     const Subject subject = subjectOf(penguins(), penguins().named("species"));
-    const Biplot biplot = biplotOf(*components, subject.groupsOfColumn());
+    const Biplot biplot = biplotOf(*components, subject.groupsOfColumn(), subject.table);
     expectRows<2>(biplot.columns, survey::test::biplotColumns, "column");
     expectRows<2>(biplot.groups, survey::test::biplotGroups, "group");
     ASSERT_EQ(biplot.rows.rows, 344);
@@ -152,7 +152,7 @@ TEST(Biplot, MultipliesToTheStandardisedCells)
 {
     // Two components are all that two columns have.
     const Table t = table("x,y\n1,1\n2,3\n3,2\n4,4\n");
-    const Biplot biplot = biplotOf(*componentsOf(t), {});
+    const Biplot biplot = biplotOf(*componentsOf(t), {}, t);
     const double deviation = std::sqrt(5.0 / 3.0);
     for (int i = 0; i < 4; ++i)
         EXPECT_NEAR(biplot.rows.at(i, 0) * biplot.columns.at(0, 0) + biplot.rows.at(i, 1) * biplot.columns.at(0, 1),

@@ -25,20 +25,35 @@ constexpr double tolerance = 1e-9;
 
 Table table(std::string_view text, const std::optional<std::string>& grouping = std::nullopt)
 {
-    return tableOf(parsedCsv(text, "f.csv"), "f.csv", grouping);
+    return tableOf(text, "f.csv", {.grouping = grouping});
 }
 
-std::vector<std::string> lettersOf(const std::vector<std::vector<double>>& groups)
+std::vector<Moments> momentsOfEach(const std::vector<std::vector<double>>& groups)
+{
+    std::vector<Moments> moments;
+    for (const std::vector<double>& cells : groups)
+        moments.push_back(momentsOf(cells));
+    return moments;
+}
+
+std::vector<std::string> lettersOf(const std::vector<Moments>& groups, Correction correction = Correction::holm)
 {
     std::vector<std::string> letters;
-    for (const LetterGroup& group : letterGroupsOf(groups))
+    for (const LetterGroup& group : letterGroupsOf(groups, correction))
         letters.push_back(group.letters);
     return letters;
 }
 
+std::vector<std::string> lettersOfCells(const std::vector<std::vector<double>>& groups,
+                                        Correction correction = Correction::holm)
+{
+    return lettersOf(momentsOfEach(groups), correction);
+}
+
 std::string printedLetters(const Table& table, const char* grouping)
 {
-    return printed(addLetterGroups, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)));
+    return printed(addLetterGroups, subjectOf(table, grouping == nullptr ? nullptr : table.named(grouping)),
+                   Correction::holm);
 }
 
 bool shareALetter(const std::string& a, const std::string& b)
@@ -53,7 +68,7 @@ bool shareALetter(const std::string& a, const std::string& b)
 
 TEST(Regression, OfThePenguinsAgreesWithLm)
 {
-    const Table complete = completed(penguins(), missingCellsOf(penguins())).table;
+    const Table complete = completed(subjectOf(penguins(), nullptr), missingCellsOf(penguins())).table;
     const auto regression = regressionOf(complete);
     ASSERT_TRUE(regression);
     EXPECT_EQ(regression->response->name, "body_mass_g");
@@ -116,14 +131,14 @@ TEST(Regression, IsPrintedWithWhatWasLeftOut)
                     "By least squares on the other numeric columns, their gaps filled: these explain 69.1 % of its\n"
                     "variance.\n"
                     "\n"
-                    "term         coefficient  standard error     t\n"
-                    "----------------------------------------------\n"
-                    "x                 1.1000          0.5196  2.12\n"
-                    "(intercept)       0.000           1.423   0.00\n"
+                    "term         coefficient  standard error  95 % from      to     t       p\n"
+                    "-------------------------------------------------------------------------\n"
+                    "x                 1.1000          0.5196    -1.1357  3.3357  2.12  0.1685\n"
+                    "(intercept)       0.000           1.423     -6.123   6.123   0.00  1.0000\n"
                     "\n"
-                    "R squared  residual std dev  degrees of freedom\n"
-                    "-----------------------------------------------\n"
-                    "   0.6914               1.2                   2\n"));
+                    "R squared  residual std dev  degrees of freedom     F       p\n"
+                    "-------------------------------------------------------------\n"
+                    "   0.6914               1.2                   2  4.48  0.1685\n"));
     EXPECT_THAT(text, HasSubstr("determine them: twice.\n"));
 }
 
@@ -132,7 +147,98 @@ TEST(Regression, WithoutErrorsHasNoT)
     const Table t = table("x,y\n1,0\n2,0\n3,0\n4,1\n");
     Regression regression = *regressionOf(t);
     regression.coefficients[0] = {2.0, 0.0};
-    EXPECT_THAT(printed(addRegression, regression), testing::ContainsRegex("\nx +2.0000 +0.0000 +-\n"));
+    EXPECT_THAT(printed(addRegression, regression), testing::ContainsRegex("\nx +2.0000 +0.0000 +- +- +- +-\n"));
+}
+
+TEST(Regression, HasTheIntervalsAndPValuesOfConfint)
+{
+    const Table complete = completed(subjectOf(penguins(), nullptr), missingCellsOf(penguins())).table;
+    const auto regression = regressionOf(complete);
+    const double reach = intervalReach(regression->freedom);
+    for (std::size_t k = 0; k < 4; ++k) {
+        const auto& [value, error] = regression->coefficients[(k + 3) % 4];
+        const auto& [p, lower, upper] = survey::test::regressionIntervals[k];
+        EXPECT_NEAR(twoSidedP(value / error, regression->freedom), p, 1e-9 * p) << "coefficient " << k;
+        expectClose(std::array{value - reach * error, value + reach * error}, std::array{lower, upper},
+                    "interval " + std::to_string(k), tolerance);
+    }
+    const double p = upperP(regression->f, 3.0, regression->freedom);
+    EXPECT_NEAR(regression->f, survey::test::regressionF[0], 1e-9 * regression->f);
+    EXPECT_NEAR(p, survey::test::regressionF[1], 1e-7 * p);
+}
+
+TEST(Regression, WithWeightsAgreesWithLm)
+{
+    Table complete = completed(subjectOf(penguins(), nullptr), missingCellsOf(penguins())).table;
+    double sum = 0.0;
+    for (int i = 0; i < complete.rows; ++i) {
+        complete.weights.push_back(1.0 + (i + 1) % 3);
+        sum += complete.weights.back();
+    }
+    for (double& weight : complete.weights)
+        weight *= complete.rows / sum;
+    const auto regression = regressionOf(complete);
+    ASSERT_TRUE(regression);
+    for (std::size_t k = 0; k < 4; ++k) {
+        const auto& [value, error] = regression->coefficients[(k + 3) % 4];
+        const double reach = intervalReach(regression->freedom) * error;
+        const double p = twoSidedP(value / error, regression->freedom);
+        const auto& expected = survey::test::weightedRegression[k];
+        expectClose(std::array{value, error, value - reach, value + reach},
+                    std::array{expected[0], expected[1], expected[3], expected[4]}, "coefficient " + std::to_string(k),
+                    tolerance);
+        EXPECT_NEAR(p, expected[2], 1e-8 * expected[2]);
+    }
+    expectClose(std::array{regression->determination, regression->residualDeviation}, survey::test::weightedQuality,
+                "quality", tolerance);
+}
+
+TEST(Comparisons, OfTheSpeciesAgreeWithR)
+{
+    const Subject subject = subjectOf(penguins(), penguins().named("species"));
+    const std::vector<const Column*> columns = penguins().ofKind(Kind::numeric);
+    const std::array corrections = {Correction::none, Correction::bonferroni, Correction::holm, Correction::fdr};
+    for (std::size_t j = 0; j < columns.size(); ++j)
+        for (std::size_t c = 0; c < corrections.size(); ++c) {
+            const auto comparisons = comparisonsOf(momentsByGroup(subject, *columns[j]), corrections[c]);
+            ASSERT_TRUE(comparisons);
+            const auto& [f, pOfF] = survey::test::varianceReferences[j];
+            EXPECT_NEAR(comparisons->f, f, 1e-9 * f);
+            EXPECT_NEAR(comparisons->p, pOfF, 1e-7 * pOfF);
+            ASSERT_EQ(comparisons->pairs.size(), 3U);
+            const double reach = intervalReach(comparisons->freedom);
+            for (std::size_t i = 0; i < 3; ++i) {
+                const Comparison& pair = comparisons->pairs[i];
+                const auto& expected = survey::test::comparisonReferences[3 * j + i];
+                const double half = reach * pair.standardError;
+                expectClose(
+                    std::array{pair.difference, pair.standardError, pair.difference - half, pair.difference + half},
+                    std::span(expected).first<4>(), columns[j]->name, tolerance);
+                EXPECT_NEAR(pair.p, expected[4], 1e-7 * expected[4]);
+                EXPECT_NEAR(pair.correctedP, expected[4 + c], 1e-7 * expected[4 + c]) << nameOf(corrections[c]);
+            }
+        }
+}
+
+TEST(Comparisons, AreCorrectedAsByPAdjust)
+{
+    const std::vector<double> p = {0.01, 0.04, 0.03, 0.005, 0.2};
+    const std::array corrections = {Correction::bonferroni, Correction::holm, Correction::fdr};
+    for (std::size_t c = 0; c < corrections.size(); ++c)
+        expectClose(corrected(p, corrections[c]), survey::test::correctedReferences[c], nameOf(corrections[c]));
+    EXPECT_EQ(corrected(p, Correction::none), p);
+}
+
+TEST(Comparisons, OfWeightedGroupsAreThoseOfTheRegressionOnThem)
+{
+    // summary(lm(x ~ g, weights = w)) with x = 1 2 4 6 9, g = a a b b b, w = 0.5 1 1 1.5 1.
+    const std::vector<Moments> groups = {momentsOf({1.0, 2.0}, {0.5, 1.0}),
+                                         momentsOf({4.0, 6.0, 9.0}, {1.0, 1.5, 1.0})};
+    const auto comparisons = comparisonsOf(groups, Correction::none);
+    ASSERT_TRUE(comparisons);
+    expectClose(
+        std::array{comparisons->pairs[0].difference, comparisons->pairs[0].standardError, comparisons->pairs[0].p},
+        std::array{4.6190476190476186, 2.0352152920412201, 0.10796867006843851}, "difference", 1e-9);
 }
 
 TEST(LetterGroups, OfTheSpeciesShareLettersWhereRFindsThemNotApart)
@@ -140,27 +246,30 @@ TEST(LetterGroups, OfTheSpeciesShareLettersWhereRFindsThemNotApart)
     const Subject subject = subjectOf(penguins(), penguins().named("species"));
     const std::vector<const Column*> columns = penguins().ofKind(Kind::numeric);
     for (std::size_t j = 0; j < columns.size(); ++j) {
-        std::vector<std::vector<double>> cells;
-        for (const Group& group : subject.groupsOfColumn())
-            cells.push_back(cellsOf(*columns[j], group));
-        const std::vector<std::string> letters = lettersOf(cells);
+        const std::vector<std::string> letters = lettersOf(momentsByGroup(subject, *columns[j]));
         ASSERT_EQ(letters.size(), 3U);
-        EXPECT_EQ(shareALetter(letters[0], letters[1]), !survey::test::apartReferences[j][0]) << columns[j]->name;
-        EXPECT_EQ(shareALetter(letters[0], letters[2]), !survey::test::apartReferences[j][1]) << columns[j]->name;
-        EXPECT_EQ(shareALetter(letters[1], letters[2]), !survey::test::apartReferences[j][2]) << columns[j]->name;
+        const auto isApart = [&](std::size_t pair) {
+            return survey::test::comparisonReferences[3 * j + pair][6] < 0.05; // by Holm
+        };
+        EXPECT_EQ(shareALetter(letters[0], letters[1]), !isApart(0)) << columns[j]->name;
+        EXPECT_EQ(shareALetter(letters[0], letters[2]), !isApart(1)) << columns[j]->name;
+        EXPECT_EQ(shareALetter(letters[1], letters[2]), !isApart(2)) << columns[j]->name;
     }
 }
 
 TEST(LetterGroups, OverlapWhereOnlyTheOuterMeansLieApart)
 {
-    // Standard error of each difference 1: the variance within is 1, of two cells each.
+    // Standard error of each difference 1, with 3 degrees of freedom: p is 0.022, 0.068 and 0.21.
     const double s = 0.70710678118654752;
-    EXPECT_THAT(lettersOf({{3.0 - s, 3.0 + s}, {0.0 - s, 0.0 + s}, {1.5 - s, 1.5 + s}}), ElementsAre(" B", "A ", "AB"));
+    const std::vector<std::vector<double>> cells = {{4.4 - s, 4.4 + s}, {0.0 - s, 0.0 + s}, {2.8 - s, 2.8 + s}};
+    EXPECT_THAT(lettersOfCells(cells, Correction::none), ElementsAre(" B", "A ", "AB"));
+    EXPECT_THAT(lettersOfCells(cells, Correction::bonferroni), ElementsAre("A", "A", "A"));
 }
 
 TEST(LetterGroups, OfGroupsWithoutCellsAreEmpty)
 {
-    const std::vector<LetterGroup> groups = letterGroupsOf({{5.0, 5.1}, {M, M}, {1.0, M}});
+    const std::vector<LetterGroup> groups =
+        letterGroupsOf(momentsOfEach({{5.0, 5.1}, {M, M}, {1.0, M}}), Correction::holm);
     EXPECT_EQ(groups[0].letters, " B");
     EXPECT_EQ(groups[1].letters, "");
     EXPECT_THAT(groups[1].mean, SameBits(M));
@@ -170,14 +279,14 @@ TEST(LetterGroups, OfGroupsWithoutCellsAreEmpty)
 
 TEST(LetterGroups, WithoutVarianceWithinTellWhateverDiffers)
 {
-    EXPECT_THAT(lettersOf({{2.0, 2.0}, {1.0, 1.0}, {2.0, 2.0}}), ElementsAre(" B", "A ", " B"));
+    EXPECT_THAT(lettersOfCells({{2.0, 2.0}, {1.0, 1.0}, {2.0, 2.0}}), ElementsAre(" B", "A ", " B"));
 }
 
 TEST(LetterGroups, TakeTwoMeansAndAVariance)
 {
-    EXPECT_THAT(lettersOf({{1.0, 2.0}}), ElementsAre(""));
-    EXPECT_THAT(lettersOf({{1.0, 2.0}, {M}}), ElementsAre("", ""));
-    EXPECT_THAT(lettersOf({{1.0}, {2.0}}), ElementsAre("", ""));
+    EXPECT_THAT(lettersOfCells({{1.0, 2.0}}), ElementsAre(""));
+    EXPECT_THAT(lettersOfCells({{1.0, 2.0}, {M}}), ElementsAre("", ""));
+    EXPECT_THAT(lettersOfCells({{1.0}, {2.0}}), ElementsAre("", ""));
 }
 
 TEST(LetterGroups, ArePrintedForEachColumn)

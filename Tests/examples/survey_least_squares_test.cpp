@@ -5,8 +5,8 @@
 //     summary(lm(...))$coefficients, printed with 17 digits; the intercept is moved to the end
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
+#include "read_table.h"
 #include "support/bits.h"
-#include "table.h"
 
 #include <cmath>
 #include <string>
@@ -29,7 +29,7 @@ constexpr int rowCount = 342;
 /// A measurement of the penguins that have all four.
 std::vector<double> measured(const std::string& name)
 {
-    static const Table table = readTable(SURVEY_DATA "/penguins.csv", "species");
+    static const Table table = readTable(SURVEY_DATA "/penguins.csv", {.grouping = "species"});
     std::vector<double> cells;
     for (std::size_t i = 0; i < static_cast<std::size_t>(table.rows); ++i) {
         bool complete = true;

@@ -21,12 +21,12 @@ namespace {
 
 Table table(std::string_view text)
 {
-    return tableOf(parsedCsv(text, "f.csv"), "f.csv");
+    return tableOf(text, "f.csv");
 }
 
 Completion completed(const Table& table)
 {
-    return survey::completed(table, missingCellsOf(table));
+    return survey::completed(subjectOf(table, nullptr), missingCellsOf(table));
 }
 
 std::string printedCounts(const Table& table)
@@ -211,4 +211,36 @@ TEST(Completion, OfManyCellsTheFirstAreListed)
     const std::string text = printedCompletion(table(csv));
     EXPECT_THAT(text, HasSubstr("\n 51  y       1\n\n"));
     EXPECT_THAT(text, HasSubstr("Listed are the first 50\ncells; there are 3 more.\n"));
+}
+
+TEST(Completion, OfManyRowsTakesTheNearestOfSomeThatAreDrawn)
+{
+    // In each group y is the group's number: a donor of the same x and group is exactly right.
+    std::string csv = "g,x,y\n";
+    const int rows = mostRowsSearched + 1;
+    for (int i = 0; i < rows; ++i) {
+        const std::string group = std::to_string(i % 4);
+        csv += "g" + group + "," + group + "," + (i % 100 == 7 ? "" : group) + "\n";
+    }
+    const Table t = table(csv);
+    const Subject subject = subjectOf(t, t.named("g"));
+    const Completion completion = completed(subject, missingCellsOf(t));
+    EXPECT_EQ(completion.donors, donorsDrawn);
+    EXPECT_EQ(completion.filled.size(), 100U);
+    for (const CellPlace& cell : completion.filled)
+        EXPECT_EQ(completion.table.columns[2].numbers[static_cast<std::size_t>(cell.row)], cell.row % 4);
+    const std::string text = printed(addCompletion, t, completion);
+    EXPECT_THAT(text, HasSubstr("Of more than 10000 rows"));
+    EXPECT_THAT(text, HasSubstr("there are 50 more."));
+}
+
+TEST(Completion, OfManyRowsWithoutACompleteOneTakesTheMean)
+{
+    std::string csv = "x,y\n";
+    for (int i = 0; i <= mostRowsSearched; ++i)
+        csv += i % 2 == 0 ? "1,\n" : ",3\n";
+    const Completion completion = completed(table(csv));
+    EXPECT_EQ(completion.donors, 0);
+    EXPECT_EQ(completion.table.columns[0].numbers[1], 1.0);
+    EXPECT_EQ(completion.table.columns[1].numbers[0], 3.0);
 }

@@ -1,15 +1,16 @@
 // What the survey makes of a file: records, columns, groups, and the place that an error names.
 #include "csv.h"
+#include "file_text.h"
 #include "groups.h"
 #include "input_error.h"
-#include "table.h"
+#include "read_table.h"
 
 #include "support/bits.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,20 +22,21 @@ namespace {
 
 using Texts = std::vector<std::vector<std::string>>;
 
-Texts fields(std::string_view text)
+Texts fields(std::string_view text, char delimiter = ',')
 {
     Texts all;
-    for (const CsvRecord& record : parsedCsv(text, "f.csv")) {
+    const std::string file = "f.csv";
+    for (CsvReader reader(text, file, delimiter); !reader.atEnd();) {
         all.emplace_back();
-        for (const CsvField& field : record)
-            all.back().push_back(field.text);
+        for (const CsvField& field : reader.record())
+            all.back().emplace_back(field.text);
     }
     return all;
 }
 
 Table table(std::string_view text, const std::optional<std::string>& grouping = std::nullopt)
 {
-    return tableOf(parsedCsv(text, "f.csv"), "f.csv", grouping);
+    return tableOf(text, "f.csv", {.grouping = grouping});
 }
 
 std::string errorOf(std::string_view text, const std::optional<std::string>& grouping = std::nullopt)
@@ -67,14 +69,13 @@ TEST(Csv, LastLineNeedsNoEnd)
 TEST(Csv, EmptyTextHasNoRecords)
 {
     EXPECT_EQ(fields(""), Texts());
-    EXPECT_EQ(fields("\xEF\xBB\xBF"), Texts());
     EXPECT_EQ(fields("\n\n"), (Texts{{""}, {""}}));
 }
 
-TEST(Csv, ByteOrderMarkIsSkippedAheadOfTheTextOnly)
+TEST(Csv, OtherDelimitersLeaveCommasInTheirFields)
 {
-    EXPECT_EQ(fields("\xEF\xBB\xBF\"a\",b"), (Texts{{"a", "b"}}));
-    EXPECT_EQ(fields("a,\xEF\xBB\xBF"), (Texts{{"a", "\xEF\xBB\xBF"}}));
+    EXPECT_EQ(fields("a;1,5\n\"x;y\";2", ';'), (Texts{{"a", "1,5"}, {"x;y", "2"}}));
+    EXPECT_EQ(fields("a\tb", '\t'), (Texts{{"a", "b"}}));
 }
 
 TEST(Csv, QuotedFieldsHoldCommasQuotesAndLineBreaks)
@@ -91,10 +92,13 @@ TEST(Csv, QuoteInsideAnotherFieldIsOrdinary)
 
 TEST(Csv, FieldsKnowTheirLines)
 {
-    const auto records = parsedCsv("a,b\n\"1\n\n2\",3\r\n4,5", "f.csv");
-    EXPECT_EQ(records[1][0].line, 2);
-    EXPECT_EQ(records[1][1].line, 4);
-    EXPECT_EQ(records[2][0].line, 5);
+    const std::string file = "f.csv";
+    CsvReader reader("a,b\n\"1\n\n2\",3\r\n4,5", file, ',');
+    reader.record();
+    const CsvRecord second = reader.record();
+    EXPECT_EQ(second[0].line, 2);
+    EXPECT_EQ(second[1].line, 4);
+    EXPECT_EQ(reader.record()[0].line, 5);
 }
 
 TEST(Csv, QuoteThatIsNeverClosedIsAnErrorWhereItOpens)
@@ -129,7 +133,7 @@ TEST(SurveyTable, NumbersMayHaveBlanksAndSigns)
 
 TEST(SurveyTable, OtherSpellingsAreNoNumbers)
 {
-    for (const char* cell : {"nan", "inf", "1e999", "0x10", "1 2", "1,5", "--1", "+-1", "+", "NA", "1e", "."})
+    for (const char* cell : {"0x10", "1 2", "1,5", "--1", "+-1", "+", "n/a", "1e", "."})
         EXPECT_THAT(errorOf(std::string("n,t\n1,\n2,\n\"") + cell + "\",\n"),
                     testing::StartsWith(std::string("f.csv, line 4, column 1 (n): '") + cell + "' is not a number"));
 }
@@ -157,7 +161,7 @@ TEST(SurveyTable, EmptyLinesAtTheEndAreLeftOut)
 TEST(SurveyTable, EmptyFileIsAnError)
 {
     EXPECT_EQ(errorOf(""), "f.csv, line 1, column 1: the file is empty");
-    EXPECT_EQ(errorOf("\xEF\xBB\xBF\r\n\r\n"), "f.csv, line 1, column 1: the file is empty");
+    EXPECT_EQ(errorOf("\r\n\r\n"), "f.csv, line 1, column 1: the file is empty");
 }
 
 TEST(SurveyTable, HeadingAloneIsAnError)
@@ -177,7 +181,7 @@ TEST(SurveyTable, RowOfAnotherLengthIsAnErrorWhereItEndsOrGoesOn)
 TEST(SurveyTable, TextAmongNumbersIsAnErrorAtTheCell)
 {
     EXPECT_EQ(
-        errorOf("a,b\n1,2\n1,\"x\ny\"\n1,4\n1,NA\n1,5\n"),
+        errorOf("a,b\n1,2\n1,\"x\ny\"\n1,4\n1,z\n1,5\n"),
         "f.csv, line 3, column 2 (b): 'x y' is not a number, as most of the column are (a missing cell is left empty)");
     EXPECT_THAT(errorOf("a\n1\n2\n" + std::string(100, 'x')),
                 testing::HasSubstr("(a): '" + std::string(37, 'x') + "...' is"));
@@ -213,6 +217,72 @@ TEST(SurveyTable, GroupingColumnIsTextEvenIfItHoldsNumbers)
 {
     EXPECT_EQ(table("year,n\n2007,1\n2008,2\nlater,3\n", "year").named("year")->kind, Kind::text);
     EXPECT_EQ(table("year,n\n2007,1\n2008,2\n").named("year")->kind, Kind::numeric);
+}
+
+TEST(SurveyTable, DelimitersAreFoundFromTheText)
+{
+    EXPECT_EQ(table("a;b\n1;2\n").columns.size(), 2U);
+    EXPECT_EQ(table("a\tb\tc\n1\t2\t3\n").columns.size(), 3U);
+    EXPECT_EQ(table("a|b\n1|2\n").columns.size(), 2U);
+    EXPECT_EQ(table("a, b; c\n1,2\n").columns.size(), 2U); // a semicolon would be in the heading alone
+    EXPECT_EQ(table("a\n1\n").columns.size(), 1U);
+    EXPECT_EQ(table("\"a;b\",c\n1,2\n").columns.size(), 2U);
+    EXPECT_EQ(tableOf("a;b,c\n1;2,3\n", "f.csv", {.delimiter = ',', .decimal = '.'}).columns.size(), 2U);
+}
+
+TEST(SurveyTable, DecimalCommasAreFoundWhereTheCommaSeparatesNoFields)
+{
+    const Table t = table("a;b\n1,25;x\n-3;y\n");
+    EXPECT_THAT(t.named("a")->numbers, vecmat::test::SameBits({1.25, -3.0}));
+    EXPECT_EQ(t.named("a")->decimals, 2);
+    EXPECT_THAT(t.remarks,
+                ElementsAre("Fields are taken to be separated by ';'.", "Decimals are taken to stand behind a comma."));
+    EXPECT_THAT(table("a;b\n1.25;x\n-3;y\n").named("a")->numbers, vecmat::test::SameBits({1.25, -3.0}));
+    EXPECT_THAT(tableOf("a\n\"1,5\"\n", "f.csv", {.delimiter = ';', .decimal = ','}).named("a")->numbers,
+                vecmat::test::SameBits({1.5}));
+}
+
+TEST(SurveyTable, MissingCellsAreThoseThatAreToldBesideEmptyOnes)
+{
+    const ReadOptions told = {.missing = {"-999", ".", "N/A"}};
+    EXPECT_THAT(tableOf("a,t\n-999.0,x\n.,N/A\n 3 ,NA\n", "f.csv", told).named("a")->numbers,
+                vecmat::test::SameBits({M, M, 3.0}));
+    EXPECT_THAT(tableOf("a,t\n-999.0,x\n.,N/A\n3,NA\n", "f.csv", told).named("t")->texts, ElementsAre("x", "", "NA"));
+    EXPECT_THAT(table("a\nNA\n1\n").named("a")->numbers, vecmat::test::SameBits({M, 1.0}));
+}
+
+TEST(SurveyTable, TextColumnsWithNumbersAreTold)
+{
+    EXPECT_THAT(table("t,x\na,1\n2,1\nb,1\n").remarks,
+                ElementsAre("Column 't' is text, though 1 of its cells is a number."));
+    EXPECT_THAT(table("t,x\na,1\n2,1\nb,1\n", "t").remarks, testing::IsEmpty());
+}
+
+TEST(FileText, EncodingsAreKnownAndTold)
+{
+    const std::string expected = "n\xC3\xA9,x\n1,2\n";
+    using namespace std::string_literals;
+    const auto text = [](std::string content, const std::optional<std::string>& encoding = {}) {
+        return textOf(std::move(content), "f.csv", encoding).text;
+    };
+    EXPECT_EQ(text(expected), expected);
+    EXPECT_EQ(text("\xEF\xBB\xBF" + expected), expected);
+    EXPECT_EQ(text("\xFF\xFEn\0\xE9\0,\0x\0\n\0001\0,\0002\0\n\0"s), expected);
+    EXPECT_EQ(text("\xFE\xFF\0n\0\xE9\0,\0x\0\n\0001\0,\0002\0\n"s), expected);
+    EXPECT_EQ(text("n\0\xE9\0,\0x\0\n\0001\0,\0002\0\n\0"s), expected); // no byte order mark
+    EXPECT_EQ(text("n\xE9,x\n1,2\n"), expected);
+    EXPECT_EQ(text("n\x82,x\n1,2\n", "CP850"), expected);
+    EXPECT_EQ(textOf("x\n1\nn\xE9\n", "f.csv", {}).remark,
+              "The file is not in UTF-8 (line 3) and was read as Windows-1252; --encoding names another one.");
+    EXPECT_EQ(textOf(expected, "f.csv", {}).remark, "");
+}
+
+TEST(FileText, WhatIsNotUtf8IsFoundWhereItStands)
+{
+    EXPECT_EQ(firstInvalid("0123456789 \xC3\xA9\xE2\x82\xAC\xF0\x9F\x90\xA7"), 20U);
+    EXPECT_EQ(firstInvalid("0123456789\xE9 0123456789"), 10U);
+    for (const char* text : {"\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xE2\x82", "\x80", "\xF0\x8F\xBF\xBF"})
+        EXPECT_EQ(firstInvalid(text), 0U) << text;
 }
 
 TEST(SurveyGroups, FollowTheOrderOfTheFileAndRowsWithoutOneComeLast)

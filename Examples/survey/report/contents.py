@@ -16,6 +16,7 @@ class Table:
     align: list  # for each column: left, right or point
     headings: list
     rows: list
+    whole: int = 0  # rows of the file that has all of them; 0 where this has
 
 
 @dataclass
@@ -25,7 +26,7 @@ class Section:
     lead: str
     note: str
     tables: list = field(default_factory=list)
-    picture: str = ""
+    pictures: list = field(default_factory=list)  # names
 
 
 @dataclass
@@ -34,6 +35,7 @@ class Survey:
     title: str = ""
     summary: str = ""
     lists: list = field(default_factory=list)  # of a label and its items
+    remarks: list = field(default_factory=list)
     sections: list = field(default_factory=list)
 
     def records(self, name):
@@ -66,7 +68,12 @@ def read(data):
                 headings, *rows = survey.records(name)
                 survey.sections[-1].tables.append(Table(name, int(key_columns), align, headings, rows))
             elif kind == "picture":
-                (survey.sections[-1].picture,) = fields
+                (name,) = fields
+                survey.sections[-1].pictures.append(name)
+            elif kind == "remark":
+                survey.remarks += fields
+            elif kind == "whole":
+                survey.sections[-1].tables[-1].whole = int(fields[1])
             else:
                 raise ValueError
         except (ValueError, TypeError, IndexError) as error:

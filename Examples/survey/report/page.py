@@ -21,7 +21,8 @@ def element(tag, *content, **attributes):
     return result
 
 
-def text_of(survey, pictures):
+def text_of(survey, pictures, links):
+    """`links` has the address of each whole table by its name."""
     style = Path(__file__).with_name("page.css").read_text(encoding="utf-8") + colours.sheet()
     head = element(
         "head",
@@ -38,9 +39,10 @@ def text_of(survey, pictures):
             element("h1", "Survey of ", element("span", survey.title, class_="file")),
             element("p", survey.summary, class_="lead"),
             facts(survey.lists),
+            *[element("p", remark, class_="remark") for remark in survey.remarks],
         ),
         element("nav", element("ol", *[link(section) for section in survey.sections]), aria_label="Sections"),
-        element("main", *[section_of(section, pictures) for section in survey.sections]),
+        element("main", *[section_of(section, pictures, links) for section in survey.sections]),
         element(
             "footer",
             element("p", "All numbers come from VecMat, a library of vector and matrix routines for statistical work."),
@@ -64,11 +66,19 @@ def link(section):
     return element("li", element("a", section.title, href=f"#{section.name}"))
 
 
-def section_of(section, pictures):
+def whole_of(table, links):
+    """A link to the file with all rows of a table that is cut."""
+    link = element("a", f"all {table.whole} rows as CSV", href=links[table.name], download=f"{table.name}.csv")
+    return element("p", "The table is cut: ", link, ".", class_="whole")
+
+
+def section_of(section, pictures, links):
     content = [element("h2", section.title), element("p", section.lead, class_="lead")]
-    if section.picture:
-        content.append(figure(pictures[section.picture]))
-    content += [element("div", table_of(table), class_="wide") for table in section.tables]
+    content += [figure(pictures[name]) for name in section.pictures]
+    for table in section.tables:
+        content.append(element("div", table_of(table), class_="wide"))
+        if table.whole:
+            content.append(whole_of(table, links))
     if section.note:
         content.append(element("p", section.note, class_="note"))
     return element("section", *content, id=section.name)
@@ -92,26 +102,26 @@ def table_of(table):
 def bodies(table):
     """The rows; where two columns name them, those that have the first in common below one name."""
     behind = [decimals_missing(table, j) for j in range(len(table.headings))]
+    placed = [any(cells[j].startswith(" ") for cells in table.rows) for j in range(len(table.headings))]
     if table.key_columns < 2:
-        return [element("tbody", *[row(table, behind, i) for i in range(len(table.rows))])]
+        return [element("tbody", *[row(table, behind, placed, i) for i in range(len(table.rows))])]
     result = []
     for _, run in itertools.groupby(range(len(table.rows)), key=lambda i: table.rows[i][0]):
         run = list(run)
         first = element("th", table.rows[run[0]][0], scope="rowgroup", rowspan=len(run), class_=table.align[0])
-        result.append(element("tbody", *[row(table, behind, i, first if i == run[0] else None) for i in run]))
+        result.append(element("tbody", *[row(table, behind, placed, i, first if i == run[0] else None) for i in run]))
     return result
 
 
-def row(table, behind, i, run_name=None):
+def row(table, behind, placed, i, run_name=None):
     cells = [] if run_name is None else [run_name]
     for j, text in enumerate(table.rows[i]):
         if j == 0 and table.key_columns == 2:
             continue
         tag, scope = ("th", "row") if j < table.key_columns else ("td", None)
-        placed = " placed" if any(cells[j].startswith(" ") for cells in table.rows) else ""
         short = behind[j][i]
         style = f"--short: {short}" if short else None
-        cells.append(element(tag, text, scope=scope, class_=table.align[j] + placed, style=style))
+        cells.append(element(tag, text, scope=scope, class_=table.align[j] + (" placed" if placed[j] else ""), style=style))
     return element("tr", *cells)
 
 

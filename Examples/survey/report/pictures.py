@@ -23,11 +23,17 @@ class Drawn:
 def draw(survey, directory):
     """Draws what the survey has data for: pictures by name, each also in a file of the directory. Those of an earlier
     survey are removed."""
-    drawers = {"correlation_map": correlation_map, "scree": scree, "biplot": biplot}
+    drawers = {
+        "correlation_map": correlation_map,
+        "scree": scree,
+        "biplot": biplot,
+        "residuals": residuals,
+        "residual_quantiles": residual_quantiles,
+    }
     for name in drawers:
         (directory / f"{name}.svg").unlink(missing_ok=True)
     result = {}
-    for name in [section.picture for section in survey.sections if section.picture]:
+    for name in [name for section in survey.sections for name in section.pictures]:
         drawn = drawers[name](survey)
         drawn.svg = gnuplot.with_prefix(drawn.svg, name)
         directory.mkdir(exist_ok=True)
@@ -79,13 +85,11 @@ def scree(survey):
 
 
 def biplot(survey):
-    most_rows = 5000
     columns = [(name, float(x), float(y)) for name, x, y in survey.records("biplot_columns")[1:]]
     groups = [(name, float(x), float(y)) for name, x, y in survey.records("biplot_groups")[1:]]
     rows = survey.records("biplot_rows")[1:]
     share = [float(percent) for _, _, percent in survey.records("scree")[1:]]
-    every = math.ceil(len(rows) / most_rows)
-    rows = rows[::every]
+    every = int(rows[1][0]) - int(rows[0][0])
     coloured = 0 < len(groups) <= colours.groups
     number = {name: k for k, (name, _, _) in enumerate(groups, 1)} if coloured else {}
     points = [(float(row[1]), float(row[2]), number[row[3]] if coloured else 1) for row in rows]
@@ -243,3 +247,28 @@ def correlation_map(survey):
             settings.append(f"set label {quoted(text)} at {x}, {y} center front textcolor rgb {colour}")
     svg = gnuplot.drawn("correlation_map.gp", settings, {"cells": cells or [(0, 0, 0)]})
     return Drawn(svg, "Correlation map: from orange for \u22121 over white to blue for 1.")
+
+
+# ---------------------------------------------------------------------------------------------------------------------
+
+
+def size_of_points(points):
+    return 0.55 if len(points) < 1000 else 0.35
+
+
+def residuals(survey):
+    points = [(float(fitted), float(residual)) for fitted, residual in survey.records("residuals")[1:]]
+    settings = assigned(width=640, height=380, size=size_of_points(points))
+    svg = gnuplot.drawn("residuals.gp", settings, {"residuals": points})
+    return Drawn(svg, "Residuals over fitted values. A fit that holds leaves them without a shape around the dashed line.")
+
+
+def residual_quantiles(survey):
+    points = [(float(normal), float(residual)) for normal, residual in survey.records("residual_quantiles")[1:]]
+    low, high = points[0][0], points[-1][0]
+    room = 0.05 * (high - low)
+    settings = assigned(width=640, height=380, size=size_of_points(points), low=low - room, high=high + room)
+    svg = gnuplot.drawn("residual_quantiles.gp", settings, {"quantiles": points})
+    return Drawn(
+        svg, "Normal quantile plot of the residuals. Normal ones lie along the dashed line; long tails leave it at the ends."
+    )
