@@ -12,12 +12,16 @@
 #define VECMAT_MISSING (-0x1.fffffffffffe2p+1023)
 
 #ifdef __cplusplus
+#ifndef __oaidl_h__
 struct SAFEARRAY;
+#endif
 extern "C" {
 #else
 #include <stdint.h>
 
-/* Array descriptor of OLE Automation, in which tables of columns come. Only pvData is ever read. */
+/* Array descriptor of OLE Automation, in which tables of columns come. Only pvData is ever read. A program that includes
+   the system's own, <oleauto.h>, does so before. */
+#ifndef __oaidl_h__
 typedef struct SAFEARRAYBOUND
 {
     uint32_t cElements;
@@ -33,6 +37,7 @@ typedef struct SAFEARRAY
     void* pvData;
     SAFEARRAYBOUND rgsabound[1];
 } SAFEARRAY;
+#endif
 
 /* One element of the outer array: a column of numbers and a column of strings, either of which may be null. */
 typedef struct SAFEARRAYColumn
@@ -56,13 +61,13 @@ short Cpp_GetStatusMemory(int bytes);
 void dprint(double value, const char* label);
 
 /* ---- frame/super_matrices ---- */
-int MySafeArrayAccessData(struct SAFEARRAY* sa, void** data);
-void* ExtractBSTR(struct SAFEARRAY** sa);
+int MySafeArrayAccessData(SAFEARRAY* sa, void** data);
+void* ExtractBSTR(SAFEARRAY** sa);
 void ProjVecToMat(double* src, int rows, int cols, int col, double* dst);
 
 /* ---- elementary/column_extremes ---- */
-void VB_M_MinMaxSPV(struct SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask, short mode);
-void VB_M_MinMaxSPV_T(struct SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask, short mode);
+void VB_M_MinMaxSPV(SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask, short mode);
+void VB_M_MinMaxSPV_T(SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask, short mode);
 double Cpp_M_MinAll(double* a, int rows, int cols);
 void VB_M_MinMax(double* a, int rows, int cols, double* min, double* max, short* mask, short mode);
 void Cpp_M_MaxPosByRow(double* a, int rows, int cols, int* out);
@@ -75,14 +80,13 @@ short VB_V_IsConstantLng(int* x, int n, short mode);
 short V_IsConstantBool(short* x, int n);
 short VB_V_IsConstantBool(short* x, int n);
 int VB_M_IsColConstant(double* a, int rows, int cols);
-int VB_M_IsColConstantSPV(struct SAFEARRAY** a, int rows, int cols);
+int VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols);
 short VB_V_IsPositive(double* x, int n, short strict);
 short VB_M_IsPositive(double* a, int rows, int cols, short* mask, short strict);
 short VB_M_IsLong(double* a, int rows, int cols);
 short VB_M_IsDiagConstant(double* a, int n);
 short VB_M_IsIn01(double* a, int rows, int cols);
-short VB_M_IsInIntervalSPV(struct SAFEARRAY** a, int rows, int cols, double lo, double hi, short open,
-                           short skipMissing);
+short VB_M_IsInIntervalSPV(SAFEARRAY** a, int rows, int cols, double lo, double hi, short open, short skipMissing);
 short VB_V_IsInInterval(double* x, int n, double lo, double hi, short open, short skipMissing);
 
 /* ---- elementary/packed_storage ---- */
@@ -92,13 +96,13 @@ void VB_V_GetPositionInMatNN(int k, int n, int* i, int* j);
 
 /* ---- elementary/symmetry ---- */
 short VB_M_IsSymmetric(double* a, int n);
-short VB_M_IsSymmetricSPV(struct SAFEARRAY** a, int n);
+short VB_M_IsSymmetricSPV(SAFEARRAY** a, int n);
 void VB_M_Symmetrize(double* a, int n, int mode);
-void VB_M_SymmetrizeSPV(struct SAFEARRAY** a, int n, int mode);
+void VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode);
 int VB_M_IsTriangular(double* a, int n, short fill);
-int VB_M_IsTriangularSPV(struct SAFEARRAY** a, int n, short fill);
+int VB_M_IsTriangularSPV(SAFEARRAY** a, int n, short fill);
 int VB_M_CheckIfSimOrDissim(double* a, int n, int kind);
-int VB_M_CheckIfSimOrDissimSPV(struct SAFEARRAY** a, int rows, int cols, int kind);
+int VB_M_CheckIfSimOrDissimSPV(SAFEARRAY** a, int rows, int cols, int kind);
 void VB_M_TransformSimToDissim(double* a, int n);
 
 /* ---- elementary/sums_and_norms ---- */
@@ -223,7 +227,7 @@ void VB_M_TransposeStr(wchar_t** a, int r, int c, wchar_t** out);
 void VB_M_Transpose2(double* a, int r, int c);
 void VB_M_Transpose2Lng(int* a, int r, int c);
 void VB_M_Transpose2Str(wchar_t** a, int r, int c);
-void VB_M_TransposeSPV(struct SAFEARRAY** a, int r, int c, struct SAFEARRAY** out);
+void VB_M_TransposeSPV(SAFEARRAY** a, int r, int c, SAFEARRAY** out);
 
 /* ---- elementary/horizontal_merges ---- */
 void VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out);
@@ -233,8 +237,8 @@ void VB_HMergeVectTable(double* v, int n, double* t, int r, int c, double* out);
 void VB_HMergeVectColDbl(double* v, int n, double* t, int r, int col, double* out);
 void VB_HMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2, double* out);
 void VB_HMergeTablesDbl2(double* a, int r1, int c1, double* b, int r2, int c2);
-void VB_HMergeTablesDbl2SPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2);
-void VB_HMergeTablesDbl2SPV2(struct SAFEARRAY** a, int r1, int c1, struct SAFEARRAY** b, int r2, int c2);
+void VB_HMergeTablesDbl2SPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2);
+void VB_HMergeTablesDbl2SPV2(SAFEARRAY** a, int r1, int c1, SAFEARRAY** b, int r2, int c2);
 void VB_HMergeTablesLng2(int* a, int r1, int c1, int* b, int r2, int c2);
 void VB_HMergeTablesBool(short* a, int r1, int c1, short* b, int r2, int c2, short* out);
 void VB_HMergeTablesBool2(short* a, int r1, int c1, short* b, int r2, int c2);
@@ -248,7 +252,7 @@ void VB_VMergeVectorsStr(wchar_t** a, int nA, wchar_t** b, int nB, wchar_t** out
 void VB_VMergeVectorsStr2(wchar_t** a, int nA, wchar_t** b, int nB);
 void VB_VMergeVectorsBool2(short* a, int nA, short* b, int nB);
 void VB_VMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2, double* out);
-void Cpp_VMergeTablesDblSPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2, double* out);
+void Cpp_VMergeTablesDblSPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2, double* out);
 
 /* ---- elementary/columns_and_rows ---- */
 void VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol, short prepare);
@@ -260,19 +264,19 @@ void Cpp_Extractij(double* a, int n, int i, int j, double* out);
 
 /* ---- elementary/blocks ---- */
 void VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst);
-void VB_M_CopyBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst);
+void VB_M_CopyBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst);
 void VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst);
-void Cpp_M_CopyBlockSPV2(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, struct SAFEARRAY** dst);
-void Cpp_M_CopyBlockSPV2_T(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, struct SAFEARRAY** dst);
-void Cpp_M_DuplicateDblSPV(struct SAFEARRAY** src, int rows, int cols, double* dst);
-void Cpp_M_DuplicateDblSPV2(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst);
-void Cpp_M_DuplicateDblSPV2_T(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst);
-void Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, struct SAFEARRAY** dst);
-void VB_M_DuplicateStrSPV(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst);
+void Cpp_M_CopyBlockSPV2(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst);
+void Cpp_M_CopyBlockSPV2_T(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst);
+void Cpp_M_DuplicateDblSPV(SAFEARRAY** src, int rows, int cols, double* dst);
+void Cpp_M_DuplicateDblSPV2(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
+void Cpp_M_DuplicateDblSPV2_T(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
+void Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, SAFEARRAY** dst);
+void VB_M_DuplicateStrSPV(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
 void Cpp_M_CopyPasteBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst, int dstRows,
                           int dstCols, int row, int col);
-void Cpp_M_CopyPasteBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst, int dstRows,
-                             int dstCols, int row, int col);
+void Cpp_M_CopyPasteBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst, int dstRows, int dstCols,
+                             int row, int col);
 void Cpp_M_CopyPasteBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst,
                              int dstRows, int dstCols, int row, int col);
 void VB_M_PasteBlock(double* src, int rows, int cols, double* dst, int dstRows, int dstCols, int row, int col);
@@ -281,12 +285,12 @@ void VB_M_CopyToBigger(double* src, int rows, int cols, double* dst, int dstRows
 
 /* ---- elementary/extraction ---- */
 void VB_M_ExtractMatToMatDbl(double* src, int rows, int cols, int from, int to, double* out);
-void VB_M_ExtractMatToMatDblSPV(struct SAFEARRAY** src, int cols, int from, int to, double* out);
+void VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to, double* out);
 void VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, int from, int to, wchar_t** out);
-void VB_M_ExtractMatToMatStrSPV(struct SAFEARRAY** src, int cols, int from, int to, wchar_t** out);
+void VB_M_ExtractMatToMatStrSPV(SAFEARRAY** src, int cols, int from, int to, wchar_t** out);
 void VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, int to, double* out);
-void Cpp_M_ExtractMatNeverySKSPV(struct SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip, int start,
-                                 struct SAFEARRAY** dst, double* positions);
+void Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip, int start,
+                                 SAFEARRAY** dst, double* positions);
 
 /* ---- elementary/packing ---- */
 void Cpp_MatToVect(double* a, int rows, int cols, double* v);
@@ -397,13 +401,13 @@ int VB_SortQStr(wchar_t** data, int nRows, int nCols, int first, int last, doubl
                 int nCompanionCols, short descending, short writeKeys);
 int VB_SortQByColDbl(double* data, int nRows, int nCols, int first, int last, double* key, double* companion,
                      int nCompanionRows, short descending, short writeKeys);
-int VB_SortQDblSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key, double* companion,
+int VB_SortQDblSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key, double* companion,
                    int nCompanionCols, short descending, short writeKeys);
-int VB_SortQStrSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key, double* companion,
+int VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key, double* companion,
                    int nCompanionCols, short descending, short writeKeys);
 int VB_SortDataBy01(double* data, int n, int nCols, double* key);
 int VB_SortDataBy01Bool(short* data, int n, int nCols, double* key);
-int VB_SortDataBy01SPV(struct SAFEARRAY** data, int n, int nCols, double* key);
+int VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key);
 int VB_SortDataBy01Str(wchar_t** data, int n, int nCols, double* key);
 
 /* ---- missing/missing_counts ---- */
@@ -418,8 +422,8 @@ void VB_M_NbMissingStr(wchar_t** a, int nRows, int nCols, int* counts);
 int VB_M_NbMissing2(double* a, int nRows, int nCols);
 int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols);
 void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);
-int Cpp_M_NbMissingSPV(struct SAFEARRAY** a, int nRows, int nCols);
-int VB_M_NbMissingSPV_T(struct SAFEARRAY** a, int n, int unused);
+int Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols);
+int VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused);
 
 /* ---- missing/missing_masks ---- */
 void VB_SummarizeMissing(int n, int* total, short* out, short* a, short* b, short* c);
@@ -429,15 +433,15 @@ void VB_M_AllMissingRowsStr(wchar_t** x, int nRows, int nCols, short* filter, sh
 void VB_V_GetMissingDbl(double* x, int n, short* a, short* out);
 void VB_V_GetMissingStr(wchar_t** x, int n, short* a, short* out);
 void Cpp_M_GetMissingDbl(double* a, int nRows, int nCols, short* filter, short* out);
-void Cpp_M_GetMissingDblSPV(struct SAFEARRAY** a, int nRows, int nCols, short* filter, short* out);
+void Cpp_M_GetMissingDblSPV(SAFEARRAY** a, int nRows, int nCols, short* filter, short* out);
 void Cpp_M_IdentifyMissingInMat(double* a, int nRows, int nCols, int* out);
-void Cpp_M_IdentifyMissingInMatSPV(struct SAFEARRAY** a, int nRows, int nCols, int* out);
+void Cpp_M_IdentifyMissingInMatSPV(SAFEARRAY** a, int nRows, int nCols, int* out);
 short Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags(double* a, int n);
-short Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(struct SAFEARRAY** a, int n);
+short Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(SAFEARRAY** a, int n);
 
 /* ---- missing/replacement ---- */
 void VB_M_ReplaceMissingByVal(double* a, int nRows, int nCols, double value);
-void VB_M_ReplaceMissingByValSPV(struct SAFEARRAY** a, int nRows, int nCols, double value);
+void VB_M_ReplaceMissingByValSPV(SAFEARRAY** a, int nRows, int nCols, double value);
 void VB_M_ReplaceMissingByStr(wchar_t** a, int nRows, int nCols, const wchar_t* value);
 void Cpp_M_ReplaceByMissing(double* a, int nRows, int nCols, int* mask, int nMaskCols, short wholeRow);
 void VB_M_SetWeightsToZeroForMissing(double* data, int nRows, int nCols, double* weights, int nWeightCols);
@@ -461,7 +465,7 @@ int VB_M_ProductABMissing(double* a, int nRows, int nInner, double* b, int nCols
 void VB_EstimateRowsWithMissingMean(double* X, int n, int nCols, short* mask, double* weights);
 void VB_EstimateRowsWithMissingMeanPred(double* statX, int nStat, double* X, int nRows, int nCols, short* mask,
                                         double* weights);
-void VB_EstimateRowsWithMissingMeanSPV(struct SAFEARRAY** X, int n, int nCols, short* mask, double* weights);
+void VB_EstimateRowsWithMissingMeanSPV(SAFEARRAY** X, int n, int nCols, short* mask, double* weights);
 
 /* ---- missing/mode_imputation ---- */
 void VB_EstimateRowsWithMissingMode(wchar_t** S, int n, int nCols, short* mask, double* weights);
@@ -476,10 +480,10 @@ void VB_EstimateRowsWithMissingNN(double* X, int n, int nColsX, short* mask, dou
                                   int nColsS, double* weights);
 void VB_EstimateRowsWithMissingNNStr(wchar_t** P, int n, int nColsP, short* mask, double* Y, int nColsY, wchar_t** S,
                                      int nColsS, double* weights);
-void VB_EstimateRowsWithMissingNNSPV(struct SAFEARRAY** X, int n, int nColsX, short* mask, double* Y, int nColsY,
-                                     wchar_t** S, int nColsS, double* weights);
-void VB_EstimateRowsWithMissingNNSPV2(struct SAFEARRAY** X, int n, int nColsX, short* mask, struct SAFEARRAY** Y,
-                                      int nColsY, wchar_t** S, int nColsS, double* weights);
+void VB_EstimateRowsWithMissingNNSPV(SAFEARRAY** X, int n, int nColsX, short* mask, double* Y, int nColsY, wchar_t** S,
+                                     int nColsS, double* weights);
+void VB_EstimateRowsWithMissingNNSPV2(SAFEARRAY** X, int n, int nColsX, short* mask, SAFEARRAY** Y, int nColsY,
+                                      wchar_t** S, int nColsS, double* weights);
 void VB_EstimateRowsWithMissingNNPred(double* statX, int nStat, double* X, int nRows, int nColsX, short* mask,
                                       double* statY, double* Y, int nColsY, wchar_t** statS, wchar_t** S, int nColsS,
                                       double* weights);
@@ -523,7 +527,7 @@ void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, w
                             int firstCode, double* out);
 void VB_M_Binarize(double* table, int nRows, int nCols, double* out);
 void VB_M_Binarize2(double* table, int nRows, int nCols);
-void VB_M_Binarize2SPV(struct SAFEARRAY** table, int nRows, int nCols);
+void VB_M_Binarize2SPV(SAFEARRAY** table, int nRows, int nCols);
 void Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int ignored, double* out);
 
 /* ---- qualitative/indicators ---- */
@@ -531,7 +535,7 @@ short VB_V_Is01(double* x, int n);
 short VB_V_IsWeights(double* x, int n);
 short VB_V_IsCWeights(double* x, int n);
 short VB_V_IsIndicator(double* x, int n);
-short VB_V_IsIndicatorSPV(struct SAFEARRAY** x, int nRows, int nCols);
+short VB_V_IsIndicatorSPV(SAFEARRAY** x, int nRows, int nCols);
 
 /* ---- qualitative/group_by ---- */
 void VB_M_GroupBy(double* data, int nRows, int nCols, int* colTypes, int keyCol, int aggregate, int* nGroups,
@@ -566,13 +570,13 @@ int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, short* mask, do
 /* ---- descriptive/cross_correlation ---- */
 int VB_M_CorrMatMat(double* X, int n, int p, double* Y, int q, double* C, short* mask, double* w, short corr,
                     short square, short sample, short freqWeights);
-int VB_M_CorrMatMatSPV(struct SAFEARRAY** X, int n, int p, double* Y, int q, double* C, short* mask, double* w,
-                       short corr, short square, short sample, short freqWeights);
+int VB_M_CorrMatMatSPV(SAFEARRAY** X, int n, int p, double* Y, int q, double* C, short* mask, double* w, short corr,
+                       short square, short sample, short freqWeights);
 double VB_CorrelPearson(double* x, double* y, int n, short* mask, double* w, short sample, short freqWeights);
 
 /* ---- descriptive/correlation_of_covariance ---- */
 int VB_M_CorrMatFromCovMat(double* S, int p, double* R);
-int Cpp_M_CorrMatFromCovMatSPV2_T(struct SAFEARRAY** C, int p);
+int Cpp_M_CorrMatFromCovMatSPV2_T(SAFEARRAY** C, int p);
 
 /* ---- descriptive/triangular_fit ---- */
 void TriangularQFindAB(double x1, double m, double x2, double prob1, double prob2, double* a, double* b);
@@ -641,14 +645,14 @@ void Cpp_V_ZScores(double* v, int n, int kind, double* mean, double* stdev, doub
 void VB_M_Center(double* X, int n, int p, double* Z);
 void VB_M_CenterW(double* X, int n, int p, double* w, double* Z);
 void VB_M_Center2(double* X, int n, int p);
-void VB_M_Center2SPV(struct SAFEARRAY** X, int n, int p);
+void VB_M_Center2SPV(SAFEARRAY** X, int n, int p);
 void VB_M_CenterW2(double* X, int n, int p, double* w);
 void VB_M_Reduce(double* X, int n, int p, double* Z, short sample, short freqWeights);
 void VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample, short freqWeights);
 void VB_M_Reduce2(double* X, int n, int p, short sample);
 void VB_M_ReduceW2(double* X, int n, int p, double* w, short sample, short freqWeights);
 void VB_M_Standardize2(double* X, int n, int p, short sample);
-void VB_M_Standardize2SPV(struct SAFEARRAY** X, int n, int p, short sample);
+void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample);
 void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, short sample, short freqWeights);
 void VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample, short freqWeights);
 void VB_M_StandardizeW3(double* X, int n, int p, double* w, double* mean, double* stdev, short sample,
@@ -708,30 +712,30 @@ wchar_t* Increase1Col(const void* letters);
 /* ---- randomisation/sampling_with_repeats ---- */
 void VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed, short seedFlag,
                                   int* seedOut);
-void VB_M_SamplingWithReplacementSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z, double* ids,
-                                     int* seed, short seedFlag, int* seedOut);
+void VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
+                                     short seedFlag, int* seedOut);
 void VB_M_SampleUserDefined(wchar_t** S, int N, int p, wchar_t** Z, double* freq, double* ids);
-void VB_M_SampleUserDefinedSPV(struct SAFEARRAY** S, int N, int p, struct SAFEARRAY** Z, double* freq, double* ids);
+void VB_M_SampleUserDefinedSPV(SAFEARRAY** S, int N, int p, SAFEARRAY** Z, double* freq, double* ids);
 
 /* ---- randomisation/interval_sampling ---- */
 void VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
                                     short seedFlag, int* seedOut);
-void VB_M_SamplingSystematicRdStartSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z, double* ids,
-                                       int* seed, short seedFlag, int* seedOut);
+void VB_M_SamplingSystematicRdStartSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
+                                       short seedFlag, int* seedOut);
 void VB_M_SamplingSystematicCentered(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids);
-void VB_M_SamplingSystematicCenteredSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z, double* ids);
+void VB_M_SamplingSystematicCenteredSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids);
 void VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
                                    short seedFlag, int* seedOut);
-void VB_M_SamplingRandomStratifiedSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z, double* ids,
-                                      int* seed, short seedFlag, int* seedOut);
+void VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
+                                      short seedFlag, int* seedOut);
 
 /* ---- randomisation/stratified_sampling ---- */
 void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar_t** Z, double* rowIds, double* outIds,
                                          double* strata, double* quota, double* sizes, int nStrata, int* seed,
                                          short seedFlag, int* seedOut);
-void VB_M_SamplingRandomStratifiedByStrSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z,
-                                           double* rowIds, double* outIds, double* strata, double* quota, double* sizes,
-                                           int nStrata, int* seed, short seedFlag, int* seedOut);
+void VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* rowIds,
+                                           double* outIds, double* strata, double* quota, double* sizes, int nStrata,
+                                           int* seed, short seedFlag, int* seedOut);
 
 /* ---- decompositions/eigen ---- */
 int VB_M_Eigen(double* a, double* values, double* vectors, int n, short sort);
@@ -789,8 +793,8 @@ void VB_M_ProductAinvBTrA(double* a, int rows, int cols, double* b, double* out)
 
 /* ---- decompositions/nearest_correlation ---- */
 int Cpp_M_CorrMatFromSymMat(double* a, int n);
-int Cpp_M_CorrMatFromSymMatSPV(struct SAFEARRAY** a, int n);
-int Cpp_M_CorrMatFromSymMatSPV_T(struct SAFEARRAY** a, int n);
+int Cpp_M_CorrMatFromSymMatSPV(SAFEARRAY** a, int n);
+int Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n);
 double Cpp_M_RowSumNorm(double* a, int rows, int cols);
 
 /* ---- decompositions/correlation_order ---- */
@@ -798,8 +802,8 @@ int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double
 
 /* ---- decompositions/singular_values ---- */
 int VB_M_SVDecomp(double* x, int n, int p, double* s, double* u, int ldu, double* v, int ldv, int job, int* info);
-int VB_M_SVDecompSPV(struct SAFEARRAY** x, int n, int p, double* s, struct SAFEARRAY** u, int ldu, struct SAFEARRAY** v,
-                     int ldv, int job, int* info);
+int VB_M_SVDecompSPV(SAFEARRAY** x, int n, int p, double* s, SAFEARRAY** u, int ldu, SAFEARRAY** v, int ldv, int job,
+                     int* info);
 int VB_M_Rank(double* a, int n, int p);
 
 /* ---- decompositions/level1_routines ---- */
@@ -808,8 +812,8 @@ void drotg(double* a, double* b, double* c, double* s);
 /* ---- fitting/biplots ---- */
 void VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m, int k, double* eigen,
                         double factor, double alpha, double* obs, double* var);
-void VB_BiplotTransDataSPV(struct SAFEARRAY** rows, double* sup, struct SAFEARRAY** cols, int nA, int nB, int m,
-                           int storedAxes, int k, double* eigen, double factor, double alpha, double* obs, double* var);
+void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m, int storedAxes,
+                           int k, double* eigen, double factor, double alpha, double* obs, double* var);
 void ComputeCosines(double* a, int n, int k, double* out);
 void Cpp_M_BoldCosines(int* best, int n, int* flags, int cols);
 void Cpp_M_GetMaxDistToOrigin(double* a, int n, int k, double* maxDistance, int* row);

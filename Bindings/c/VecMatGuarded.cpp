@@ -62,12 +62,12 @@ int vecmat_guarded_dprint(double value, const char* label)
 
 // ---- frame/super_matrices
 
-int vecmat_guarded_MySafeArrayAccessData(struct SAFEARRAY* sa, void** data, int* returned)
+int vecmat_guarded_MySafeArrayAccessData(SAFEARRAY* sa, void** data, int* returned)
 {
     return guarded("MySafeArrayAccessData", returned, [&] { return MySafeArrayAccessData(sa, data); });
 }
 
-int vecmat_guarded_ExtractBSTR(struct SAFEARRAY** sa, void** returned)
+int vecmat_guarded_ExtractBSTR(SAFEARRAY** sa, void** returned)
 {
     return guarded("ExtractBSTR", returned, [&] { return ExtractBSTR(sa); });
 }
@@ -79,13 +79,12 @@ int vecmat_guarded_ProjVecToMat(double* src, int rows, int cols, int col, double
 
 // ---- elementary/column_extremes
 
-int vecmat_guarded_VB_M_MinMaxSPV(struct SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask,
-                                  short mode)
+int vecmat_guarded_VB_M_MinMaxSPV(SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask, short mode)
 {
     return guarded("VB_M_MinMaxSPV", [&] { VB_M_MinMaxSPV(a, rows, cols, min, max, mask, mode); });
 }
 
-int vecmat_guarded_VB_M_MinMaxSPV_T(struct SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask,
+int vecmat_guarded_VB_M_MinMaxSPV_T(SAFEARRAY** a, int rows, int cols, double* min, double* max, short* mask,
                                     short mode)
 {
     return guarded("VB_M_MinMaxSPV_T", [&] { VB_M_MinMaxSPV_T(a, rows, cols, min, max, mask, mode); });
@@ -143,7 +142,7 @@ int vecmat_guarded_VB_M_IsColConstant(double* a, int rows, int cols, int* return
     return guarded("VB_M_IsColConstant", returned, [&] { return VB_M_IsColConstant(a, rows, cols); });
 }
 
-int vecmat_guarded_VB_M_IsColConstantSPV(struct SAFEARRAY** a, int rows, int cols, int* returned)
+int vecmat_guarded_VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols, int* returned)
 {
     return guarded("VB_M_IsColConstantSPV", returned, [&] { return VB_M_IsColConstantSPV(a, rows, cols); });
 }
@@ -173,7 +172,7 @@ int vecmat_guarded_VB_M_IsIn01(double* a, int rows, int cols, short* returned)
     return guarded("VB_M_IsIn01", returned, [&] { return VB_M_IsIn01(a, rows, cols); });
 }
 
-int vecmat_guarded_VB_M_IsInIntervalSPV(struct SAFEARRAY** a, int rows, int cols, double lo, double hi, short open,
+int vecmat_guarded_VB_M_IsInIntervalSPV(SAFEARRAY** a, int rows, int cols, double lo, double hi, short open,
                                         short skipMissing, short* returned)
 {
     return guarded("VB_M_IsInIntervalSPV", returned, [&] { return VB_M_IsInIntervalSPV(a, rows, cols, lo, hi, open, skipMissing); });
@@ -209,7 +208,7 @@ int vecmat_guarded_VB_M_IsSymmetric(double* a, int n, short* returned)
     return guarded("VB_M_IsSymmetric", returned, [&] { return VB_M_IsSymmetric(a, n); });
 }
 
-int vecmat_guarded_VB_M_IsSymmetricSPV(struct SAFEARRAY** a, int n, short* returned)
+int vecmat_guarded_VB_M_IsSymmetricSPV(SAFEARRAY** a, int n, short* returned)
 {
     return guarded("VB_M_IsSymmetricSPV", returned, [&] { return VB_M_IsSymmetricSPV(a, n); });
 }
@@ -219,7 +218,7 @@ int vecmat_guarded_VB_M_Symmetrize(double* a, int n, int mode)
     return guarded("VB_M_Symmetrize", [&] { VB_M_Symmetrize(a, n, mode); });
 }
 
-int vecmat_guarded_VB_M_SymmetrizeSPV(struct SAFEARRAY** a, int n, int mode)
+int vecmat_guarded_VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode)
 {
     return guarded("VB_M_SymmetrizeSPV", [&] { VB_M_SymmetrizeSPV(a, n, mode); });
 }
@@ -229,7 +228,7 @@ int vecmat_guarded_VB_M_IsTriangular(double* a, int n, short fill, int* returned
     return guarded("VB_M_IsTriangular", returned, [&] { return VB_M_IsTriangular(a, n, fill); });
 }
 
-int vecmat_guarded_VB_M_IsTriangularSPV(struct SAFEARRAY** a, int n, short fill, int* returned)
+int vecmat_guarded_VB_M_IsTriangularSPV(SAFEARRAY** a, int n, short fill, int* returned)
 {
     return guarded("VB_M_IsTriangularSPV", returned, [&] { return VB_M_IsTriangularSPV(a, n, fill); });
 }
@@ -239,7 +238,7 @@ int vecmat_guarded_VB_M_CheckIfSimOrDissim(double* a, int n, int kind, int* retu
     return guarded("VB_M_CheckIfSimOrDissim", returned, [&] { return VB_M_CheckIfSimOrDissim(a, n, kind); });
 }
 
-int vecmat_guarded_VB_M_CheckIfSimOrDissimSPV(struct SAFEARRAY** a, int rows, int cols, int kind, int* returned)
+int vecmat_guarded_VB_M_CheckIfSimOrDissimSPV(SAFEARRAY** a, int rows, int cols, int kind, int* returned)
 {
     return guarded("VB_M_CheckIfSimOrDissimSPV", returned, [&] { return VB_M_CheckIfSimOrDissimSPV(a, rows, cols, kind); });
 }
@@ -764,7 +763,7 @@ int vecmat_guarded_VB_M_Transpose2Str(wchar_t** a, int r, int c)
     return guarded("VB_M_Transpose2Str", [&] { VB_M_Transpose2Str(a, r, c); });
 }
 
-int vecmat_guarded_VB_M_TransposeSPV(struct SAFEARRAY** a, int r, int c, struct SAFEARRAY** out)
+int vecmat_guarded_VB_M_TransposeSPV(SAFEARRAY** a, int r, int c, SAFEARRAY** out)
 {
     return guarded("VB_M_TransposeSPV", [&] { VB_M_TransposeSPV(a, r, c, out); });
 }
@@ -806,12 +805,12 @@ int vecmat_guarded_VB_HMergeTablesDbl2(double* a, int r1, int c1, double* b, int
     return guarded("VB_HMergeTablesDbl2", [&] { VB_HMergeTablesDbl2(a, r1, c1, b, r2, c2); });
 }
 
-int vecmat_guarded_VB_HMergeTablesDbl2SPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2)
+int vecmat_guarded_VB_HMergeTablesDbl2SPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2)
 {
     return guarded("VB_HMergeTablesDbl2SPV", [&] { VB_HMergeTablesDbl2SPV(a, r1, c1, b, r2, c2); });
 }
 
-int vecmat_guarded_VB_HMergeTablesDbl2SPV2(struct SAFEARRAY** a, int r1, int c1, struct SAFEARRAY** b, int r2, int c2)
+int vecmat_guarded_VB_HMergeTablesDbl2SPV2(SAFEARRAY** a, int r1, int c1, SAFEARRAY** b, int r2, int c2)
 {
     return guarded("VB_HMergeTablesDbl2SPV2", [&] { VB_HMergeTablesDbl2SPV2(a, r1, c1, b, r2, c2); });
 }
@@ -873,7 +872,7 @@ int vecmat_guarded_VB_VMergeTablesDbl(double* a, int r1, int c1, double* b, int 
     return guarded("VB_VMergeTablesDbl", [&] { VB_VMergeTablesDbl(a, r1, c1, b, r2, c2, out); });
 }
 
-int vecmat_guarded_Cpp_VMergeTablesDblSPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2, double* out)
+int vecmat_guarded_Cpp_VMergeTablesDblSPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2, double* out)
 {
     return guarded("Cpp_VMergeTablesDblSPV", [&] { Cpp_VMergeTablesDblSPV(a, r1, c1, b, r2, c2, out); });
 }
@@ -913,7 +912,7 @@ int vecmat_guarded_VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r
     return guarded("VB_M_CopyBlock", [&] { VB_M_CopyBlock(src, rows, cols, r1, r2, c1, c2, dst); });
 }
 
-int vecmat_guarded_VB_M_CopyBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst)
+int vecmat_guarded_VB_M_CopyBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst)
 {
     return guarded("VB_M_CopyBlockSPV", [&] { VB_M_CopyBlockSPV(src, r1, r2, c1, c2, dst); });
 }
@@ -923,37 +922,37 @@ int vecmat_guarded_VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, 
     return guarded("VB_M_CopyBlockStr", [&] { VB_M_CopyBlockStr(src, rows, cols, r1, r2, c1, c2, dst); });
 }
 
-int vecmat_guarded_Cpp_M_CopyBlockSPV2(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, struct SAFEARRAY** dst)
+int vecmat_guarded_Cpp_M_CopyBlockSPV2(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst)
 {
     return guarded("Cpp_M_CopyBlockSPV2", [&] { Cpp_M_CopyBlockSPV2(src, r1, r2, c1, c2, dst); });
 }
 
-int vecmat_guarded_Cpp_M_CopyBlockSPV2_T(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, struct SAFEARRAY** dst)
+int vecmat_guarded_Cpp_M_CopyBlockSPV2_T(SAFEARRAY** src, int r1, int r2, int c1, int c2, SAFEARRAY** dst)
 {
     return guarded("Cpp_M_CopyBlockSPV2_T", [&] { Cpp_M_CopyBlockSPV2_T(src, r1, r2, c1, c2, dst); });
 }
 
-int vecmat_guarded_Cpp_M_DuplicateDblSPV(struct SAFEARRAY** src, int rows, int cols, double* dst)
+int vecmat_guarded_Cpp_M_DuplicateDblSPV(SAFEARRAY** src, int rows, int cols, double* dst)
 {
     return guarded("Cpp_M_DuplicateDblSPV", [&] { Cpp_M_DuplicateDblSPV(src, rows, cols, dst); });
 }
 
-int vecmat_guarded_Cpp_M_DuplicateDblSPV2(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst)
+int vecmat_guarded_Cpp_M_DuplicateDblSPV2(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
 {
     return guarded("Cpp_M_DuplicateDblSPV2", [&] { Cpp_M_DuplicateDblSPV2(src, rows, cols, dst); });
 }
 
-int vecmat_guarded_Cpp_M_DuplicateDblSPV2_T(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst)
+int vecmat_guarded_Cpp_M_DuplicateDblSPV2_T(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
 {
     return guarded("Cpp_M_DuplicateDblSPV2_T", [&] { Cpp_M_DuplicateDblSPV2_T(src, rows, cols, dst); });
 }
 
-int vecmat_guarded_Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, struct SAFEARRAY** dst)
+int vecmat_guarded_Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, SAFEARRAY** dst)
 {
     return guarded("Cpp_M_DuplicateDblSPV3", [&] { Cpp_M_DuplicateDblSPV3(src, rows, cols, dst); });
 }
 
-int vecmat_guarded_VB_M_DuplicateStrSPV(struct SAFEARRAY** src, int rows, int cols, struct SAFEARRAY** dst)
+int vecmat_guarded_VB_M_DuplicateStrSPV(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
 {
     return guarded("VB_M_DuplicateStrSPV", [&] { VB_M_DuplicateStrSPV(src, rows, cols, dst); });
 }
@@ -964,8 +963,8 @@ int vecmat_guarded_Cpp_M_CopyPasteBlock(double* src, int rows, int cols, int r1,
     return guarded("Cpp_M_CopyPasteBlock", [&] { Cpp_M_CopyPasteBlock(src, rows, cols, r1, r2, c1, c2, dst, dstRows, dstCols, row, col); });
 }
 
-int vecmat_guarded_Cpp_M_CopyPasteBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst,
-                                           int dstRows, int dstCols, int row, int col)
+int vecmat_guarded_Cpp_M_CopyPasteBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst, int dstRows,
+                                           int dstCols, int row, int col)
 {
     return guarded("Cpp_M_CopyPasteBlockSPV", [&] { Cpp_M_CopyPasteBlockSPV(src, r1, r2, c1, c2, dst, dstRows, dstCols, row, col); });
 }
@@ -1000,7 +999,7 @@ int vecmat_guarded_VB_M_ExtractMatToMatDbl(double* src, int rows, int cols, int 
     return guarded("VB_M_ExtractMatToMatDbl", [&] { VB_M_ExtractMatToMatDbl(src, rows, cols, from, to, out); });
 }
 
-int vecmat_guarded_VB_M_ExtractMatToMatDblSPV(struct SAFEARRAY** src, int cols, int from, int to, double* out)
+int vecmat_guarded_VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to, double* out)
 {
     return guarded("VB_M_ExtractMatToMatDblSPV", [&] { VB_M_ExtractMatToMatDblSPV(src, cols, from, to, out); });
 }
@@ -1010,7 +1009,7 @@ int vecmat_guarded_VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, in
     return guarded("VB_M_ExtractMatToMatStr", [&] { VB_M_ExtractMatToMatStr(src, rows, cols, from, to, out); });
 }
 
-int vecmat_guarded_VB_M_ExtractMatToMatStrSPV(struct SAFEARRAY** src, int cols, int from, int to, wchar_t** out)
+int vecmat_guarded_VB_M_ExtractMatToMatStrSPV(SAFEARRAY** src, int cols, int from, int to, wchar_t** out)
 {
     return guarded("VB_M_ExtractMatToMatStrSPV", [&] { VB_M_ExtractMatToMatStrSPV(src, cols, from, to, out); });
 }
@@ -1020,8 +1019,8 @@ int vecmat_guarded_VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from,
     return guarded("VB_M_ExtractMatToMatByColDbl", [&] { VB_M_ExtractMatToMatByColDbl(src, rows, from, to, out); });
 }
 
-int vecmat_guarded_Cpp_M_ExtractMatNeverySKSPV(struct SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip,
-                                               int start, struct SAFEARRAY** dst, double* positions)
+int vecmat_guarded_Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip,
+                                               int start, SAFEARRAY** dst, double* positions)
 {
     return guarded("Cpp_M_ExtractMatNeverySKSPV", [&] { Cpp_M_ExtractMatNeverySKSPV(src, n, cols, nOut, keep, skip, start, dst, positions); });
 }
@@ -1472,14 +1471,14 @@ int vecmat_guarded_VB_SortQByColDbl(double* data, int nRows, int nCols, int firs
     return guarded("VB_SortQByColDbl", returned, [&] { return VB_SortQByColDbl(data, nRows, nCols, first, last, key, companion, nCompanionRows, descending, writeKeys); });
 }
 
-int vecmat_guarded_VB_SortQDblSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key,
+int vecmat_guarded_VB_SortQDblSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key,
                                   double* companion, int nCompanionCols, short descending, short writeKeys,
                                   int* returned)
 {
     return guarded("VB_SortQDblSPV", returned, [&] { return VB_SortQDblSPV(data, nRows, nCols, first, last, key, companion, nCompanionCols, descending, writeKeys); });
 }
 
-int vecmat_guarded_VB_SortQStrSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key,
+int vecmat_guarded_VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key,
                                   double* companion, int nCompanionCols, short descending, short writeKeys,
                                   int* returned)
 {
@@ -1496,7 +1495,7 @@ int vecmat_guarded_VB_SortDataBy01Bool(short* data, int n, int nCols, double* ke
     return guarded("VB_SortDataBy01Bool", returned, [&] { return VB_SortDataBy01Bool(data, n, nCols, key); });
 }
 
-int vecmat_guarded_VB_SortDataBy01SPV(struct SAFEARRAY** data, int n, int nCols, double* key, int* returned)
+int vecmat_guarded_VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key, int* returned)
 {
     return guarded("VB_SortDataBy01SPV", returned, [&] { return VB_SortDataBy01SPV(data, n, nCols, key); });
 }
@@ -1563,12 +1562,12 @@ int vecmat_guarded_VB_M_NbNonMissing(double* a, int nRows, int nCols, int* count
     return guarded("VB_M_NbNonMissing", [&] { VB_M_NbNonMissing(a, nRows, nCols, counts); });
 }
 
-int vecmat_guarded_Cpp_M_NbMissingSPV(struct SAFEARRAY** a, int nRows, int nCols, int* returned)
+int vecmat_guarded_Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols, int* returned)
 {
     return guarded("Cpp_M_NbMissingSPV", returned, [&] { return Cpp_M_NbMissingSPV(a, nRows, nCols); });
 }
 
-int vecmat_guarded_VB_M_NbMissingSPV_T(struct SAFEARRAY** a, int n, int unused, int* returned)
+int vecmat_guarded_VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused, int* returned)
 {
     return guarded("VB_M_NbMissingSPV_T", returned, [&] { return VB_M_NbMissingSPV_T(a, n, unused); });
 }
@@ -1610,7 +1609,7 @@ int vecmat_guarded_Cpp_M_GetMissingDbl(double* a, int nRows, int nCols, short* f
     return guarded("Cpp_M_GetMissingDbl", [&] { Cpp_M_GetMissingDbl(a, nRows, nCols, filter, out); });
 }
 
-int vecmat_guarded_Cpp_M_GetMissingDblSPV(struct SAFEARRAY** a, int nRows, int nCols, short* filter, short* out)
+int vecmat_guarded_Cpp_M_GetMissingDblSPV(SAFEARRAY** a, int nRows, int nCols, short* filter, short* out)
 {
     return guarded("Cpp_M_GetMissingDblSPV", [&] { Cpp_M_GetMissingDblSPV(a, nRows, nCols, filter, out); });
 }
@@ -1620,7 +1619,7 @@ int vecmat_guarded_Cpp_M_IdentifyMissingInMat(double* a, int nRows, int nCols, i
     return guarded("Cpp_M_IdentifyMissingInMat", [&] { Cpp_M_IdentifyMissingInMat(a, nRows, nCols, out); });
 }
 
-int vecmat_guarded_Cpp_M_IdentifyMissingInMatSPV(struct SAFEARRAY** a, int nRows, int nCols, int* out)
+int vecmat_guarded_Cpp_M_IdentifyMissingInMatSPV(SAFEARRAY** a, int nRows, int nCols, int* out)
 {
     return guarded("Cpp_M_IdentifyMissingInMatSPV", [&] { Cpp_M_IdentifyMissingInMatSPV(a, nRows, nCols, out); });
 }
@@ -1630,7 +1629,7 @@ int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags(double* a, int n, s
     return guarded("Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags", returned, [&] { return Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags(a, n); });
 }
 
-int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(struct SAFEARRAY** a, int n, short* returned)
+int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(SAFEARRAY** a, int n, short* returned)
 {
     return guarded("Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T", returned, [&] { return Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(a, n); });
 }
@@ -1642,7 +1641,7 @@ int vecmat_guarded_VB_M_ReplaceMissingByVal(double* a, int nRows, int nCols, dou
     return guarded("VB_M_ReplaceMissingByVal", [&] { VB_M_ReplaceMissingByVal(a, nRows, nCols, value); });
 }
 
-int vecmat_guarded_VB_M_ReplaceMissingByValSPV(struct SAFEARRAY** a, int nRows, int nCols, double value)
+int vecmat_guarded_VB_M_ReplaceMissingByValSPV(SAFEARRAY** a, int nRows, int nCols, double value)
 {
     return guarded("VB_M_ReplaceMissingByValSPV", [&] { VB_M_ReplaceMissingByValSPV(a, nRows, nCols, value); });
 }
@@ -1729,8 +1728,7 @@ int vecmat_guarded_VB_EstimateRowsWithMissingMeanPred(double* statX, int nStat, 
     return guarded("VB_EstimateRowsWithMissingMeanPred", [&] { VB_EstimateRowsWithMissingMeanPred(statX, nStat, X, nRows, nCols, mask, weights); });
 }
 
-int vecmat_guarded_VB_EstimateRowsWithMissingMeanSPV(struct SAFEARRAY** X, int n, int nCols, short* mask,
-                                                     double* weights)
+int vecmat_guarded_VB_EstimateRowsWithMissingMeanSPV(SAFEARRAY** X, int n, int nCols, short* mask, double* weights)
 {
     return guarded("VB_EstimateRowsWithMissingMeanSPV", [&] { VB_EstimateRowsWithMissingMeanSPV(X, n, nCols, mask, weights); });
 }
@@ -1769,15 +1767,14 @@ int vecmat_guarded_VB_EstimateRowsWithMissingNNStr(wchar_t** P, int n, int nCols
     return guarded("VB_EstimateRowsWithMissingNNStr", [&] { VB_EstimateRowsWithMissingNNStr(P, n, nColsP, mask, Y, nColsY, S, nColsS, weights); });
 }
 
-int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV(struct SAFEARRAY** X, int n, int nColsX, short* mask, double* Y,
-                                                   int nColsY, wchar_t** S, int nColsS, double* weights)
+int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV(SAFEARRAY** X, int n, int nColsX, short* mask, double* Y, int nColsY,
+                                                   wchar_t** S, int nColsS, double* weights)
 {
     return guarded("VB_EstimateRowsWithMissingNNSPV", [&] { VB_EstimateRowsWithMissingNNSPV(X, n, nColsX, mask, Y, nColsY, S, nColsS, weights); });
 }
 
-int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV2(struct SAFEARRAY** X, int n, int nColsX, short* mask,
-                                                    struct SAFEARRAY** Y, int nColsY, wchar_t** S, int nColsS,
-                                                    double* weights)
+int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV2(SAFEARRAY** X, int n, int nColsX, short* mask, SAFEARRAY** Y,
+                                                    int nColsY, wchar_t** S, int nColsS, double* weights)
 {
     return guarded("VB_EstimateRowsWithMissingNNSPV2", [&] { VB_EstimateRowsWithMissingNNSPV2(X, n, nColsX, mask, Y, nColsY, S, nColsS, weights); });
 }
@@ -1910,7 +1907,7 @@ int vecmat_guarded_VB_M_Binarize2(double* table, int nRows, int nCols)
     return guarded("VB_M_Binarize2", [&] { VB_M_Binarize2(table, nRows, nCols); });
 }
 
-int vecmat_guarded_VB_M_Binarize2SPV(struct SAFEARRAY** table, int nRows, int nCols)
+int vecmat_guarded_VB_M_Binarize2SPV(SAFEARRAY** table, int nRows, int nCols)
 {
     return guarded("VB_M_Binarize2SPV", [&] { VB_M_Binarize2SPV(table, nRows, nCols); });
 }
@@ -1942,7 +1939,7 @@ int vecmat_guarded_VB_V_IsIndicator(double* x, int n, short* returned)
     return guarded("VB_V_IsIndicator", returned, [&] { return VB_V_IsIndicator(x, n); });
 }
 
-int vecmat_guarded_VB_V_IsIndicatorSPV(struct SAFEARRAY** x, int nRows, int nCols, short* returned)
+int vecmat_guarded_VB_V_IsIndicatorSPV(SAFEARRAY** x, int nRows, int nCols, short* returned)
 {
     return guarded("VB_V_IsIndicatorSPV", returned, [&] { return VB_V_IsIndicatorSPV(x, nRows, nCols); });
 }
@@ -2037,9 +2034,8 @@ int vecmat_guarded_VB_M_CorrMatMat(double* X, int n, int p, double* Y, int q, do
     return guarded("VB_M_CorrMatMat", returned, [&] { return VB_M_CorrMatMat(X, n, p, Y, q, C, mask, w, corr, square, sample, freqWeights); });
 }
 
-int vecmat_guarded_VB_M_CorrMatMatSPV(struct SAFEARRAY** X, int n, int p, double* Y, int q, double* C, short* mask,
-                                      double* w, short corr, short square, short sample, short freqWeights,
-                                      int* returned)
+int vecmat_guarded_VB_M_CorrMatMatSPV(SAFEARRAY** X, int n, int p, double* Y, int q, double* C, short* mask, double* w,
+                                      short corr, short square, short sample, short freqWeights, int* returned)
 {
     return guarded("VB_M_CorrMatMatSPV", returned, [&] { return VB_M_CorrMatMatSPV(X, n, p, Y, q, C, mask, w, corr, square, sample, freqWeights); });
 }
@@ -2057,7 +2053,7 @@ int vecmat_guarded_VB_M_CorrMatFromCovMat(double* S, int p, double* R, int* retu
     return guarded("VB_M_CorrMatFromCovMat", returned, [&] { return VB_M_CorrMatFromCovMat(S, p, R); });
 }
 
-int vecmat_guarded_Cpp_M_CorrMatFromCovMatSPV2_T(struct SAFEARRAY** C, int p, int* returned)
+int vecmat_guarded_Cpp_M_CorrMatFromCovMatSPV2_T(SAFEARRAY** C, int p, int* returned)
 {
     return guarded("Cpp_M_CorrMatFromCovMatSPV2_T", returned, [&] { return Cpp_M_CorrMatFromCovMatSPV2_T(C, p); });
 }
@@ -2312,7 +2308,7 @@ int vecmat_guarded_VB_M_Center2(double* X, int n, int p)
     return guarded("VB_M_Center2", [&] { VB_M_Center2(X, n, p); });
 }
 
-int vecmat_guarded_VB_M_Center2SPV(struct SAFEARRAY** X, int n, int p)
+int vecmat_guarded_VB_M_Center2SPV(SAFEARRAY** X, int n, int p)
 {
     return guarded("VB_M_Center2SPV", [&] { VB_M_Center2SPV(X, n, p); });
 }
@@ -2347,7 +2343,7 @@ int vecmat_guarded_VB_M_Standardize2(double* X, int n, int p, short sample)
     return guarded("VB_M_Standardize2", [&] { VB_M_Standardize2(X, n, p, sample); });
 }
 
-int vecmat_guarded_VB_M_Standardize2SPV(struct SAFEARRAY** X, int n, int p, short sample)
+int vecmat_guarded_VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample)
 {
     return guarded("VB_M_Standardize2SPV", [&] { VB_M_Standardize2SPV(X, n, p, sample); });
 }
@@ -2561,8 +2557,8 @@ int vecmat_guarded_VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n
     return guarded("VB_M_SamplingWithReplacement", [&] { VB_M_SamplingWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
 
-int vecmat_guarded_VB_M_SamplingWithReplacementSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z,
-                                                   double* ids, int* seed, short seedFlag, int* seedOut)
+int vecmat_guarded_VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids,
+                                                   int* seed, short seedFlag, int* seedOut)
 {
     return guarded("VB_M_SamplingWithReplacementSPV", [&] { VB_M_SamplingWithReplacementSPV(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
@@ -2572,8 +2568,7 @@ int vecmat_guarded_VB_M_SampleUserDefined(wchar_t** S, int N, int p, wchar_t** Z
     return guarded("VB_M_SampleUserDefined", [&] { VB_M_SampleUserDefined(S, N, p, Z, freq, ids); });
 }
 
-int vecmat_guarded_VB_M_SampleUserDefinedSPV(struct SAFEARRAY** S, int N, int p, struct SAFEARRAY** Z, double* freq,
-                                             double* ids)
+int vecmat_guarded_VB_M_SampleUserDefinedSPV(SAFEARRAY** S, int N, int p, SAFEARRAY** Z, double* freq, double* ids)
 {
     return guarded("VB_M_SampleUserDefinedSPV", [&] { VB_M_SampleUserDefinedSPV(S, N, p, Z, freq, ids); });
 }
@@ -2586,8 +2581,8 @@ int vecmat_guarded_VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int
     return guarded("VB_M_SamplingSystematicRdStart", [&] { VB_M_SamplingSystematicRdStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
 
-int vecmat_guarded_VB_M_SamplingSystematicRdStartSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z,
-                                                     double* ids, int* seed, short seedFlag, int* seedOut)
+int vecmat_guarded_VB_M_SamplingSystematicRdStartSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids,
+                                                     int* seed, short seedFlag, int* seedOut)
 {
     return guarded("VB_M_SamplingSystematicRdStartSPV", [&] { VB_M_SamplingSystematicRdStartSPV(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
@@ -2597,8 +2592,7 @@ int vecmat_guarded_VB_M_SamplingSystematicCentered(wchar_t** S, int N, int p, in
     return guarded("VB_M_SamplingSystematicCentered", [&] { VB_M_SamplingSystematicCentered(S, N, p, n, Z, ids); });
 }
 
-int vecmat_guarded_VB_M_SamplingSystematicCenteredSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z,
-                                                      double* ids)
+int vecmat_guarded_VB_M_SamplingSystematicCenteredSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids)
 {
     return guarded("VB_M_SamplingSystematicCenteredSPV", [&] { VB_M_SamplingSystematicCenteredSPV(S, N, p, n, Z, ids); });
 }
@@ -2609,8 +2603,8 @@ int vecmat_guarded_VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int 
     return guarded("VB_M_SamplingRandomStratified", [&] { VB_M_SamplingRandomStratified(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
 
-int vecmat_guarded_VB_M_SamplingRandomStratifiedSPV(struct SAFEARRAY** S, int N, int p, int n, struct SAFEARRAY** Z,
-                                                    double* ids, int* seed, short seedFlag, int* seedOut)
+int vecmat_guarded_VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids,
+                                                    int* seed, short seedFlag, int* seedOut)
 {
     return guarded("VB_M_SamplingRandomStratifiedSPV", [&] { VB_M_SamplingRandomStratifiedSPV(S, N, p, n, Z, ids, seed, seedFlag, seedOut); });
 }
@@ -2624,10 +2618,10 @@ int vecmat_guarded_Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p
     return guarded("Cpp_M_SamplingRandomStratifiedByStr", [&] { Cpp_M_SamplingRandomStratifiedByStr(S, N, p, n, Z, rowIds, outIds, strata, quota, sizes, nStrata, seed, seedFlag, seedOut); });
 }
 
-int vecmat_guarded_VB_M_SamplingRandomStratifiedByStrSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                         struct SAFEARRAY** Z, double* rowIds, double* outIds,
-                                                         double* strata, double* quota, double* sizes, int nStrata,
-                                                         int* seed, short seedFlag, int* seedOut)
+int vecmat_guarded_VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z,
+                                                         double* rowIds, double* outIds, double* strata, double* quota,
+                                                         double* sizes, int nStrata, int* seed, short seedFlag,
+                                                         int* seedOut)
 {
     return guarded("VB_M_SamplingRandomStratifiedByStrSPV", [&] { VB_M_SamplingRandomStratifiedByStrSPV(S, N, p, n, Z, rowIds, outIds, strata, quota, sizes, nStrata, seed, seedFlag, seedOut); });
 }
@@ -2803,12 +2797,12 @@ int vecmat_guarded_Cpp_M_CorrMatFromSymMat(double* a, int n, int* returned)
     return guarded("Cpp_M_CorrMatFromSymMat", returned, [&] { return Cpp_M_CorrMatFromSymMat(a, n); });
 }
 
-int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV(struct SAFEARRAY** a, int n, int* returned)
+int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV(SAFEARRAY** a, int n, int* returned)
 {
     return guarded("Cpp_M_CorrMatFromSymMatSPV", returned, [&] { return Cpp_M_CorrMatFromSymMatSPV(a, n); });
 }
 
-int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV_T(struct SAFEARRAY** a, int n, int* returned)
+int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n, int* returned)
 {
     return guarded("Cpp_M_CorrMatFromSymMatSPV_T", returned, [&] { return Cpp_M_CorrMatFromSymMatSPV_T(a, n); });
 }
@@ -2834,8 +2828,8 @@ int vecmat_guarded_VB_M_SVDecomp(double* x, int n, int p, double* s, double* u, 
     return guarded("VB_M_SVDecomp", returned, [&] { return VB_M_SVDecomp(x, n, p, s, u, ldu, v, ldv, job, info); });
 }
 
-int vecmat_guarded_VB_M_SVDecompSPV(struct SAFEARRAY** x, int n, int p, double* s, struct SAFEARRAY** u, int ldu,
-                                    struct SAFEARRAY** v, int ldv, int job, int* info, int* returned)
+int vecmat_guarded_VB_M_SVDecompSPV(SAFEARRAY** x, int n, int p, double* s, SAFEARRAY** u, int ldu, SAFEARRAY** v,
+                                    int ldv, int job, int* info, int* returned)
 {
     return guarded("VB_M_SVDecompSPV", returned, [&] { return VB_M_SVDecompSPV(x, n, p, s, u, ldu, v, ldv, job, info); });
 }
@@ -2860,9 +2854,9 @@ int vecmat_guarded_VB_BiplotTransData(double* rows, double* sup, double* cols, i
     return guarded("VB_BiplotTransData", [&] { VB_BiplotTransData(rows, sup, cols, nA, nB, m, k, eigen, factor, alpha, obs, var); });
 }
 
-int vecmat_guarded_VB_BiplotTransDataSPV(struct SAFEARRAY** rows, double* sup, struct SAFEARRAY** cols, int nA, int nB,
-                                         int m, int storedAxes, int k, double* eigen, double factor, double alpha,
-                                         double* obs, double* var)
+int vecmat_guarded_VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m,
+                                         int storedAxes, int k, double* eigen, double factor, double alpha, double* obs,
+                                         double* var)
 {
     return guarded("VB_BiplotTransDataSPV", [&] { VB_BiplotTransDataSPV(rows, sup, cols, nA, nB, m, storedAxes, k, eigen, factor, alpha, obs, var); });
 }

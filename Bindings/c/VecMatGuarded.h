@@ -50,15 +50,15 @@ VECMAT_GUARDED_API int vecmat_guarded_Cpp_GetStatusMemory(int bytes, short* retu
 VECMAT_GUARDED_API int vecmat_guarded_dprint(double value, const char* label);
 
 /* ---- frame/super_matrices ---- */
-VECMAT_GUARDED_API int vecmat_guarded_MySafeArrayAccessData(struct SAFEARRAY* sa, void** data, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_ExtractBSTR(struct SAFEARRAY** sa, void** returned);
+VECMAT_GUARDED_API int vecmat_guarded_MySafeArrayAccessData(SAFEARRAY* sa, void** data, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_ExtractBSTR(SAFEARRAY** sa, void** returned);
 VECMAT_GUARDED_API int vecmat_guarded_ProjVecToMat(double* src, int rows, int cols, int col, double* dst);
 
 /* ---- elementary/column_extremes ---- */
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_MinMaxSPV(struct SAFEARRAY** a, int rows, int cols, double* min, double* max,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_MinMaxSPV(SAFEARRAY** a, int rows, int cols, double* min, double* max,
                                                      short* mask, short mode);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_MinMaxSPV_T(struct SAFEARRAY** a, int rows, int cols, double* min,
-                                                       double* max, short* mask, short mode);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_MinMaxSPV_T(SAFEARRAY** a, int rows, int cols, double* min, double* max,
+                                                       short* mask, short mode);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_MinAll(double* a, int rows, int cols, double* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_MinMax(double* a, int rows, int cols, double* min, double* max, short* mask,
                                                   short mode);
@@ -72,15 +72,15 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsConstantLng(int* x, int n, short mo
 VECMAT_GUARDED_API int vecmat_guarded_V_IsConstantBool(short* x, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsConstantBool(short* x, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsColConstant(double* a, int rows, int cols, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsColConstantSPV(struct SAFEARRAY** a, int rows, int cols, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsPositive(double* x, int n, short strict, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsPositive(double* a, int rows, int cols, short* mask, short strict,
                                                       short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsLong(double* a, int rows, int cols, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsDiagConstant(double* a, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsIn01(double* a, int rows, int cols, short* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsInIntervalSPV(struct SAFEARRAY** a, int rows, int cols, double lo,
-                                                           double hi, short open, short skipMissing, short* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsInIntervalSPV(SAFEARRAY** a, int rows, int cols, double lo, double hi,
+                                                           short open, short skipMissing, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsInInterval(double* x, int n, double lo, double hi, short open,
                                                         short skipMissing, short* returned);
 
@@ -91,13 +91,13 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_V_GetPositionInMatNN(int k, int n, int*
 
 /* ---- elementary/symmetry ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsSymmetric(double* a, int n, short* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsSymmetricSPV(struct SAFEARRAY** a, int n, short* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsSymmetricSPV(SAFEARRAY** a, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Symmetrize(double* a, int n, int mode);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SymmetrizeSPV(struct SAFEARRAY** a, int n, int mode);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsTriangular(double* a, int n, short fill, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsTriangularSPV(struct SAFEARRAY** a, int n, short fill, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_IsTriangularSPV(SAFEARRAY** a, int n, short fill, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CheckIfSimOrDissim(double* a, int n, int kind, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_CheckIfSimOrDissimSPV(struct SAFEARRAY** a, int rows, int cols, int kind,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_CheckIfSimOrDissimSPV(SAFEARRAY** a, int rows, int cols, int kind,
                                                                  int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_TransformSimToDissim(double* a, int n);
 
@@ -240,7 +240,7 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_TransposeStr(wchar_t** a, int r, int 
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Transpose2(double* a, int r, int c);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Transpose2Lng(int* a, int r, int c);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Transpose2Str(wchar_t** a, int r, int c);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_TransposeSPV(struct SAFEARRAY** a, int r, int c, struct SAFEARRAY** out);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_TransposeSPV(SAFEARRAY** a, int r, int c, SAFEARRAY** out);
 
 /* ---- elementary/horizontal_merges ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeVectors(double* a, int nA, double* b, int nB, double* out);
@@ -251,10 +251,9 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeVectColDbl(double* v, int n, doub
 VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2,
                                                          double* out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl2(double* a, int r1, int c1, double* b, int r2, int c2);
-VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl2SPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2,
-                                                             int c2);
-VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl2SPV2(struct SAFEARRAY** a, int r1, int c1,
-                                                              struct SAFEARRAY** b, int r2, int c2);
+VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl2SPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2);
+VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesDbl2SPV2(SAFEARRAY** a, int r1, int c1, SAFEARRAY** b, int r2,
+                                                              int c2);
 VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesLng2(int* a, int r1, int c1, int* b, int r2, int c2);
 VECMAT_GUARDED_API int vecmat_guarded_VB_HMergeTablesBool(short* a, int r1, int c1, short* b, int r2, int c2,
                                                           short* out);
@@ -271,8 +270,8 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_VMergeVectorsStr2(wchar_t** a, int nA, 
 VECMAT_GUARDED_API int vecmat_guarded_VB_VMergeVectorsBool2(short* a, int nA, short* b, int nB);
 VECMAT_GUARDED_API int vecmat_guarded_VB_VMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2,
                                                          double* out);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_VMergeTablesDblSPV(struct SAFEARRAY** a, int r1, int c1, double* b, int r2,
-                                                             int c2, double* out);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_VMergeTablesDblSPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2,
+                                                             double* out);
 
 /* ---- elementary/columns_and_rows ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol,
@@ -286,26 +285,22 @@ VECMAT_GUARDED_API int vecmat_guarded_Cpp_Extractij(double* a, int n, int i, int
 /* ---- elementary/blocks ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2,
                                                      double* dst);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_CopyBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2,
-                                                        double* dst);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_CopyBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, double* dst);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1,
                                                         int c2, wchar_t** dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyBlockSPV2(struct SAFEARRAY** src, int r1, int r2, int c1, int c2,
-                                                          struct SAFEARRAY** dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyBlockSPV2_T(struct SAFEARRAY** src, int r1, int r2, int c1, int c2,
-                                                            struct SAFEARRAY** dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV(struct SAFEARRAY** src, int rows, int cols, double* dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV2(struct SAFEARRAY** src, int rows, int cols,
-                                                             struct SAFEARRAY** dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV2_T(struct SAFEARRAY** src, int rows, int cols,
-                                                               struct SAFEARRAY** dst);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, struct SAFEARRAY** dst);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_DuplicateStrSPV(struct SAFEARRAY** src, int rows, int cols,
-                                                           struct SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyBlockSPV2(SAFEARRAY** src, int r1, int r2, int c1, int c2,
+                                                          SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyBlockSPV2_T(SAFEARRAY** src, int r1, int r2, int c1, int c2,
+                                                            SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV(SAFEARRAY** src, int rows, int cols, double* dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV2(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV2_T(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, SAFEARRAY** dst);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_DuplicateStrSPV(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyPasteBlock(double* src, int rows, int cols, int r1, int r2, int c1,
                                                            int c2, double* dst, int dstRows, int dstCols, int row,
                                                            int col);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyPasteBlockSPV(struct SAFEARRAY** src, int r1, int r2, int c1, int c2,
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyPasteBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2,
                                                               double* dst, int dstRows, int dstCols, int row, int col);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CopyPasteBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1,
                                                               int c2, wchar_t** dst, int dstRows, int dstCols, int row,
@@ -320,16 +315,16 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_CopyToBigger(double* src, int rows, i
 /* ---- elementary/extraction ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatDbl(double* src, int rows, int cols, int from, int to,
                                                               double* out);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatDblSPV(struct SAFEARRAY** src, int cols, int from, int to,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to,
                                                                  double* out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, int from, int to,
                                                               wchar_t** out);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatStrSPV(struct SAFEARRAY** src, int cols, int from, int to,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatStrSPV(SAFEARRAY** src, int cols, int from, int to,
                                                                  wchar_t** out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, int to,
                                                                    double* out);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_ExtractMatNeverySKSPV(struct SAFEARRAY** src, int n, int cols, int nOut,
-                                                                  int keep, int skip, int start, struct SAFEARRAY** dst,
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int keep,
+                                                                  int skip, int start, SAFEARRAY** dst,
                                                                   double* positions);
 
 /* ---- elementary/packing ---- */
@@ -462,15 +457,15 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_SortQStr(wchar_t** data, int nRows, int
 VECMAT_GUARDED_API int vecmat_guarded_VB_SortQByColDbl(double* data, int nRows, int nCols, int first, int last,
                                                        double* key, double* companion, int nCompanionRows,
                                                        short descending, short writeKeys, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_SortQDblSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last,
+VECMAT_GUARDED_API int vecmat_guarded_VB_SortQDblSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last,
                                                      double* key, double* companion, int nCompanionCols,
                                                      short descending, short writeKeys, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_SortQStrSPV(struct SAFEARRAY** data, int nRows, int nCols, int first, int last,
+VECMAT_GUARDED_API int vecmat_guarded_VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last,
                                                      double* key, double* companion, int nCompanionCols,
                                                      short descending, short writeKeys, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_SortDataBy01(double* data, int n, int nCols, double* key, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_SortDataBy01Bool(short* data, int n, int nCols, double* key, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_SortDataBy01SPV(struct SAFEARRAY** data, int n, int nCols, double* key,
+VECMAT_GUARDED_API int vecmat_guarded_VB_SortDataBy01SPV(SAFEARRAY** data, int n, int nCols, double* key,
                                                          int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_SortDataBy01Str(wchar_t** data, int n, int nCols, double* key, int* returned);
 
@@ -486,8 +481,8 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbMissingStr(wchar_t** a, int nRows, 
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbMissing2(double* a, int nRows, int nCols, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_NbMissingSPV(struct SAFEARRAY** a, int nRows, int nCols, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbMissingSPV_T(struct SAFEARRAY** a, int n, int unused, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_NbMissingSPV(SAFEARRAY** a, int nRows, int nCols, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_NbMissingSPV_T(SAFEARRAY** a, int n, int unused, int* returned);
 
 /* ---- missing/missing_masks ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_SummarizeMissing(int n, int* total, short* out, short* a, short* b, short* c);
@@ -498,19 +493,17 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_AllMissingRowsStr(wchar_t** x, int nR
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_GetMissingDbl(double* x, int n, short* a, short* out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_GetMissingStr(wchar_t** x, int n, short* a, short* out);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_GetMissingDbl(double* a, int nRows, int nCols, short* filter, short* out);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_GetMissingDblSPV(struct SAFEARRAY** a, int nRows, int nCols, short* filter,
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_GetMissingDblSPV(SAFEARRAY** a, int nRows, int nCols, short* filter,
                                                              short* out);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IdentifyMissingInMat(double* a, int nRows, int nCols, int* out);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IdentifyMissingInMatSPV(struct SAFEARRAY** a, int nRows, int nCols,
-                                                                    int* out);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IdentifyMissingInMatSPV(SAFEARRAY** a, int nRows, int nCols, int* out);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiags(double* a, int n, short* returned);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(struct SAFEARRAY** a, int n,
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_IsMissingOutOfDiagonalAndNotOnDiagsSPV_T(SAFEARRAY** a, int n,
                                                                                      short* returned);
 
 /* ---- missing/replacement ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReplaceMissingByVal(double* a, int nRows, int nCols, double value);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReplaceMissingByValSPV(struct SAFEARRAY** a, int nRows, int nCols,
-                                                                  double value);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReplaceMissingByValSPV(SAFEARRAY** a, int nRows, int nCols, double value);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReplaceMissingByStr(wchar_t** a, int nRows, int nCols, const wchar_t* value);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_ReplaceByMissing(double* a, int nRows, int nCols, int* mask, int nMaskCols,
                                                              short wholeRow);
@@ -544,8 +537,8 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingMean(double* X, 
                                                                      double* weights);
 VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingMeanPred(double* statX, int nStat, double* X, int nRows,
                                                                          int nCols, short* mask, double* weights);
-VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingMeanSPV(struct SAFEARRAY** X, int n, int nCols,
-                                                                        short* mask, double* weights);
+VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingMeanSPV(SAFEARRAY** X, int n, int nCols, short* mask,
+                                                                        double* weights);
 
 /* ---- missing/mode_imputation ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingMode(wchar_t** S, int n, int nCols, short* mask,
@@ -565,12 +558,12 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNN(double* X, in
 VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNStr(wchar_t** P, int n, int nColsP, short* mask,
                                                                       double* Y, int nColsY, wchar_t** S, int nColsS,
                                                                       double* weights);
-VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV(struct SAFEARRAY** X, int n, int nColsX,
-                                                                      short* mask, double* Y, int nColsY, wchar_t** S,
-                                                                      int nColsS, double* weights);
-VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV2(struct SAFEARRAY** X, int n, int nColsX,
-                                                                       short* mask, struct SAFEARRAY** Y, int nColsY,
-                                                                       wchar_t** S, int nColsS, double* weights);
+VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV(SAFEARRAY** X, int n, int nColsX, short* mask,
+                                                                      double* Y, int nColsY, wchar_t** S, int nColsS,
+                                                                      double* weights);
+VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNSPV2(SAFEARRAY** X, int n, int nColsX, short* mask,
+                                                                       SAFEARRAY** Y, int nColsY, wchar_t** S,
+                                                                       int nColsS, double* weights);
 VECMAT_GUARDED_API int vecmat_guarded_VB_EstimateRowsWithMissingNNPred(double* statX, int nStat, double* X, int nRows,
                                                                        int nColsX, short* mask, double* statY,
                                                                        double* Y, int nColsY, wchar_t** statS,
@@ -630,7 +623,7 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReplaceStrByCodes(wchar_t** table, in
                                                              double* out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Binarize(double* table, int nRows, int nCols, double* out);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Binarize2(double* table, int nRows, int nCols);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_Binarize2SPV(struct SAFEARRAY** table, int nRows, int nCols);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_Binarize2SPV(SAFEARRAY** table, int nRows, int nCols);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int ignored,
                                                            double* out);
 
@@ -639,7 +632,7 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_V_Is01(double* x, int n, short* returne
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsWeights(double* x, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsCWeights(double* x, int n, short* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsIndicator(double* x, int n, short* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsIndicatorSPV(struct SAFEARRAY** x, int nRows, int nCols, short* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_V_IsIndicatorSPV(SAFEARRAY** x, int nRows, int nCols, short* returned);
 
 /* ---- qualitative/group_by ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_GroupBy(double* data, int nRows, int nCols, int* colTypes, int keyCol,
@@ -678,15 +671,15 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_CovCorr(double* X, int n, int p, doub
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CorrMatMat(double* X, int n, int p, double* Y, int q, double* C, short* mask,
                                                       double* w, short corr, short square, short sample,
                                                       short freqWeights, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_CorrMatMatSPV(struct SAFEARRAY** X, int n, int p, double* Y, int q,
-                                                         double* C, short* mask, double* w, short corr, short square,
-                                                         short sample, short freqWeights, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_CorrMatMatSPV(SAFEARRAY** X, int n, int p, double* Y, int q, double* C,
+                                                         short* mask, double* w, short corr, short square, short sample,
+                                                         short freqWeights, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_CorrelPearson(double* x, double* y, int n, short* mask, double* w,
                                                        short sample, short freqWeights, double* returned);
 
 /* ---- descriptive/correlation_of_covariance ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CorrMatFromCovMat(double* S, int p, double* R, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromCovMatSPV2_T(struct SAFEARRAY** C, int p, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromCovMatSPV2_T(SAFEARRAY** C, int p, int* returned);
 
 /* ---- descriptive/triangular_fit ---- */
 VECMAT_GUARDED_API int vecmat_guarded_TriangularQFindAB(double x1, double m, double x2, double prob1, double prob2,
@@ -775,7 +768,7 @@ VECMAT_GUARDED_API int vecmat_guarded_Cpp_V_ZScores(double* v, int n, int kind, 
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Center(double* X, int n, int p, double* Z);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CenterW(double* X, int n, int p, double* w, double* Z);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Center2(double* X, int n, int p);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_Center2SPV(struct SAFEARRAY** X, int n, int p);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_Center2SPV(SAFEARRAY** X, int n, int p);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_CenterW2(double* X, int n, int p, double* w);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Reduce(double* X, int n, int p, double* Z, short sample, short freqWeights);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample,
@@ -784,7 +777,7 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_Reduce2(double* X, int n, int p, shor
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_ReduceW2(double* X, int n, int p, double* w, short sample,
                                                     short freqWeights);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Standardize2(double* X, int n, int p, short sample);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_Standardize2SPV(struct SAFEARRAY** X, int n, int p, short sample);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev,
                                                         short sample, short freqWeights);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample,
@@ -862,30 +855,30 @@ VECMAT_GUARDED_API int vecmat_guarded_Increase1Col(const void* letters, wchar_t*
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z,
                                                                    double* ids, int* seed, short seedFlag,
                                                                    int* seedOut);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingWithReplacementSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                                      struct SAFEARRAY** Z, double* ids, int* seed,
-                                                                      short seedFlag, int* seedOut);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z,
+                                                                      double* ids, int* seed, short seedFlag,
+                                                                      int* seedOut);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SampleUserDefined(wchar_t** S, int N, int p, wchar_t** Z, double* freq,
                                                              double* ids);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SampleUserDefinedSPV(struct SAFEARRAY** S, int N, int p,
-                                                                struct SAFEARRAY** Z, double* freq, double* ids);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SampleUserDefinedSPV(SAFEARRAY** S, int N, int p, SAFEARRAY** Z,
+                                                                double* freq, double* ids);
 
 /* ---- randomisation/interval_sampling ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int n, wchar_t** Z,
                                                                      double* ids, int* seed, short seedFlag,
                                                                      int* seedOut);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicRdStartSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                                        struct SAFEARRAY** Z, double* ids, int* seed,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicRdStartSPV(SAFEARRAY** S, int N, int p, int n,
+                                                                        SAFEARRAY** Z, double* ids, int* seed,
                                                                         short seedFlag, int* seedOut);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicCentered(wchar_t** S, int N, int p, int n, wchar_t** Z,
                                                                       double* ids);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicCenteredSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                                         struct SAFEARRAY** Z, double* ids);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingSystematicCenteredSPV(SAFEARRAY** S, int N, int p, int n,
+                                                                         SAFEARRAY** Z, double* ids);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int n, wchar_t** Z,
                                                                     double* ids, int* seed, short seedFlag,
                                                                     int* seedOut);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingRandomStratifiedSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                                       struct SAFEARRAY** Z, double* ids, int* seed,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n,
+                                                                       SAFEARRAY** Z, double* ids, int* seed,
                                                                        short seedFlag, int* seedOut);
 
 /* ---- randomisation/stratified_sampling ---- */
@@ -894,8 +887,8 @@ VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_SamplingRandomStratifiedByStr(wchar_
                                                                           double* strata, double* quota, double* sizes,
                                                                           int nStrata, int* seed, short seedFlag,
                                                                           int* seedOut);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingRandomStratifiedByStrSPV(struct SAFEARRAY** S, int N, int p, int n,
-                                                                            struct SAFEARRAY** Z, double* rowIds,
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n,
+                                                                            SAFEARRAY** Z, double* rowIds,
                                                                             double* outIds, double* strata,
                                                                             double* quota, double* sizes, int nStrata,
                                                                             int* seed, short seedFlag, int* seedOut);
@@ -968,8 +961,8 @@ VECMAT_GUARDED_API int vecmat_guarded_VB_M_ProductAinvBTrA(double* a, int rows, 
 
 /* ---- decompositions/nearest_correlation ---- */
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromSymMat(double* a, int n, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV(struct SAFEARRAY** a, int n, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV_T(struct SAFEARRAY** a, int n, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV(SAFEARRAY** a, int n, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_CorrMatFromSymMatSPV_T(SAFEARRAY** a, int n, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_RowSumNorm(double* a, int rows, int cols, double* returned);
 
 /* ---- decompositions/correlation_order ---- */
@@ -979,9 +972,8 @@ VECMAT_GUARDED_API int vecmat_guarded_Cpp_ReOrderCorrelations(double* R, int n, 
 /* ---- decompositions/singular_values ---- */
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_SVDecomp(double* x, int n, int p, double* s, double* u, int ldu, double* v,
                                                     int ldv, int job, int* info, int* returned);
-VECMAT_GUARDED_API int vecmat_guarded_VB_M_SVDecompSPV(struct SAFEARRAY** x, int n, int p, double* s,
-                                                       struct SAFEARRAY** u, int ldu, struct SAFEARRAY** v, int ldv,
-                                                       int job, int* info, int* returned);
+VECMAT_GUARDED_API int vecmat_guarded_VB_M_SVDecompSPV(SAFEARRAY** x, int n, int p, double* s, SAFEARRAY** u, int ldu,
+                                                       SAFEARRAY** v, int ldv, int job, int* info, int* returned);
 VECMAT_GUARDED_API int vecmat_guarded_VB_M_Rank(double* a, int n, int p, int* returned);
 
 /* ---- decompositions/level1_routines ---- */
@@ -991,10 +983,9 @@ VECMAT_GUARDED_API int vecmat_guarded_drotg(double* a, double* b, double* c, dou
 VECMAT_GUARDED_API int vecmat_guarded_VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m,
                                                          int k, double* eigen, double factor, double alpha, double* obs,
                                                          double* var);
-VECMAT_GUARDED_API int vecmat_guarded_VB_BiplotTransDataSPV(struct SAFEARRAY** rows, double* sup,
-                                                            struct SAFEARRAY** cols, int nA, int nB, int m,
-                                                            int storedAxes, int k, double* eigen, double factor,
-                                                            double alpha, double* obs, double* var);
+VECMAT_GUARDED_API int vecmat_guarded_VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA,
+                                                            int nB, int m, int storedAxes, int k, double* eigen,
+                                                            double factor, double alpha, double* obs, double* var);
 VECMAT_GUARDED_API int vecmat_guarded_ComputeCosines(double* a, int n, int k, double* out);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_BoldCosines(int* best, int n, int* flags, int cols);
 VECMAT_GUARDED_API int vecmat_guarded_Cpp_M_GetMaxDistToOrigin(double* a, int n, int k, double* maxDistance, int* row);

@@ -64,12 +64,8 @@ using vecmat::guarded;
 PREFIX = "vecmat_guarded_"
 
 
-def in_c(kind):
-    return kind.replace("SAFEARRAY", "struct SAFEARRAY")
-
-
 def parameters(function):
-    parts = [f"{in_c(kind)} {name}" for kind, name in function.parameters]
+    parts = [f"{kind} {name}" for kind, name in function.parameters]
     if any(name == "returned" for _, name in function.parameters):
         raise ValueError(f"{function.name} has a parameter of the name that a guarded call needs")
     if function.returns != "void":

@@ -16,7 +16,9 @@
 #include <cstddef>
 #include <cstdint>
 
-/// Array descriptor of OLE Automation, as the caller's arrays of arrays come. Only `pvData` is ever read.
+/// Array descriptor of OLE Automation, as the caller's arrays of arrays come. Only `pvData` is ever read. A program that
+/// includes the system's own, <oleauto.h>, does so before.
+#ifndef __oaidl_h__
 struct SAFEARRAYBOUND
 {
     std::uint32_t cElements;
@@ -32,6 +34,7 @@ struct SAFEARRAY
     void* pvData;
     SAFEARRAYBOUND rgsabound[1];
 };
+#endif
 
 /// One element of the outer array: a column of numbers and a column of strings, either of which may be null.
 struct SAFEARRAYColumn
