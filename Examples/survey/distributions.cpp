@@ -1,5 +1,6 @@
 #include "distributions.h"
 
+#include "histogram.h"
 #include "number_format.h"
 
 #include <functional>
@@ -144,6 +145,7 @@ void addQuartiles(Document& document, const Subject& subject, const QuantileTabl
                         return Cells{format.statistic(q.lowerQuartile()), format.statistic(q.median()),
                                      format.statistic(q.upperQuartile())};
                     });
+    section.pictures = picturesOf(subject, quantiles);
     section.note = quantileRule(subject) + groupsLeftOut(subject);
 }
 

@@ -10,10 +10,12 @@
 #include "group_means.h"
 #include "letter_groups.h"
 #include "missing_cells.h"
+#include "provenance.h"
 #include "regression.h"
 #include "sample.h"
 
 #include <filesystem>
+#include <set>
 #include <span>
 #include <string>
 #include <utility>
@@ -72,10 +74,13 @@ void survey(const Subject& subject, const SurveySettings& settings, const Tell& 
     const Table& table = subject.table;
     take(overviewOf(subject));
     double done = 0.0;
+    std::set<std::string> told; // the names of sections
     const auto section = [&](const char* what, double share, const auto& add) {
         tell(progress, what, done);
         Document part;
         add(part);
+        for (const Section& added : part.sections)
+            told.insert(added.name);
         take(part);
         done += share;
     };
@@ -108,6 +113,7 @@ void survey(const Subject& subject, const SurveySettings& settings, const Tell& 
         if (const auto regression = regressionOf(completion.table))
             addRegression(part, *regression);
     });
+    section("provenance", 0.0, [&](Document& part) { addProvenance(part, told, table.isWeighted()); });
 }
 
 } // namespace survey

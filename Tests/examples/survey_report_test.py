@@ -12,7 +12,14 @@ import xml.etree.ElementTree as xml
 from html.parser import HTMLParser
 from pathlib import Path
 
-ALL_PICTURES = ["biplot.svg", "correlation_map.svg", "residual_quantiles.svg", "residuals.svg", "scree.svg"]
+RELATIONS = ["biplot.svg", "correlation_map.svg", "residual_quantiles.svg", "residuals.svg", "scree.svg"]
+
+
+def all_pictures(columns):
+    """The names of all pictures of a table with so many numeric columns."""
+    return sorted(RELATIONS + [f"distribution_{k}.svg" for k in range(1, columns + 1)])
+
+
 VOID = {"area", "base", "br", "col", "embed", "hr", "img", "input", "link", "meta", "source", "track", "wbr"}
 
 
@@ -121,7 +128,7 @@ class OfThePenguins(Report):
 
     def test_has_every_section_with_its_lead_and_a_link(self):
         titles = self.titles_on_terminal()
-        self.assertEqual(len(titles), 14)
+        self.assertEqual(len(titles), 15)
         self.assertEqual([text_of(title) for title in self.html.all("h2")], titles)
         self.assertEqual([text_of(link) for nav in self.html.all("nav") for link in nav.iter("a")], titles)
         for section in self.html.all("section"):
@@ -140,13 +147,45 @@ class OfThePenguins(Report):
         self.assertEqual(on_page, on_terminal)
 
     def test_pictures_are_on_the_page_and_in_files(self):
-        self.assertEqual(self.pictures(), ALL_PICTURES)
+        self.assertEqual(self.pictures(), all_pictures(4))
         for name in self.pictures():
             xml.parse(self.report / "pictures" / name)
         self.assertEqual([self.section_around(svg) for svg in self.html.all("svg")],
-                         ["correlations", "components", "biplot", "regression", "regression"])
+                         ["quartiles"] * 4 + ["correlations", "components", "biplot", "regression", "regression"])
         for figure in self.html.all("figure"):
             self.assertEqual(figure.find("svg").get("aria-label"), text_of(figure.find("figcaption")))
+
+    def test_pictures_have_paper_and_a_title_of_their_own(self):
+        for name in self.pictures():
+            svg = xml.parse(self.report / "pictures" / name).getroot()
+            space = "{http://www.w3.org/2000/svg}"
+            self.assertGreater(len(svg.find(f"{space}title").text), 20, name)
+            paper = svg.find(f"{space}rect")
+            self.assertEqual((paper.get("class"), paper.get("width")), ("fill-paper", "100%"), name)
+            self.assertIn("prefers-color-scheme: dark", svg.find(f"{space}style").text)
+
+    def test_distributions_have_bars_and_a_box_for_each_species(self):
+        svg = xml.parse(self.report / "pictures" / "distribution_4.svg").getroot()
+        self.assertIn("Medians: Adelie 3700, Chinstrap 3700, Gentoo 5000.", svg[1].text + svg[0].text)
+        texts = ["".join(text.itertext()).strip() for text in svg.iter("{http://www.w3.org/2000/svg}text")]
+        for name in ("Adelie", "Chinstrap", "Gentoo", "body_mass_g"):
+            self.assertEqual(texts.count(name), 1, name)
+        bars = (self.report / "data" / "distribution_4_bars.tsv").read_text().splitlines()[1:]
+        shares = [line.split("\t") for line in bars]
+        for group in "123":
+            self.assertAlmostEqual(sum(float(share) for k, _, _, share in shares if k == group), 1.0)
+        boxes = (self.report / "data" / "distribution_4_boxes.tsv").read_text().splitlines()
+        self.assertEqual(boxes[2], "Chinstrap\t2900\t3487.5\t3700\t3950\t4550")  # by R's boxplot.stats and quantile
+
+    def test_functions_named_have_the_contracts_named(self):
+        rows = (self.report / "data" / "provenance.tsv").read_text().splitlines()[1:]
+        self.assertGreater(len(rows), 20)
+        contracts = {}
+        for page in (Path(__file__).resolve().parents[2] / "Docs" / "contracts").glob("*.md"):
+            for part in page.read_text().split("\n## ")[1:]:
+                contracts[part.split("\n")[0]] = part
+        for _, function, contract in (row.split("\t") for row in rows):
+            self.assertIn(f"`{function}`", contracts.get(contract, "no such contract"), contract)
 
     def test_biplot_has_a_point_for_each_row_in_the_colour_of_its_species(self):
         svg = self.picture("biplot")
@@ -194,9 +233,9 @@ class OfThePenguins(Report):
 class OfOtherTables(Report):
     def test_pictures_of_an_earlier_survey_are_removed(self):
         self.page_of("x,y\n1,1\n2,5\n3,2\n")
-        self.assertEqual(self.pictures(), ALL_PICTURES)
-        self.assertEqual(self.page_of("x\n1\n2\n").all("svg"), [])
-        self.assertEqual(self.pictures(), [])
+        self.assertEqual(self.pictures(), all_pictures(2))
+        self.page_of("x\n1\n2\n")
+        self.assertEqual(self.pictures(), ["distribution_1.svg"])
 
     def test_names_stand_as_they_are(self):
         names = ["a<b & \"c\"", "it's 100% {^_} \\n", "&lt;&#x41;<script>", "y"]
@@ -213,7 +252,7 @@ class OfOtherTables(Report):
             self.assertIn(name, cells)
         self.assertIn("Regression of y", [text_of(title) for title in html.all("h2")])
         self.assertEqual(html.all("script"), [])
-        self.assertEqual(len(html.all("svg")), len(ALL_PICTURES))
+        self.assertEqual(len(html.all("svg")), len(all_pictures(4)))
         places = ("correlations", "biplot")
         in_pictures = [text for place in places for text in self.in_section(html, place, "text")]
         in_pictures = [text_of(text).strip().replace("\u2060", "") for text in in_pictures]
@@ -222,8 +261,8 @@ class OfOtherTables(Report):
         for name in groups:
             self.assertEqual(in_pictures.count(name), 1, name)
 
-    def test_one_numeric_column_has_no_pictures(self):
-        html = self.page_of("x\n1\n2\n4\n")
+    def test_column_that_does_not_vary_has_no_pictures(self):
+        html = self.page_of("x\n2\n2\n2\n")
         self.assertEqual(html.all("svg"), [])
         self.assertEqual([text_of(title) for title in html.all("h2")], self.titles_on_terminal())
         self.assertFalse((self.report / "pictures").exists())

@@ -44,4 +44,4 @@ def sheet():
         rim = f"stroke: {named['paper'][theme]}; stroke-width: 4; stroke-linejoin: round;"
         yield f".fill-name {{ paint-order: stroke; {rim} }}"
 
-    return "\n".join([*rules(0), "@media (prefers-color-scheme: dark) {", *rules(1), "}"])
+    return "\n".join([*rules(0), "@media screen and (prefers-color-scheme: dark) {", *rules(1), "}"])

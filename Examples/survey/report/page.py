@@ -41,7 +41,7 @@ def text_of(survey, pictures, links):
             facts(survey.lists),
             *[element("p", remark, class_="remark") for remark in survey.remarks],
         ),
-        element("nav", element("ol", *[link(section) for section in survey.sections]), aria_label="Sections"),
+        element("nav", element("p", "Contents", id="contents"), element("ol", *[link(section) for section in survey.sections]), aria_labelledby="contents"),
         element("main", *[section_of(section, pictures, links) for section in survey.sections]),
         element(
             "footer",
@@ -50,8 +50,8 @@ def text_of(survey, pictures, links):
     )
     html = element("html", head, body, lang="en")
     for part in html.iter():
-        if "aria_label" in part.attrib:
-            part.set("aria-label", part.attrib.pop("aria_label"))
+        for name in [name for name in part.attrib if name.startswith("aria_")]:
+            part.set(name.replace("_", "-"), part.attrib.pop(name))
     return "<!DOCTYPE html>\n" + xml.tostring(html, encoding="unicode", method="html") + "\n"
 
 
@@ -74,7 +74,8 @@ def whole_of(table, links):
 
 def section_of(section, pictures, links):
     content = [element("h2", section.title), element("p", section.lead, class_="lead")]
-    content += [figure(pictures[name]) for name in section.pictures]
+    drawn = [figure(pictures[name]) for name in section.pictures]
+    content += drawn if len(drawn) < 2 else [element("div", *drawn, class_="pictures")]
     for table in section.tables:
         content.append(element("div", table_of(table), class_="wide"))
         if table.whole:

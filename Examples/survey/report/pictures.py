@@ -30,20 +30,30 @@ def draw(survey, directory):
         "residuals": residuals,
         "residual_quantiles": residual_quantiles,
     }
-    for name in drawers:
-        (directory / f"{name}.svg").unlink(missing_ok=True)
+    for path in [*directory.glob("distribution_*.svg"), *[directory / f"{name}.svg" for name in drawers]]:
+        path.unlink(missing_ok=True)
     result = {}
     for name in [name for section in survey.sections for name in section.pictures]:
-        drawn = drawers[name](survey)
-        drawn.svg = gnuplot.with_prefix(drawn.svg, name)
+        drawn = distribution(survey, name) if name.startswith("distribution_") else drawers[name](survey)
+        drawn.svg = gnuplot.with_prefix(with_paper(drawn.svg), name)
         directory.mkdir(exist_ok=True)
-        (directory / f"{name}.svg").write_text(standalone(drawn.svg), encoding="utf-8")
+        (directory / f"{name}.svg").write_text(standalone(drawn.svg, drawn.caption), encoding="utf-8")
         result[name] = drawn
     return result
 
 
-def standalone(svg):
+def with_paper(svg):
+    """A background, without which a picture would take that of whatever shows it."""
+    svg.insert(0, xml.Element("rect", {"width": "100%", "height": "100%", "class": "fill-paper"}))
+    return svg
+
+
+def standalone(svg, caption):
     file = copy.deepcopy(svg)
+    file.set("role", "img")
+    title = xml.Element("title")
+    title.text = caption
+    file.insert(0, title)
     file.set("xmlns", "http://www.w3.org/2000/svg")
     file.set("font-family", "sans-serif")
     style = xml.Element("style")
@@ -272,3 +282,31 @@ def residual_quantiles(survey):
     return Drawn(
         svg, "Normal quantile plot of the residuals. Normal ones lie along the dashed line; long tails leave it at the ends."
     )
+
+
+# ---------------------------------------------------------------------------------------------------------------------
+
+
+def distribution(survey, name):
+    heading, *boxes = survey.records(f"{name}_boxes")
+    groups = [box[0] for box in boxes]
+    numbers = [[k, *map(float, box[1:])] for k, box in enumerate(boxes, 1)]
+    bars = [(int(k), *map(float, rest)) for k, *rest in survey.records(f"{name}_bars")[1:]]
+    highest = max(bar[3] for bar in bars)
+    bars = [(k, low, high, share / highest) for k, low, high, share in bars if share > 0]
+    outside = [(int(k), float(cell)) for k, cell in survey.records(f"{name}_outside")[1:]]
+    longest = LETTER * max(len(shortened(group)) for group in groups)
+    settings = assigned(
+        width=640,
+        height=88 + 80 * len(groups),
+        left=24.0 + longest,
+        groups=len(groups),
+        coloured=int(len(groups) <= colours.groups),
+    )
+    settings.append(f"set xlabel {quoted(heading[0])}")
+    tics = ", ".join(f"{quoted_tic(shortened(group))} {k}" for k, group in enumerate(groups, 1))
+    settings.append(f"set ytics ({tics})")
+    files = {"bars": bars, "boxes": numbers, "outside": outside or [(math.nan, math.nan)]}
+    svg = gnuplot.drawn("distribution.gp", settings, files)
+    medians = ", ".join(f"{box[0]} {float(box[3]):.6g}" for box in boxes)
+    return Drawn(svg, f"{heading[0]}: histograms, and box plots below them. Medians: {medians}.")
