@@ -1,3 +1,4 @@
+#include "base/detail/mathematics/mathematics.h"
 #include "plain.h"
 #include "table.h"
 
@@ -76,9 +77,9 @@ double determinant(const double* a, int n)
     for (int i = 0; i < n; ++i) {
         if (w(i, i) < 0.0)
             ++negatives;
-        logarithm += std::log(std::fabs(w(i, i)));
+        logarithm += vecmat::log(std::fabs(w(i, i)));
     }
-    const double size = factors.parity * std::exp(logarithm);
+    const double size = factors.parity * vecmat::exp(logarithm);
     return negatives % 2 != 0 ? -size : size;
 }
 

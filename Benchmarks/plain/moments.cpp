@@ -1,5 +1,6 @@
 #include "plain.h"
 
+#include "base/detail/mathematics/mathematics.h"
 #include "support/constants.h"
 
 #include <cmath>
@@ -116,8 +117,8 @@ void fourMoments(const double* x, int n, const double* w, double* moments)
             continue;
         const double f = w[i] / W;
         const double d = x[i] - mean;
-        const double d4 = std::pow(d, 4.0);
-        const double d3 = std::pow(d, 3.0);
+        const double d4 = vecmat::pow(d, 4.0);
+        const double d3 = vecmat::pow(d, 3.0);
         const double t = f * 3.0 * d * m2;
         m4 += (f + f) * d * (t - (m3 + m3)) + (((f * 6.0 + -4.0) - f * f * 3.0) * f + 1.0) * d4 * w[i];
         m3 = (m3 - t) + (f * f + f * f + (1.0 - f * 3.0)) * d3 * w[i];
@@ -127,7 +128,7 @@ void fourMoments(const double* x, int n, const double* w, double* moments)
     const double variance = m2 / (W - W / rows);
     moments[0] = mean;
     moments[1] = variance;
-    moments[2] = (m3 / W) / std::pow(variance, 1.5);
+    moments[2] = (m3 / W) / vecmat::pow(variance, 1.5);
     moments[3] = (m4 / W) / (variance * variance) + -3.0;
 }
 

@@ -1,4 +1,5 @@
 // Determinants: their signs, their limits, and what sets the three apart.
+#include "base/detail/mathematics/mathematics.h"
 #include "decompositions/determinants.h"
 
 #include "decompositions/crout_reference.h"
@@ -24,13 +25,13 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 double logarithm(double x)
 {
     volatile double value = x;
-    return std::log(value);
+    return vecmat::log(value);
 }
 
 double exponential(double x)
 {
     volatile double value = x;
-    return std::exp(value);
+    return vecmat::exp(value);
 }
 
 struct Result

@@ -1,4 +1,5 @@
 // Arithmetic, absolute, harmonic and geometric means of a vector.
+#include "base/detail/mathematics/mathematics.h"
 #include "descriptive/means.h"
 
 #include "support/bits.h"
@@ -140,12 +141,12 @@ TEST(V_GMeanGSD, UpdatesWithTheShareOfTheWeight)
         for (std::size_t i = 0; i < x.size(); ++i) {
             W += w[i];
             const double f = w[i] / W;
-            const double d = std::log(x[i]) - running;
+            const double d = vecmat::log(x[i]) - running;
             Q += (1.0 - f) * d * d * w[i];
             running += d * f;
         }
         EXPECT_THAT(geometric(x, std::vector<short>(9, 0), w),
-                    SameBits({std::exp(running), std::exp(std::sqrt(Q / (W - W / 9)))}));
+                    SameBits({vecmat::exp(running), vecmat::exp(std::sqrt(Q / (W - W / 9)))}));
     }
 }
 
@@ -158,9 +159,9 @@ TEST(V_GMeanGSD, LeavesOutMaskedRowsAndMissingCells)
 TEST(V_GMeanGSD, CountsARowOfNoWeightInTheDivisorOnly)
 {
     // W = 2, m = 3: the divisor is 2 - 2/3, where leaving the row out would make it 1.
-    const auto results = geometric({1, 5, std::exp(2.0)}, {0, 0, 0}, {1, 0, 1});
-    EXPECT_DOUBLE_EQ(results[0], std::exp(1.0));
-    EXPECT_DOUBLE_EQ(results[1], std::exp(std::sqrt(2.0 / (2.0 - 2.0 / 3.0))));
+    const auto results = geometric({1, 5, vecmat::exp(2.0)}, {0, 0, 0}, {1, 0, 1});
+    EXPECT_DOUBLE_EQ(results[0], vecmat::exp(1.0));
+    EXPECT_DOUBLE_EQ(results[1], vecmat::exp(std::sqrt(2.0 / (2.0 - 2.0 / 3.0))));
     // Only rows of no weight: the mean of the logarithms is still 0, the divisor as well.
     EXPECT_THAT(geometric({5}, {0}, {0}), SameBits({1.0, M}));
 }
@@ -176,7 +177,7 @@ TEST(V_GMeanGSD, IsMissingWithoutRowsAndHasNoDeviationForASingleRow)
 {
     EXPECT_THAT(geometric({}, {}, {}), SameBits({M, M}));
     EXPECT_THAT(geometric({M, 4}, {0, 1}, {1, 1}), SameBits({M, M}));
-    EXPECT_THAT(geometric({4}, {0}, {1}), SameBits({std::exp(std::log(4.0)), M}));
+    EXPECT_THAT(geometric({4}, {0}, {1}), SameBits({vecmat::exp(vecmat::log(4.0)), M}));
 }
 
 TEST(Means, AgreeWithPublishedFormulas)

@@ -1,4 +1,5 @@
 // Skewness and kurtosis.
+#include "base/detail/mathematics/mathematics.h"
 #include "descriptive/shape_moments.h"
 
 #include "support/bits.h"
@@ -99,7 +100,7 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
             if (w[i] == 0.0)
                 continue;
             const double f = w[i] / W, d = x[i] - mean;
-            const double d4 = std::pow(d, 4.0), d3 = std::pow(d, 3.0);
+            const double d4 = vecmat::pow(d, 4.0), d3 = vecmat::pow(d, 3.0);
             const double t = ((f * 3.0) * d) * M2;
             const double lower = ((f + f) * d) * (t - (M3 + M3));
             const double own = (((((f * 6.0 + -4.0) - (f * f) * 3.0) * f) + 1.0) * d4) * w[i];
@@ -115,7 +116,7 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
                 Shape e;
                 e.mean = mean;
                 e.var = M2 / (sample == -1 ? D : W);
-                e.skewP = (M3 / W) / std::pow(e.var, 1.5);
+                e.skewP = (M3 / W) / vecmat::pow(e.var, 1.5);
                 e.kurtP = (M4 / W) / (e.var * e.var) + -3.0;
                 e.skewS = (std::sqrt(W * D) * e.skewP) / (W - 2 * c);
                 e.seSkew = std::sqrt(((W * 6.0) * D) / (((c * 3.0 + W) * (W + c)) * (W - 2 * c)));

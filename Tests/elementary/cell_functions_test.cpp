@@ -1,3 +1,4 @@
+#include "base/detail/mathematics/mathematics.h"
 #include "elementary/cell_functions.h"
 
 #include "product_cases.h"
@@ -95,7 +96,7 @@ TEST(LogMatrix, TakesThePresentCellsOfTheRowsKept)
         for (int i = 1; i <= rows; ++i)
             for (int j = 1; j <= cols; ++j)
                 if (entries[static_cast<std::size_t>(i - 1)] == 0 && expected->vbget(i, j) != M)
-                    expected->vbset(i, j, std::log(expected->vbget(i, j)));
+                    expected->vbset(i, j, vecmat::log(expected->vbget(i, j)));
         expectSame(a, expected);
         EXPECT_TRUE(mask.untouched());
     });
@@ -118,7 +119,7 @@ TEST(Log10Matrix, TakesThePresentCells)
         M_Log10Matrix(a.get(), rows, cols);
         fillByRows(expected.get(), rows, cols, [&](int i, int j) {
             const double x = expected->vbget(i, j);
-            return x == M ? M : std::log10(x);
+            return x == M ? M : vecmat::log10(x);
         });
         expectSame(a, expected);
     });

@@ -1,4 +1,5 @@
 // Biplot coordinates: a plain second form, the rules one by one, the identities of a biplot, R.
+#include "base/detail/mathematics/mathematics.h"
 #include "fitting/biplots.h"
 
 #include "elementary/product_cases.h"
@@ -42,7 +43,7 @@ void referenceBiplot(Storage rows, matrix* sup, Storage cols, int nA, int nB, in
     matrix::matCheck(obs, nA + nB, k, 0.0);
     matrix::matCheck(var, m, k, 0.0);
     for (int j = 1; j <= k; ++j) {
-        const double f = std::pow(eigen->vbget(j, 1), alpha * 0.5 - 0.5);
+        const double f = vecmat::pow(eigen->vbget(j, 1), alpha * 0.5 - 0.5);
         for (int i = 1; i <= nA; ++i)
             obs->vbset(i, j, at(rows, i, j) == M ? M : at(rows, i, j) * f);
         for (int i = 1; i <= nB; ++i)
@@ -50,7 +51,7 @@ void referenceBiplot(Storage rows, matrix* sup, Storage cols, int nA, int nB, in
     }
     for (int j = 1; j <= k; ++j) {
         const double value = eigen->vbget(j, 1);
-        const double f = value == 0.0 ? 0.0 : std::pow(value, alpha * -0.5);
+        const double f = value == 0.0 ? 0.0 : vecmat::pow(value, alpha * -0.5);
         for (int i = 1; i <= m; ++i)
             if (at(cols, i, j) == M)
                 var->vbset(i, j, M);
@@ -121,9 +122,9 @@ TEST(BiplotTransData, MovesTheWeightOfTheEigenvaluesByTheExponent)
     const auto cols = byRows({{2, 27}, {6, 9}, {4, 0}});
     const auto eigen = column({16, 81});
     const Map half = mapOf(rows, cols, eigen, 1.0, 0.5); // the fourth root, from either side
-    EXPECT_THAT(cellsOf(half.obs), SameBits({1.0, -2.0, 3 * std::pow(81.0, -0.25), 5 * std::pow(81.0, -0.25)}));
+    EXPECT_THAT(cellsOf(half.obs), SameBits({1.0, -2.0, 3 * vecmat::pow(81.0, -0.25), 5 * vecmat::pow(81.0, -0.25)}));
     EXPECT_THAT(cellsOf(half.var),
-                SameBits({1.0, 3.0, 2.0, 27 * std::pow(81.0, -0.25), 9 * std::pow(81.0, -0.25), 0.0}));
+                SameBits({1.0, 3.0, 2.0, 27 * vecmat::pow(81.0, -0.25), 9 * vecmat::pow(81.0, -0.25), 0.0}));
 }
 
 TEST(BiplotTransData, AlphaOneLeavesTheObservations)
@@ -131,7 +132,7 @@ TEST(BiplotTransData, AlphaOneLeavesTheObservations)
     const auto rows = byRows({{0.1, 3}, {-4, -0.0}});
     const Map map = mapOf(rows, byRows({{2, 27}}), column({16, 81}), 1.0, 1.0);
     EXPECT_THAT(cellsOf(map.obs), SameBits(cellsOf(rows)));
-    EXPECT_THAT(cellsOf(map.var), SameBits({0.5, 27 * std::pow(81.0, -0.5)}));
+    EXPECT_THAT(cellsOf(map.var), SameBits({0.5, 27 * vecmat::pow(81.0, -0.5)}));
 }
 
 TEST(BiplotTransData, AlphaZeroLeavesTheVariablesHoweverSmallTheEigenvalue)
@@ -167,7 +168,7 @@ TEST(BiplotTransData, AnEigenvalueOfZeroHasAnInfiniteFactorForObservationsBelowA
 TEST(BiplotTransData, AMissingEigenvalueIsANumber)
 {
     const Map map = mapOf(byRows({{2}}), byRows({{3}}), column({M}), 1.0, -1.0);
-    EXPECT_THAT(cellsOf(map.obs), SameBits({2 * std::pow(M, -1.0)}));
+    EXPECT_THAT(cellsOf(map.obs), SameBits({2 * vecmat::pow(M, -1.0)}));
     EXPECT_THAT(cellsOf(map.var), SameBits({notANumber})); // the root of a negative number
 }
 

@@ -1,4 +1,5 @@
-// The powers of the vector kernel are those of std::pow, bit by bit.
+// The powers of the vector kernel are those of pow, bit by bit.
+#include "base/detail/mathematics/mathematics.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 
@@ -19,7 +20,7 @@ struct Shape
     double mean, var, skewP, kurtP, skewS, kurtS, seSkew, seKurt;
 };
 
-/// The updates one row at a time, with std::pow.
+/// The updates one row at a time, with pow.
 std::vector<double> plainSums(const std::vector<double>& x, const std::vector<double>& w)
 {
     double W = 0.0, mean = 0.0, m2 = 0.0, m3 = 0.0, m4 = 0.0;
@@ -30,7 +31,7 @@ std::vector<double> plainSums(const std::vector<double>& x, const std::vector<do
         if (w[i] == 0.0)
             continue;
         const double f = w[i] / W, d = x[i] - mean;
-        const double d4 = std::pow(d, 4.0), d3 = std::pow(d, 3.0), t = f * 3.0 * d * m2;
+        const double d4 = vecmat::pow(d, 4.0), d3 = vecmat::pow(d, 3.0), t = f * 3.0 * d * m2;
         m4 += (f + f) * d * (t - (m3 + m3)) + (((f * 6.0 + -4.0) - f * f * 3.0) * f + 1.0) * d4 * w[i];
         m3 = (m3 - t) + (f * f + f * f + (1.0 - f * 3.0)) * d3 * w[i];
         m2 += (1.0 - w[i] / W) * d * d * w[i];
@@ -39,7 +40,7 @@ std::vector<double> plainSums(const std::vector<double>& x, const std::vector<do
     const double variance = m2 / W;
     if (variance == 0.0)
         return {mean, variance, M, M};
-    return {mean, variance, (m3 / W) / std::pow(variance, 1.5), (m4 / W) / (variance * variance) + -3.0};
+    return {mean, variance, (m3 / W) / vecmat::pow(variance, 1.5), (m4 / W) / (variance * variance) + -3.0};
 }
 
 void expectPlainSums(const std::vector<double>& x, const std::vector<double>& w)
@@ -74,7 +75,22 @@ TEST(PowerKernels, MomentsOfWholeNumbersWhosePowersAreExact)
     expectPlainSums(data.wholes(5000, -1000, 1000), std::vector<double>(5000, 1.0));
 }
 
-// Powers that overflow, vanish or are no numbers are left to std::pow.
+// The weights double, so that the mean moves by half of each deviation and all of them are whole: odd ones whose cubes
+// have 54 bits, and lie in the middle between two doubles.
+TEST(PowerKernels, MomentsOfDeviationsWhoseCubesLieInTheMiddle)
+{
+    std::vector<double> x, w;
+    double mean = 0.0;
+    for (int i = 0; i < 24; ++i) {
+        const double deviation = (i % 2 == 0 ? 1.0 : -1.0) * (208065.0 + 2.0 * 1117.0 * i);
+        x.push_back(mean + deviation);
+        w.push_back(i == 0 ? 1.0 : std::ldexp(1.0, i - 1));
+        mean += i == 0 ? deviation : deviation * 0.5;
+    }
+    expectPlainSums(x, w);
+}
+
+// Powers that overflow, vanish or are no numbers, and those whose rounding is in doubt, are expanded exactly.
 TEST(PowerKernels, MomentsOfCellsOfAllMagnitudes)
 {
     for (const double scale : {1e-300, 1e-110, 1e-80, 1e-61, 1e-59, 1e59, 1e61, 1e80, 1e110, 1e300}) {

@@ -2,6 +2,8 @@
 
 #include "../utf16.h"
 
+#include "base/detail/mathematics/mathematics.h"
+
 #include <cmath>
 
 double sqr(double x)
@@ -21,7 +23,7 @@ short IsLong(double x)
 
 double Log10(double x)
 {
-    return std::log10(x);
+    return vecmat::log10(x);
 }
 
 int Mod(int a, int b)

@@ -1,10 +1,10 @@
 #include "determinants.h"
 
 #include "../base/detail/companions.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "../base/missing_value.h"
 #include "detail/lu_factors.h"
 
-#include <cmath>
 #include <optional>
 
 using namespace vecmat;
@@ -50,7 +50,7 @@ std::optional<DiagonalProduct> diagonalProduct(matrix* a, int n)
             x = -x;
             ++product.negatives;
         }
-        product.logarithm += std::log(x);
+        product.logarithm += vecmat::log(x);
     }
     return product;
 }
@@ -78,7 +78,7 @@ double M_Determinant(matrix* a, int n, short* status, short logOnOverflow)
             *status = -1;
             return positiveTwin;
         }
-        return negatedIf(product->isOdd(), lu.parity * std::exp(product->logarithm));
+        return negatedIf(product->isOdd(), lu.parity * vecmat::exp(product->logarithm));
     } catch (...) {
         *status = -1;
         return positiveTwin;
@@ -95,9 +95,9 @@ double M_LogDeterminant(matrix* a, int n)
     if (!product)
         return 0.0;
     if (!product->isOdd() && lu.parity > 0.0)
-        return product->logarithm + std::log(lu.parity);
+        return product->logarithm + vecmat::log(lu.parity);
     if (product->isOdd() && !(lu.parity > 0.0))
-        return product->logarithm + std::log(-lu.parity);
+        return product->logarithm + vecmat::log(-lu.parity);
     return missingValue;
 }
 
@@ -109,7 +109,7 @@ double M_DeterminantTriang(matrix* a, int n, short* status)
         return 0.0;
     try {
         const bool odd = Mod(product->negatives, 2) != 0;
-        return negatedIf(odd, std::exp(product->logarithm));
+        return negatedIf(odd, vecmat::exp(product->logarithm));
     } catch (...) {
         *status = -1;
         return positiveTwin;

@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "detail/side_by_side_moments.h"
 
 #include <cmath>
@@ -122,14 +123,14 @@ void V_GMeanGSD(matrix* v, int n, short* mask, matrix* w, double* gmean, double*
             continue;
         if (x <= 0.0)
             return;
-        moments.add(std::log(x), linear(w).get(i));
+        moments.add(vecmat::log(x), linear(w).get(i));
     }
     if (moments.rows == 0)
         return;
-    *gmean = std::exp(moments.mean);
+    *gmean = vecmat::exp(moments.mean);
     const double divisor = moments.weights - moments.weights / moments.rows;
     if (divisor != 0.0)
-        *gsd = std::exp(squareRoot(moments.squares / divisor));
+        *gsd = vecmat::exp(squareRoot(moments.squares / divisor));
 }
 
 int M_Mean(matrix* X, int n, int p, matrix*& mean, matrix* w)

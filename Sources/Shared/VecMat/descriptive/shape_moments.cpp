@@ -3,10 +3,9 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "../kernels/power_kernels.h"
 #include "detail/running_moments.h"
-
-#include <cmath>
 
 using namespace vecmat;
 
@@ -31,16 +30,16 @@ public:
         deviation_[pending_] = d;
         weight_[pending_] = w;
         weightsSoFar_[pending_] = weights;
-        if (++pending_ == mostPowers)
+        if (++pending_ == mostPending)
             finish();
     }
 
     /// Adds the rows that are still pending to the sums.
     void finish()
     {
-        double cube[mostPowers];
-        double fourth[mostPowers];
-        powThreeAndFour(pending_, deviation_, cube, fourth);
+        double cube[mostPending];
+        double fourth[mostPending];
+        cubesAndFourths(pending_, deviation_, cube, fourth);
         for (int k = 0; k < pending_; ++k)
             grow(deviation_[k], cube[k], fourth[k], weight_[k], weightsSoFar_[k]);
         pending_ = 0;
@@ -57,10 +56,11 @@ private:
         m2 += update::Fractional::squares(d, w, W);
     }
 
+    static constexpr int mostPending = 128;
     int pending_ = 0;
-    double deviation_[mostPowers];
-    double weight_[mostPowers];
-    double weightsSoFar_[mostPowers];
+    double deviation_[mostPending];
+    double weight_[mostPending];
+    double weightsSoFar_[mostPending];
 };
 
 } // namespace
@@ -93,7 +93,7 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
         return;
     }
 
-    const double skewness = (moments.m3 / W) / std::pow(variance, 1.5);
+    const double skewness = (moments.m3 / W) / vecmat::pow(variance, 1.5);
     *skewP = skewness;
     // The guard subtracts the mean weight even where the formulas subtract 1.
     const bool hasSampleSkewness = W - 2.0 * wbar > 0.0;

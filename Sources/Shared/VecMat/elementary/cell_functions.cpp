@@ -4,11 +4,11 @@
 #include "../access/cellwise.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace vecmat;
 
@@ -47,7 +47,7 @@ void M_LogMatrix(matrix*& a, int rows, int cols, short* mask)
                     continue;
                 for (int j = 0; j < cols; ++j)
                     if (!isMissing(cell.get(i, j)))
-                        cell.set(i, j, std::log(cell.get(i, j)));
+                        cell.set(i, j, vecmat::log(cell.get(i, j)));
             }
         },
         block(cells(a), rows, cols));

@@ -3,12 +3,12 @@
 #include "../access/cells.h"
 #include "../access/prepared_result.h"
 #include "../base/detail/companions.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "../elementary/scalar_arithmetic.h"
 #include "../elementary/sums_and_norms.h"
 #include "../frame/detail/handles.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <vector>
 
@@ -22,7 +22,7 @@ Factors observationFactors(matrix* eigen, int k, double alpha)
 {
     Factors factors(countOf(k));
     for (int j = 0; j < k; ++j)
-        factors[static_cast<std::size_t>(j)] = std::pow(linear(eigen).get(j), alpha * 0.5 - 0.5);
+        factors[static_cast<std::size_t>(j)] = vecmat::pow(linear(eigen).get(j), alpha * 0.5 - 0.5);
     return factors;
 }
 
@@ -36,7 +36,7 @@ Factors variableFactors(matrix* eigen, int k, double alpha)
     }
     for (int j = 0; j < k; ++j) {
         const double value = linear(eigen).get(j);
-        factors[static_cast<std::size_t>(j)] = value == 0.0 ? 0.0 : std::pow(value, alpha * -0.5);
+        factors[static_cast<std::size_t>(j)] = value == 0.0 ? 0.0 : vecmat::pow(value, alpha * -0.5);
     }
     return factors;
 }

@@ -1,5 +1,6 @@
 #include "services.h"
 
+#include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/numbers.h"
 #include "detail/resident_size.h"
 
@@ -74,7 +75,7 @@ std::wstring ChrSp(int code)
     long long rest = static_cast<long long>(code) - 65;
     if (rest < 26)
         return std::wstring(1, static_cast<wchar_t>(code));
-    const int length = truncated(std::floor(std::log(static_cast<double>(rest) + 1e-12) / logarithmOf26) + 1.0);
+    const int length = truncated(std::floor(vecmat::log(static_cast<double>(rest) + 1e-12) / logarithmOf26) + 1.0);
     std::wstring label;
     for (int place = length - 1; place >= 1; --place) {
         long long power = 1;

@@ -1,18 +1,16 @@
 #include "power_kernels.h"
 
-#include <cmath>
+#include "../base/detail/mathematics/mathematics.h"
 
 namespace vecmat {
 
-void powThreeAndFour(int count, const double* x, double* cube, double* fourth)
+void cubesAndFourths(int count, const double* x, double* cube, double* fourth)
 {
-    long long unsure[mostPowers];
-    powerKernels().cubesAndFourths(count, x, cube, fourth, unsure);
+    if (powerKernels().cubesAndFourths(count, x, cube, fourth))
+        return;
     for (int k = 0; k < count; ++k) {
-        if ((unsure[k] & 1) != 0)
-            cube[k] = std::pow(x[k], 3.0);
-        if ((unsure[k] & 2) != 0)
-            fourth[k] = std::pow(x[k], 4.0);
+        cube[k] = vecmat::cube(x[k]);
+        fourth[k] = fourthPower(x[k]);
     }
 }
 

@@ -2,11 +2,10 @@
 
 #include "../Smatrix.h"
 #include "../base/detail/companions.h"
+#include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/numbers.h"
 #include "../matrix.h"
 #include "../sorting/sort.h"
-
-#include <cmath>
 
 namespace {
 
@@ -24,9 +23,10 @@ double columnNumber(const std::wstring& letters)
     const int length = static_cast<int>(letters.size());
     double number = 0.0;
     for (int i = 1; i < length; ++i)
-        number += std::pow(base, i);
+        number += vecmat::pow(base, i);
     for (int i = 1; i < length; ++i)
-        number += (static_cast<double>(letters[static_cast<std::size_t>(i - 1)]) - 65.0) * std::pow(base, length - i);
+        number +=
+            (static_cast<double>(letters[static_cast<std::size_t>(i - 1)]) - 65.0) * vecmat::pow(base, length - i);
     const double lastCode = letters.empty() ? 0.0 : static_cast<double>(letters.back());
     return number + lastCode + -64.0;
 }

@@ -24,8 +24,9 @@ struct Bounds
 /// Bounds between which the places asked for most likely lie, from numbers at even steps. `sample` has room for n.
 Bounds likelyBounds(const double* x, std::size_t n, std::size_t place, double* sample)
 {
-    const double root = std::cbrt(static_cast<double>(n));
-    const auto step = static_cast<std::size_t>(root);
+    std::size_t step = 1; // the cube root of n
+    while ((step + 1) * (step + 1) * (step + 1) <= n)
+        ++step;
     const std::size_t size = n / step;
     for (std::size_t k = 0; k < size; ++k)
         sample[k] = x[k * step];
