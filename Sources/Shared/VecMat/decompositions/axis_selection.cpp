@@ -9,7 +9,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Takes small eigenvalues off the end of the list, or clears them. Returns the number left.
+/// Drops small eigenvalues from the end of the list, or clears them. Returns the number left.
 template <class Vector>
 int scanTail(Vector eig, int n, bool drop, double floor)
 {
@@ -20,7 +20,7 @@ int scanTail(Vector eig, int n, bool drop, double floor)
             continue;
         }
         eig.set(left - 1, 0.0);
-        // A floor above 0 would find the cleared entry below it for ever.
+        // With a floor above 0 the cleared entry would be found again for ever.
         break;
     }
     return left;
@@ -58,7 +58,7 @@ int FilterEigen(matrix*& eig, int n, short drop, double floor, double cumPercent
     const int byPercent = cumPercent > 0.0 ? countByPercent(shares, kept, cumPercent, left) : left;
     const int byCount = maxCount >= 1 ? maxCount : left;
     if (minValue > 0.0)
-        // Over all kept entries, not only the tail: a missing one in front counts too.
+        // Over all kept entries, not only the tail: an earlier missing one counts too.
         for (int k = kept - 1; k >= 0; --k)
             if (values.get(k) < minValue + zeroTolerance)
                 --left;

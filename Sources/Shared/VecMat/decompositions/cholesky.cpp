@@ -15,8 +15,8 @@ using namespace vecmat;
 
 namespace {
 
-/// Column i of L; false where it cannot be had. Its first `terms` columns are still to be taken off row i of `a`: for
-/// each cell by itself, from the last one back to the first.
+/// Computes column i of L; false if its pivot fails. The products of its first `terms` columns have yet to be
+/// subtracted from row i of `a`, in each cell from the last column back to the first.
 template <PivotTest test, class Cells, class Factor>
 bool factorColumn(Cells a, Factor l, int i, int terms, int n)
 {
@@ -60,7 +60,7 @@ int factorInOrder(matrix* a, int n, matrix* l)
         [n](auto x, auto y) { return factorCellByCell<test>(x, y, n); }, block(cells(a), n, n), block(cells(l), n, n));
 }
 
-// ---- with a search for the pivot ------------------------------------------------------------------------------------
+// ---- with pivoting --------------------------------------------------------------------------------------------------
 
 /// The first of the largest of score(first) to score(n - 1).
 template <class Score>
@@ -88,19 +88,19 @@ int choosePivot(Cells w, Factor l, int i, int n)
     });
 }
 
-/// A row of the table from which all terms have been taken off.
+/// A row of the table with all terms subtracted.
 struct ReducedRow
 {
     const double* cells;
     double get(int /*i*/, int j) const { return cells[j]; }
 };
 
-/// Columns of L for tables that lie apart, many cells side by side where there is memory for a row of them.
+/// Columns of L for tables that don't overlap, many cells side by side if there is memory for a row of them.
 class ColumnFactor
 {
 public:
-    /// The last cells of a row may run over, in L into the next column: there is one as long as a kernel has not more
-    /// results than a column cells.
+    /// The last cells of a row may spill over, in L into the next column: there is one as long as a kernel has no more
+    /// results than a column has cells.
     explicit ColumnFactor(int n) : n_(n), reduced_(n < kernels_.width ? 0 : countOf(n) + countOf(kernels_.width)) {}
 
     template <class Cells, class Factor>
@@ -152,7 +152,7 @@ int factorPermuted(matrix* a, int n, matrix* l, Permutation* perm, short keep)
     const VectorCells<Permutation> order = linear(perm);
     for (int i = 0; i < n; ++i)
         order.set(i, i + 1);
-    // A table that is too small cannot be replaced for the caller, who goes on holding it.
+    // A table that is too small cannot be replaced for the caller, who still holds it.
     const bool large = l != nullptr && l->nRows >= n && l->nCols >= n;
     const TableHandle substitute = large ? TableHandle() : fresh(n, n);
     if (large)

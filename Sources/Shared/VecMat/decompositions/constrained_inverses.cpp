@@ -16,7 +16,7 @@ constexpr double ofOneCell(double x)
     return 1.0 / (x == 0.0 ? zeroTolerance : x);
 }
 
-/// Inverse of the block into `inverse`; 0, or 1 for a g2 inverse.
+/// Writes the inverse of the block to `inverse`; returns 0, or 1 for a g2 inverse.
 int invertOrGeneralise(matrix* block, int order, matrix* inverse)
 {
     if (order == 1) {
@@ -26,8 +26,7 @@ int invertOrGeneralise(matrix* block, int order, matrix* inverse)
     short status = 0;
     if (block->inverse1(inverse, status, zeroTolerance) == 0)
         return 0;
-    // The g2 inverse replaces all that the first of the two writes: the sequence is settled, its
-    // result is the second's.
+    // The g2 inverse overwrites everything the first inverse writes: the order is fixed, and the second result counts.
     int rank = 0;
     M_InvGeneralized(block, order, inverse, zeroTolerance, &rank);
     M_InverseG2(block, order, zeroTolerance, inverse);

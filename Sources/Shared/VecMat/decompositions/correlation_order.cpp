@@ -20,7 +20,7 @@ namespace {
 
 enum ScoreMode { largestCell = 1, variance = 2, firstEigenvector = 3 };
 
-/// The scores of modes 1 and 2: of the first row of the table as it stands, whatever the variable.
+/// The scores of modes 1 and 2: always those of the current first row of the table, whatever the variable.
 class FirstRowScore
 {
 public:
@@ -44,7 +44,7 @@ private:
     std::vector<short> mask_;
 };
 
-/// The eigenvectors in mode 3, in columns by descending eigenvalue; null where they are not needed or can't be had.
+/// The eigenvectors in mode 3, in columns by descending eigenvalue; null if they are not needed or unavailable.
 TableHandle eigenvectors(matrix* R, int n, int mode)
 {
     TableHandle values, vectors;
@@ -53,8 +53,8 @@ TableHandle eigenvectors(matrix* R, int n, int mode)
     return vectors;
 }
 
-/// Scores of all variables; sets the diagonal to 1.0. The diagonal cell of a variable is missing only while its own
-/// score is worked out, and so counts in those of the variables behind it.
+/// Scores of all variables; sets the diagonal to 1.0. A variable's diagonal cell is missing only while its own score is
+/// computed, and so counts in the scores of later variables.
 TableHandle scores(matrix* R, int n, int mode)
 {
     const TableHandle vectors = eigenvectors(R, n, mode);
@@ -83,7 +83,7 @@ TableHandle descendingOrder(TableHandle score, int n)
     return order;
 }
 
-/// Rows, turned, rows again: a table that is not symmetric comes out transposed.
+/// Reorders the rows, transposes, reorders the rows again: a table that is not symmetric comes out transposed.
 template <class Table>
 void reorderBothAxes(Table* table, int n, matrix* order)
 {

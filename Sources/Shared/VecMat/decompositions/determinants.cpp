@@ -29,7 +29,7 @@ struct Factored
     }
 };
 
-/// The product of the diagonal, by logarithm of magnitude and count of negative cells.
+/// The product of the diagonal, as log magnitude and number of negative cells.
 struct DiagonalProduct
 {
     double logarithm = 0.0;
@@ -38,7 +38,7 @@ struct DiagonalProduct
     bool isOdd() const { return negatives % 2 != 0; }
 };
 
-/// None where a cell is exactly 0.
+/// None if a cell is exactly 0.
 std::optional<DiagonalProduct> diagonalProduct(matrix* a, int n)
 {
     DiagonalProduct product;
@@ -88,7 +88,7 @@ double M_Determinant(matrix* a, int n, short* status, short logOnOverflow)
 double M_LogDeterminant(matrix* a, int n)
 {
     Factored lu(a, n);
-    // Without a pivot in the first column it goes on all the same, on the table as it is.
+    // Without a pivot in the first column the computation still goes on, on the table as it is.
     if (lu.status == -1)
         return missingValue;
     const std::optional<DiagonalProduct> product = diagonalProduct(&lu.factors, n);

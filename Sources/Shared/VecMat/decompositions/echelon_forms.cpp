@@ -32,12 +32,12 @@ void bringPivotToOne(Cells out, int i, int n)
     }
 }
 
-/// Takes row i, whose pivot is 1, off the rows below it.
+/// Eliminates row i, whose pivot is 1, from the rows below it.
 template <class Cells>
 void reduceRowsBelow(Cells out, int i, int n)
 {
     for (int r = i + 1; r < n; ++r) {
-        // Only the row that comes next is divided, by the pivot that it is about to have.
+        // Only the next row is divided, by the pivot it is about to get.
         const double q = r == i + 1 ? out.get(r, r) - out.get(r, i) * out.get(i, r) : 1.0;
         if (std::fabs(q) > zeroTolerance) {
             for (int c = i + 1; c < n; ++c)
@@ -69,7 +69,7 @@ void forwardDoolittle(Source a, Cells out, int n)
     }
 }
 
-/// Brings the cells above the pivots to 0.
+/// Clears the cells above the pivots.
 template <class Cells>
 void reduceRowsAbove(Cells h, int n)
 {

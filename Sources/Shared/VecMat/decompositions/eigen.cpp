@@ -19,7 +19,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Column after column, so that the answer comes at the first missing cell.
+/// Column by column, to stop at the first missing cell.
 template <class Cells>
 bool hasMissing(Cells cells, int n)
 {
@@ -34,7 +34,7 @@ bool hasMissing(Cells cells, int n)
         block(cells, n, n));
 }
 
-/// Column `placeOf(j)` of one table into column j of the other.
+/// Copies column `placeOf(j)` of one table into column j of the other.
 template <class From, class To, class PlaceOf>
 void copyColumns(From from, To to, int n, PlaceOf placeOf)
 {
@@ -53,12 +53,12 @@ void copySquare(From from, To to, int n)
     copyColumns(from, to, n, [](int j) { return j; });
 }
 
-/// Brings the eigenvalues into descending order, equal ones in the order found, and the columns of `vectors` with them.
+/// Sorts the eigenvalues in descending order, ties in the order found, and the columns of `vectors` with them.
 template <class Cells>
 void sortDescending(matrix* values, Cells vectors, int n)
 {
-    // All memory is had before the values move, so that values and vectors belong together where it runs out.
-    const TableHandle table = fresh(n, n + 1); // the vectors as found, and where they go
+    // Allocate everything before moving values, so that values and vectors still match if memory runs out.
+    const TableHandle table = fresh(n, n + 1); // the vectors as found, and their places
     const auto found = cells<matrix>(table);
     copySquare(vectors, found, n);
     const auto keys = linear(values);
@@ -74,10 +74,10 @@ void sortDescending(matrix* values, Cells vectors, int n)
     copyColumns(found, vectors, n, [&](int j) { return truncated(found.get(j, n)); });
 }
 
-/// A smaller table is done before a workspace is set up.
+/// Below this order setting up a workspace costs more than it saves.
 constexpr int smallestInWorkspace = 20;
 
-/// As `eigenInPlace`, in a workspace where that pays and where its order of work cannot be seen.
+/// Like `eigenInPlace`, in a workspace where that pays and the order of operations is not observable.
 template <class Cells>
 bool eigenOfPlainCells(Cells a, PlainVector<matrix> d, PlainVector<matrix> e, int n)
 {
@@ -89,7 +89,7 @@ bool eigenOfPlainCells(Cells a, PlainVector<matrix> d, PlainVector<matrix> e, in
     return eigenInPlace(a, d, e, n);
 }
 
-/// What all forms do once `vectors` holds the input. The scratch is had before any result is prepared.
+/// Common to all forms once `vectors` holds the input. The scratch memory is allocated before any result is prepared.
 template <class Cells>
 int decompose(Cells vectors, matrix*& values, LocalArray<double>& offDiagonal, int n, short sort)
 {
@@ -148,7 +148,7 @@ int M_EigenDestroySPV(matrix** a, matrix*& values, int n, short sort)
     }
 }
 
-// The one form without a handler: what strikes here passes to the caller.
+// The one form without a handler: exceptions pass to the caller.
 int M_EigenSPV_T(matrix** a, matrix*& values, matrix** vectors, int n, short sort)
 {
     if (hasMissing(triangle(a), n))

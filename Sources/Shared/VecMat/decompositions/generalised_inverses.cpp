@@ -9,7 +9,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The singular value decomposition of a square table, all columns of U and V with it.
+/// The singular value decomposition of a square table, with all columns of U and V.
 struct Decomposition
 {
     TableHandle s;

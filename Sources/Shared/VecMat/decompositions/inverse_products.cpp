@@ -8,7 +8,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The inverse in a table of order `n`; 0.0 throughout where there is none, which is not looked at.
+/// The inverse in a table of order `n`; 0.0 throughout if there is none, which is not checked.
 TableHandle inverseOf(matrix* b, int n, double tol)
 {
     TableHandle inverse = fresh(n, n);

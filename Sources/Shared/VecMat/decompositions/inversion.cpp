@@ -37,8 +37,8 @@ int invert(Block<Checked> workspace, int n, matrix* out, double tol)
     return 0;
 }
 
-/// Private copies of column tables. A column beyond the array is one without cells, so that all of its cells are out
-/// of range.
+/// Private copies of column tables. A column beyond the array counts as one without cells: all of its cells are out of
+/// range.
 class ColumnCopies
 {
 public:
@@ -60,7 +60,7 @@ private:
 
 // ---- the triangular table -------------------------------------------------------------------------------------------
 
-/// The diagonal of the inverse; false at the first cell that is too small.
+/// Computes the diagonal of the inverse; false at the first cell that is too small.
 template <class Cells, class Out>
 bool invertDiagonal(Cells a, Out out, int n, double tol)
 {

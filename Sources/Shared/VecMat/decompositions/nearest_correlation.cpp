@@ -42,7 +42,7 @@ struct TriangularArray
 {
     matrix** a;
 
-    // Beyond the end of a column nothing is counted, so that the square covers the triangle.
+    // Beyond the end of a column nothing is counted, so counting over the square covers the triangle.
     int countMissing(int n) const { return M_NbMissing2(a, n, n); }
     void subtract(matrix* other, int n, matrix*& out) const { M_Sums1As2BSPV_T(a, n, n, other, 1.0, -1.0, out); }
     void setUnitDiagonalOf(matrix* x, int n) const { M_UProjectSPV_T(x, n, a); }
@@ -60,7 +60,7 @@ struct Metric
 
 Metric metricOf(matrix* weights, int n)
 {
-    // The size of the tolerance does not matter: any one above 0 selects the same pivot threshold.
+    // The size of the tolerance does not matter: any positive one selects the same pivot threshold.
     constexpr double tolerance = 1e-6;
     Metric metric{fresh(n, n), fresh(n, n)};
     M_SquareRoot(weights, n, metric.root.reference());
@@ -77,8 +77,8 @@ TableHandle identity(int n)
     return table;
 }
 
-/// What `metricOf` makes of the identity, without its eigenvalues: these catch a failed allocation, and from a root of
-/// zeros the iteration would never find to an end.
+/// What `metricOf` returns for the identity, without its eigenvalues: those routines catch a failed allocation, and
+/// with a root of zeros the iteration would never end.
 Metric identityMetric(int n)
 {
     return {identity(n), identity(n)};
@@ -101,7 +101,7 @@ void projectOnCone(matrix* a, int n, const Metric& metric, matrix* out)
 template <class Storage>
 int iterate(Storage a, int n)
 {
-    // The projections meet in the end, but for cells so large that rounding keeps them apart.
+    // The projections converge in the end, unless the cells are so large that rounding keeps them apart.
     constexpr int passLimit = 100000;
     if (a.countMissing(n) > 0)
         return -1;

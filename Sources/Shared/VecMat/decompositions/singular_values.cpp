@@ -20,11 +20,11 @@ void copyBlock(From from, To to, int rows, int cols)
             to.set(i, j, from.get(i, j));
 }
 
-/// A smaller table is done before a workspace is set up.
+/// Below this number of rows setting up a workspace costs more than it saves.
 constexpr int fewestRows = 12;
 constexpr int fewestColumns = 8;
 
-/// As `decompose`, where the order of work cannot be seen.
+/// Like `decompose`, where the order of operations is not observable.
 template <class From, class Left, class Right>
 bool decomposeApart(From x, int n, int p, matrix* s, PlainVector<matrix> values, Left u, Right v,
                     SingularVectors wanted, int& info)
@@ -39,7 +39,7 @@ bool decomposeApart(From x, int n, int p, matrix* s, PlainVector<matrix> values,
     return decomposeInWorkspace(x, n, p, s, u, v, wanted, info);
 }
 
-/// Works on x itself, and restores it.
+/// Works on x itself, then restores it.
 template <class Store, class Cells>
 int decomposeInPlace(Store x, Cells xCells, int n, int p, matrix* s, Store u, Store v, SingularVectors wanted)
 {
@@ -79,8 +79,8 @@ void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, 
 {
     *info = 0;
     const SingularVectors wanted(job, n, p);
-    // A table with more columns than rows has a value without a left vector: where cells that are no numbers let a
-    // split reach it, its column does not exist.
+    // A table with more columns than rows has a value without a left vector: if NaN or infinite cells let a split reach
+    // it, its column does not exist.
     *info =
         decompose(x, ColumnStore(x, p), n, p, s, u, ColumnStore(u, wanted.leftColumns), v, ColumnStore(v, p), wanted);
 }

@@ -7,7 +7,7 @@ using namespace vecmat;
 
 namespace {
 
-/// One column where the left vectors are not asked for, also for a negative job.
+/// One column if the left vectors are not requested, also for a negative job.
 int leftColumns(int n, int p, int job)
 {
     const int tens = job % 100 / 10;

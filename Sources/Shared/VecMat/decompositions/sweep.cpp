@@ -13,13 +13,13 @@ using namespace vecmat;
 
 namespace {
 
-/// Up to this order all positions are ints.
+/// Up to this order all positions fit an int.
 constexpr int largestPlainOrder = 65535;
 
-/// Fewer cells than this cost less than the call of a kernel.
+/// Fewer cells than this cost less than calling a kernel.
 constexpr int leastForKernel = 8;
 
-/// Position of cell (i, j), all from 0, for an accessor in linear order. A number out of range wraps.
+/// Position of cell (i, j), both from 0, for an accessor in linear order. Out-of-range numbers wrap.
 int at(int i, int j)
 {
     return static_cast<int>(static_cast<unsigned>(packedPosition(i, j)));
@@ -50,7 +50,7 @@ void sweep(Cells a, int n, int k)
     // Read back: a pivot outside the table is -1.0 here and so counts as one that was positive.
     const double d = a.get(at(k, k));
     const double scale = std::fabs(d);
-    // The pivot's column as scaled in this sweep, which no later step changes.
+    // The pivot's column as scaled in this sweep; no later step changes it.
     LocalArray<double> scratch(countOf(n));
     double* const pivotColumn = scratch.data();
     for (int i = 0; i < n; ++i) {
@@ -76,7 +76,7 @@ int M_Sweep(matrix* a, int n, int k)
     const int pivot = zeroBased(k);
     const VectorCells<matrix> checked = linear(a);
     const int order = std::max(n, k);
-    // Of the number itself: the lowest one wraps to a pivot above 0.
+    // Tests the number itself: the lowest one would wrap to a positive pivot.
     const bool inside = k >= 1 && order <= largestPlainOrder && checked.covers(at(order - 1, order - 1) + 1);
     onBlocks([=](auto packed) { sweep(packed, n, pivot); }, Block<VectorCells<matrix>>{checked, inside});
     return 0;

@@ -1,5 +1,5 @@
 // Cholesky factors by strips of rows, many cells side by side. Each cell is the same running difference in the same
-// order as in the row form, which stays the way for small tables and wherever the order of the cells can be seen.
+// order as in the row form, which is still used for small tables and wherever the order of the cells is observable.
 #pragma once
 
 #include "../../access/overlap.h"
@@ -27,8 +27,8 @@ bool failsAsPivot(double x)
         return x < 0.0;
 }
 
-/// L of order n, as many of its rows at a time as a kernel has results, each strip from its first column to the
-/// diagonal. Its scratch memory is a table of order n and a strip of it.
+/// L of order n, computed as many rows at a time as a kernel has results, each strip from its first column to the
+/// diagonal. Needs scratch memory for a table of order n and a strip of it.
 template <PivotTest test, class Cells, class Factor>
 class StripCholesky
 {
@@ -41,7 +41,7 @@ public:
 
     bool hasMemory() const { return rows_ && strip_; }
 
-    /// Returns 0, or -1 with the columns before the pivot that failed; the other cells of l are not touched.
+    /// Returns 0, or -1 with only the columns before the failed pivot written to l.
     int run()
     {
         for (int first = 0; first < n_; first += kernels_.width) {
@@ -62,7 +62,7 @@ private:
     double* strip(int k) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * k; }
     int endOf(int first) const { return std::min(first + kernels_.width, n_); }
 
-    /// What the columns before i leave of column i in the strip, taken off from the last one back to the first.
+    /// Subtracts the columns before i from column i in the strip, from the last one back to the first.
     void reduce(int i, int first) const
     {
         double* const cells = strip(i);
@@ -73,7 +73,7 @@ private:
             kernels_.subtract(i, {row(i) + i - 1, -1}, {strip(i - 1), -kernels_.width}, cells);
     }
 
-    /// The columns that have their diagonal in the strip. Above it there are numbers that nobody reads.
+    /// The columns whose diagonal is in the strip. The values above the diagonal are never read.
     void factorTriangle(int first)
     {
         for (int i = first; i < std::min(endOf(first), columns_); ++i) {
@@ -83,7 +83,7 @@ private:
             double& diagonal = strip(i)[i - first];
             const bool fails = failsAsPivot<test>(diagonal);
             const double pivot = fails ? 0.0 : squareRoot(diagonal);
-            // At the last row one of 0 divides nothing.
+            // In the last row a pivot of 0 divides nothing.
             if (fails || (pivot == 0.0 && i + 1 < n_)) {
                 columns_ = i;
                 return;
@@ -105,16 +105,15 @@ private:
     Cells a_;
     Factor l_;
     int n_;
-    int columns_; ///< how many columns of L can be had
+    int columns_; ///< number of columns of L completed
     Scratch rows_;
     Scratch strip_;
 };
 
-/// Below this order copying costs more than it brings.
+/// Below this order copying costs more than it saves.
 inline constexpr int leastStripOrder = 40;
 
-/// None where the factor is too small for this, where it lies over the table, or where there is no memory: nothing is
-/// done.
+/// None, with nothing done, if the factor is too small for this or overlaps the table, or if allocation fails.
 template <PivotTest test, class Cells, class Factor>
 std::optional<int> factorByStrips(Cells a, Factor l, int n)
 {

@@ -1,4 +1,4 @@
-// A table in memory of its own, laid out for the kernels of `kernels/column_kernels.h`.
+// A table in its own memory, laid out for the kernels of `kernels/column_kernels.h`.
 #pragma once
 
 #include "../../base/detail/numbers.h"
@@ -10,8 +10,8 @@
 
 namespace vecmat {
 
-/// Columns numbered from 0, each at a multiple of the widest vectors. Behind the last row and the last column there are
-/// zeros, for kernels that take whole vectors and whole groups of columns.
+/// Columns numbered from 0, each starting at a multiple of the widest vectors. After the last row and the last column
+/// there are zeros, for kernels that read whole vectors and whole groups of columns.
 class ColumnWorkspace
 {
 public:
@@ -28,7 +28,7 @@ public:
 private:
     static constexpr int lanes = ColumnKernels::mostLanes;
 
-    /// An odd number of vectors, lest the same row of many columns falls on the same place of the cache.
+    /// An odd number of vectors, so that one row of many columns does not map to the same cache set.
     static std::ptrdiff_t strideFor(int rows)
     {
         return std::ptrdiff_t{lanes} * (((std::max(rows, 0) + lanes - 1) / lanes) | 1);

@@ -1,9 +1,9 @@
 // Crout's method: P a = L U with implicit scaled pivoting (ludcmp of Press, Flannery, Teukolsky, Vetterling: Numerical
-// Recipes, 1st edition), over accessors, so that every storage has the same arithmetic. L, with a unit diagonal that is
-// not stored, and U take the place of a.
+// Recipes, 1st edition), over accessors, so that every storage has the same arithmetic. L, whose unit diagonal is not
+// stored, and U overwrite a.
 //
-// Two users share it: the factorisation that is handed out, and the inverse. What they do differently at a pivot is
-// their rule, `ZeroPivotReplaced` or `SmallPivotRefused`; everything else is common to both.
+// Two users share it: the exported factorisation and the inverse. Their treatment of a pivot differs and is their rule,
+// `ZeroPivotReplaced` or `SmallPivotRefused`; everything else is common to both.
 #pragma once
 
 #include "../../access/cells.h"
@@ -18,8 +18,8 @@ enum class CroutOutcome { factored, zeroRow, noPivot, smallPivot };
 
 inline constexpr int noRow = -1;
 
-/// The rule of the factorisation: a pivot of exactly 0 gives way to a tiny one, so that a singular table is factored
-/// all the same. A first column without a cell that compares, NaN throughout, ends it.
+/// The rule of the factorisation: a pivot of exactly 0 is replaced by a tiny one, so that a singular table is still
+/// factored. A first column whose cells are all NaN ends it.
 struct ZeroPivotReplaced
 {
     static constexpr double tinyPivot = 1e-20;
@@ -34,8 +34,8 @@ struct ZeroPivotReplaced
     }
 };
 
-/// The rule of the inverse: a pivot up to the threshold, in absolute terms, ends it. A first column without a cell that
-/// compares takes its pivot from row 1.
+/// The rule of the inverse: a pivot whose magnitude does not exceed the threshold ends it. A first column whose cells
+/// are all NaN takes its pivot from row 1.
 struct SmallPivotRefused
 {
     static constexpr int pivotRowBeforeAny = 0;
@@ -51,12 +51,12 @@ struct SmallPivotRefused
 /// The permutation P, as the exchanges that make it.
 struct RowExchanges
 {
-    std::vector<int> partner; ///< the row that was exchanged with row j at step j, for the steps taken
+    std::vector<int> partner; ///< the row exchanged with row j at step j, for the steps taken
     double parity = 1.0;      ///< 1.0 for an even number of exchanges, -1.0 for an odd one
 };
 
-/// A square block for the method. Where the rows of a table run over into its next column, two cells of the block are
-/// one and the order of all writes shows: such a block, too, is left to the checked accessor.
+/// A square block for the method. If the rows of a table run over into the next column, two cells of the block coincide
+/// and the order of all writes is observable: such a block also gets the checked accessor.
 inline Block<TableCells<matrix>> squareBlock(matrix* a, int n)
 {
     return {cells(a), n < 1 || (n <= a->nRows && cells(a).covers(n, n))};
@@ -68,14 +68,14 @@ inline Block<ColumnCells<matrix>> squareBlock(matrix** a, int n)
     return block(cells(a), n, n);
 }
 
-/// What goes from column to column.
+/// State carried from column to column.
 struct CroutState
 {
     std::vector<double> scales; ///< for each row, as permuted, the reciprocal of its largest magnitude
-    int pivotRow;               ///< a column without a candidate that compares keeps the row of the one before
+    int pivotRow;               ///< a column without a comparable candidate keeps the row of the one before
 };
 
-/// The reciprocal of the largest magnitude of each row, NaN passed over; false where a row has nothing but zeros.
+/// The reciprocal of the largest magnitude of each row, ignoring NaNs; false if a row is all zeros.
 template <class Cells>
 bool scaleRows(Cells a, int n, std::vector<double>& scales)
 {
@@ -94,8 +94,8 @@ bool scaleRows(Cells a, int n, std::vector<double>& scales)
     return true;
 }
 
-/// Takes columns `first` to j - 1 off column j in rows `first` to `end` - 1: cell i loses a(i, k) a(k, j) for each k
-/// below i and j, in the order of k.
+/// Subtracts columns `first` to j - 1 from column j in rows `first` to `end` - 1: cell i loses a(i, k) a(k, j) for each
+/// k below i and j, in the order of k.
 template <class Cells>
 void reduceColumn(Cells a, int first, int j, int end)
 {
@@ -107,7 +107,7 @@ void reduceColumn(Cells a, int first, int j, int end)
     }
 }
 
-/// Of equal candidates the last wins. The row of the pivot stays where no candidate compares.
+/// Of equal candidates the last wins. The pivot row is unchanged if no candidate compares.
 template <class Cells>
 void searchPivot(Cells a, int j, int n, CroutState& state)
 {
@@ -124,8 +124,7 @@ void searchPivot(Cells a, int j, int n, CroutState& state)
     state.pivotRow = row;
 }
 
-/// Brings the row of the pivot to row j with `exchange` and divides what is below the pivot; false where the rule does
-/// not accept it.
+/// Moves the pivot row to row j with `exchange` and divides the cells below the pivot; false if the rule rejects it.
 template <class Cells, class PivotRule, class Exchange>
 bool settlePivot(Cells a, int j, int n, PivotRule rule, CroutState& state, RowExchanges& exchanges, Exchange exchange)
 {

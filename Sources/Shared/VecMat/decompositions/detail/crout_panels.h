@@ -1,5 +1,5 @@
 // Crout's method on panels: several columns side by side. Each cell is the same running difference in the same order as
-// in `crout.h`, which stays the way for small tables and wherever the order of the columns can be seen.
+// in `crout.h`, which is still used for small tables and wherever the order of the columns is observable.
 #pragma once
 
 #include "../../base/detail/scratch.h"
@@ -14,9 +14,9 @@
 
 namespace vecmat {
 
-/// A copy of a square table, in panels of as many rows as a tile has, each panel column by column. So the cells of a
-/// panel in neighbouring columns are a tile, and those from column 0 on are a packed left operand, without a copy. The
-/// places behind the last row and column are 0.0, and nobody looks at what becomes of them.
+/// A copy of a square table, in panels of as many rows as a tile, each panel column by column. So the cells of a panel
+/// in neighbouring columns form a tile, and those from column 0 on a packed left operand, without a copy. The places
+/// after the last row and column start as 0.0; whatever they become is never read.
 class RowPanels
 {
 public:
@@ -28,14 +28,14 @@ public:
 
     explicit operator bool() const { return static_cast<bool>(cells_); }
 
-    /// The number of cells from one column to the next.
+    /// The distance, in cells, from one column to the next.
     int height() const { return height_; }
     /// The place of cell (i, 0).
     double* row(int i) const { return cells_.data() + countOf(i / height_) * panelSize_ + countOf(i % height_); }
     /// From cell (i, j), i the first row of a panel, down to the last row of the panel.
     double* tile(int i, int j) const { return row(i) + std::ptrdiff_t{height_} * j; }
 
-    /// Calls visit(i, cells, count) for each contiguous part of column j from row `first` down to the last.
+    /// Calls visit(i, cells, count) for each contiguous part of column j from row `first` to the last.
     template <class Visit>
     void visitColumn(int j, int first, Visit visit) const
     {
@@ -75,7 +75,7 @@ private:
     Scratch cells_;
 };
 
-/// Some neighbouring columns of a table, by the numbers that they have there.
+/// Some neighbouring columns of a table, addressed by their numbers there.
 class ColumnsFrom
 {
 public:
@@ -92,8 +92,7 @@ private:
     int first_;
 };
 
-/// The factorisation of a copy. Its scratch memory is a table of order n and two strips of as many columns as
-/// a tile has.
+/// The factorisation of a copy. Needs scratch memory for a table of order n and two strips as wide as a tile.
 template <class PivotRule>
 class PanelledCrout
 {
@@ -108,8 +107,8 @@ public:
 
     bool hasMemory() const { return panels_ && right_ && columns_; }
 
-    /// None where a column has no candidate that compares, and would take a pivot from rows that are done: the columns
-    /// behind it are still to see what this makes of those rows.
+    /// None if a column has no comparable candidate and would take its pivot from finished rows: the later columns have
+    /// yet to see what this does to those rows.
     template <class Cells>
     std::optional<CroutOutcome> run(Cells a)
     {
@@ -127,7 +126,7 @@ public:
     RowExchanges takeExchanges() { return std::move(exchanges_); }
 
 private:
-    /// Takes all columns before `first` off as many columns from there on as a tile has.
+    /// Subtracts all columns before `first` from the columns of the tile that starts there.
     void reduceColumns(int first) const
     {
         for (int i = 0; i < n_; i += tiles_.rows) {
@@ -139,8 +138,8 @@ private:
         }
     }
 
-    /// Factors columns that are reduced by all columns before them, from the diagonal down, and brings the other
-    /// columns' rows into the same order. None, or how it ended early; `noPivot` where `run` gives up.
+    /// Factors columns already reduced by all earlier ones, from the diagonal down, and reorders the rows of the other
+    /// columns to match. None, or how it ended early; `noPivot` if `run` gives up.
     std::optional<CroutOutcome> factorColumns(int first, int end)
     {
         const ColumnsFrom columns(columns_.data(), columnStride_, first);
@@ -168,8 +167,8 @@ private:
         return std::nullopt;
     }
 
-    /// The same as `reduceColumn` for the rows from j on, as many side by side as a kernel has results. The last ones
-    /// run over into places behind the column.
+    /// Like `reduceColumn` for the rows from j on, as many side by side as a kernel has results. The last ones spill
+    /// into the places after the column.
     void reduceDown(ColumnsFrom columns, int first, int j) const
     {
         for (int i = j; i < n_; i += rows_.width)
@@ -177,7 +176,8 @@ private:
                            columns.column(j) + i);
     }
 
-    /// All exchanges of some columns for each other column in turn: its rows from `first` on are at hand.
+    /// Applies all exchanges of some columns to each other column in turn, while its rows from `first` on are in the
+    /// cache.
     void exchangeOutside(int first, int end) const
     {
         double* row[TileKernels::mostCols];
@@ -209,10 +209,10 @@ private:
     Scratch columns_;
 };
 
-/// Below this order copying costs more than it brings.
+/// Below this order copying costs more than it saves.
 inline constexpr int leastPanelledOrder = 32;
 
-/// Factors the block of order n in place. Where it ends early the cells are of no use.
+/// Factors the block of order n in place. If it ends early the cells are meaningless.
 template <class Cells, class PivotRule>
 CroutOutcome factorCrout(Cells a, int n, PivotRule rule, RowExchanges& exchanges)
 {

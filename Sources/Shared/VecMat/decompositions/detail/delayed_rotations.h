@@ -1,4 +1,4 @@
-// Rotations of the columns of a workspace, carried out some time after they are asked for.
+// Rotations of the columns of a workspace, carried out some time after they are requested.
 #pragma once
 
 #include "column_workspace.h"
@@ -11,12 +11,12 @@
 
 namespace vecmat {
 
-/// An iteration rotates columns that it doesn't look at. Its rotations are gathered, and a batch of them is carried out
-/// on a panel of rows at a time, which stays in the cache. That is done bit by bit while the next batch is gathered:
-/// the iteration is one long chain of divisions and roots, and leaves the processor idle. Each row goes through the
-/// same rotations in the same order as without the delay.
+/// An iteration rotates columns that it doesn't read. Its rotations are collected, and each batch is carried out on one
+/// panel of rows at a time, which stays in the cache. That is done bit by bit while the next batch is collected: the
+/// iteration is one long chain of divisions and roots, and leaves the processor idle. Each row goes through the same
+/// rotations in the same order as without the delay.
 ///
-/// The memory is that of the columns, copied into panels, and of 16 rotations for each column.
+/// It needs memory for the columns, copied into panels, and for 16 rotations per column.
 class DelayedRotations
 {
 public:
@@ -40,7 +40,7 @@ public:
         advance(panelCount_);
     }
 
-    /// To be called once, before the columns are read.
+    /// Call once, before the columns are read.
     void carryOut()
     {
         startBatch();
@@ -60,7 +60,7 @@ private:
         int vectors;
     };
 
-    /// Panels of about the same size: a narrow one would wait for its own results.
+    /// Panels of about equal size: a narrow one would wait for its own results.
     Panel panel(int number) const
     {
         const auto start = [this](int i) {
@@ -133,9 +133,9 @@ private:
     int runningCount_ = 0;
     Scratch panels_;
     bool isOpen_ = false;
-    int current_ = panelCount_; // panel that the running batch has come to; none is left
+    int current_ = panelCount_; // current panel of the running batch; none is left
     Panel here_{};
-    int done_ = 0; // of the batch's rotations on this panel
+    int done_ = 0; // rotations of the batch done on this panel
 };
 
 } // namespace vecmat

@@ -1,5 +1,5 @@
-// Models with linear constraints mark parameters as fixed: their rows and columns are taken out of a square table, and
-// a result for what remains goes back to the places that it came from.
+// Models with linear constraints mark parameters as fixed: their rows and columns are removed from a square table, and
+// the result for the remaining block is written back to the original places.
 #pragma once
 
 #include "../../access/cells.h"
@@ -9,15 +9,15 @@
 
 namespace vecmat {
 
-/// What a mask of n entries retains of a square table of order n.
+/// The rows and columns of a square table of order n that a mask of n entries retains.
 struct Retained
 {
-    int order;              ///< n less the number of entries above 0: the order of the block
-    std::vector<int> which; ///< the rows and columns of entries of exactly 0, from 0
+    int order;              ///< n less the number of positive entries: the order of the block
+    std::vector<int> which; ///< the rows and columns whose entries are exactly 0, from 0
 };
 
-/// An entry below 0, or a NaN, is neither: it counts in the order but its row and column are left out, so that the last
-/// rows and columns of the block stay 0.0. No caller passes one.
+/// A negative or NaN entry is neither: it counts in the order but its row and column are left out, so the last rows and
+/// columns of the block stay 0.0. No caller passes one.
 template <class Mask>
 Retained retainedBy(Mask* mask, int n)
 {
@@ -32,7 +32,7 @@ Retained retainedBy(Mask* mask, int n)
     return retained;
 }
 
-/// The block as a table of its own.
+/// Copies the block to its own table.
 inline TableHandle compressed(matrix* a, const Retained& retained)
 {
     TableHandle result = fresh(retained.order, retained.order);
@@ -45,8 +45,8 @@ inline TableHandle compressed(matrix* a, const Retained& retained)
     return result;
 }
 
-/// Writes each row of the block to its own row of `out`, over all n columns: 0.0 in those that were taken out. Rows
-/// that were taken out keep what they held.
+/// Writes each row of the block to its own row of `out`, over all n columns: 0.0 in the columns removed. Rows that were
+/// removed are left unchanged.
 inline void expand(matrix* compact, const Retained& retained, int n, matrix* out)
 {
     const TableCells<matrix> source = cells(compact);

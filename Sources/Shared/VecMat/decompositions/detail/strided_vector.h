@@ -1,6 +1,6 @@
-// A run of cells at a fixed step inside one table, and the level-1 operations over such runs, in the manner of the BLAS
-// (Lawson, Hanson, Kincaid, Krogh, ACM Transactions on Mathematical Software 5, 1979). Sums and updates go in element
-// order.
+// A sequence of cells at a fixed step inside one table, and the level-1 operations over such sequences, in the manner
+// of the BLAS (Lawson, Hanson, Kincaid, Krogh, ACM Transactions on Mathematical Software 5, 1979). Sums and updates go
+// in element order.
 #pragma once
 
 #include "../../access/cells.h"
@@ -13,7 +13,7 @@
 
 namespace vecmat {
 
-/// A run that lies wholly inside its table.
+/// A sequence wholly inside its table.
 class PlainStridedVector
 {
 public:
@@ -27,12 +27,12 @@ private:
     std::ptrdiff_t step_;
 };
 
-/// A run with the checks of the tables: past the end of a column it goes on in the next one, outside the table a read
-/// gives -1.0 and a write is dropped. Without a table everything is outside.
+/// A sequence with the checks of the tables: past the end of a column it continues in the next one; outside the table a
+/// read gives -1.0 and a write is dropped. Without a table everything is outside.
 class StridedVector
 {
 public:
-    /// Element 0 stands at the linear position `start`.
+    /// Element 0 is at the linear position `start`.
     StridedVector(matrix* table, unsigned start, int step) : table_(table), start_(start), step_(step) {}
 
     double get(int k) const { return table_ != nullptr ? readAt(*table_, position(k)) : outOfRangeValue; }
@@ -63,13 +63,13 @@ private:
     int step_;
 };
 
-/// Where a run of `count` elements begins, seen from the element it is named by: a negative increment walks towards it.
+/// Where `count` elements begin, relative to the element that names them: a negative increment walks towards it.
 constexpr unsigned startOffset(int count, int increment)
 {
     return increment < 0 ? (1u - static_cast<unsigned>(count)) * static_cast<unsigned>(increment) : 0u;
 }
 
-/// A table whose columns are walked; rows and columns from 1.
+/// A table accessed by columns; rows and columns from 1.
 class TableStore
 {
 public:
@@ -89,8 +89,8 @@ private:
     matrix* table_;
 };
 
-/// An array of column tables: a walk stays inside its table, and what is asked of a column before the first or after
-/// the last is outside. Without a count the last is the caller's word.
+/// An array of column tables: an access stays inside its table, and columns before the first or after the last are
+/// outside. Without a count the caller vouches for the last one.
 class ColumnStore
 {
 public:
@@ -112,7 +112,7 @@ private:
     int count_;
 };
 
-/// Runs `body` on the plain runs where all of them lie inside their tables, else on the checked ones.
+/// Runs `body` on plain sequences if all of them lie inside their tables, otherwise on checked ones.
 template <class Body, class... Vectors>
 decltype(auto) onRuns(Body body, int count, Vectors... vectors)
 {
@@ -122,7 +122,7 @@ decltype(auto) onRuns(Body body, int count, Vectors... vectors)
         return onBlocks(body, block(vectors, count)...);
 }
 
-/// Euclidean norm by a running scale and sum of squares, which neither overflows nor underflows on the way.
+/// Euclidean norm by a running scale and sum of squares, which avoids intermediate overflow and underflow.
 template <class Run>
 double norm(int count, Run vector)
 {
@@ -178,7 +178,7 @@ inline double innerProduct(int count, StridedVector left, StridedVector right)
         count, left, right);
 }
 
-/// y = y + a x; nothing is touched where a is exactly 0.
+/// y = y + a x; does nothing if a is exactly 0.
 inline void addMultiple(int count, double a, StridedVector source, StridedVector target)
 {
     if (a == 0.0)
@@ -218,7 +218,7 @@ inline void exchange(int count, StridedVector left, StridedVector right)
         count, left, right);
 }
 
-/// A Givens rotation that brings (a, b) to (r, 0): a becomes r, b the number z from which the rotation can be rebuilt.
+/// A Givens rotation that takes (a, b) to (r, 0): a becomes r, b the number z from which the rotation can be rebuilt.
 struct Rotation
 {
     double c;

@@ -11,7 +11,7 @@
 
 namespace vecmat {
 
-/// What of the singular vectors is wanted, from the decimal digits of `job`.
+/// Which singular vectors are wanted, from the decimal digits of `job`.
 struct SingularVectors
 {
     bool left;
@@ -24,10 +24,10 @@ struct SingularVectors
     }
 };
 
-// ---- the two reflections, column after column ----
+// ---- the two reflections, column by column ----
 
-/// Columns `first` to `last` less their parts along the reflection that stands in column `l` from `row` on; `then(j)`
-/// after each.
+/// Subtracts from columns `first` to `last` their components along the reflection stored in column `l` from `row` on;
+/// calls `then(j)` after each.
 template <class Store, class Then>
 void reflectColumns(Store store, int l, int first, int last, int row, int count, Then then)
 {
@@ -39,8 +39,8 @@ void reflectColumns(Store store, int l, int first, int last, int row, int count,
     }
 }
 
-/// The rows of columns `first` to `last`, from row `first` on, less their parts along the reflection that
-/// stands in `e`.
+/// Subtracts from the rows of columns `first` to `last`, from row `first` on, their components along the reflection
+/// stored in `e`.
 template <class Store>
 void reflectRows(Store store, int first, int last, int count, TableStore e, TableStore work)
 {
@@ -53,7 +53,7 @@ void reflectRows(Store store, int first, int last, int count, TableStore e, Tabl
         addMultiple(count, -e.get(j, 1) / e.get(first, 1), products, store.from(first, j, count));
 }
 
-/// Singular vectors that are worked on as soon as they are asked to be.
+/// Singular vectors that are updated as soon as this is requested.
 template <class Store>
 class DirectVectors
 {
@@ -73,7 +73,7 @@ private:
     int rows_;
 };
 
-/// `Vectors` are columns that an iteration rotates and brings into order, without looking at them.
+/// `Vectors` are columns that an iteration rotates and sorts without reading them.
 template <class Store, class Vectors>
 class SvdIteration
 {
@@ -85,7 +85,7 @@ public:
     {
     }
 
-    /// 0, or -m where the iteration for value m was given up.
+    /// Returns 0, or -m if the iteration for value m was given up.
     int run()
     {
         bidiagonalise();
@@ -133,7 +133,7 @@ private:
         const int count = n_ - l + 1;
         setS(l, norm(count, x_.from(l, l, count)));
         if (isNonZero(s(l))) {
-            // The sign is taken where the cell is exactly not 0: a smaller bound than that of the norms.
+            // The sign is applied if the cell is exactly not 0: a tighter bound than that of the norms.
             if (x_.get(l, l) != 0.0)
                 setS(l, FSign(s(l), x_.get(l, l)));
             multiply(count, 1.0 / s(l), x_.from(l, l, count));
@@ -244,7 +244,7 @@ private:
 
     static bool addsNothing(double test, double size) { return std::fabs((test + size) - test) < negligible; }
 
-    /// The last place before m whose superdiagonal entry is negligible, which is then cleared; 0 if there is none.
+    /// The last place before m whose superdiagonal entry is negligible, which is then cleared; 0 if none.
     int splitBefore(int m)
     {
         for (int l = m - 1; l >= 1; --l)
@@ -255,7 +255,7 @@ private:
         return 0;
     }
 
-    /// The last place after l whose value is negligible, which is then cleared; l if there is none.
+    /// The last place after l whose value is negligible, which is then cleared; l if none.
     int negligibleValue(int l, int m)
     {
         for (int ls = m; ls > l; --ls) {
@@ -362,7 +362,7 @@ private:
         setE(m - 1, f);
     }
 
-    /// Value l has converged: makes it non-negative and brings it to its place among those found before.
+    /// Value l has converged: makes it non-negative and moves it to its place among those found before.
     void settle(int l, int largest)
     {
         if (s(l) < 0.0) {

@@ -14,7 +14,7 @@
 
 namespace vecmat {
 
-/// The columns of a workspace as a store; rows and columns from 1. `coefficients` is scratch of two doubles for each
+/// The columns of a workspace as a store; rows and columns from 1. `coefficients` is scratch memory of two doubles per
 /// column.
 class WorkspaceStore
 {
@@ -38,7 +38,7 @@ private:
     double* coefficients_;
 };
 
-/// The columns of a few go through the cache once, for their inner products and for what these bring.
+/// A few columns at a time pass through the cache once, for their inner products and the updates these lead to.
 template <class Then>
 void reflectColumns(WorkspaceStore store, int l, int first, int last, int row, int count, Then then)
 {
@@ -69,8 +69,8 @@ inline void reflectRows(WorkspaceStore store, int first, int last, int count, Ta
     columnKernels().reflectRows(count, columns, weights, factors, store.at(first, first), store.stride());
 }
 
-/// Singular vectors whose rotations wait. Signs and places change last: a column that has got its place is not rotated
-/// any more.
+/// Singular vectors with delayed rotations. Signs and places change last: a column in its final place is not rotated
+/// again.
 class DelayedVectors
 {
 public:
@@ -98,7 +98,7 @@ public:
     void negate(int k) { sources_[k - 1].negated = !sources_[k - 1].negated; }
     void exchangeWithNext(int k) { std::swap(sources_[k - 1], sources_[k]); }
 
-    /// Was a column asked for that isn't there? The results are then not to be used.
+    /// Was a column requested that doesn't exist? The results are then unusable.
     bool leftTheTable() const { return leftTheTable_; }
 
     template <class Cells>
@@ -131,8 +131,9 @@ private:
     bool leftTheTable_ = false;
 };
 
-/// Decomposes the table of n by p cells without touching it. Results have whole columns in memory of their own. False,
-/// with `s` in any state and nothing else written, where memory is short or a left vector beyond the last is asked for.
+/// Decomposes the table of n by p cells without changing it. Results have whole columns in their own memory. Returns
+/// false, with `s` in any state and nothing else written, if allocation fails or a left vector beyond the last is
+/// requested.
 template <class From, class Left, class Right>
 bool decomposeInWorkspace(From x, int n, int p, matrix* s, Left u, Right v, SingularVectors wanted, int& info)
 {

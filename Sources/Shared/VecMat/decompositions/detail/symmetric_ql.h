@@ -3,8 +3,8 @@
 // Reinsch and Wilkinson, Numerische Mathematik 11, 1968), over accessors, so that every storage has the same
 // arithmetic.
 //
-// Two points depart from the publication: an eigenvalue has 28 passes, and an off-diagonal element is negligible by its
-// absolute value alone, whatever the size of its neighbours on the diagonal.
+// It departs from the publication in two points: an eigenvalue gets 28 passes, and an off-diagonal element is
+// negligible by its absolute value alone, whatever the size of its neighbours on the diagonal.
 #pragma once
 
 #include "../../base/detail/companions.h"
@@ -18,9 +18,9 @@ namespace vecmat {
 
 inline constexpr int passesForEachEigenvalue = 28;
 
-/// Turns the cells of a row left of the diagonal into the Householder vector that brings all but the last of them to
-/// zero. That one becomes the off-diagonal element, and `h` half the squared length of the vector. False, with h 0.0,
-/// where there is nothing to be done.
+/// Turns the cells of a row left of the diagonal into the Householder vector that clears all but the last of them. That
+/// one becomes the off-diagonal element, and `h` half the squared length of the vector. Returns false, with h 0.0, if
+/// there is nothing to do.
 template <class Row>
 bool makeReflection(Row row, int count, double& offDiagonal, double& h)
 {
@@ -56,7 +56,7 @@ struct RowCells
     void set(int k, double value) const { cells.set(row, k, value); }
 };
 
-/// One row of the reduction: brings row i of the leading block to zero left of the subdiagonal. Returns the h of the
+/// One row of the reduction: clears row i of the leading block left of the subdiagonal. Returns the h of the
 /// Householder vector, which stays in the row.
 template <class Cells, class Vector>
 double eliminateRow(Cells a, Vector e, int i)
@@ -91,7 +91,7 @@ double eliminateRow(Cells a, Vector e, int i)
 }
 
 /// Reduces the lower triangle of `a` to the diagonal `d` and the off-diagonal `e` (from place 1), and leaves in `a` the
-/// orthogonal table that did it.
+/// orthogonal table that does so.
 template <class Cells, class Diagonal, class Vector>
 void tridiagonalise(Cells a, Diagonal d, Vector e, int n)
 {
@@ -117,7 +117,7 @@ void tridiagonalise(Cells a, Diagonal d, Vector e, int n)
     }
 }
 
-/// First place from l on whose off-diagonal element is negligible; the last place if there is none.
+/// First place from l on whose off-diagonal element is negligible; the last place if none.
 template <class Vector>
 int endOfBlock(Vector e, int l, int n)
 {
@@ -141,7 +141,7 @@ void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
     for (int i = m - 1; i >= l; --i) {
         const double f = s * e.get(i);
         const double b = c * e.get(i);
-        // The branch on the larger term stands in place of a hypotenuse; a vanishing radius is not looked for.
+        // Branching on the larger term takes the place of a hypotenuse; a vanishing radius is not checked for.
         if (std::fabs(g) <= std::fabs(f)) {
             c = g / f;
             r = squareRoot(c * c + 1.0);
@@ -167,8 +167,8 @@ void qlPass(Diagonal d, Vector e, int l, int m, Rotate rotate)
     e.set(m, 0.0);
 }
 
-/// Eigenvalues of the tridiagonal table with the diagonal `d` and, from place 1 on, the off-diagonal `e`, which is used
-/// up. False where an eigenvalue asks for more passes than it has.
+/// Eigenvalues of the tridiagonal table with the diagonal `d` and, from place 1 on, the off-diagonal `e`, which is
+/// destroyed. False if an eigenvalue exceeds its passes.
 template <class Diagonal, class Vector, class Rotate>
 bool qlIteration(Diagonal d, Vector e, int n, Rotate rotate)
 {
@@ -187,8 +187,8 @@ bool qlIteration(Diagonal d, Vector e, int n, Rotate rotate)
     return true;
 }
 
-/// Eigenvalues into `d`, eigenvectors into the columns of `a`, whose lower triangle is the input. `e` is scratch of n
-/// places. False where an eigenvalue asks for more passes than it has; `d` and `a` then hold the interrupted state.
+/// Writes the eigenvalues to `d` and the eigenvectors to the columns of `a`, whose lower triangle is the input. `e` is
+/// scratch memory for n values. False if an eigenvalue exceeds its passes; `d` and `a` then hold the interrupted state.
 template <class Cells, class Diagonal, class Vector>
 bool eigenInPlace(Cells a, Diagonal d, Vector e, int n)
 {

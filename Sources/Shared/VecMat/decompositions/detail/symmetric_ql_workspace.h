@@ -12,9 +12,9 @@
 
 namespace vecmat {
 
-/// Works on a full symmetric copy of the lower triangle, so that a sum along a row and on down a column is one along a
-/// column. The vectors are formed in the same place. `a` is a table of n by n cells with whole columns in memory of
-/// their own; it is read first and written last, and keeps the scaled Householder vectors in between.
+/// Works on a full symmetric copy of the lower triangle, so that a sum along a row and on down a column becomes one
+/// along a column. The vectors are formed in the same place. `a` is a table of n by n cells with whole columns in their
+/// own memory; it is read first and written last, and holds the scaled Householder vectors in between.
 template <class Cells>
 class SymmetricWorkspace
 {
@@ -26,7 +26,7 @@ public:
 
     bool hasMemory() const { return table_ && vectors_ && rotations_.hasMemory(); }
 
-    /// As `eigenInPlace`.
+    /// Like `eigenInPlace`.
     bool run(PlainVector<matrix> d, PlainVector<matrix> e)
     {
         load();
@@ -49,7 +49,7 @@ private:
 
     void load()
     {
-        // In squares, so that what is written across the columns stays in the cache.
+        // In squares, so that the columns written stay in the cache.
         constexpr int side = 16;
         for (int firstCol = 0; firstCol < n_; firstCol += side)
             for (int firstRow = firstCol; firstRow < n_; firstRow += side)
@@ -58,9 +58,9 @@ private:
                         column(j)[i] = column(i)[j] = a_.column(j)[i];
     }
 
-    /// A row's reflection asks for an update of the block before it, a(j, k) = a(j, k) - (x(j) y(k) + y(j) x(k)). It
-    /// waits until the next row's Householder vector is known: the block is then gone through once, to be updated and
-    /// to be multiplied by that vector. Only the next row itself doesn't wait.
+    /// A row's reflection updates the block before it, a(j, k) = a(j, k) - (x(j) y(k) + y(j) x(k)). The update waits
+    /// until the next row's Householder vector is known: one pass over the block then updates it and multiplies it by
+    /// that vector. Only the next row itself doesn't wait.
     void reduce(double* d, double* e)
     {
         const double* x = nullptr;
@@ -106,8 +106,8 @@ private:
             y[j] = y[j] - hh * row[j];
     }
 
-    /// Columns first to last - 1 of the orthogonal table, which all reflections of later rows work on. Those of a few
-    /// columns go one after the other, while the columns stay in the cache.
+    /// Forms columns first to last - 1 of the orthogonal table, which all reflections of later rows update. They are
+    /// applied to a few columns at a time, while these stay in the cache.
     void formVectors(int first, int last)
     {
         double g[ColumnKernels::mostColumns];

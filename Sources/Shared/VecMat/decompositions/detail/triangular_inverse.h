@@ -1,4 +1,4 @@
-// The inverse of a triangular table by substitution. Its diagonal is done already.
+// The inverse of a triangular table by substitution. Its diagonal is already inverted.
 #pragma once
 
 #include "../../access/overlap.h"
@@ -14,7 +14,8 @@ namespace vecmat {
 
 enum class Triangle { lower, upper };
 
-// ---- one cell after the other ---------------------------------------------------------------------------------------
+// ---- one cell at a time
+// ----------------------------------------------------------------------------------------------
 
 template <class Cells, class Out>
 void invertCellByCell(Cells a, Out out, int n, Triangle triangle)
@@ -39,8 +40,8 @@ void invertCellByCell(Cells a, Out out, int n, Triangle triangle)
 // ---- several columns side by side -----------------------------------------------------------------------------------
 
 /// The same for as many columns at a time as a kernel has results. The sums of a row have the same terms for all of
-/// them: those beyond the diagonal of a column are products with zeros, which change nothing as long as `a` is finite.
-/// Its scratch memory is a strip of n rows.
+/// them: those beyond a column's diagonal are products with zeros, which change nothing as long as `a` is finite. Needs
+/// scratch memory for a strip of n rows.
 template <class Cells, class Out>
 class TriangularInverse
 {
@@ -86,7 +87,8 @@ private:
     /// Row i of the strip.
     double* row(int i) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * i; }
 
-    /// Row i from rows `known` to `knownEnd` - 1, in the columns of the strip up to `end` that have it in the triangle.
+    /// Solves row i from rows `known` to `knownEnd` - 1, in the columns of the strip up to `end` whose triangle
+    /// includes it.
     void solveRow(int i, int first, int known, int knownEnd, int end) const
     {
         double sums[SubstitutionKernels::mostResults] = {};
@@ -111,10 +113,10 @@ private:
     Scratch strip_;
 };
 
-/// Below this order copying costs more than it brings.
+/// Below this order copying costs more than it saves.
 inline constexpr int leastTriangleSideBySide = 32;
 
-/// False where the order of the results can be seen, or where there is no memory: nothing is done.
+/// Returns false, having done nothing, if the order of the results is observable or allocation fails.
 template <class Cells, class Out>
 bool invertSideBySide(Cells a, Out out, int n, Triangle triangle)
 {

@@ -15,9 +15,10 @@
 
 namespace vecmat {
 
-// ---- one unit vector after the other --------------------------------------------------------------------------------
+// ---- one unit vector at a time
+// ---------------------------------------------------------------------------------------
 
-/// Solves P' L U x = b in place of b, from the first element of P b that is not 0 on.
+/// Solves P' L U x = b in place of b, starting at the first non-zero element of P b.
 template <class Cells>
 void substitute(Cells factors, const std::vector<int>& partner, int n, double* b)
 {
@@ -55,9 +56,9 @@ void solveOneByOne(Cells factors, const std::vector<int>& partner, int n, Out ou
 
 // ---- several side by side -------------------------------------------------------------------------------------------
 
-/// The same for as many unit vectors at a time as a kernel has results, taken in the order in which their ones come to
-/// stand in P b. The terms before that one, which are left out in the plain form, are products with zeros here: they
-/// change nothing as long as L is finite. Its scratch memory is a table of order n and a strip of it.
+/// The same for as many unit vectors at a time as a kernel has results, in the order of the positions of their ones in
+/// P b. The terms before that one, which the plain form omits, are products with zeros here: they change nothing as
+/// long as L is finite. Needs scratch memory for a table of order n and a strip of it.
 class UnitSolutions
 {
 public:
@@ -67,7 +68,7 @@ public:
     {
     }
 
-    /// False where there is no memory, or where the plain form does something else: nothing is done.
+    /// Returns false, having done nothing, if allocation failed or the plain form takes another path.
     template <class Cells, class Out>
     bool run(Cells factors, const std::vector<int>& partner, Out out)
     {
@@ -86,7 +87,7 @@ public:
     }
 
 private:
-    /// Which unit vector has its one at row r of P b. False where an exchange reaches back to a row that is done.
+    /// Finds which unit vector has its one at row r of P b. False if an exchange reaches back to a finished row.
     bool order(const std::vector<int>& partner)
     {
         unit_.resize(countOf(n_));
@@ -99,7 +100,7 @@ private:
         return true;
     }
 
-    /// Row after row, since both substitutions run along rows. False where L is not finite.
+    /// Row by row, since both substitutions run along rows. False if L is not finite.
     template <class Cells>
     bool copy(Cells factors) const
     {
@@ -143,10 +144,10 @@ private:
     std::vector<int> unit_;
 };
 
-/// Below this order copying costs more than it brings.
+/// Below this order copying costs more than it saves.
 inline constexpr int leastOrderSideBySide = 6;
 
-/// The inverse from the factors and the exchanges that made them.
+/// Computes the inverse from the factors and the exchanges that made them.
 template <class Cells, class Out>
 void solveForUnitVectors(Cells factors, const std::vector<int>& partner, int n, Out out)
 {
