@@ -76,7 +76,7 @@ void statistics(matrix** X, int n, int p, matrix* w, Options options, matrix*& m
     M_MeanStDevSPV(X, n, p, mean, stdev, nullptr, w, options.sample, options.freqWeights, 0);
 }
 
-/// Storage is `matrix*` or `matrix**`; a null w stands for weights of 1.
+/// Storage is `matrix*` or `matrix**`; a null w means weights of 1.
 template <class Rule, class Storage, class To>
 void scaleInto(Storage X, To to, int n, int p, matrix* w, Options options, matrix*& mean, matrix*& stdev)
 {
@@ -107,7 +107,7 @@ void scaleInPlace(Storage X, int n, int p, matrix* w, Options options)
     scaleInto<Rule>(X, cells(X), n, p, w, options);
 }
 
-/// The numbers of the rows of each group, in order; a row whose code is no group's is in none.
+/// The row numbers of each group, in order; a row whose code matches no group is in none.
 std::vector<std::vector<int>> rowsByGroup(matrix* g, int n, int nGroups)
 {
     std::vector<std::vector<int>> groups(countOf(nGroups));

@@ -7,7 +7,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Hands the position and the cell of every selected row to `visit`, in row order.
+/// Passes the position and the cell of every selected row to `visit`, in row order.
 template <class Visit>
 void forSelected(matrix* v, int n, matrix* g, double value, Visit visit)
 {

@@ -7,8 +7,8 @@ using namespace vecmat;
 
 namespace {
 
-/// Row j is done, its diagonal last, before the next begins: no later row reads what it wrote, so that the result may
-/// take the place of the covariances.
+/// Row j is finished, its diagonal last, before the next begins: no later row reads what it wrote, so the result may
+/// overwrite the covariances.
 template <class Cells>
 int correlationsOf(Cells covariance, int p, Cells correlation, double fallback)
 {

@@ -13,7 +13,7 @@ namespace {
 
 using Variances = LocalArray<double>;
 
-/// Stores the covariance of each pair, column number not below row number; answers the variances.
+/// Stores the covariance of each pair, column number not below row number; returns the variances.
 template <class Data, class Out>
 Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& options, double fallback)
 {
@@ -55,7 +55,7 @@ int covCorr(Data X, int p, matrix*& C, short corr, matrix* w, const PairOptions&
     return 0;
 }
 
-/// A result by value: what the caller holds can't be replaced, so it is left alone where it will not do.
+/// A result by value: the caller's table can't be replaced, so an unsuitable one is left alone.
 template <class Data>
 int covCorrByValue(Data X, int p, matrix* C, short corr, matrix* w, const PairOptions& options, short zeroForMissing)
 {
@@ -75,7 +75,7 @@ int covCorrTriangle(Data X, int p, matrix** C, short corr, matrix* w, const Pair
     const Variances variances = covariances(X, p, result, w, options, fallback);
     if (corr == 0)
         return 0;
-    // The covariance is read at cell j of column k, not at cell k - j of column j where it was written: part of the
+    // The covariance is read from cell j of column k, not from cell k - j of column j where it was written: part of the
     // contract.
     correlate<NoCorrelation::atZeroOrNaN>(
         p, fallback, [&](int j) { return variances[countOf(j)]; }, [&](int j, int k) { return cells(C).get(j, k); },

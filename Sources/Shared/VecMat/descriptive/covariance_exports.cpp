@@ -9,7 +9,7 @@ int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, short* mask, do
                  short freqWeights)
 {
     const CallerArray data{X, n, p};
-    // X goes back as it came, also where the result lies over it.
+    // X is written back unchanged, even if the result overlaps it.
     return onViewsOrCopies<Copies::handedBack>(
         areApart(data, CallerArray{C, p, p}),
         [=](matrix*& x) {

@@ -8,7 +8,7 @@ using namespace vecmat;
 
 namespace {
 
-/// What becomes of the cells of X.
+/// What is done to the cells of X.
 enum class Standardisation { none, centred, reduced, both };
 
 Standardisation standardisationOf(short center, short reduce)
@@ -23,7 +23,7 @@ void standardiseColumn(Cells x, int j, double mean, double variance, Standardisa
 {
     const double deviation = kind == Standardisation::centred ? 1.0 : squareRoot(variance);
     const bool computable = kind == Standardisation::centred || variance > 0.0;
-    // A column without spread is all zeros once centred; only reduced it has no value.
+    // A column without spread becomes zeros if it is centred too; if only reduced it has no value.
     const double otherwise = kind == Standardisation::both && variance == 0.0 ? 0.0 : missingValue;
     const auto standardised = [=](double cell) {
         if (kind == Standardisation::centred)
@@ -37,8 +37,8 @@ void standardiseColumn(Cells x, int j, double mean, double variance, Standardisa
     }
 }
 
-/// Rows behind the end of a column are rows of the next: a column that changes then changes that one, too, before its
-/// own pairs are worked out.
+/// Rows past the end of a column are rows of the next one: changing a column then changes the next too, before that
+/// one's own pairs are computed.
 Reading readingOf(matrix* X, int n, int p, Standardisation standardisation)
 {
     if (standardisation == Standardisation::none || n < 1 || p < 2)

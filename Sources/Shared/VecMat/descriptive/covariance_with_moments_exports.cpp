@@ -8,7 +8,7 @@ namespace {
 
 using Computing = decltype(M_CovCorrAndMeanStDevVar);
 
-/// Both forms but for the shape of C.
+/// Both forms, apart from the shape of C.
 int covCorrAndMoments(Computing computing, double* X, int n, int p, View<matrix> C, double* mean, double* stdev,
                       double* var, short corr, short* mask, double* w, short sample, short freqWeights, short center,
                       short reduce)

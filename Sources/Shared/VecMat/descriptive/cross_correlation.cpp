@@ -28,7 +28,7 @@ Variances covariances(Data X, int p, matrix* Y, int q, matrix* C, matrix* w, con
             for (int j = 0; j < p; ++j)
                 pass.run(j, 0, q, [&](int k, const RunningCorrelation& sums) {
                     result.set(j, k, options.quotient(sums.products, sums));
-                    // Every pair overwrites both: what stays is the last pair's.
+                    // Every pair overwrites both: the last pair's remain.
                     variances.ofX[countOf(j)] = options.quotient(sums.squaresX, sums);
                     variances.ofY[countOf(k)] = options.quotient(sums.squaresY, sums);
                 });

@@ -23,7 +23,7 @@ bool bothPresent(double y, double f)
     return !isMissing(y) && !isMissing(f);
 }
 
-/// Rows as the caller numbers them: one before the table reads -1.0 everywhere.
+/// Rows as numbered by the caller: one before the table reads -1.0 everywhere.
 double at(matrix* vector, int row)
 {
     return vector->vbget(row, 1);

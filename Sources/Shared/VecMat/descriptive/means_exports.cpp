@@ -5,8 +5,8 @@
 using vecmat::TableHandle;
 using vecmat::viewed;
 
-// The observations and the weights are only read, so that views of the caller's arrays serve; results are written
-// through views as well.
+// The observations and the weights are only read, so views of the caller's arrays will do; results are written through
+// views as well.
 
 double VB_V_Mean(double* v, int n, short* mask, double* w)
 {

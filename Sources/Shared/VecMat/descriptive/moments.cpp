@@ -11,10 +11,10 @@ using namespace vecmat;
 
 namespace {
 
-// A row of weight 0 counts in the first and does not in the second: with `sample` -1 their divisors differ.
+// A row of weight 0 counts in the first but not in the second: with `sample` -1 their divisors differ.
 using CountingVariance = RunningVariance<update::Weighted, ZeroWeight::counted>;
 using SkippingVariance = RunningVariance<update::Weighted, ZeroWeight::skipped>;
-/// Weights that are not looked at for a zero.
+/// Weights are not tested for zero.
 using UnguardedVariance = RunningVariance<update::Weighted, ZeroWeight::updated>;
 
 CountingVariance vectorMoments(matrix* v, int n, const short* mask, matrix* w)
@@ -30,7 +30,7 @@ CountingVariance vectorMoments(matrix* v, int n, const short* mask, matrix* w)
         block(linear(v), n), block(linear(w), n));
 }
 
-/// Computes the moments of each column over the rows that `rowEnters` lets in.
+/// Computes the moments of each column over the rows accepted by `rowEnters`.
 template <class Moments, class Storage, class RowEnters, class Store>
 void columnMoments(Storage X, int n, int p, matrix* w, RowEnters rowEnters, Store store)
 {
@@ -38,7 +38,7 @@ void columnMoments(Storage X, int n, int p, matrix* w, RowEnters rowEnters, Stor
              block(X, n, p), block(linear(w), n));
 }
 
-/// The weights given, or weights of 1 built for the call.
+/// The weights given, or unit weights built for the call.
 class WeightsOrUnits
 {
 public:
@@ -163,7 +163,7 @@ int M_MeanStDevVarSPV(matrix** X, int n, int p, matrix*& mean, matrix*& stdev, m
 int M_MeanStDevByRow(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix* w, short sample, short freqWeights)
 {
     matrix::matCheck(mean, n, 1, 0.0);
-    // Sized by the columns although a result for each row follows: part of the contract.
+    // Sized by the columns although there is one result per row: part of the contract.
     if (stdev != nullptr)
         matrix::matCheck(stdev, p, 1, 0.0);
     const WeightsOrUnits weights(w, p);
@@ -179,7 +179,7 @@ int M_MeanStDevByRow(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, mat
             accumulate<UnguardedVariance>(
                 n, p,
                 [=](UnguardedVariance& moments, int i, int j) {
-                    // The row's own number picks the weight that is tested, the column's the one that is added.
+                    // The weight tested is that of the row, the weight added that of the column.
                     if (rowWeight.get(i) != 0.0 && isPresent(x.get(i, j)))
                         moments.add(x.get(i, j), weight.get(j));
                 },

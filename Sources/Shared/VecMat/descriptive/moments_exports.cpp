@@ -11,8 +11,8 @@ using vecmat::squareRoot;
 using vecmat::TableHandle;
 using vecmat::viewed;
 
-// The observations and the weights are only read, so that views of the caller's arrays serve; results are written
-// through views as well. A null result array gives a null table, which the callee leaves out or makes for itself.
+// The observations and the weights are only read, so views of the caller's arrays will do; results are written through
+// views as well. A null result array gives a null table, which the callee skips or allocates itself.
 
 double VB_V_Var(double* v, int n, short* mask, double* w, short sample, short freqWeights)
 {
@@ -68,8 +68,8 @@ int VB_M_MeanStDevVar(double* X, int n, int p, double* mean, double* stdev, doub
 int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, double* w, short sample,
                         short freqWeights)
 {
-    // Both results are opened with a cell for each row. Where the callee asks for more it puts a table of its own in
-    // place of the view, and the caller's array stays as it was.
+    // Both results have one cell per row. If the callee needs more, it replaces the view with a table of its own, and
+    // the caller's array is unchanged.
     auto means = viewed(mean, n, 1);
     auto deviations = viewed(stdev, n, 1);
     return M_MeanStDevByRow(viewed(X, n, p), n, p, means.reference(), deviations.reference(), viewed(w, p, 1), sample,

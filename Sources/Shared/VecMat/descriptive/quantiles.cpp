@@ -18,7 +18,7 @@ using namespace vecmat;
 
 namespace {
 
-/// A vector of a call's own.
+/// A vector local to a call.
 class Work
 {
 public:
@@ -30,7 +30,7 @@ public:
         for (int i = 0; i < n; ++i)
             table_.X[i] = cellAt(i);
     }
-    /// A view: the cells stay with their owner.
+    /// A view: the cells remain with their owner.
     explicit Work(std::vector<double>& cells) : table_(static_cast<int>(cells.size()), 1, cells.data(), true) {}
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
@@ -44,8 +44,8 @@ private:
     matrix* pointer_ = &table_;
 };
 
-/// The elements at a place of the sorted vector, from 0, and at the next; -1.0 on either side of it. No one sees the
-/// sorted vector, so the two are selected where they can be.
+/// The elements at a place of the sorted vector, from 0, and at the next; -1.0 outside it. The sorted vector is not
+/// observable, so the two are selected if possible.
 Neighbours neighboursInOrder(matrix* v, int n, int place)
 {
     if (linear(v).covers(n) && place >= 0 && place < n)
@@ -83,8 +83,8 @@ bool anyCounts(matrix* v, int n, matrix* w)
     return false;
 }
 
-/// Walks the cumulative weight of the sorted values up to `target`. What stands before the first value reads -1.0, and
-/// the sum that has the last weight in it is never compared.
+/// Walks the cumulative weight of the sorted values up to `target`. A read before the first value gives -1.0, and the
+/// sum that includes the last weight is never compared.
 template <class Sorted>
 double stepQuantile(Sorted sortedAt, Work& weights, int n, double target)
 {
@@ -128,7 +128,7 @@ double V_Quantile(matrix* v, int n, double p)
     const bool isElement = p == 0.0 || p == 1.0 || IsLong(h) != 0;
     const int place = truncated(isElement ? h : std::floor(h));
     const auto [a, b] = neighboursInOrder(v, n, place);
-    if (isElement || a == b) // a run of ties stays exact
+    if (isElement || a == b) // ties stay exact
         return a;
     const double g = h - place;
     return (1.0 - g) * a + g * b;

@@ -25,7 +25,7 @@ void VB_V_Rescale(double* v, int n, double low, double high, short* mask, double
 
 void VB_V_Rescale2(double* x, int n, double low, double high, short* mask)
 {
-    // Each cell is read before it is written, and the extremes before all of them.
+    // Each cell is read before it is written, and the extremes are found first.
     VB_V_Rescale(x, n, low, high, mask, x);
 }
 

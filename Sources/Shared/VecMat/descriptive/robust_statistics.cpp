@@ -21,7 +21,7 @@ matrix& fillDeviations(matrix& deviations, matrix* v, int n, double centre, Mask
     return deviations;
 }
 
-/// Scales a deviation; the missing value throughout where the scale is negligible or NaN.
+/// Scales a deviation; gives the missing value throughout if the scale is negligible or NaN.
 template <class Score>
 void writeScores(matrix* v, int n, double scale, matrix* out, Score score)
 {
@@ -97,7 +97,7 @@ void V_ZScores(matrix* v, int n, int kind, double* mean, double* stdev, matrix* 
         const double scale = *stdev;
         writeScores(v, n, scale, out, [=](double x) { return (x - centre) / scale; });
     } else {
-        constexpr double normalRatio = 0.6745; // median absolute deviation of a normal variable of deviation 1
+        constexpr double normalRatio = 0.6745; // median absolute deviation of a standard normal variable
         double centre = missingValue;
         const double scale = V_MedianAbsDev2(v, n, &centre);
         writeScores(v, n, scale, out, [=](double x) { return (x - centre) * normalRatio / scale; });

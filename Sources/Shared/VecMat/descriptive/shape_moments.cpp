@@ -106,7 +106,7 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
     *kurtP = kurtosis;
     if (W - 2.0 * c > 0.0 && W - 3.0 * c > 0.0) {
         *kurtS = (((W + c) * (kurtosis + 3.0) - D * 3.0) * D) / ((W - 2.0 * c) * (W - 3.0 * c));
-        // The error of a skewness that is missing takes part like any other number.
+        // A missing error of the skewness takes part like any other number.
         *seKurt = squareRoot((errorOfSkewness * errorOfSkewness * (W * W - c) * 4.0) / ((c * 5.0 + W) * (W - 3.0 * c)));
     } else {
         *kurtS = *seKurt = missingValue;

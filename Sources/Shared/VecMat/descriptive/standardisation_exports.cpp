@@ -57,7 +57,7 @@ void VB_V_Standardize(double* x, int n, short* mask, double* w, short sample, do
 
 void VB_V_Standardize2(double* x, int n, short* mask, double* w, short sample)
 {
-    // The result goes back only once it is complete, so that one array serves for both.
+    // The result is written back only once it is complete, so that the same array can be both input and output.
     VB_V_Standardize(x, n, mask, w, sample, x);
 }
 

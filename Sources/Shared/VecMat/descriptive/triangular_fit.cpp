@@ -25,7 +25,7 @@ void fitRightOfMode(double x1, double m, double x2, double prob1, double prob2, 
     a = (u * x1 + (t - prob1 * u) * b) / (q * u + t);
 }
 
-/// Newton's method with restarts; the steps of all starts are counted together.
+/// Newton's method with restarts; the step limit covers all starts together.
 double searchUpperEnd(double x1, double m, double x2, double prob1, double prob2)
 {
     constexpr int stepLimit = 500;

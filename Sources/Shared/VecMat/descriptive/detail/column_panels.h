@@ -1,4 +1,4 @@
-// Sums of products of each two columns, some rows at a time. Internal to the library.
+// Sums of products of all pairs of columns, a block of rows at a time. Internal to the library.
 #pragma once
 
 #include "../../base/detail/numbers.h"
@@ -11,20 +11,20 @@
 
 namespace vecmat {
 
-/// Copies of some rows of p columns, as the two operands of the tile kernels, and the results of each two columns. The
-/// left operand is in panels of as many columns as a tile has rows, the right one in panels of as many as it has
-/// columns; the places behind the last column are 0.0 at first, and nobody looks at what becomes of them.
+/// Copies of some rows of p columns, as the two operands of the tile kernels, and the results for each pair of columns.
+/// The left operand is in panels of as many columns as a tile has rows, the right one in panels of as many as it has
+/// columns; the places after the last column start as 0.0, and whatever they become is never read.
 class ColumnPanels
 {
 public:
-    /// Below this number of columns, or of single products, copying costs more than it brings.
+    /// Below this number of columns, or of single products, copying costs more than it saves.
     static constexpr int fewestColumns = 4;
     static constexpr double fewestProducts = 2000;
     static constexpr int mostRows = 128;
 
     static bool payFor(int n, int p) { return p >= fewestColumns && double{1} * p * p * n >= fewestProducts; }
 
-    /// For up to n rows at a time, but not more than `mostRows`.
+    /// For up to n rows at a time, but at most `mostRows`.
     ColumnPanels(int n, int p)
         : p_(p), rows_(std::min(n, mostRows)), leftPanels_(panels(p, tiles_.rows)),
           rightPanels_(panels(p, tiles_.cols)), left_(leftSize() * countOf(leftPanels_)),
@@ -39,7 +39,7 @@ public:
 
     explicit operator bool() const { return left_ && right_ && results_; }
 
-    /// How many columns the panels of the left operand have, one of them and all together.
+    /// Number of columns in the panels of the left operand: in one, and in all of them.
     int panelColumns() const { return tiles_.rows; }
     int paddedColumns() const { return leftPanels_ * tiles_.rows; }
 
@@ -80,7 +80,7 @@ public:
                 visit(left(i), right(j), tile(i, j));
     }
 
-    /// The result of columns j and k, j at most k: k was read from the left operand.
+    /// The result for columns j and k, j at most k: k was read from the left operand.
     double result(int j, int k) const
     {
         return tile(k / tiles_.rows, j / tiles_.cols)[j % tiles_.cols * tiles_.rows + k % tiles_.rows];

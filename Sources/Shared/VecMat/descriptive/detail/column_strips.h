@@ -1,4 +1,4 @@
-// Columns side by side for the kernels of pairs. Internal to the library.
+// Columns side by side for the pair kernels. Internal to the library.
 #pragma once
 
 #include "../../base/detail/numbers.h"
@@ -12,7 +12,7 @@
 
 namespace vecmat {
 
-/// The numbers, from 0, of the rows that enter a pass, in their order. Without memory it holds none.
+/// The numbers, from 0, of the rows that enter a pass, in order. Empty if allocation failed.
 class RowSelection
 {
 public:
@@ -33,7 +33,7 @@ private:
     int count_ = 0;
 };
 
-/// A copy of the cells of p columns in the rows selected, in strips of `PairKernels::lanes` columns. The lanes behind
+/// A copy of the cells of p columns in the selected rows, in strips of `PairKernels::lanes` columns. The lanes after
 /// the last column are missing.
 class ColumnStrips
 {
@@ -53,8 +53,8 @@ public:
     double* row(int s, int k) const { return strip(s) + std::ptrdiff_t{k} * lanes; }
     double& cell(int k, int j) const { return row(j / lanes, k)[j % lanes]; }
 
-    /// Fills the first `count` rows with what `cell(k, j)` gives for row k of the selection and the columns
-    /// from `firstColumn` to below p. Answers whether one of the cells is missing.
+    /// Fills the first `count` rows with `cell(k, j)` for row k of the selection and the columns from `firstColumn` to
+    /// p - 1. Returns whether any cell is missing.
     template <class Cell>
     bool fill(int count, int firstColumn, int p, Cell cell) const
     {

@@ -1,8 +1,8 @@
 // The covariances of the columns of one table. Internal to the library.
 //
-// Where no cell is missing, every pair has the same rows, and the running means of a column are the same in all of its
-// pairs: the deviations from them are worked out once for each column, and the cross products are a matrix product of
-// deviations, each result the same sum in the same order as that of its pair alone.
+// If no cell is missing, every pair has the same rows, and the running means of a column are the same in all of its
+// pairs: the deviations from them are computed once per column, and the cross products are a matrix product of
+// deviations, each result the same sum in the same order as for its pair alone.
 #pragma once
 
 #include "column_panels.h"
@@ -19,8 +19,8 @@ template <RowFactor form>
 class CompleteCovariances
 {
 public:
-    /// Computes nothing where a cell is missing, memory is short, the table small, or its cells are to be read in turn:
-    /// `operator bool` tells.
+    /// Computes nothing if a cell is missing, allocation fails, the table is small, or its cells have to be read in
+    /// turn; `operator bool` reports this.
     template <class X, class Weight>
     CompleteCovariances(X x, int p, Weight weight, const PairOptions& options)
     {
@@ -46,15 +46,15 @@ public:
     }
 
 private:
-    /// Some rows that move the sums, in their order.
+    /// Some rows that move the sums, in order.
     struct Rows : RowBlock
     {
-        std::array<double, most> W; ///< the sum of the weights up to each row
+        std::array<double, most> W; ///< sum of the weights up to each row
         std::array<double, most> reciprocals;
         std::array<double, most> factors;
     };
 
-    /// False where a cell is missing.
+    /// False if a cell is missing.
     template <class X, class Weight>
     bool run(X x, int p, Weight weight, const PairOptions& options)
     {
@@ -66,7 +66,7 @@ private:
                 if (!mask.keeps(i))
                     continue;
                 ++rows_;
-                // A row of weight 0 counts and moves nothing.
+                // A row of weight 0 counts but moves nothing.
                 if (const double w = weight.get(i); w != 0.0)
                     add(rows, i, w);
                 else if (anyMissing(x, i, p))
@@ -97,7 +97,7 @@ private:
         return false;
     }
 
-    /// False where a cell is missing.
+    /// False if a cell is missing.
     template <class X>
     bool multiply(X x, int p, const Rows& rows) const
     {
@@ -136,7 +136,7 @@ public:
             pairs_.emplace(x, x, p, weight, options);
     }
 
-    /// `store(k, sums)` receives the pairs of column j with the columns j to p - 1, in turn.
+    /// `store(k, sums)` receives the pairs of column j with columns j to p - 1, in turn.
     template <class Store>
     void run(int j, Store store) const
     {

@@ -1,4 +1,4 @@
-// Columns that are transformed one by one, each with a mask of its own. Internal to the library.
+// Transforms columns one by one, each with its own mask. Internal to the library.
 #pragma once
 
 #include "../../base/detail/masks.h"
@@ -10,9 +10,9 @@
 
 namespace vecmat {
 
-/// Column j of Z becomes what `transform(column, mask)` makes of a copy of column j of X. The mask drops the rows where
-/// `a` is exactly -1 or the cell is missing by the order test. X and Z are n by p and may be one array: each column is
-/// complete before it goes back, and no later column reads it.
+/// Column j of Z becomes the result of `transform(column, mask)` for a copy of column j of X. The mask drops the rows
+/// where `a` is exactly -1 or the cell is missing by the order test. X and Z are n by p and may be the same array: each
+/// column is complete before it is written back, and no later column reads it.
 template <class Transform>
 void transformMaskedColumns(const double* X, int n, int p, short* a, double* Z, Transform transform)
 {

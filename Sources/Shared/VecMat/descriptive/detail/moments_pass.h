@@ -8,7 +8,7 @@
 
 namespace vecmat {
 
-/// A packed result, by row and column: cell (i, j) and cell (j, i), from 0, are the same one.
+/// A packed result, by row and column: cells (i, j) and (j, i), from 0, are the same.
 class PackedResult
 {
 public:
@@ -23,7 +23,7 @@ private:
     VectorCells<matrix> cells_;
 };
 
-/// Where the moments of the columns go.
+/// Where the moments of the columns are written.
 struct ColumnMoments
 {
     VectorCells<matrix> means;
@@ -31,8 +31,8 @@ struct ColumnMoments
     VectorCells<matrix> variances;
 };
 
-/// Stores the covariance of each pair, column number not below row number, with means and variances. `done(j)` follows
-/// the pairs of column j, which no later pair reads.
+/// Stores the covariance of each pair, column number not below row number, with means and variances. `done(j)` is
+/// called after the pairs of column j, which no later pair reads.
 template <class X, class Weight, class Out, class Done>
 void covariances(X x, int p, Weight weight, const PairOptions& options, Out C, const ColumnMoments& moments, Done done)
 {
@@ -60,7 +60,7 @@ void correlate(int p, Out C, const ColumnMoments& moments, double fallback)
         [&](int j, int k, double r) { C.set(j, k, r); });
 }
 
-/// From variances to standard deviations.
+/// Replaces variances by standard deviations.
 inline void takeRoots(int p, const ColumnMoments& moments)
 {
     for (int j = 0; j < p; ++j)

@@ -1,10 +1,10 @@
-// The pair pass: running cross products of two columns over the rows that have both. Internal to the library.
+// The pair pass: running cross products of two columns over the rows complete in both. Internal to the library.
 //
-// A row enters a pair where its mask entry is 0 and neither cell is missing (the equality test). With W the sum of the
+// A row enters a pair if its mask entry is 0 and neither cell is missing (the equality test). With W the sum of the
 // weights up to this row, dx and dy the distances of its cells from the running means, and f = w - w w / W, the sums
 // grow by products with f and the means by w dx / W and w dy / W: the weighted updates of a variance (West, D. H. D.
 // 1979, Updating mean and variance estimates: an improved method, Comm. ACM 22 (9), 532-535) for two variables. A row
-// of weight 0 counts among the rows and moves nothing.
+// of weight 0 counts among the rows but moves nothing.
 #pragma once
 
 #include "../../access/cells.h"
@@ -22,9 +22,9 @@ namespace vecmat {
 
 // ---- the sums of a pair ---------------------------------------------------------------------------------------------
 
-/// The two forms of the factor f. They differ only where weights are negative.
+/// The two forms of the factor f. They differ only for negative weights.
 enum class RowFactor {
-    signedValue, ///< w - w w / W as it comes
+    signedValue, ///< w - w w / W as it is
     magnitude,   ///< its absolute value
 };
 
@@ -57,8 +57,8 @@ struct CovarianceSums
     void take(const PairKernels::Pairs& pairs, int lane) { products = pairs.products[lane]; }
 };
 
-/// The cross products and the squares of both variables, over the same rows. The factor comes last here, so that the
-/// terms round differently from those of a covariance.
+/// The cross products and the squares of both variables, over the same rows. Here the factor comes last, so the terms
+/// round differently from those of a covariance.
 struct CorrelationSums
 {
     double products = 0.0;
@@ -116,11 +116,11 @@ using RunningCorrelation = RunningPair<CorrelationSums>;
 
 /// When the cells of a column are read.
 enum class Reading {
-    ahead,  ///< at any time, also all at once before the first pair
-    inTurn, ///< for each pair anew: a column may have changed since the pairs before
+    ahead,  ///< at any time, even all at once before the first pair
+    inTurn, ///< afresh for each pair: a column may have changed since the previous pairs
 };
 
-/// Which rows a pass visits, and what its sums are divided by.
+/// The rows a pass visits, and the divisor of its sums.
 struct PairOptions
 {
     int n;
@@ -129,7 +129,7 @@ struct PairOptions
     short freqWeights;
     Reading reading = Reading::ahead;
 
-    /// A sum over its divisor, whatever the divisor, by the rules of floating point.
+    /// A sum over its divisor, whatever that is, by the rules of floating point.
     double quotient(double sum, const PairMeans& pair) const
     {
         return sum / varianceDivisor(pair.weights, pair.rows, sample, freqWeights);
@@ -151,7 +151,7 @@ public:
         }
     }
 
-    /// `store(k, sums)` receives the pairs of column j of `x` with the columns `first` to `last - 1` of `y`, in turn.
+    /// `store(k, sums)` receives the pairs of column j of `x` with columns `first` to `last - 1` of `y`, in turn.
     template <class Store>
     void run(int j, int first, int last, Store store) const
     {
@@ -235,21 +235,21 @@ PairPass<Sums, X, Y, Weight> pairPass(X x, Y y, int q, Weight weight, const Pair
     return PairPass<Sums, X, Y, Weight>(x, y, q, weight, options);
 }
 
-// ---- what follows the pass ------------------------------------------------------------------------------------------
+// ---- after the pass -------------------------------------------------------------------------------------------------
 
-/// What stands in a cell that can't be computed: the missing value, or 0.0 where any value but 0 asks for it.
+/// The result for a cell that can't be computed: the missing value, or 0.0 if `zeroForMissing` is anything but 0.
 inline double fallbackUnlessZero(short zeroForMissing)
 {
     return zeroForMissing != 0 ? 0.0 : missingValue;
 }
 
-/// The same where only -1 asks for 0.0.
+/// The same, with 0.0 only for -1.
 inline double fallbackForMinusOne(short zeroForMissing)
 {
     return zeroForMissing == -1 ? 0.0 : missingValue;
 }
 
-/// For which products of two variances there is no correlation.
+/// The products of two variances for which there is no correlation.
 enum class NoCorrelation {
     atZero,        ///< equal to 0
     atZeroOrBelow, ///< 0 or below
@@ -267,7 +267,7 @@ bool hasNoCorrelation(double product)
 }
 
 /// Turns covariances into correlations, for j and k from j: `covariance(j, k)` is read only off the diagonal, and
-/// `store(j, k, r)` receives each result before the next is worked out.
+/// `store(j, k, r)` receives each result before the next is computed.
 template <NoCorrelation rule, class Variance, class Covariance, class Store>
 void correlate(int p, double fallback, Variance variance, Covariance covariance, Store store)
 {
@@ -281,7 +281,7 @@ void correlate(int p, double fallback, Variance variance, Covariance covariance,
         }
 }
 
-/// Cell (k, j) of a square result becomes cell (j, k) of its upper triangle.
+/// Copies cell (k, j) of a square result to cell (j, k) of its upper triangle.
 template <class Cells>
 void mirrorUpperTriangle(Cells result, int p)
 {

@@ -1,4 +1,4 @@
-// Some rows of a table at a time, for the kernels that work on columns side by side. Internal to the library.
+// A block of rows of a table, for the kernels that process columns side by side. Internal to the library.
 #pragma once
 
 #include "../../base/detail/numbers.h"
@@ -7,7 +7,7 @@
 
 namespace vecmat {
 
-/// Rows that enter a pass, by their numbers from 0 and in their order, with their weights.
+/// Rows that enter a pass, by number from 0 and in order, with their weights.
 struct RowBlock
 {
     static constexpr int most = 128;
@@ -16,19 +16,19 @@ struct RowBlock
     std::array<int, most> numbers;
     std::array<double, most> w;
 
-    /// Takes up a row, if it enters.
+    /// Adds a row, if it enters.
     void add(int row, double weight, bool enters)
     {
         numbers[countOf(count)] = row;
         w[countOf(count)] = weight;
         count += enters ? 1 : 0;
     }
-    /// Has no row been left out between the first and the last?
+    /// Are there no gaps between the first row and the last?
     bool isUnbroken() const { return count > 0 && numbers[countOf(count) - 1] - numbers[0] == count - 1; }
 };
 
-/// The cells of up to `mostColumns` columns in the rows of a block: the table's own where these stand one behind the
-/// other in memory, else copies.
+/// The cells of up to `mostColumns` columns in the rows of a block: the table's own if contiguous in memory, otherwise
+/// copies.
 template <int mostColumns>
 class BlockColumns
 {

@@ -1,8 +1,8 @@
 // Running moments: the one-pass updates of means and variances, and the divisors. Internal to the library.
 //
 // Each row adds to the sum of weights W, then with d = x - mean to the sum of squared deviations, then to the mean.
-// Functions write the two terms differently, so that they round differently; each keeps its own form. Three choices
-// tell them apart: the update rule, what a weight of zero does, and which test finds a missing cell.
+// Functions write the two terms differently, so that they round differently; each keeps its own form. They differ in
+// three choices: the update rule, the effect of a weight of zero, and the test for a missing cell.
 #pragma once
 
 #include "../../base/detail/companions.h"
@@ -10,8 +10,8 @@
 
 namespace vecmat {
 
-/// The update table: what a row of weight w at distance d from the running mean adds to the sum of squared deviations
-/// and to the mean; W is the sum of weights with this row in it.
+/// The update rules: what a row of weight w at distance d from the running mean adds to the sum of squared deviations
+/// and to the mean; W is the sum of weights including this row.
 namespace update {
 
 struct Weighted
@@ -20,7 +20,7 @@ struct Weighted
     static double mean(double d, double w, double W) { return d * w / W; }
 };
 
-/// Unit weights, W being the count of rows.
+/// Unit weights; W is the number of rows.
 struct Counted
 {
     static double squares(double d, double, double W) { return d * d * (1.0 - 1.0 / W); }
@@ -42,14 +42,14 @@ struct Fractional
 
 } // namespace update
 
-/// What a row does that is present but has a weight of zero.
+/// How a row that is present but has a weight of zero is treated.
 enum class ZeroWeight {
     skipped, ///< it does not enter at all
     counted, ///< it counts among the rows, but moves neither mean nor squares
-    updated, ///< it is not looked for: while the weights still sum to zero it divides 0 by 0, and the mean stays NaN
+    updated, ///< it is not tested for: while the weights still sum to zero it divides 0 by 0, and the mean stays NaN
 };
 
-/// Which test keeps a missing cell out. Under `order` a cell must be above the missing value, which a NaN is not.
+/// The test that excludes a missing cell. Under `order` a cell must be above the missing value, which a NaN is not.
 enum class MissingTest { equality, order };
 
 template <MissingTest test = MissingTest::equality>
@@ -67,7 +67,7 @@ struct RunningWeights
     double weights = 0.0;
     int rows = 0;
 
-    /// Takes up a row; answers whether it also moves the moments.
+    /// Adds a row; returns whether it also moves the moments.
     bool take(double w)
     {
         if (zero == ZeroWeight::skipped && w == 0.0)
@@ -112,8 +112,8 @@ struct RunningVariance : RunningWeights<zero>
     }
 };
 
-/// What `sample` -1 takes off the sum of weights W: 1.0 for weights that are frequencies, else the mean weight of the
-/// rows counted.
+/// What `sample` -1 subtracts from the sum of weights W: 1.0 if the weights are frequencies, otherwise the mean weight
+/// of the rows counted.
 inline double weightCorrection(double W, int rows, short freqWeights)
 {
     return freqWeights == -1 ? 1.0 : W / rows;
@@ -131,7 +131,7 @@ double untestedVariance(const Moments& m, short sample, short freqWeights)
     return m.squares / varianceDivisor(m.weights, m.rows, sample, freqWeights);
 }
 
-/// The missing value where the divisor is not above 0, a NaN included.
+/// The missing value if the divisor is not above 0, including NaN.
 template <class Moments>
 double testedVariance(const Moments& m, short sample, short freqWeights)
 {
@@ -144,9 +144,8 @@ inline double deviationOf(double variance)
     return isMissing(variance) ? missingValue : squareRoot(variance);
 }
 
-/// Computes `results` moments, each over `terms` terms in their order: `add(moments, result, term)`, then once
-/// `store(result, moments)`. A few results are worked on side by side, because each waits for a chain of divisions
-/// of its own.
+/// Computes `results` moments, each over `terms` terms in order: `add(moments, result, term)`, then `store(result,
+/// moments)` once. A few results are processed side by side, because each waits for a chain of divisions of its own.
 template <class Moments, class Add, class Store>
 void accumulate(int results, int terms, Add add, Store store)
 {

@@ -12,7 +12,7 @@ namespace vecmat {
 
 namespace detail {
 
-/// Can the kernel for weighted moments stand in for these moments?
+/// Can the kernel for weighted moments compute these moments?
 template <class Moments>
 inline constexpr bool hasKernel =
     std::is_same_v<typename Moments::Rule, update::Weighted>&& Moments::zeroWeight != ZeroWeight::updated;
@@ -61,7 +61,7 @@ void accumulateByKernel(X x, int n, int p, Weight w, RowEnters rowEnters, Store 
 
 } // namespace detail
 
-/// Computes the moments of each column over the rows that `rowEnters` lets in and the cells that are present (equality
+/// Computes the moments of each column over the rows accepted by `rowEnters` and the cells that are present (equality
 /// test): `store(j, moments)` for each.
 template <class Moments, class X, class Weight, class RowEnters, class Store>
 void accumulateColumns(X x, int n, int p, Weight w, RowEnters rowEnters, Store store)
