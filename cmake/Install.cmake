@@ -12,7 +12,7 @@ foreach(header IN ITEMS VecMat.h LISTS public_headers)
     install(FILES ${vecmat_source}/${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/${folder})
 endforeach()
 install(FILES Bindings/c/VecMatFlat.h Bindings/c/VecMatGuarded.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat)
-install(FILES Bindings/vba/VecMat.bas Bindings/vba/VecMatExample.bas DESTINATION ${CMAKE_INSTALL_DATADIR}/VecMat)
+install(DIRECTORY Bindings/vba/ DESTINATION ${CMAKE_INSTALL_DATADIR}/VecMat FILES_MATCHING PATTERN "*.bas")
 install(TARGETS VecMat VecMatGuarded EXPORT VecMatTargets)
 
 if(VECMAT_COMPANIONS_DIR)

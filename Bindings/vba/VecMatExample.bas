@@ -2,19 +2,24 @@ Attribute VB_Name = "VecMatExample"
 Option Explicit
 
 ' A macro that calls VecMat: numbers, tables, Booleans, strings, tables of columns and random draws.
-' Import VecMat.bas first, then run ShowVecMat; what it prints stands beside each line.
+' Import the other modules first, then run ShowVecMat; what it prints stands beside each line.
 
 ' Gives back the string of which the library has handed over the pointer. The string is moved, not copied:
 ' the variable frees it from then on.
-#If VBA7 Then
+#If Mac And VBA7 Then
 Private Declare PtrSafe Function MoveBytes CDecl Lib "/usr/lib/libSystem.dylib" Alias "memmove" ( _
     ByVal target As LongPtr, ByVal source As LongPtr, ByVal size As LongPtr) As LongPtr
-
-Private Function TakenString(ByVal bstr As LongPtr) As String
-#Else
+#ElseIf Win64 Then
+Private Declare PtrSafe Sub MoveBytes Lib "kernel32" Alias "RtlMoveMemory" ( _
+    ByVal target As LongPtr, ByVal source As LongPtr, ByVal size As LongPtr)
+#ElseIf Mac Then
 Private Declare Function MoveBytes CDecl Lib "/usr/lib/libSystem.dylib" Alias "memmove" ( _
     ByVal target As Long, ByVal source As Long, ByVal size As Long) As Long
+#End If
 
+#If VBA7 Then
+Private Function TakenString(ByVal bstr As LongPtr) As String
+#Else
 Private Function TakenString(ByVal bstr As Long) As String
 #End If
     Dim text As String
@@ -47,6 +52,7 @@ Private Sub ShowNumbers()
     Debug.Print VB_V_Mean2(v(0), 4)                        ' 33: the missing cell does not count
     mask(3) = True                                         ' leaves out the last cell
     Debug.Print VB_V_Mean(v(0), 4, mask(0), weights(0))    ' 4.75
+    Debug.Print VB_V_Mean(v(0), 2, ByVal VecMatNothing, weights(0))  ' 4: no mask
     Debug.Print VB_IsMissingValueDbl(v(1))                 ' -1, which is True
 End Sub
 
@@ -66,8 +72,12 @@ Private Sub ShowStrings()
         weights(i) = 1
     Next i
     Debug.Print TakenString(VB_V_Mode(VarPtr(labels(0)), 4, 0, weights(0)))    ' south
+#If Mac Then
     text = Characters("none")
     VB_V_SetToValueStr VarPtr(filled(0)), 2, text(0)
+#Else
+    VB_V_SetToValueStr VarPtr(filled(0)), 2, StrPtr("none")
+#End If
     Debug.Print filled(0); " "; filled(1)                                      ' none none
     Debug.Print TakenString(SimplifyRange(StrPtr("'S'!$B:$B,'S'!$A:$A")))      ' 'S'!$A:$B
 End Sub

@@ -10,6 +10,7 @@ from dataclasses import dataclass
 from declarations import one_spelling, parameters
 
 # What a parameter of a header is for a macro: handed over by value or by reference, and its type under VBA7 and before.
+# An array that may be absent is of any type, by reference.
 MACRO_PARAMETERS = {
     "int": ("ByVal", "Long", "Long"),
     "double": ("ByVal", "Double", "Double"),
@@ -39,6 +40,10 @@ RESERVED = set("""
     cbyte ccur cdate cdbl cdec cint clng clnglng clngptr csng cstr cvar cverr date debug doevents fix int len lenb me
     pset scale sgn string array circle inputb lbound ubound boolean byte currency double integer long longlong longptr
     single variant true false nothing empty null rem attribute lineinput cdecl decimal defdec""".split())
+# The blocks of a module of declarations: for a Mac, for Windows, and for a Mac with a host from before VBA7.
+CONDITIONS = ["#If Mac And VBA7 Then", "#ElseIf Win64 Then", "#ElseIf Mac Then", "#End If"]
+TITLES = ("Mac", "Windows", "before VBA7")
+LONGEST_MODULE = 64 * 1024
 LONGEST_LINE, MOST_CONTINUED, MOST_PARAMETERS, LONGEST_NAME = 1023, 24, 60, 255
 
 
@@ -46,6 +51,7 @@ LONGEST_LINE, MOST_CONTINUED, MOST_PARAMETERS, LONGEST_NAME = 1023, 24, 60, 255
 class MacroDeclaration:
     name: str
     is_ptr_safe: bool
+    is_cdecl: bool
     library: str
     parameters: tuple  # of triples: ByVal or ByRef, name, type
     returns: str       # None for a Sub
@@ -79,7 +85,7 @@ def statements(text):
 
 
 DECLARATION = re.compile(
-    r'Public Declare (?P<safe>PtrSafe )?(?P<kind>Function|Sub) (?P<name>[A-Za-z]\w*) CDecl Lib "(?P<library>[^"]+)" '
+    r'Public Declare (?P<safe>PtrSafe )?(?P<kind>Function|Sub) (?P<name>[A-Za-z]\w*) (?P<cdecl>CDecl )?Lib "(?P<library>[^"]+)" '
     r'\( ?(?P<parameters>[^()]*)\)(?: As (?P<returns>\w+))?')
 PARAMETER = re.compile(r"(ByVal|ByRef) ([A-Za-z]\w*) As (\w+)")
 
@@ -99,19 +105,21 @@ def macro_declaration(statement):
         raise ModuleError(f"{match['name']}: two names differ in nothing but case")
     if set(names) & RESERVED or max(map(len, names)) > LONGEST_NAME or len(triples) > MOST_PARAMETERS:
         raise ModuleError(f"{match['name']}: a name is a word of the language, or there is too much of something")
-    return MacroDeclaration(match["name"], match["safe"] is not None, match["library"], tuple(triples), match["returns"])
+    return MacroDeclaration(match["name"], match["safe"] is not None, match["cdecl"] is not None,
+                            match["library"], tuple(triples), match["returns"])
 
 
 def module_declarations(text):
-    """The declarations of the module for VBA7, and those for older hosts."""
+    """The declarations of a module in three lists: for a Mac, for Windows, and for a Mac from before VBA7."""
+    if len(text) > LONGEST_MODULE:
+        raise ModuleError("the module is longer than an editor takes")
     lines = statements(text)
-    if [line for line in lines if line.startswith("#")] != ["#If VBA7 Then", "#Else", "#End If"]:
-        raise ModuleError("there are not two blocks, one for VBA7 and one for others")
-    first, second, last = (lines.index(mark) for mark in ("#If VBA7 Then", "#Else", "#End If"))
-    if any("Declare" in line for line in lines[:first] + lines[last:]):
+    if [line for line in lines if line.startswith("#")] != CONDITIONS:
+        raise ModuleError("there are not three blocks, for a Mac, for Windows, and for a Mac from before VBA7")
+    marks = [lines.index(condition) for condition in CONDITIONS]
+    if any("Declare" in line for line in lines[:marks[0]] + lines[marks[-1]:]):
         raise ModuleError("a declaration stands outside of the blocks")
-    return ([macro_declaration(line) for line in lines[first + 1:second]],
-            [macro_declaration(line) for line in lines[second + 1:last]])
+    return [[macro_declaration(line) for line in lines[start + 1:end]] for start, end in zip(marks, marks[1:])]
 
 
 def expected_for_macros(declarations):
@@ -126,39 +134,52 @@ def compare_sets(title, found, expected):
     return wrong + [f"{title}: {name} is not a flat function of the headers" for name in sorted(set(found) - set(expected))]
 
 
-def compare_macros(text, declarations):
-    """What is wrong with the module, given all exported declarations of the headers."""
+def expected_form(block, function, kind, name, nullable):
+    """How a parameter is handed over, and its type."""
+    if kind in ("double*", "int*", "short*") and (function, name) in nullable:
+        return "ByRef", "Any"
+    if kind == "const wchar_t*" and block == 1:
+        return "ByVal", "LongPtr"  # 16-bit characters, as the string has them
+    form = STATUS if (kind, name) == ("short*", "status") else MACRO_PARAMETERS[kind]
+    return form[0], form[2 if block == 2 else 1]
+
+
+def compare_macros(texts, declarations, nullable=frozenset()):
+    """What is wrong with the modules, given all exported declarations of the headers and which arrays may be absent."""
     try:
-        blocks = module_declarations(text)
+        modules = [module_declarations(text) for text in texts]
     except ModuleError as error:
         return [str(error)]
     expected = expected_for_macros(declarations)
     wrong = []
-    for before_vba7, (title, block) in enumerate(zip(("VBA7", "before VBA7"), blocks)):
-        wrong += compare_sets(title, [macro.name for macro in block], expected)
-        if len({macro.name.lower() for macro in block}) != len({macro.name for macro in block}):
+    for block, title in enumerate(TITLES):
+        macros = [macro for module in modules for macro in module[block]]
+        wrong += compare_sets(title, [macro.name for macro in macros], expected)
+        if len({macro.name.lower() for macro in macros}) != len({macro.name for macro in macros}):
             wrong.append(f"{title}: two functions differ in nothing but case")
-        if len({macro.library for macro in block}) > 1:
+        if len({macro.library for macro in macros}) > 1:
             wrong.append(f"{title}: the functions are not all in one library")
-        for macro in block:
-            if macro.name not in expected:
-                continue
-            header = expected[macro.name]
-            if macro.is_ptr_safe == bool(before_vba7):
-                wrong.append(f"{title}: {macro.name} has PtrSafe where it must not, or lacks it")
-            if macro.returns != MACRO_RESULTS[header.returns][before_vba7]:
-                wrong.append(f"{title}: {macro.name} returns {macro.returns}, the header {header.returns}")
-            if len(macro.parameters) != len(header.types):
-                wrong.append(f"{title}: {macro.name} has {len(macro.parameters)} parameters, the header "
-                             f"{len(header.types)}")
-                continue
-            for (passing, name, kind), header_type, header_name in zip(macro.parameters, header.types, header.names):
-                form = STATUS if (header_type, header_name) == ("short*", "status") else MACRO_PARAMETERS[header_type]
-                if (passing, kind) != (form[0], form[1 + before_vba7]):
-                    wrong.append(f"{title}: {macro.name} has {passing} {name} As {kind}, the header "
-                                 f"{header_type} {header_name}")
-                if not re.fullmatch(re.escape(header_name) + "(Arg)?2*", name):
-                    wrong.append(f"{title}: {macro.name} calls {name} what the header calls {header_name}")
+        for macro in macros:
+            if macro.name in expected:
+                wrong += compare_macro(block, macro, expected[macro.name], nullable)
+    return wrong
+
+
+def compare_macro(block, macro, header, nullable):
+    title, wrong = TITLES[block], []
+    if macro.is_ptr_safe == (block == 2):
+        wrong.append(f"{title}: {macro.name} has PtrSafe where it must not, or lacks it")
+    if macro.is_cdecl == (block == 1):
+        wrong.append(f"{title}: {macro.name} has CDecl where it must not, or lacks it")
+    if macro.returns != MACRO_RESULTS[header.returns][block == 2]:
+        wrong.append(f"{title}: {macro.name} returns {macro.returns}, the header {header.returns}")
+    if len(macro.parameters) != len(header.types):
+        return wrong + [f"{title}: {macro.name} has {len(macro.parameters)} parameters, the header {len(header.types)}"]
+    for (passing, name, kind), header_type, header_name in zip(macro.parameters, header.types, header.names):
+        if (passing, kind) != expected_form(block, macro.name, header_type, header_name, nullable):
+            wrong.append(f"{title}: {macro.name} has {passing} {name} As {kind}, the header {header_type} {header_name}")
+        if not re.fullmatch(re.escape(header_name) + "(Arg)?2*", name):
+            wrong.append(f"{title}: {macro.name} calls {name} what the header calls {header_name}")
     return wrong
 
 

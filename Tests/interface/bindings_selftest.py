@@ -29,8 +29,14 @@ Public Declare PtrSafe Sub VB_Label CDecl Lib "lib" ( _
 Public Declare PtrSafe Function VB_Factor CDecl Lib "lib" (ByVal N As Integer, ByRef n2 As Long, ByRef status As Integer) As Long
 Public Declare PtrSafe Function Step CDecl Lib "lib" (ByVal inputArg As LongPtr) As LongPtr
 """
-MODULE = ('Attribute VB_Name = "X"\n#If VBA7 Then' + BLOCK + "#Else"
-          + BLOCK.replace("PtrSafe ", "").replace("LongPtr", "Long") + "#End If\n").replace("\n", "\r\n")
+OLDER = BLOCK.replace("PtrSafe ", "").replace("LongPtr", "Long")
+WINDOWS = BLOCK.replace("CDecl ", "").replace('"lib"', '"dll"').replace("ByRef text As Long", "ByVal text As LongPtr")
+MODULE = ('Attribute VB_Name = "X"\n#If Mac And VBA7 Then' + BLOCK + "#ElseIf Win64 Then" + WINDOWS + "#ElseIf Mac Then"
+          + OLDER + "#End If\n").replace("\n", "\r\n")
+
+
+def compare_macros(text, declarations):
+    return bindings.compare_macros([text], declarations)
 
 C = """
 #ifndef A
@@ -78,10 +84,10 @@ class Case(unittest.TestCase):
 
 class Macros(Case):
     def change(self, message, old, new, count=1):
-        self.expect(message, MODULE, old, new, bindings.compare_macros, count)
+        self.expect(message, MODULE, old, new, compare_macros, count)
 
     def test_nothing_is_wrong_where_all_agree(self):
-        self.assertEqual(bindings.compare_macros(MODULE, DECLARATIONS), [])
+        self.assertEqual(compare_macros(MODULE, DECLARATIONS), [])
 
     def test_types_and_passing(self):
         self.change("ByVal v As Double, the header double* v", "ByRef v As Double", "ByVal v As Double")
@@ -94,11 +100,25 @@ class Macros(Case):
         self.change("returns Integer, the header double", ") As Double", ") As Integer")
         self.change("returns Long, the header wchar_t*", ") As LongPtr", ") As Long")
 
-    def test_both_blocks_are_looked_at(self):
-        before = MODULE.index("#Else")
-        wrong = bindings.compare_macros(MODULE[:before] + MODULE[before:].replace("ByVal n As Long", "ByRef n As Long"),
-                                        DECLARATIONS)
-        self.assertEqual(wrong, ["before VBA7: VB_V_Mean has ByRef n As Long, the header int n"])
+    def test_all_blocks_are_looked_at(self):
+        for start, end, title in (("#ElseIf Win64", "#ElseIf Mac", "Windows"), ("#ElseIf Mac", "#End If", "before VBA7")):
+            first, last = MODULE.index(start), MODULE.index(end)
+            text = MODULE[:first] + MODULE[first:last].replace("ByVal n As Long", "ByRef n As Long") + MODULE[last:]
+            self.assertEqual(compare_macros(text, DECLARATIONS),
+                             [f"{title}: VB_V_Mean has ByRef n As Long, the header int n"])
+
+    def test_several_modules(self):
+        self.assertIn("VB_V_Mean is declared twice",
+                      "".join(bindings.compare_macros([MODULE, MODULE], DECLARATIONS)))
+        self.assertEqual(bindings.compare_macros(["x" * 70000], DECLARATIONS),
+                         ["the module is longer than an editor takes"])
+
+    def test_absent_arrays(self):
+        nullable = {("VB_V_Mean", "mask")}
+        text = MODULE.replace("ByRef mask As Boolean", "ByRef mask As Any")
+        self.assertEqual(bindings.compare_macros([text], DECLARATIONS, nullable), [])
+        self.assertIn("mask As Any", "".join(bindings.compare_macros([text], DECLARATIONS)))
+        self.assertIn("mask As Boolean", "".join(bindings.compare_macros([MODULE], DECLARATIONS, nullable)))
 
     def test_count_and_order(self):
         self.change("has 2 parameters, the header 3", ", ByRef mask As Boolean", "")
@@ -114,12 +134,13 @@ class Macros(Case):
 
     def test_language(self):
         self.change("PtrSafe", "PtrSafe Sub VB_Label", "Sub VB_Label")
-        self.change("not a declaration", "CDecl ", "")
+        self.change("CDecl", "CDecl ", "")
+        self.change("CDecl", "VB_Factor Lib", "VB_Factor CDecl Lib")
         self.change("not a declaration", "Public Declare PtrSafe Sub VB_Label", "Public Declare PtrSafe Function VB_Label")
         self.change("nothing but case", "n2 As Long", "n As Long")
         self.change("word of the language", "inputArg", "input")
         self.change("not a parameter", "ByVal n As Long", "n As Long")
-        self.change("two blocks", "#Else", "")
+        self.change("three blocks", "#ElseIf Win64 Then", "")
         self.change("carriage return", "\r\n", "\n")
         self.change("too long", "' a comment", "'" + 1000 * "x")
         self.change("are continued", "( _", "( _\r\n" + 24 * " _\r\n")

@@ -14,6 +14,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools/lib"))
 import bindings
 import interface
+from arguments import read_calls
 
 
 def main():
@@ -25,9 +26,12 @@ def main():
     root = arguments.root
     declarations, wrong = interface.read_headers(root / "Sources/Shared/VecMat")
     # read as bytes: the ends of lines are looked at
-    module = (root / "Bindings/vba/VecMat.bas").read_bytes().decode("ascii")
+    modules = [path.read_bytes().decode("ascii") for path in sorted((root / "Bindings/vba").glob("VecMatCalls*.bas"))]
+    nullable = {(call.name, argument.name) for call in read_calls(root).values() for argument in call.arguments
+                if argument.null is not False}
     example = (root / "Bindings/vba/VecMatExample.bas").read_bytes().decode("ascii")
-    wrong += bindings.compare_macros(module, declarations)
+    wrong += bindings.compare_macros(modules, declarations, nullable)
+    bindings.statements((root / "Bindings/vba/VecMat.bas").read_bytes().decode("ascii"))
     wrong += bindings.compare_example(example, declarations)
     wrong += bindings.compare_c((root / "Bindings/c/VecMatFlat.h").read_text(encoding="ascii"), declarations)
     wrong += bindings.compare_guarded((root / "Bindings/c/VecMatGuarded.h").read_text(encoding="ascii"), declarations)

@@ -1,0 +1,190 @@
+"""Writes the modules for macros: VecMat, with what all need, and VecMatCalls1, 2, ... with the declarations.
+
+An editor of macros takes no more than 64 KB in a module. Each has three blocks: for a Mac, for 64-bit Windows, and for
+a Mac with a host from before VBA7.
+"""
+
+import re
+import textwrap
+
+from arguments import read_calls
+
+WIDTH = 100  # of the lines
+LONGEST = 60_000  # of a module, in characters
+
+BLOCKS = ("#If Mac And VBA7 Then", "#ElseIf Win64 Then", "#ElseIf Mac Then")
+
+# How a macro declares a parameter. Numbers by value are themselves; an array, or a variable for a result, is handed
+# over by reference to its first element. Pointers to what only a macro can take the address of are plain numbers.
+PARAMETERS = {
+    "int": "ByVal {} As Long",
+    "double": "ByVal {} As Double",
+    "short": "ByVal {} As Integer",
+    "int*": "ByRef {} As Long",
+    "double*": "ByRef {} As Double",
+    "short*": "ByRef {} As Boolean",
+    "const wchar_t*": "ByRef {} As Long",
+    "const void*": "ByVal {} As LongPtr",
+    "wchar_t**": "ByVal {} As LongPtr",
+    "SAFEARRAY**": "ByVal {} As LongPtr",
+}
+RESULTS = {"int": "Long", "double": "Double", "short": "Integer", "wchar_t*": "LongPtr", "void": None}
+
+# The one 16-bit result that is no Boolean: 1 is a value of it.
+INTEGER_RESULTS = {"status"}
+
+# Words of the language that parameters are called in C++ (it doesn't tell upper from lower case).
+WORDS = {"input", "len", "open", "select", "to"}
+
+CALLS_HEAD = """\
+Attribute VB_Name = "{name}"
+Option Explicit
+
+' Declarations of VecMat for macros: see the module VecMat, which this one needs. Written by tools/bindings.
+"""
+
+HEAD = """\
+Attribute VB_Name = "VecMat"
+Option Explicit
+
+' What the modules VecMatCalls1, 2, ... need, which declare the functions of VecMat that take plain arrays, for macros on
+' a Mac and on 64-bit Windows. Import all of them.
+' Written by tools/bindings from exports.tsv and arguments.tsv: change those, not these modules.
+'
+' What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the
+' pages below Docs/contracts. What goes across the border is told in Docs/border.md, in short:
+'
+'   numbers       An array is handed over by its first element: VB_V_Mean2(v(0), n). Tables are stored column
+'                 after column, as VBA stores an array (row, column). Give arrays the sizes that the function
+'                 tells: nothing is checked.
+'   Booleans      A single one goes in and comes back as an Integer, -1 or 0. An array is one of Booleans.
+'   strings       An array of strings is handed over by VarPtr(labels(0)). Let the strings that a function will
+'                 replace be empty: the library never frees one. A single string goes in as StrPtr(text) on
+'                 Windows, and on a Mac as the array of its characters' numbers, each a Long, with a 0 behind
+'                 the last: text(0). SimplifyRange and Increase1Col take StrPtr(text) everywhere. A string that comes back is a pointer, which the caller owns.
+'   columns       A table of columns is a VecMatTable, handed over by VarPtr(table).
+'   missing       A cell without a value holds VecMatMissing.
+'   absent        Where the contract lets an array be absent, as most masks and weights, it is declared As Any: hand over
+'                 its first element, or ByVal VecMatNothing.
+'   the library   On Windows VecMat.dll is found beside the host, on the path, or where VecMatFrom has told. On a Mac its
+'                 place is written in the declarations: see tools/bindings --library.
+
+Public Const VecMatMissing As Double = -1.79769313486231E+308
+
+' One column of a table of columns: of its two arrays fill the one that the function reads.
+Public Type VecMatColumn
+    Numbers() As Double
+    Strings() As String
+End Type
+
+Public Type VecMatTable
+    Columns() As VecMatColumn
+End Type
+
+#If VBA7 Then
+Public Const VecMatNothing As LongPtr = 0
+#Else
+Public Const VecMatNothing As Long = 0
+#End If
+
+#If Win64 Then
+Private Declare PtrSafe Function LoadLibraryExW Lib "kernel32" ( _
+    ByVal path As LongPtr, ByVal file As LongPtr, ByVal flags As Long) As LongPtr
+
+' Loads the library from a folder, which has the companions, too: VecMatFrom ThisWorkbook.Path. Call it before any
+' function of the library; True if it was found.
+Public Function VecMatFrom(ByVal folder As String) As Boolean
+    Dim path As String
+    path = folder & "\\VecMat.dll"
+    VecMatFrom = LoadLibraryExW(StrPtr(path), 0, 8) <> 0
+End Function
+#End If
+"""
+
+
+def is_flat(function):
+    return (not function.name.startswith("Cpp_") and function.returns in RESULTS
+            and all(kind in PARAMETERS for kind, _ in function.parameters))
+
+
+def names_for(function):
+    """Names for the parameters that differ when upper and lower case don't."""
+    names = []
+    for _, name in function.parameters:
+        if name.lower() in WORDS:
+            name += "Arg"
+        while name.lower() in [other.lower() for other in names]:
+            name += "2"
+        names.append(name)
+    return names
+
+
+def nullable_arguments():
+    """Pairs of a function and the name of an array that may be absent."""
+    return {(call.name, argument.name) for call in read_calls().values() for argument in call.arguments
+            if argument.null is not False}
+
+
+def form_of(function, kind, name, nullable, block):
+    if block == 1 and kind == "const wchar_t*":
+        return "ByVal {} As LongPtr"  # characters have 16 bits there, as the string has them
+    if kind in ("double*", "int*", "short*") and (function.name, name) in nullable:
+        return "ByRef {} As Any"
+    if kind == "short*" and name in INTEGER_RESULTS:
+        return "ByRef {} As Integer"
+    return PARAMETERS[kind]
+
+
+def declaration(function, block, library, nullable):
+    parts = [form_of(function, kind, original, nullable, block).format(name)
+             for (kind, original), name in zip(function.parameters, names_for(function))]
+    result = RESULTS[function.returns]
+    start = (f"Public Declare {'' if block == 2 else 'PtrSafe '}{'Function' if result else 'Sub'} {function.name} "
+             f"""{'' if block == 1 else 'CDecl '}Lib "{library}" (""")
+    end = ")" + (f" As {result}" if result else "")
+    text = start + ", ".join(parts) + end
+    if len(text) > WIDTH:
+        # the words of one parameter stay on one line
+        arguments = textwrap.wrap(", ".join(part.replace(" ", "\0") for part in parts), WIDTH - 8,
+                                  break_long_words=False)
+        text = start + " _\n    " + " _\n    ".join(line.replace("\0", " ") for line in arguments) + end
+    return re.sub(r"\bLongPtr\b", "Long", text) if block == 2 else text
+
+
+def chunks(units, libraries, nullable):
+    """The functions in lists that fit into a module, with the declarations of each: one for each block."""
+    current, size = [], 0
+    for unit, functions in units:
+        for function in filter(is_flat, functions):
+            texts = [declaration(function, block, library, nullable) for block, library in enumerate(libraries)]
+            length = sum(map(len, texts)) + 3 * (len(unit) + 20)
+            if current and size + length > LONGEST:
+                yield current
+                current, size = [], 0
+            current.append((unit, texts))
+            size += length
+    yield current
+
+
+def calls_module(name, members):
+    lines = [CALLS_HEAD.format(name=name)]
+    for block, condition in enumerate(BLOCKS):
+        lines.append(condition)
+        unit = None
+        for member_unit, texts in members:
+            if member_unit != unit:
+                unit = member_unit
+                lines.append(f"\n' ---- {unit} ----\n")
+            lines.append(texts[block])
+        lines.append("")
+    return "\n".join(lines + ["#End If", ""])
+
+
+def modules(units, mac_library, windows_library):
+    """The texts of the modules, by name."""
+    texts = {"VecMat": HEAD}
+    libraries = (mac_library, windows_library, mac_library)
+    for number, members in enumerate(chunks(units, libraries, nullable_arguments()), start=1):
+        name = f"VecMatCalls{number}"
+        texts[name] = calls_module(name, members)
+    return {name: text.replace("\n", "\r\n") for name, text in texts.items()}
