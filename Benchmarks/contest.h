@@ -177,5 +177,6 @@ void addMissing(Suite& suite);
 void addSampling(Suite& suite);
 void addStrings(Suite& suite);
 void addSmallInputs(Suite& suite);
+void addMathematics(Suite& suite);
 
 } // namespace vecmat::bench

@@ -248,7 +248,7 @@ int main(int argc, char** argv)
     Suite suite;
     for (const auto add : {addSorting, addProducts, addMoments, addQuantiles, addCovariance, addEigenvalues,
                            addSingularValues, addFactorisations, addLeastSquares, addGrouping, addCategories,
-                           addMissing, addSampling, addStrings, addSmallInputs})
+                           addMissing, addSampling, addStrings, addSmallInputs, addMathematics})
         add(suite);
 
     if (!options.exportTo.empty()) {
