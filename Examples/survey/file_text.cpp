@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -119,7 +120,7 @@ std::string fileContent(const std::string& path)
     if (file && std::fseek(file.get(), 0, SEEK_END) == 0) {
         const long size = std::ftell(file.get());
         std::rewind(file.get());
-        if (size > 0 && size < (1L << 40))
+        if (size > 0 && size < std::numeric_limits<long>::max()) // which a directory has
             content.reserve(static_cast<std::size_t>(size));
     }
     const auto buffer = std::make_unique<std::array<char, 1 << 20>>();

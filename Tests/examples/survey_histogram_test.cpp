@@ -24,6 +24,9 @@ TEST(Box, EndsAtTheLastCellsWithinOneAndAHalfOfItsLength)
     EXPECT_EQ(box.lowerWhisker, -1.5);
     EXPECT_EQ(box.upperWhisker, 7.5);
     EXPECT_THAT(box.outside, testing::IsEmpty());
+    // Quartiles 3 and 7: the upper whisker reaches no farther than 13.
+    EXPECT_THAT(boxOf({1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 13.0, 13.0}).outside, testing::IsEmpty());
+    EXPECT_THAT(boxOf({1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0, 13.5}).outside, ElementsAre(13.5));
     const Box outer = boxOf({-9.0, 2.0, 2.0, 3.0, 4.0, 4.0, 30.0});
     EXPECT_EQ(outer.lowerWhisker, 2.0);
     EXPECT_EQ(outer.upperWhisker, 4.0);

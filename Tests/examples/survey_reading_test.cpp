@@ -138,6 +138,14 @@ TEST(SurveyTable, OtherSpellingsAreNoNumbers)
                     testing::StartsWith(std::string("f.csv, line 4, column 1 (n): '") + cell + "' is not a number"));
 }
 
+TEST(SurveyTable, ColumnsOfNoFiniteNumbersAreNoTexts)
+{
+    for (const char* cell : {"nan", "-inf", "1e999"})
+        EXPECT_EQ(errorOf(std::string("n,x\n") + cell + ",1\n" + cell + ",2\n"),
+                  std::string("f.csv, line 2, column 1 (n): '") + cell +
+                      "' is no finite number (a missing cell is left empty, or --missing tells its text)");
+}
+
 TEST(SurveyTable, DecimalsAreThoseOfTheCellWithMost)
 {
     EXPECT_EQ(table("n\n1\n2.50\n3.1\n").named("n")->decimals, 2);

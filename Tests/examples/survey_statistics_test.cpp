@@ -116,3 +116,18 @@ TEST(SurveyStatistics, EqualCellsHaveNoSkewnessOrKurtosis)
 {
     EXPECT_THAT(moments({7.5, 7.5, 7.5, 7.5, 7.5}), vecmat::test::SameBits({7.5, 7.5, 7.5, 0.0, M, M}));
 }
+
+TEST(SurveyStatistics, WeightsSayHowMuchACellCounts)
+{
+    const Moments m = momentsOf({1.0, M, 2.0, 4.0}, {1.0, 7.0, 1.0, 2.0});
+    EXPECT_EQ(m.count, 3);
+    EXPECT_EQ(m.weight, 4.0);
+    EXPECT_NEAR(m.mean, 2.75, 1e-15);
+    // By R: sum(w (x - 2.75)^2) = 6.75, over W - W/n = 4 - 4/3.
+    EXPECT_NEAR(m.standardDeviation, 1.5909902576697319, 1e-15);
+    const Quantiles q = quantilesOf({4.0, 2.0, M, 1.0}, {2.0, 1.0, 7.0, 1.0});
+    EXPECT_EQ(q.lowerQuartile(), 1.5); // a quarter of the weight lies below 2
+    EXPECT_EQ(q.median(), 3.0);
+    EXPECT_EQ(q.upperQuartile(), 4.0);
+    EXPECT_EQ(quantilesOf({4.0, 1.0}, {3.0, 3.0}).median(), 2.5); // equal weights are none
+}

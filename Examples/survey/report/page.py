@@ -45,7 +45,7 @@ def text_of(survey, pictures, links):
         element("main", *[section_of(section, pictures, links) for section in survey.sections]),
         element(
             "footer",
-            element("p", "All numbers come from VecMat, a library of vector and matrix routines for statistical work."),
+            element("p", "By the survey of VecMat, a library of vector and matrix routines for statistical work."),
         ),
     )
     html = element("html", head, body, lang="en")
