@@ -12,8 +12,8 @@ using namespace vecmat;
 
 namespace {
 
-/// Sum of w times `value(x)` over the sum of w. Weights of 0 are left out, so that an infinite cell of no weight does
-/// not turn the sum into a NaN.
+/// Sum of w times `value(x)` over the sum of w. Weights of 0 are skipped, so that an infinite cell of weight 0 does not
+/// turn the sum into a NaN.
 template <class Value>
 double weightedMean(matrix* v, int n, const short* mask, matrix* w, Value value)
 {
@@ -32,7 +32,7 @@ double weightedMean(matrix* v, int n, const short* mask, matrix* w, Value value)
         block(linear(v), n), block(linear(w), n));
 }
 
-/// Running mean of each column over the cells above the missing value, which stands where there are none.
+/// Running mean of each column over the cells above the missing value, which is the result if there are none.
 template <class Moments, class X, class Weights>
 void columnMeansAbove(X x, int n, int p, Weights w, matrix* mean)
 {
@@ -45,7 +45,7 @@ void columnMeansAbove(X x, int n, int p, Weights w, matrix* mean)
         [&](int j, const Moments& moments) { linear(mean).set(j, moments.rows > 0 ? moments.mean : missingValue); });
 }
 
-/// `M_Mean` over either storage: a column without rows keeps the 0.0 at which the running mean starts.
+/// `M_Mean` over either storage: a column without rows keeps the initial running mean of 0.0.
 template <class Storage>
 int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
 {
@@ -61,7 +61,7 @@ int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
     return 0;
 }
 
-/// Stands where a storage of weights is expected.
+/// Used where a storage of weights is expected.
 struct UnitWeights
 {
     static double get(int) { return 1.0; }

@@ -11,8 +11,8 @@ using namespace vecmat;
 
 namespace {
 
-/// Sums of the second to fourth powers of the deviations from the running mean. Rows are taken up some at a time: their
-/// deviations first, then all powers, which take most of the time, then the sums.
+/// Sums of the second to fourth powers of the deviations from the running mean. Rows are processed in blocks: first
+/// their deviations, then all powers, which take most of the time, then the sums.
 class RunningShape : public RunningWeights<ZeroWeight::counted>
 {
 public:
@@ -34,7 +34,7 @@ public:
             finish();
     }
 
-    /// Adds the rows that are still pending to the sums.
+    /// Adds the pending rows to the sums.
     void finish()
     {
         double cube[mostPending];
@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    /// Each higher sum takes up the older lower ones, so they are updated from the highest down.
+    /// Each higher sum uses the old lower ones, so they are updated from the highest down.
     void grow(double d, double d3, double d4, double w, double W)
     {
         const double f = w / W;
