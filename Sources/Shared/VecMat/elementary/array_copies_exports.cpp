@@ -9,7 +9,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Cell (i, j) of `result` takes the cell of `source` at i + j*r: the result's own numbers with the source's stride.
+/// Copies the cell of `source` at i + j*r to cell (i, j) of `result`: the result's own shape with the source's stride.
 template <class Table>
 void resize(Table* source, int r, Table* result)
 {
@@ -20,7 +20,7 @@ void resize(Table* source, int r, Table* result)
             to.set(i, j, from.get(static_cast<int>(vecmat::linearIndex(i, j, r))));
 }
 
-/// The columns of the source and of the result, where 0 of the one means a vector on both sides.
+/// The columns of the source and of the result; 0 for the source means a vector on both sides.
 struct ResizedColumns
 {
     ResizedColumns(int c, int newC) : source(c == 0 ? 1 : c), result(c == 0 ? 1 : newC) {}

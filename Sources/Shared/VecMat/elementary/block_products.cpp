@@ -34,8 +34,7 @@ void forEachBlock(matrix** blocks, int nBlocks, Sizes* sizes, Body body)
     }
 }
 
-/// The plain product in a table that the caller keeps: it is cleared where `matCheck` would do no more than that, and
-/// never replaced.
+/// The plain product in a table that the caller keeps: it is cleared only if it is large enough, and never replaced.
 template <class Left, class Right>
 void plainProduct(Left left, Right right, ProductShape shape, matrix* out)
 {
@@ -87,7 +86,7 @@ void productATrBck(matrix* a, int rows, matrix** blocks, int nBlocks, Sizes* siz
     });
 }
 
-// One block needs no case of its own: the plain product by a vector is written in place too.
+// A single block needs no special case: the plain product by a vector is written in place too.
 template <class Sizes>
 void productBckVect(matrix** blocks, int nBlocks, Sizes* sizes, matrix* v, matrix* out)
 {

@@ -38,7 +38,7 @@ void duplicateToTriangle(Source* src, int rows, int cols, matrix** dst, int dstR
               triangleWindow(dst, zeroBased(dstRow), zeroBased(dstCol)), rows, cols);
 }
 
-/// Copies `n` cells in linear order: one long column, which the linear check bounds.
+/// Copies `n` cells in linear order, as one long column bounded by the linear check.
 template <class Source, class Target>
 void copyRun(Source* src, int row, int col, int n, Target* dst, int dstRow, int dstCol)
 {

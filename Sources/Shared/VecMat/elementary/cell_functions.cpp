@@ -23,7 +23,7 @@ double M_SquareRootAij(matrix* a, int rows, int cols, matrix* out)
         [rows, cols](auto x, auto root) {
             for (int i = 0; i < rows; ++i)
                 for (int j = 0; j < cols; ++j) {
-                    // A cell out of range reads as -1.0 and fails the test with the other negative ones.
+                    // An out-of-range cell reads as -1.0 and fails the test like any negative one.
                     if (!(x.get(i, j) >= 0.0))
                         return -1.0;
                     root.set(i, j, squareRoot(x.get(i, j)));

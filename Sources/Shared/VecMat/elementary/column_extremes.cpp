@@ -12,7 +12,7 @@ namespace {
 using Smaller = std::less<>;
 using Larger = std::greater<>;
 
-/// From the first cell above the missing value on, the best with no test.
+/// The best cell from the first one above the missing value on, without further tests.
 template <class Better, class Cells>
 double bestOfColumn(Cells table, int rows, int j)
 {
@@ -39,7 +39,7 @@ void bestByColumn(matrix* a, int rows, int cols, matrix* out)
         block(cells(a), rows, cols));
 }
 
-/// The 1-based column of the first of the largest cells of a row.
+/// The 1-based column of the first largest cell of a row.
 template <class Cells>
 int positionOfLargest(Cells table, int i, int cols)
 {
@@ -71,7 +71,7 @@ struct Extremes
     double max = missingValue;
 };
 
-/// Extremes of cell(0) to cell(n - 1) where `take(x, i)` says so.
+/// Extremes of those of cell(0) to cell(n - 1) for which `take(x, i)` holds.
 template <class Cell, class Take>
 Extremes extremesWhere(int n, Cell cell, Take take)
 {
@@ -80,7 +80,7 @@ Extremes extremesWhere(int n, Cell cell, Take take)
         const double x = cell(i);
         if (!take(x, i))
             continue;
-        if (x < found.min || isMissing(found.min)) // also over a missing cell that was taken
+        if (x < found.min || isMissing(found.min)) // also replaces a missing cell that was taken
             found.min = x;
         if (x > found.max)
             found.max = x;
@@ -107,7 +107,7 @@ void store(const Extremes& found, int j, matrix* min, matrix* max)
     linear(max).set(j, found.max);
 }
 
-/// Over an array of columns of which column j has length(j) cells.
+/// Over an array of columns in which column j has length(j) cells.
 template <class Length>
 void extremesOfColumns(matrix** a, Length length, int cols, matrix* min, matrix* max, Mask mask, Selection selection)
 {

@@ -6,7 +6,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Runs one of the forms of `M_MinMax` and hands both results back.
+/// Runs one of the forms of `M_MinMax` and writes back both results.
 template <class MinMax, class Source>
 void minMaxByColumn(MinMax minMax, const Source& a, int rows, int cols, double* min, double* max, short* mask,
                     short mode)

@@ -17,7 +17,7 @@ int pairedColumn(int i, int j, int colsB)
     return static_cast<int>(static_cast<unsigned>(timesCount(i, colsB)) + static_cast<unsigned>(j));
 }
 
-// The counts are multiplied without a test for overflow, so these loops keep to checked access.
+// The counts are multiplied without an overflow check, so these loops stay with checked access.
 template <class Function>
 void mapColumnPairs(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* out, Function f)
 {
@@ -27,7 +27,7 @@ void mapColumnPairs(matrix* a, int rows, int cols, matrix* b, int colsB, matrix*
                 cells(out).set(r, pairedColumn(i, j, colsB), f(cells(a).get(r, i), cells(b).get(r, j)));
 }
 
-/// A cell of the design but for the first column. `leading`: the column comes from a first column of a factor.
+/// A cell of the design except in the first column. `leading`: the column comes from the first column of a factor.
 double interactionCode(double x, double y, bool leading)
 {
     const double product = x * y;

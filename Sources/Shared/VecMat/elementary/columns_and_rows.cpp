@@ -49,7 +49,7 @@ void Extractij(matrix* a, int n, int i, int j, matrix* out)
 {
     const auto from = vecmat::cells(a);
     const auto to = vecmat::cells(out);
-    // Row by row: where `out` is short, its first column runs into the second.
+    // Row by row: if `out` is too short, its first column runs into the second.
     for (int k = 0; k < n; ++k) {
         to.set(k, 0, from.get(k, zeroBased(i)));
         to.set(k, 1, from.get(k, zeroBased(j)));

@@ -6,7 +6,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Calls visit(i, x[i]) for each selected cell that is not missing and whose key is not. An int key, widened, never
+/// Calls visit(i, x[i]) for each selected cell for which neither it nor its key is missing. An int key, widened, never
 /// equals the missing value.
 template <class Key, class Visit>
 void forEachSelected(matrix* x, int n, Key* key, double val, Visit visit)
@@ -20,7 +20,7 @@ void forEachSelected(matrix* x, int n, Key* key, double val, Visit visit)
         block(linear(x), n), block(linear(key), n));
 }
 
-/// A sum that tells no terms from terms that add up to 0.0.
+/// A sum that distinguishes no terms from terms that add up to 0.0.
 class Sum
 {
 public:
@@ -98,7 +98,7 @@ double V_NbIfW(matrix* x, int n, matrix* w, double val)
         [=](auto cells, auto weights) {
             double sum = 0.0;
             for (int i = 0; i < n; ++i)
-                if (cells.get(i) == val && weights.get(i) > 0.0) // the -1.0 of a read outside fails this too
+                if (cells.get(i) == val && weights.get(i) > 0.0) // the -1.0 of an out-of-range read fails this too
                     sum += weights.get(i);
             return sum;
         },
@@ -120,7 +120,7 @@ double V_SumIfW(matrix* x, int n, matrix* key, matrix* w, double val)
     Sum sum;
     forEachSelected(x, n, key, val, [&](int i, double cell) {
         const double weight = linear(w).get(i);
-        if (weight > 0.0) // the -1.0 of a read outside fails this too
+        if (weight > 0.0) // the -1.0 of an out-of-range read fails this too
             sum.add(weight * cell);
     });
     return sum.result();

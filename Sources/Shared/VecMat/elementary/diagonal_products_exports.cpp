@@ -62,7 +62,7 @@ void VB_M_ProductADiagVTrB(double* a, int rows, int cols, double* v, double* b, 
                        viewed(out, rows, rows));
 }
 
-// The shapes of b and out are those of the form above, and callers count on them.
+// The shapes of b and out are those of the form above, and callers rely on them.
 void VB_M_ProductADiagVB(double* a, int rows, int cols, double* v, double* b, int colsB, double* out)
 {
     M_ProductADiagVB(viewed(a, rows, cols), rows, cols, viewed(v, cols, 1), viewed(b, colsB, cols), colsB,

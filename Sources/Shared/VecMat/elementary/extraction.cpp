@@ -11,8 +11,8 @@ using vecmat::zeroBased;
 
 namespace {
 
-/// One walk over a column: takes cells from `start` on, in runs of `keep`, and jumps over `skip` after each.
-/// `take(position, index)` gets the position in the column, from 1, and the number of cells taken before.
+/// One pass over a column: takes cells from `start` on, in runs of `keep`, and skips `skip` after each. `take(position,
+/// index)` gets the position in the column, from 1, and the number of cells taken before.
 template <class Take>
 void takePattern(std::int64_t n, std::int64_t keep, std::int64_t skip, std::int64_t start, Take take)
 {
@@ -26,7 +26,7 @@ void takePattern(std::int64_t n, std::int64_t keep, std::int64_t skip, std::int6
             take(++p, index++);
         } while (p != n && ++taken != keep);
         p += skip;
-        // A run that ends no further than it began would come back for ever.
+        // A run that ends no further than it began would repeat for ever.
         if (p > n || p <= runStart)
             return;
     }

@@ -12,7 +12,7 @@ int atLeastAVector(int cols)
     return cols == 0 ? 1 : cols;
 }
 
-/// Rows `from` to `to` of the strings, which have no computing function of their own, to the caller's array.
+/// Copies rows `from` to `to` of the strings, which have no computing function of their own, to the caller's array.
 template <class Source>
 void extractStrings(Source source, int cols, int from, int to, wchar_t** out)
 {

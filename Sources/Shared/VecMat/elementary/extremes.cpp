@@ -19,7 +19,7 @@ bool qualifies(Cells cells, int i, Mask mask)
     return mask.keeps(i) && !isMissing(cells.get(i));
 }
 
-/// The best of the cells that qualify, or the missing value.
+/// The best of the qualifying cells, or the missing value.
 template <class Better, class Cells>
 double bestOf(Cells cells, int n, Mask mask)
 {
@@ -48,7 +48,7 @@ constexpr Mask noMask(nullptr);
 template <class Table>
 void searchBoth(Table* x, int n, double* min, double* max, short* mask)
 {
-    // Nothing to visit is no candidate here, where the single searches answer -1.0.
+    // With nothing to visit there is no candidate here, whereas the single searches return -1.0.
     *min = n < 1 ? missingValue : search<Smaller>(x, n, Mask(mask));
     *max = n < 1 ? missingValue : search<Larger>(x, n, Mask(mask));
 }

@@ -9,7 +9,7 @@ using vecmat::countOf;
 
 namespace {
 
-/// 1, 2, ... over the first `n` cells of the block, as far as the table goes.
+/// 1, 2, ... over the first `n` cells of the block, as far as the table extends.
 template <class Table>
 void setToPositions(Table& v, int n)
 {

@@ -17,9 +17,9 @@ namespace {
 constexpr int singular = -2;
 
 enum class Pivoting {
-    full,       ///< the largest cell, brought to the diagonal by exchanging rows
+    full,       ///< the largest cell, moved to the diagonal by exchanging rows
     stayInRows, ///< the column of the largest cell, but no rows are exchanged
-    onDiagonal  ///< each diagonal cell in its turn
+    onDiagonal  ///< each diagonal cell in turn
 };
 
 struct Cell
@@ -28,7 +28,7 @@ struct Cell
     int col;
 };
 
-/// The largest cell of the rows and columns that have not had a pivot yet.
+/// The largest cell of the rows and columns not yet used for a pivot.
 template <class Cells>
 std::optional<Cell> largestFreeCell(Cells a, int n, const std::vector<bool>& used)
 {
@@ -64,7 +64,7 @@ void subtractRow(Cells a, int row, int pivotRow, int cols, double multiple)
         a.set(row, j, a.get(row, j) - a.get(pivotRow, j) * multiple);
 }
 
-/// Clears column `p` by the diagonal cell (p, p), and puts a column of the inverse in its place.
+/// Clears column `p` by the diagonal cell (p, p), and replaces it by a column of the inverse.
 template <class Left, class Right>
 void eliminate(Left a, Right b, int n, int m, int p)
 {

@@ -26,7 +26,7 @@ void mergeTables(Source* a, int r1, int c1, Source* b, int r2, int c2, Table*& o
     mergeSideBySide(window(a, 0, 0), r1, c1, window(b, 0, 0), r2, c2, out);
 }
 
-/// A caller's vector as a table, for the length of a call.
+/// A caller's vector as a table, for the duration of a call.
 matrix asTable(double* v, int n)
 {
     return matrix(n, 1, v, true);

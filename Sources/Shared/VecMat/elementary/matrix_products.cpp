@@ -26,7 +26,7 @@ void productATrA(Table* a, int rows, int cols, matrix*& out)
     multiplySymmetric(cells(a), transposed(cells(a)), rows, cols, cells(out));
 }
 
-/// left right as a table of its own: the first link of a chain.
+/// left right in a new table: the first link of a chain.
 template <class Left, class Right>
 matrix product(Left left, Right right, ProductShape shape)
 {

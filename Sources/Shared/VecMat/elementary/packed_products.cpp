@@ -13,7 +13,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The row, 1-based, in which the packed position k, 1-based, stands.
+/// The 1-based row that contains the 1-based packed position k.
 int packedRow(long long k)
 {
     return truncated(std::floor(squareRoot(2.0 * static_cast<double>(k) + 0.25) + 0.5 - zeroTolerance));
@@ -37,7 +37,7 @@ void MV_ProductAsymBsym(matrix* a, int len, matrix* b, matrix* out)
     for (long long k = 1; k <= len; ++k) {
         const long long row = packedRow(k);
         const long long col = k - row * (row - 1) / 2;
-        // b is symmetric: its column stands for its row.
+        // b is symmetric: its column serves as its row.
         const double sum =
             sumOfProducts(packed(a), static_cast<int>(row - 1), packed(b), static_cast<int>(col - 1), order);
         linear(out).set(static_cast<int>(k - 1), sum);

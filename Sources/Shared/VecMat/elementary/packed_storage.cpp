@@ -11,7 +11,7 @@ using vecmat::truncated;
 
 namespace {
 
-/// Cells of the triangle with diagonal before row `row`; wide, since the product outgrows an int before its half does.
+/// Cells of the triangle with diagonal before row `row`; wide, since the product overflows an int before its half does.
 long long cellsBefore(int row)
 {
     return row * (row - 1LL) / 2;
@@ -21,8 +21,8 @@ long long cellsBefore(int row)
 
 void GetIJForSymMat(int k, int& i, int& j)
 {
-    // The small amount keeps the last cell of a row, where the sum is whole, out of the next row, as long as it is not
-    // lost in the rounding.
+    // The small amount keeps the last cell of a row, where the sum is whole, out of the next row, unless rounding
+    // absorbs it.
     i = truncated(std::floor(squareRoot(2.0 * k + 0.25) + 0.5 - 1e-12));
     j = static_cast<int>(k - cellsBefore(i));
 }

@@ -6,13 +6,13 @@ using namespace vecmat;
 
 namespace {
 
-/// Rows of a one-column table with a cell for each of rows by cols.
+/// Number of rows of a one-column table with rows by cols cells.
 int stackedLength(int rows, int cols)
 {
     return static_cast<int>(vecmat::elementCount(rows, cols));
 }
 
-/// n(n+1)/2; the even one of the two factors is halved before they are multiplied.
+/// n(n+1)/2; the even factor is halved before multiplying.
 int packedLength(int n)
 {
     return n % 2 == 0 ? stackedLength(n / 2, n + 1) : stackedLength(n, n / 2 + 1);
@@ -28,7 +28,7 @@ void Cpp_MatToVect(double* a, int rows, int cols, double* v)
 void Cpp_VectToMat(double* v, double* counts, int rows, int cols, double* out)
 {
     const TableHandle result = fresh(rows, cols);
-    // At most one value for each cell is read, and none that the counts do not ask for.
+    // Reads at most one value per cell, and none beyond the counts.
     VectToMat(viewed(v, stackedLength(rows, cols), 1), viewed(counts, cols, 1), rows, cols, result);
     handBack(result, out);
 }

@@ -51,7 +51,7 @@ bool everyCell(matrix* table, int n, Holds holds)
         block(linear(table), n));
 }
 
-/// Are `cols` columns from `first` on (0-based) constant? A single one never is, without a look at it.
+/// Are `cols` columns from `first` on (0-based) constant? A single column never is, and is not read.
 template <class Checked>
 bool eachColumnIsConstant(Checked x, int rows, int first, int cols)
 {
@@ -134,7 +134,7 @@ short M_IsDiagConstant(matrix* a, int n)
 
 short V_IsPositive(matrix* x, int n, short strict)
 {
-    const bool zeroFails = strict != 0; // the table form asks for exactly -1
+    const bool zeroFails = strict != 0; // the table form requires exactly -1
     return booleanOf(everyCell(
         x, n, [zeroFails](double cell) { return isMissing(cell) || !(zeroFails ? cell <= 0.0 : cell < 0.0); }));
 }

@@ -16,8 +16,8 @@ using vecmat::viewed;
 
 namespace {
 
-/// Do the cells behind the first present one, up to number `end`, agree with it where they are present? The last row
-/// alone is no constant column, whatever `end` is.
+/// Are the present cells after the first present one, before row `end`, equal to it? The last row alone is never a
+/// constant column, whatever `end` is.
 template <class Vector>
 bool columnIsConstant(Vector x, int rows, int end)
 {
@@ -72,7 +72,7 @@ int VB_M_IsColConstant(double* a, int rows, int cols)
 
 int VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols)
 {
-    // The scan ends one row early, on purpose.
+    // The scan ends one row early, deliberately.
     return firstConstantColumn(cells<matrix>(columns(a, cols, rows)), rows, cols, rows - 1);
 }
 

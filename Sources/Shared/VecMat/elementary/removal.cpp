@@ -21,10 +21,10 @@ using vecmat::zeroBased;
 
 namespace {
 
-/// No row or column is skipped: all numbers come before it.
+/// No row or column is skipped: all numbers precede it.
 constexpr int noPlace = std::numeric_limits<int>::max();
 
-/// The cells of a window without one row or one column of it.
+/// The cells of a window without one of its rows or columns.
 template <class Cells>
 class Skipping
 {
@@ -61,7 +61,7 @@ void moveRowsUp(Table* a, int rows, int cols, int from, int to)
     copyCells(window(a, to, 0), window(a, zeroBased(from), 0), countFromTo(next, rows), cols);
 }
 
-/// Sorts the rows of a table by their flags, so that those to be kept come first. A flag outside its table is -1.0.
+/// Sorts the rows of a table by their flags, so that those to keep come first. A flag outside its table is -1.0.
 template <class Flags>
 void sortByFlags(matrix*& table, int rows, int cols, Flags* flags)
 {
@@ -71,7 +71,7 @@ void sortByFlags(matrix*& table, int rows, int cols, Flags* flags)
     SortQ(table, rows, cols, 1, rows, key.reference(), companion.reference(), 1, 0, 0);
 }
 
-/// How many are left. It wraps where the flags sum to nonsense.
+/// Number left. It wraps if the flags sum to nonsense.
 int without(int count, int removed)
 {
     return static_cast<int>(static_cast<unsigned>(count) - static_cast<unsigned>(removed));

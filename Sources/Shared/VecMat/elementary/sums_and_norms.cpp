@@ -30,7 +30,7 @@ void sumLines(Lines lines, int length, int count, matrix* out)
         block(lines, length, count), block(linear(out), count));
 }
 
-/// out(i) = the product of row i by itself.
+/// out(i) = the product of row i with itself.
 template <MissingFactor missing, class Rows>
 void squareRows(Rows rowsOf, int rows, int cols, matrix* out)
 {

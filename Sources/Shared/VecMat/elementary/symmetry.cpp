@@ -32,7 +32,7 @@ short isSymmetric(Checked table, int n)
         block(table, n, n));
 }
 
-/// One value for the two cells of a pair. std::min and std::max give the first where a NaN leaves them unordered.
+/// One value for both cells of a pair. std::min and std::max give the first if a NaN leaves them unordered.
 using Merge = double (*)(double upper, double lower);
 
 double larger(double upper, double lower)
@@ -46,7 +46,7 @@ double smallerPresent(double upper, double lower)
     return smaller > missingValue ? smaller : larger(upper, lower);
 }
 
-/// Half of the smaller cell where both are present: required so, although the mean of the two suggests itself.
+/// Half of the smaller cell if both are present: required, although their mean seems the obvious choice.
 double halfOfTheSmaller(double upper, double lower)
 {
     const double smaller = std::min(upper, lower);
@@ -143,7 +143,7 @@ constexpr int dissimilarities = 2;
 /// Which diagonal cell a cell is compared with.
 enum class Diagonal { ofRow, ofColumn };
 
-/// No present cell is on the wrong side of its diagonal cell, as `wrong(cell, diagonal)` tells it.
+/// True if no present cell is on the wrong side of its diagonal cell, as decided by `wrong(cell, diagonal)`.
 template <Diagonal diagonal, class Cells, class Wrong>
 bool noneIsWrong(Cells x, int rows, int cols, Wrong wrong)
 {
@@ -156,7 +156,7 @@ bool noneIsWrong(Cells x, int rows, int cols, Wrong wrong)
     return true;
 }
 
-/// Unlike in M_IsDiagConstant the first cell is compared too, so that a NaN there is no constant diagonal.
+/// Unlike in M_IsDiagConstant the first cell is compared too, so with a NaN there the diagonal is not constant.
 template <class Cells>
 bool diagonalIsConstant(Cells x, int n)
 {
@@ -169,7 +169,7 @@ bool diagonalIsConstant(Cells x, int n)
 template <Diagonal diagonal, class Checked>
 int proximityKind(Checked table, int rows, int cols, int kind)
 {
-    // Neither test is told by such a kind: the table, which may be none, is not read.
+    // Such a kind requests neither test: the table, which may be null, is not read.
     const bool withoutTheSecondTest = (kind & ~2) != 0;
     if (kind >= 2 && withoutTheSecondTest)
         return dissimilarities;
@@ -186,7 +186,7 @@ int proximityKind(Checked table, int rows, int cols, int kind)
             const bool far = noneIsWrong<diagonal>(x, rows, cols, [](double cell, double own) { return cell < own; });
             return far && diagonalIsConstant(x, cols) ? dissimilarities : neither;
         },
-        // The diagonal runs to the last column, also where that is beyond the rows.
+        // The diagonal runs to the last column, even beyond the rows.
         block(table, std::max(rows, cols), cols));
 }
 

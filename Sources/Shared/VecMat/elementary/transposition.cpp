@@ -9,8 +9,8 @@ using vecmat::window;
 
 namespace {
 
-/// Rows and columns of the square that is transposed at a time: its cells of both tables stay in the cache, where one
-/// side would otherwise be touched a whole column apart from cell to cell.
+/// Side of the square transposed at a time: its cells of both tables stay in the cache, whereas otherwise one table
+/// would be accessed a whole column apart from cell to cell.
 constexpr int tile = 32;
 
 template <class Source, class Target>

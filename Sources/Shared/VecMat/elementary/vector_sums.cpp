@@ -9,7 +9,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Stands in for a weight table that the caller left out.
+/// Replaces a weight table omitted by the caller.
 struct UnitWeights
 {
     double get(int /*i*/) const { return 1.0; }
@@ -77,7 +77,7 @@ double V_Sum2(matrixInt* x, int n)
 
 double V_Sum2(int* x, int n)
 {
-    // One element late throughout: callers of this form rely on it.
+    // Every element is read one place late: callers of this form rely on it.
     return sumWhere(0, n, everyCell, [x](int i) { return static_cast<double>(x[i + 1]); });
 }
 
@@ -103,7 +103,7 @@ double V_SumSqW(matrix* x, int n, matrix* w)
         return 0.0;
     return onBlocks(
         [n](auto cells, auto weights) {
-            // The weight stands one place before its cell; before the first there is only what a read outside gives.
+            // The weight lies one place before its cell; before the first it is what an out-of-range read gives.
             const auto weight = [weights](int i) { return i == 0 ? outOfRangeValue : weights.get(i - 1); };
             return sumWhere(0, n, presentIn(cells), [&](int i) { return weight(i) * cells.get(i) * cells.get(i); });
         },
@@ -127,7 +127,7 @@ double V_DiffSqW(matrix* a, int n, matrix* b, matrix* w)
 
 double V_DiffSqStart(matrix* a, int n, matrix* b, int start)
 {
-    // Places before the first cell read -1.0 in both vectors, so that leaving them out changes nothing.
+    // Places before the first cell read -1.0 in both vectors, so that skipping them changes nothing.
     const int first = std::max(start, 1) - 1;
     return onBlocks(
         [=](auto cellsA, auto cellsB) {

@@ -22,7 +22,7 @@ void VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB)
 
 void VB_VMergeVectorsStr(wchar_t** a, int nA, wchar_t** b, int nB, wchar_t** out)
 {
-    // The second table always has a row; an array without elements is not read for it.
+    // The second table always has a row, but an array without elements is not read for it.
     const StringTableHandle second = nB > 0 ? copied(b, nB, 1) : freshStrings(1, 1);
     StringTableHandle result = freshStrings(shifted(nA, nB), 1);
     VMergeVectors(copied(a, nA, 1), nA, second, nB, result.reference());

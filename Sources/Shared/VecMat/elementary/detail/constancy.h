@@ -1,4 +1,5 @@
-// When a run of cells is constant. Not part of the interface: shared by the functions over tables and over flat arrays.
+// When a sequence of cells is constant. Not part of the interface: shared by the functions over tables and over flat
+// arrays.
 #pragma once
 
 #include "../../access/cells.h"
@@ -27,8 +28,8 @@ int firstPresent(Vector x, int n)
     return i;
 }
 
-/// Do the cells that are not missing agree with the first of them? They are compared from the second cell on, so that a
-/// NaN fails behind a missing cell, where it is compared with itself, and not as the first cell.
+/// Do the cells that are not missing equal the first of them? Comparison starts at the second cell, so that a NaN fails
+/// after a missing cell, being compared with itself, but not as the first cell.
 template <class Vector>
 bool presentCellsAgree(Vector x, int n)
 {

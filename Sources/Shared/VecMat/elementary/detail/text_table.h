@@ -1,4 +1,4 @@
-// Texts with a value beside each, found by the text in one look however many there are. Internal to the library.
+// Texts, each with a value, found by hash in constant time. Internal to the library.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +22,7 @@ public:
     std::uint32_t hash() const { return hash_; }
 
 private:
-    /// Takes the characters in pairs, each pair by a product that carries it to the upper bits and a shift that brings
+    /// Reads the characters in pairs, each mixed by a product that carries it to the upper bits and a shift that brings
     /// these down again.
     static std::uint32_t hashOf(std::wstring_view text)
     {
@@ -45,8 +45,8 @@ private:
     std::uint32_t hash_ = 0;
 };
 
-/// Different texts in the order in which they came, numbered from 0. The texts stay where they are: only views of them
-/// are kept. A hash of each text leads to its number, so that the work does not grow with the number of texts.
+/// Distinct texts in order of first appearance, numbered from 0. Only views are kept: the texts must stay in place. A
+/// hash of each text leads to its number, so that the cost of a lookup does not grow with the number of texts.
 template <class Value>
 class TextTable
 {
@@ -61,7 +61,7 @@ public:
     /// The number of a text, or `none`.
     int find(const HashedText& text) const { return slots_.empty() ? none : slots_[slotOf(text)].number; }
 
-    /// The number of a text, and whether it is new: then it takes `value`. Values known before move to another place.
+    /// The number of a text, and whether it is new: if so it gets `value`. Existing values may be moved in memory.
     std::pair<int, bool> add(const HashedText& text, const Value& value)
     {
         if (2 * entries_.size() >= slots_.size())
@@ -74,8 +74,8 @@ public:
         return {slot.number, true};
     }
 
-    /// Asks for the memory in which the text will be looked for, in three steps of which each needs what the one before
-    /// has brought: the slot, the entry, its characters.
+    /// Prefetches the memory in which the text will be looked up, in three steps that each need the data of the
+    /// previous one: the slot, the entry, its characters.
     void expectSlot(const HashedText& text) const
     {
         if (!slots_.empty())
@@ -110,12 +110,12 @@ private:
         int number = none;
     };
 
-    static constexpr std::size_t fewestSlots = 16; // a power of 2, as all numbers of slots
+    static constexpr std::size_t fewestSlots = 16; // a power of 2, like every number of slots
 
     std::size_t firstSlot(const HashedText& text) const { return text.hash() & (slots_.size() - 1); }
     int likelyNumber(const HashedText& text) const { return slots_.empty() ? none : slots_[firstSlot(text)].number; }
 
-    /// The slot that holds the text, or the empty one where it would stand.
+    /// The slot that holds the text, or the empty one where it belongs.
     std::size_t slotOf(const HashedText& text) const
     {
         const std::size_t last = slots_.size() - 1;
@@ -146,7 +146,7 @@ private:
 };
 
 /// Calls visit(i, text) for textAt(i), i from `first` to `end` - 1 in order. The texts and their places in `table` may
-/// be anywhere in memory: they are asked for some texts ahead.
+/// be anywhere in memory: they are prefetched some texts ahead.
 template <class Value, class TextAt, class Visit>
 void forEachText(int first, int end, const TextTable<Value>& table, TextAt textAt, Visit visit)
 {
@@ -170,7 +170,7 @@ void forEachText(int first, int end, const TextTable<Value>& table, TextAt textA
     }
 }
 
-/// How many different texts there are among textAt(0) to textAt(n - 1). None where n is below 1.
+/// Number of distinct texts among textAt(0) to textAt(n - 1); 0 if n is below 1.
 template <class TextAt>
 int countDistinct(int n, TextAt textAt)
 {
