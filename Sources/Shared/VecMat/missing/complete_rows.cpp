@@ -35,7 +35,7 @@ void copyRow(From from, int row, To to, int target, int cols)
         to.set(target, j, from.get(row, j));
 }
 
-/// Row by row: a row never moves below one that is still to be read.
+/// Row by row: a row never overwrites one still to be read.
 template <class Table>
 void removeRows(Table* a, int rows, int cols, Mask mask)
 {
@@ -45,7 +45,7 @@ void removeRows(Table* a, int rows, int cols, Mask mask)
         [=](auto x) {
             int kept = 0;
             for (int i = 0; i < rows; ++i) {
-                // Only a plain vector loses missing cells that the mask does not name.
+                // Only a plain vector also loses missing cells that the mask keeps.
                 if (!mask.keeps(i) || (isVector && isAbsent(x.get(i, 0))))
                     continue;
                 if (kept != i)

@@ -9,7 +9,7 @@ using vecmat::viewed;
 
 namespace {
 
-/// It wraps where the numbers are senseless.
+/// It wraps if the numbers make no sense.
 int rowsLeft(int rows, int removed)
 {
     return static_cast<int>(static_cast<unsigned>(rows) - static_cast<unsigned>(removed));

@@ -18,7 +18,7 @@ using vecmat::TableHandle;
 
 namespace {
 
-/// Column j takes mean(j) in the marked rows.
+/// Writes mean(j) to the marked rows of column j.
 template <class Storage, class Mean>
 void fill(Storage storage, int rows, int cols, Mask mask, Mean mean)
 {

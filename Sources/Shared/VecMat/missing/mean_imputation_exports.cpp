@@ -6,7 +6,7 @@
 
 using vecmat::viewed;
 
-// The means are taken before a cell is filled, so that a view of the caller's array serves for both.
+// The means are computed before any cell is filled, so that one view of the caller's array is both input and output.
 
 void VB_EstimateRowsWithMissingMean(double* X, int n, int nCols, short* mask, double* weights)
 {

@@ -16,7 +16,7 @@ double V_MinIgnoreMissing(matrix* x, int n)
 {
     return onBlocks(
         [n](auto cell) {
-            double smallest = missingValue; // until a cell is found, since no cell that is taken has this value
+            double smallest = missingValue; // none found yet: no cell that counts has this value
             for (int i = 0; i < n; ++i) {
                 const double value = cell.get(i);
                 if (!isMissing(value) && (isMissing(smallest) || value < smallest))

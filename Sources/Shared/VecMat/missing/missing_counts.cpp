@@ -18,10 +18,10 @@ using vecmat::triangle;
 
 namespace {
 
-// Counts are taken over columns of any storage, by either test. Sums are unsigned, since the block that the caller
-// names may have more cells than an int counts.
+// Counts over columns of any storage, by either test. Sums are unsigned, since the block named by the caller may have
+// more cells than an int can count.
 
-/// Columns whose cells are asked one by one: `missing(i, j)`.
+/// Columns whose cells are tested one by one: `missing(i, j)`.
 template <class Missing>
 struct ColumnsOfCells
 {
@@ -41,7 +41,7 @@ struct ColumnsOfCells
     }
 };
 
-/// Columns of doubles that stand one behind the other, by the equality test or by the order test.
+/// Contiguous columns of doubles, by the equality test or by the order test.
 template <auto test, class Cells>
 struct ColumnsInMemory
 {
@@ -91,7 +91,7 @@ auto countIn(Storage storage, int rows, int cols, Count count)
                           block(storage, rows, cols));
 }
 
-/// Counts in strings. A place outside the table reads as an empty string, and yet none is missing there.
+/// Counts in strings. A place outside the table reads as an empty string, but does not count as missing.
 template <class Count>
 auto countIn(Smatrix* table, Count count)
 {

@@ -20,7 +20,7 @@ constexpr bool isSet(short flag)
     return flag == -1;
 }
 
-/// Each column would overwrite the flags of the one before, so that only the last one is looked at.
+/// Each column would overwrite the flags of the one before, so only the last one is read.
 template <class Storage>
 void flagMissing(Storage storage, int rows, int cols, const short* filter, short* out)
 {

@@ -14,7 +14,7 @@ using vecmat::viewed;
 
 namespace {
 
-/// Flags the rows that pass the filter and are missing from the first column to the last.
+/// Flags the rows that pass the filter and are missing in every column.
 template <class Cells, class Test>
 void flagAllMissingRows(Cells x, Test missing, int rows, int cols, const short* filter, short* out)
 {

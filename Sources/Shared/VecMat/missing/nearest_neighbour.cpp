@@ -12,7 +12,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The variances of the primary block and of the second one have different divisors: weights taken as frequencies, and
+/// The variances of the primary and of the second block have different divisors: weights treated as frequencies, and
 /// weights corrected by their mean.
 enum class Divisor : short { frequencies = -1, meanWeight = 0 };
 
@@ -32,7 +32,7 @@ struct Numbers
     }
 };
 
-/// A block of strings likewise.
+/// The same for a block of strings.
 struct Texts
 {
     Smatrix* table;

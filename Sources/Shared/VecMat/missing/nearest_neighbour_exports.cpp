@@ -9,13 +9,13 @@ using vecmat::viewed;
 
 namespace {
 
-/// An array of no columns is not looked at.
+/// An array of no columns is not read.
 vecmat::ColumnsHandle<matrix> columnsIfAny(SAFEARRAY** x, int nCols, int n)
 {
     return columns(nCols > 0 ? x : nullptr, nCols, n);
 }
 
-/// Fills copies of the target's blocks by `estimate`, and hands them back. The primary block is of either kind.
+/// Fills copies of the target's blocks by `estimate`, and writes them back. The primary block is of either kind.
 template <class Estimate, class Element>
 void predict(Estimate estimate, Element* statX, int nStat, Element* X, int nRows, int nColsX, short* mask,
              double* statY, double* Y, int nColsY, wchar_t** statS, wchar_t** S, int nColsS, double* weights)

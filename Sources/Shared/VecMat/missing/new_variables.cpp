@@ -14,7 +14,7 @@ using vecmat::negligible;
 
 namespace {
 
-/// The rows of the lower triangle of a table, one behind the other: every sum here runs along them.
+/// The rows of the lower triangle of a table, contiguous: every sum here runs along them.
 class TriangleRows
 {
 public:
@@ -48,7 +48,7 @@ double varianceOf(const std::vector<double>& q, const TriangleRows& C)
 }
 
 /// Half the variance of the combination with the coefficients t. Not `varianceOf` halved: the terms are multiplied in
-/// another order, and negligible coefficients open no terms of their own.
+/// another order, and negligible coefficients start no terms of their own.
 double halfVarianceOf(const std::vector<double>& t, const TriangleRows& C)
 {
     double sum = 0.0;

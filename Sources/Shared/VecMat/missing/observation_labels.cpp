@@ -8,7 +8,7 @@ using vecmat::linear;
 
 namespace {
 
-/// The labels that rows bear and that a generated one could repeat: those that begin with the prefix.
+/// The labels of rows that a generated one could repeat: those that begin with the prefix.
 class TakenLabels
 {
 public:
@@ -19,7 +19,7 @@ public:
                 ++rows_[label];
     }
 
-    /// A row gives up its label. Others may bear the same one.
+    /// A row gives up its label. Others may have the same one.
     void release(const std::wstring& label)
     {
         if (mayBeGenerated(label))
@@ -51,7 +51,7 @@ void ReplaceMissingObsLabels(Smatrix*& labels, int n, short* mask, std::wstring 
     for (int i = 0; i < n; ++i) {
         if (mask[i] == -1) {
             taken.release(linear(labels).get(i));
-            // No number comes twice, so that the labels given here need not be taken note of.
+            // No number comes twice, so labels given here need not be recorded.
             std::wstring label;
             do
                 label = prefix + std::to_wstring(++number);

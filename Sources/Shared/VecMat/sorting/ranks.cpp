@@ -16,13 +16,13 @@ namespace {
 
 using namespace vecmat;
 
-/// Values closer than this are one value to the ranks of weighted means.
+/// Values closer than this count as equal in the ranks by weighted means.
 constexpr double tieTolerance = 1e-15;
 
 /// Steps of a series that differ by more than this are uneven.
 constexpr double stepTolerance = 1e-6;
 
-/// The elements of a vector in ascending order, and the row, from 0, that each came from.
+/// The elements of a vector in ascending order, and the row, from 0, each came from.
 class SortedElements
 {
 public:
@@ -47,7 +47,7 @@ private:
     std::unique_ptr<double[]> values_;
 };
 
-/// Gives each element its rank: `rank(k)`, asked for k from 0 up, is that of the k-th sorted one.
+/// Gives each element its rank: `rank(k)`, called for k from 0 up, is that of the k-th sorted one.
 template <class Ranks, class Rank>
 void writeInRows(const SortedElements& sorted, Ranks* out, Rank rank)
 {
@@ -72,12 +72,12 @@ void denseRanks(matrix* x, int n, Ranks*& ranks)
     });
 }
 
-/// Sorted elements with their ranks as they stand before ties are looked at.
+/// Sorted elements with their ranks before ties are settled.
 struct Ranking
 {
     SortedElements sorted;
     std::unique_ptr<double[]> ranks;
-    std::size_t missing; // how many of the first elements are missing
+    std::size_t missing; // number of missing values, which come first
 
     Ranking(matrix* x, int n)
         : sorted(x, n), ranks(std::make_unique_for_overwrite<double[]>(sorted.count())), missing(0)
@@ -94,8 +94,8 @@ struct Ranking
     }
 };
 
-/// Finds the runs of ties from the lowest value up and calls `settle(first, behind)` for each, which may change the
-/// ranks. `tied` tells whether two values tie. The lengths of the runs.
+/// Finds the groups of ties from the lowest value up and calls `settle(first, end)` for each, which may change the
+/// ranks. `tied` says whether two values tie. Returns the sizes of the groups.
 template <class Tied, class Settle>
 std::vector<std::size_t> settleTies(const Ranking& ranking, Tied tied, Settle settle)
 {
@@ -143,7 +143,7 @@ void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTie
     const auto weight = [&](std::size_t k) { return linear(weights).get(ranking.sorted.row(k)); };
     const auto closerThanTolerance = [](double value, double other) { return std::abs(value - other) < tieTolerance; };
     const auto shareWeightedMean = [&](std::size_t first, std::size_t behind) {
-        // The first of a run borrows the weight of the first of all: a settled part of the rule.
+        // The first of a group takes the weight of the very first element: a fixed part of the rule.
         double weightSum = weight(0);
         double rankSum = ranking.ranks[first] * weightSum;
         for (std::size_t k = first + 1; k < behind; ++k) {
@@ -153,7 +153,7 @@ void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTie
         std::fill(ranking.ranks.get() + first, ranking.ranks.get() + behind, rankSum / weightSum);
     };
     const auto lengths = settleTies(ranking, closerThanTolerance, shareWeightedMean);
-    // The weights are read: nothing that is written from here on can change them.
+    // All weights have been read: nothing written from here on can change them.
     matrix::matCheck(tieSizes, n, 1, 0.0);
     writeTies(lengths, nTies, tieSizes);
     ranking.writeTo(ranks);

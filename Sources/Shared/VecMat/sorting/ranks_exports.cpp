@@ -4,7 +4,7 @@
 
 using namespace vecmat;
 
-// The computing functions read all they need before they write a result, and sort private copies: views serve
+// The computing functions read all they need before they write a result, and sort private copies: views are safe
 // throughout.
 
 void VB_V_GetRanksDbl(double* x, int n, double* ranks)

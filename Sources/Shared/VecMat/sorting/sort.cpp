@@ -35,11 +35,11 @@ int sortByIndicator(Data data, int n, int nCols, matrix* key)
     return 0;
 }
 
-/// A column compares as doubles, or as strings.
+/// A column compares as doubles or as strings.
 template <class Table>
 using ColumnKey = std::conditional_t<std::is_same_v<Table, Smatrix>, std::wstring, double>;
 
-/// Sorts numbers by one of their columns, column after column. False where that has to be done row by row.
+/// Sorts numbers by one of their columns, column by column. Returns false if that has to be done row by row.
 template <class Table>
 bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Direction direction)
 {
@@ -49,7 +49,7 @@ bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Directi
         const auto rows = cells(table);
         if (col < 1 || range.first < 1 || range.count() < 2 || !rows.covers(range.last, std::max(nCols, col)))
             return false;
-        // A key column that is not among those that move is sorted by itself.
+        // A key column outside the columns that move is sorted by itself.
         return sortInColumns(range, direction, rows.plain().column(col - 1),
                              col > nCols ? SortedKeys::written : SortedKeys::discarded, Following{rows.plain(), nCols});
     }
@@ -63,7 +63,7 @@ int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short desc
     using Record = KeyedPosition<ColumnKey<Table>>;
     const auto rows = cells(table);
     MovedRows moved(rows, range, nCols);
-    // The key column is written from the record: it may be one that does not move.
+    // The key column is written from the record: it may not be among the columns that move.
     placeInStableOrder(
         range, directionOf(descending),
         [&](int row) {
@@ -77,7 +77,7 @@ int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short desc
     return 0;
 }
 
-/// The stability of each sort makes the whole lexicographic: the column sorted last is the major key.
+/// Each sort is stable, so the whole is lexicographic: the column sorted last is the major key.
 template <class Table>
 int sortByColumnsInTurn(Table* table, int nRows, int nCols, RowRange cols, short lastToFirst)
 {

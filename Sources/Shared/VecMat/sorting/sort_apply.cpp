@@ -48,10 +48,11 @@ void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* 
     }
 }
 
-/// Fewer rows than this are not worth a look at what the order holds.
+/// Below this number of rows checking the order costs more than it saves.
 constexpr int fewestRows = 32;
 
-/// The source rows of an order whose rows lie inside their columns; nothing where one does not, or memory is short.
+/// The source rows of an order whose rows all lie inside their columns; nothing if one does not, or if allocation
+/// fails.
 RowOrder rowsInside(matrix* order, int nRows, int height)
 {
     RowOrder rows(countOf(nRows));
@@ -64,8 +65,8 @@ RowOrder rowsInside(matrix* order, int nRows, int height)
     return rows;
 }
 
-/// Column after column, where a source row stays inside its column and no write is seen in what is still to be read.
-/// False: nothing is done.
+/// Column by column, if every source row is inside its column and no write affects cells still to be read. Returns
+/// false, having done nothing, otherwise.
 template <class Source, class Out>
 bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Out* out)
 {
@@ -91,7 +92,7 @@ bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Ou
 template <class Source, class Out>
 void applyOrderToResult(Source* source, int nRows, int nCols, matrix* order, Out*& out)
 {
-    // In a table of the same height the cells that would be prepared are those that are written.
+    // In a table of the same height the cells to prepare are exactly those written.
     const bool isPrepared = out != nullptr && out->nRows == nRows && out->nCols >= nCols;
     if (isPrepared && applyOrderByColumns(source, nRows, nCols, order, out))
         return;

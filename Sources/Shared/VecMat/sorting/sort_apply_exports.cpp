@@ -7,7 +7,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Into another array, or over the source or the order, which are copied then.
+/// Into another array, or over the source or the order, which are then copied first.
 template <class Number>
 void applyToArrays(Number* source, int nRows, int nCols, double* order, Number* out)
 {

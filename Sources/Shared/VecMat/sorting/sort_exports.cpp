@@ -11,13 +11,13 @@ namespace {
 
 using namespace vecmat;
 
-/// Macro callers may leave a count of columns (rows, in the sort of columns) at 0 and mean one.
+/// Macro callers may leave a count of columns (of rows, when sorting columns) at 0 to mean one.
 constexpr int atLeastOne(int count)
 {
     return count == 0 ? 1 : count;
 }
 
-/// A caller's array of string references, n by any number of columns: what moves is the reference, never the text.
+/// A caller's array of string references, n by any number of columns: the references move, never the text.
 class References
 {
 public:
@@ -35,11 +35,11 @@ private:
     int n_;
 };
 
-/// What stands in a table as it stands in the caller's array.
+/// Writes the contents of a table to the caller's array.
 template <class Element>
 constexpr bool isNumber = std::is_same_v<Element, double> || std::is_same_v<Element, int>;
 
-/// The numbers of one sort of rows that every flat form hands on, with the counts that macro callers leave out.
+/// The numbers of one row sort that every flat form passes on, with the counts that macro callers omit.
 struct RowSort
 {
     int nRows;
@@ -56,7 +56,7 @@ struct RowSort
     {
     }
 
-    /// Sorts data that is in its table already; the key and the companion are copied in and handed back.
+    /// Sorts data already in its table; the key and the companion are copied in and written back.
     template <class Data, class Key, class Companion>
     int run(Data&& data, Key* key, Companion* companion) const
     {
@@ -69,8 +69,8 @@ struct RowSort
         return 0;
     }
 
-    /// The same for data in one flat array. Arrays of numbers that share no memory are sorted where they are; others,
-    /// and what has to be converted, are copied in and handed back too.
+    /// The same for data in one flat array. Number arrays that don't overlap are sorted in place; others, and any that
+    /// need conversion, are copied in and written back too.
     template <class Element, class Key, class Companion>
     int runFlat(Element* data, Key* key, Companion* companion) const
     {
@@ -93,7 +93,7 @@ struct RowSort
     }
 };
 
-/// The keys are sorted in a private copy. Numbers change places where they are.
+/// The keys are sorted in a private copy. Numbers are exchanged in place.
 int sortByIndicator(double* data, int n, int nCols, double* key)
 {
     return SortDataBy01(View(data, n, atLeastOne(nCols)).reference(), n, atLeastOne(nCols),

@@ -1,10 +1,10 @@
-// Which rows need not be looked at in a search for the nearest: bounds of their distances, for all of them side by
-// side. Internal to the library.
+// Which rows a nearest-neighbour search can skip: bounds of their distances, for all of them side by side. Internal to
+// the library.
 //
-// A distance is a sum of terms d d / variance and of whole numbers. A bound is the sum of the terms of numbers alone,
-// with the variances turned into factors beforehand. It is no part of any result: no term is negative and no sum falls
-// as terms are added, so that a row whose bound is clearly above the least distance found cannot be nearer, and all
-// others are compared by the distance as it is told.
+// A distance is a sum of terms d d / variance and of whole numbers. A bound is the sum of the numeric terms alone, with
+// the variances turned into factors beforehand. It is no part of any result: no term is negative and no sum decreases
+// as terms are added, so a row whose bound is clearly above the least distance found cannot be nearer, and all others
+// are compared by the exact distance.
 #pragma once
 
 #include "../../base/detail/masks.h"
@@ -18,11 +18,11 @@
 
 namespace vecmat {
 
-/// The rows that may be neighbours, with a copy of their numbers. They are never written while the search goes on.
+/// The rows that may be neighbours, with a copy of their numbers. They are never written during the search.
 class DistanceBounds
 {
 public:
-    /// Holds nothing where memory is short.
+    /// Empty if allocation fails.
     DistanceBounds(int rows, Mask mask, int columns) : DistanceBounds(rowsKept(rows, mask), columns)
     {
         if (!usable_)
@@ -35,13 +35,13 @@ public:
 
     explicit operator bool() const { return usable_; }
 
-    /// Copies the columns of a block behind those copied before.
+    /// Copies the columns of a block after those copied before.
     template <class Block>
     void copy(const Block& block)
     {
         for (int k = 0; k < block.cols; ++k, ++copiedColumns_) {
             const double variance = block.variances[k];
-            // Within this range neither the variance nor its reciprocal loses digits. The others have no terms.
+            // Within this range neither the variance nor its reciprocal loses digits. Other columns have no terms.
             if (variance > 0.0)
                 usable_ = usable_ && variance > 1e-290 && variance < 1e290;
             factors_.data()[copiedColumns_] = 1.0 / variance;
@@ -55,7 +55,7 @@ public:
     // ---- for one target row -----------------------------------------------------------------------------------------
 
     void clearTerms() { termCount_ = 0; }
-    /// Column `k`, counted over all blocks, takes part.
+    /// Includes column `k`, counted over all blocks.
     void addTerm(int k, double target)
     {
         terms_[termCount_++] = {std::ptrdiff_t{k} * DistanceKernels::width, target, factors_.data()[k]};
@@ -70,11 +70,11 @@ public:
     std::size_t rowCount() const { return rowCount_; }
     int row(std::size_t k) const { return rowNumbers_[k]; }
 
-    /// From row k on, the first that may be as near as `shortest`; the count of rows where there is none.
+    /// From row k on, the first that may be as near as `shortest`; the count of rows if none.
     std::size_t nextWithin(double shortest, std::size_t k) const
     {
-        // Far above what rounding does to sums of as many terms as there may be columns, and to the smallest numbers.
-        // Where no row has won yet it is infinite.
+        // Far above the effect of rounding on sums of as many terms as there may be columns, and on the smallest
+        // numbers. Infinite until a row has won.
         const double limit = shortest * (1.0 + 1e-5) + 1e-290;
         while (k < rowCount_ && distances_.data()[k] > limit)
             ++k;

@@ -1,5 +1,5 @@
-// The walk of nearest-neighbour imputation over three blocks of columns. Internal to the library; what is computed
-// stands with the exported functions.
+// The search of nearest-neighbour imputation over three blocks of columns. Internal to the library; the exported
+// functions document what is computed.
 #pragma once
 
 #include "../../access/overlap.h"
@@ -14,19 +14,19 @@
 
 namespace vecmat {
 
-// ---- what sets the three searches apart -----------------------------------------------------------------------------
+// ---- how the three searches differ ----------------------------------------------------------------------------------
 
-/// The row that a search passes over besides the flagged ones.
+/// The row that a search skips besides the flagged ones.
 enum class PassedOver { targetRow, rowNumberedAsColumn };
 
-/// Whether a candidate must have a term of its own to win, or may live on a term that was added before it.
+/// Whether a candidate needs a term of its own to win, or a term added before it is enough.
 enum class TermNeeded { fromThisCandidate, fromAnyBefore };
 
-/// Which missing cells of a block reject a candidate, where column number j is being filled.
+/// Which missing cells of a block reject a candidate while column number j is being filled.
 enum class Rejection {
-    notCompared,       ///< the block takes no part at all
-    anyButNumberJ,     ///< a cell of any column but the one with that number, be it of this block or not
-    anyColumnOrOwnCell ///< a cell of any column; and, where there is a column, the cell that would be copied
+    notCompared,       ///< the block is ignored
+    anyButNumberJ,     ///< a cell of any column except number j, whether or not j belongs to this block
+    anyColumnOrOwnCell ///< a cell of any column and, if there are columns, the cell that would be copied
 };
 
 struct SearchRules
@@ -48,7 +48,7 @@ inline constexpr SearchRules secondSearch = {PassedOver::rowNumberedAsColumn, Te
                                              /* second  */ Rejection::anyButNumberJ,
                                              /* strings */ Rejection::anyColumnOrOwnCell};
 
-// The exemption in the second block goes by a number that means nothing there. It is part of the results.
+// The exemption in the second block goes by a number that is meaningless there. It is part of the results.
 inline constexpr SearchRules stringSearch = {PassedOver::rowNumberedAsColumn, TermNeeded::fromAnyBefore,
                                              /* primary */ Rejection::notCompared,
                                              /* second  */ Rejection::anyButNumberJ,
@@ -56,7 +56,7 @@ inline constexpr SearchRules stringSearch = {PassedOver::rowNumberedAsColumn, Te
 
 // ---- blocks ---------------------------------------------------------------------------------------------------------
 
-/// The distance of the candidate at hand, and whether a term has been added.
+/// The distance of the current candidate, and whether a term has been added.
 struct Distance
 {
     double sum = 0.0;
@@ -117,7 +117,7 @@ struct StringBlock
     }
 };
 
-// ---- the walk -------------------------------------------------------------------------------------------------------
+// ---- the search -----------------------------------------------------------------------------------------------------
 
 template <class Primary, class Second, class Strings>
 class NeighbourImputation
@@ -141,7 +141,7 @@ public:
 
 private:
     static constexpr int none = -1;
-    /// With fewer rows than this the copy costs more than the visits.
+    /// With fewer rows than this the copy costs more than visiting them.
     static constexpr int fewestRowsToBound = 50;
 
     template <const SearchRules& rules, class Own>
@@ -180,7 +180,7 @@ private:
     void visit(const Own& own, int t, int j, int c, Nearest& best)
     {
         const int passedOver = rules.passedOver == PassedOver::targetRow ? t : j;
-        // Before the row is passed over: what the last row leaves here is what the other searches find.
+        // Before the row is skipped: what the last row leaves here is what the other searches find.
         if (rules.termNeeded == TermNeeded::fromThisCandidate)
             distance_.anyTerm = false;
         if (c == passedOver || !mask_.keeps(c))
@@ -191,9 +191,9 @@ private:
             best = {c, distance_.sum};
     }
 
-    /// Visits the rows that are not flagged but for those too far away. That these are left out shows nowhere: before a
-    /// row has won none is too far, and when one has won a term has been added; and where each row has a flag of its
-    /// own, it is the one of the last row that stays.
+    /// Visits the unflagged rows except those too far away. Skipping these changes nothing: before a row has won none
+    /// is too far, and once one has won a term has been added; and if each row has its own flag, the last row's is the
+    /// one that remains.
     template <const SearchRules& rules, class Own>
     void visitNear(const Own& own, int t, int j, Nearest& best)
     {
@@ -204,7 +204,7 @@ private:
             visit<rules>(own, t, j, rows_ - 1, best);
     }
 
-    /// Bounds the distances of all rows that may be neighbours of row t; false where that is not to be had.
+    /// Bounds the distances of all rows that may be neighbours of row t; false if there are no bounds.
     template <const SearchRules& rules>
     bool boundDistances(int t)
     {
@@ -234,7 +234,7 @@ private:
         return Block::hasNumbers ? block.cols : 0;
     }
 
-    /// The first search visits every row: for it alone the copy would not pay.
+    /// The first search visits every row: for it alone the copy would not pay off.
     void prepareBounds()
     {
         if (boundsState_ == Bounds::settled)
@@ -261,8 +261,7 @@ private:
                 bounds_->copy(block);
     }
 
-    /// Does no row share a cell with another? Only then do those that are copied stay as they are while others are
-    /// filled.
+    /// Does no row share a cell with another? Only then do the copied rows stay unchanged while others are filled.
     bool rowsStandApart() const
     {
         MemoryRanges memory;
@@ -281,13 +280,13 @@ private:
             return false;
     }
 
-    /// Adds the terms of one block up to the column that rejects the candidate; answers whether none does.
+    /// Adds the terms of one block up to the column that rejects the candidate; returns whether none does.
     template <Rejection rule, class Block, class Own>
     bool compare(const Block& block, const Own& own, int t, int c, int j)
     {
         if (rule == Rejection::notCompared)
             return true;
-        // Asked with each column, this has its answer at the first.
+        // Needed for each column, but the answer is known at the first.
         if (rule == Rejection::anyColumnOrOwnCell && block.cols > 0 && own.lacks(c, j))
             return false;
         for (int k = 0; k < block.cols; ++k) {
@@ -304,12 +303,12 @@ private:
     Strings strings_;
     int rows_;
     Mask mask_;
-    Distance distance_; // its flag lives as long as the call
+    Distance distance_; // its flag lasts for the whole call
 
     enum class Bounds { notAsked, withNextSearch, settled };
 
     Bounds boundsState_ = Bounds::notAsked;
-    std::optional<DistanceBounds> bounds_; // none where every row has to be visited
+    std::optional<DistanceBounds> bounds_; // none if every row has to be visited
 };
 
 } // namespace vecmat

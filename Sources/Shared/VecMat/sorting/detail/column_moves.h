@@ -1,8 +1,8 @@
-// Numbers that follow a sort, column by column: each column is read in the new order and written back by itself, so
-// that the scratch is one column however many there are.
+// Numbers rearranged by a sort, column by column: each column is read in the new order and written back on its own, so
+// that the scratch memory is one column however many there are.
 //
-// The rows of a table can be placed one after another too (`placeInStableOrder`). That is the way where the order of
-// the writes can be seen: where rows lie beyond a table, or two columns share memory.
+// The rows of a table can also be placed one after another (`placeInStableOrder`), as is required when the order of the
+// writes is observable: when rows lie beyond a table, or two columns share memory.
 #pragma once
 
 #include "../../access/overlap.h"
@@ -17,7 +17,7 @@
 
 namespace vecmat {
 
-/// A table whose first columns follow a sort.
+/// A table whose first columns are rearranged by a sort.
 template <class Cells>
 struct Following
 {
@@ -28,7 +28,7 @@ struct Following
 template <class Cells>
 Following(Cells, int) -> Following<Cells>;
 
-/// Rearranges the rows of a range in one column after another.
+/// Rearranges the rows of a range column by column.
 class ColumnMoves
 {
 public:
@@ -65,8 +65,8 @@ private:
     Scratch moved_;
 };
 
-/// Sorts the rows of a range, not before the first, by a column of keys in plain storage. False where that has to be
-/// done row by row; nothing is done then.
+/// Sorts the rows of a range, not before the first, by a column of keys in plain storage. Returns false, having done
+/// nothing, if that has to be done row by row.
 template <class Number, class... Plain>
 bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys keys, Following<Plain>... tables)
 {

@@ -1,4 +1,4 @@
-// Stable passes over the digits of ranks, the machinery under the sorts of many numbers.
+// Stable passes over the digits of ranks, the basis of the sorts of many numbers.
 #pragma once
 
 #include "../../base/missing_value.h"
@@ -21,7 +21,7 @@ class RankOf
 public:
     explicit RankOf(Direction direction) : reversal_(direction == Direction::descending ? topBit : 0) {}
 
-    /// The magnitude added to, or taken from, a middle that both zeros share. A number without an order has no rank.
+    /// The magnitude added to, or subtracted from, a midpoint that both zeros share. A NaN has no rank.
     Rank operator()(double number) const
     {
         const Rank bits = std::bit_cast<Rank>(number) ^ reversal_;
@@ -41,12 +41,12 @@ private:
     Rank reversal_;
 };
 
-/// How far ranks lie apart.
+/// The spread of the ranks.
 struct Spread
 {
     Rank lowest;
-    Rank range; // the highest less the lowest
-    int common; // how many of the lowest bits agree in all; with a range of 0 of no meaning
+    Rank range; // highest minus lowest
+    int common; // number of lowest bits equal in all; meaningless if the range is 0
 
     /// The ranks `rankAt(k)` of n numbers, at least one.
     template <class RankAt>
@@ -68,11 +68,11 @@ struct Spread
 
     int bits() const { return static_cast<int>(std::bit_width(range)); }
 
-    /// The lowest bit of a window that shows as much of the differences as there is room for, from the top.
+    /// The lowest bit of a window that covers as many of the differing bits as fit, from the top.
     int windowStart(int width) const { return std::max(common, bits() - width); }
 };
 
-/// What the ranks of numbers do not tell.
+/// What the ranks of numbers do not show.
 struct SpecialValues
 {
     std::size_t missing = 0;
@@ -92,8 +92,8 @@ struct SpecialValues
         }
     }
 
-    /// How many missing values stand apart, at one end of all others. Among these they would leave no bits in a window
-    /// to tell the others apart.
+    /// Number of missing values kept apart, at one end of all others. Sorted along with the others they would leave no
+    /// bits in a window to distinguish them.
     std::size_t missingApart() const { return anyBelowMissing ? 0 : missing; }
 };
 
@@ -110,13 +110,14 @@ bool ascend(std::size_t n, RankAt rankAt)
 /// Fewer items than this are sorted faster by comparisons.
 inline constexpr std::size_t fewestForDigits = 300;
 
-/// How wide the digits of windows are: narrow ones cost more passes, wide ones more counters.
+/// Width of the digits of windows: narrow ones cost more passes, wide ones more counters.
 inline constexpr std::size_t fewestForWideDigits = 8000;
 inline constexpr int wideDigit = 11;
 inline constexpr int narrowDigit = 8;
 inline constexpr int mostPasses = 3;
 
-/// How wide a window of so many ranks should be at most: few of them tie in more bits, and these cost another pass.
+/// The greatest useful width of a window for this many ranks: few of them tie in more bits, and these cost another
+/// pass.
 constexpr int windowWidth(std::size_t n)
 {
     return mostPasses * (n < fewestForWideDigits ? narrowDigit : wideDigit);
@@ -145,7 +146,7 @@ Item* sortByDigits(Item* from, Item* to, std::size_t n, int passes, WindowOf win
         auto& placesOfDigit = places[digit];
         if (placesOfDigit[digitOf(from[0], digit)] == n)
             continue;
-        std::uint32_t place = 0; // counts become the places where the next item with each digit goes
+        std::uint32_t place = 0; // counts become the next position for each digit
         for (std::uint32_t& first : placesOfDigit)
             place += std::exchange(first, place);
         for (std::size_t k = 0; k < n; ++k)
@@ -157,9 +158,9 @@ Item* sortByDigits(Item* from, Item* to, std::size_t n, int passes, WindowOf win
 
 } // namespace detail
 
-/// Sorts n items stably by their windows, numbers of so many bits, from the lowest digit to the highest; a digit that
-/// all have in common needs no pass. The items come in `from`, go to and fro between the two, and end up in the one
-/// that is returned: after an even number of passes, `passCount` if none falls away, where they came from.
+/// Sorts n items stably by their windows, numbers of this many bits, from the lowest digit to the highest; a digit
+/// equal in all needs no pass. The items start in `from`, alternate between the two buffers, and end in the one
+/// returned: after an even number of passes, `passCount` if none is skipped, where they started.
 template <class Item, class WindowOf>
 Item* sortByDigits(Item* from, Item* to, std::size_t n, int bits, WindowOf windowOf)
 {

@@ -9,7 +9,7 @@ namespace vecmat {
 
 namespace {
 
-/// Of a word that stands for a key, the lower half is the number of the key and the upper half a window of its rank.
+/// In a word that represents a key, the lower half is the number of the key and the upper half a window of its rank.
 using Word = std::uint64_t;
 constexpr int halfWidth = 32;
 
@@ -18,11 +18,11 @@ constexpr std::uint32_t numberIn(Word word)
     return static_cast<std::uint32_t>(word);
 }
 
-/// An object and not a function, so that the passes over digits are compiled with it.
+/// An object rather than a function, so that it is inlined into the digit passes.
 constexpr auto windowIn = [](Word word) { return static_cast<std::uint32_t>(word >> halfWidth); };
 
-/// Sorts words by the ranks of the keys that they stand for. A window of the bits in which these differ is sorted digit
-/// by digit; the words that still tie are sorted by the next.
+/// Sorts words by the ranks of the keys they represent. A window of the bits in which these differ is sorted digit by
+/// digit; words that still tie are sorted by the next window.
 template <class Number>
 class WordSort
 {
@@ -54,7 +54,7 @@ private:
 
     Rank rank(std::size_t number) const { return rankOf_(keys_[number]); }
 
-    /// Stores the words of n numbers sorted. The numbers may be read from where the words are stored.
+    /// Stores n numbers sorted, as words. The numbers may be read from where the words are stored.
     template <class Numbers>
     void sortByWindow(Numbers numberAt, Word* words, Word* spare, std::size_t n) const
     {
@@ -98,14 +98,14 @@ private:
     RankOf rankOf_;
 };
 
-/// An order to be found, if there is the memory for it.
+/// An order yet to be found, if allocation succeeds.
 RowOrder orderOver(std::size_t n, const void* spare)
 {
     return n < fewestForDigits || spare != nullptr ? RowOrder(n) : RowOrder();
 }
 
-/// Numbers the keys in words in their order, but those of the missing keys, which tie, at the end where they belong.
-/// The words of the others.
+/// Puts the numbers of the missing keys, which tie, in order at the end where they belong. Returns the words of the
+/// others.
 Word* numberMissingApart(const double* keys, std::size_t n, std::size_t missing, Direction direction, Word* words)
 {
     const bool ascending = direction == Direction::ascending;
@@ -117,7 +117,7 @@ Word* numberMissingApart(const double* keys, std::size_t n, std::size_t missing,
     return others;
 }
 
-/// Brings the missing numbers to that end. The others, in any order.
+/// Moves the missing numbers to that end, the others in any order.
 double* moveMissingApart(double* x, std::size_t n, std::size_t missing, Direction direction)
 {
     double* const behind = std::remove_if(x, x + n, isMissing);
@@ -130,7 +130,7 @@ double* moveMissingApart(double* x, std::size_t n, std::size_t missing, Directio
     return x + missing;
 }
 
-/// Sorts numbers by their ranks, window by window as words are.
+/// Sorts numbers by their ranks, window by window like words.
 template <class Number>
 void sortByRank(Number* x, Number* spare, std::size_t n, RankOf rankOf)
 {
@@ -152,7 +152,7 @@ void sortByRank(Number* x, Number* spare, std::size_t n, RankOf rankOf)
             [&](std::size_t first, std::size_t count) { sortByRank(x + first, spare + first, count, rankOf); });
 }
 
-/// Calls `sort` with memory for n numbers where there are many, and null for few. False where memory is short.
+/// Calls `sort` with memory for n numbers if there are many, and with null for few. Returns false if allocation fails.
 template <class Number, class Sort>
 bool withSpare(std::size_t n, Sort sort)
 {

@@ -1,4 +1,4 @@
-// Stable orders and sorts of numbers, by counting passes over the bits of the keys where there are many.
+// Stable orders and sorts of numbers, by counting passes over the bits of the keys if there are many.
 #pragma once
 
 #include "digit_passes.h"
@@ -15,11 +15,11 @@ namespace vecmat {
 class RowOrder
 {
 public:
-    /// Words of which the lower halves are the numbers; what the upper halves hold is of no matter.
+    /// The lower halves of the words are the numbers; the upper halves are unspecified.
     using Words = std::unique_ptr<std::uint64_t[]>;
 
     RowOrder() = default;
-    /// Without numbers yet. Holds nothing where memory is short.
+    /// Without numbers yet. Empty if allocation fails.
     explicit RowOrder(std::size_t n) : RowOrder(Words(new (std::nothrow) std::uint64_t[n])) {}
     explicit RowOrder(Words words) : words_(std::move(words)) {}
 
@@ -32,14 +32,14 @@ private:
 };
 
 /// The stable order of `n` keys under the plain less-than: zeros of both signs tie, and tied keys keep the order of the
-/// input in both directions. Nothing where a merge has to serve: with a NaN, which is not ordered against anything, and
-/// where memory is short. `spare` has room for n numbers and is left with any, or is null: `fewestForDigits` keys and
-/// more need it. The order takes 8 bytes for each key.
+/// input in both directions. Nothing if a merge is needed: with a NaN, which is unordered, or if allocation fails.
+/// `spare` has room for n numbers, is left with unspecified contents, or is null: `fewestForDigits` keys and more need
+/// it. The order takes 8 bytes per key.
 RowOrder stableOrder(const double* keys, std::size_t n, Direction direction, void* spare);
 RowOrder stableOrder(const int* keys, std::size_t n, Direction direction, void* spare);
 
-/// Sorts numbers among which no two tie that can be told apart. False where `stableOrder` or a merge has to serve: with
-/// a negative zero, a NaN, and where there is no memory for a copy of many; nothing is done then.
+/// Sorts numbers whose ties are all identical. Returns false, having done nothing, if `stableOrder` or a merge is
+/// needed: with a negative zero or a NaN, or if a copy of many cannot be allocated.
 bool sortNumbers(double* x, std::size_t n, Direction direction);
 bool sortNumbers(int* x, std::size_t n, Direction direction);
 

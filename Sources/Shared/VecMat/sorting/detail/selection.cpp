@@ -11,7 +11,7 @@ namespace vecmat {
 
 namespace {
 
-/// So many are copied to the stack.
+/// Up to this many are copied to the stack.
 constexpr std::size_t mostOnStack = 64;
 constexpr std::size_t fewestToSample = 3000;
 
@@ -21,7 +21,7 @@ struct Bounds
     double high = std::numeric_limits<double>::infinity();
 };
 
-/// Bounds between which the places asked for most likely lie, from numbers at even steps. `sample` has room for n.
+/// Bounds that most likely enclose the requested places, from numbers at even steps. `sample` has room for n.
 Bounds likelyBounds(const double* x, std::size_t n, std::size_t place, double* sample)
 {
     std::size_t step = 1; // the cube root of n
@@ -49,8 +49,8 @@ Bounds likelyBounds(const double* x, std::size_t n, std::size_t place, double* s
     return bounds;
 }
 
-/// The numbers of a vector, sorted as far as places are asked for: those within bounds stand in memory of their own, of
-/// the others it is enough to count those below the bounds and those on them.
+/// The numbers of a vector, sorted only as far as requested: those within the bounds are copied to separate memory; of
+/// the others only those below the bounds and those equal to them are counted.
 class Partition
 {
 public:
@@ -62,7 +62,7 @@ public:
         std::size_t notAboveHigh = 0;
         for (std::size_t k = 0; k < n; ++k) {
             const double number = x[k];
-            // Without branches: what lies inside is anyone's guess.
+            // Without branches: which numbers lie inside is unpredictable.
             inside_[countInside_] = number;
             countInside_ += static_cast<std::size_t>(number > low) & static_cast<std::size_t>(number < high);
             countBelow_ += static_cast<std::size_t>(number < low);
@@ -77,7 +77,7 @@ public:
     bool anyNan() const { return anyNan_; }
     bool holds(std::size_t place) const { return place >= countBelow_ && place - countBelow_ < count(); }
 
-    /// The number at a place that it holds. Places are asked for in ascending order.
+    /// The number at a place it holds. Places are requested in ascending order.
     double at(std::size_t place)
     {
         place -= countBelow_;
@@ -100,11 +100,11 @@ private:
     std::size_t countAtLow_ = 0;
     std::size_t countInside_ = 0;
     std::size_t countAtHigh_ = 0;
-    std::size_t settled_ = 0; // so many of those inside are at their places, or below all places to come
+    std::size_t settled_ = 0; // this many of those inside are in place, or below all places to come
     bool anyNan_ = false;
 };
 
-/// A selection compares, and takes either zero for the other. In the sorted vector they have the order of the input.
+/// A selection compares, and does not distinguish the two zeros. In the sorted vector they keep the order of the input.
 class Zeros
 {
 public:

@@ -13,9 +13,9 @@ struct Neighbours
     double next;
 };
 
-/// What a stable ascending sort of `n` numbers puts in places `place`, from 0 and below n, and `place + 1`; behind the
-/// last stands -1.0. Zeros of both signs tie and keep the order of the input. None where a sort has to serve: with a
-/// NaN, and where there is no memory for a copy.
+/// The elements that a stable ascending sort of `n` numbers puts in places `place`, from 0 and below n, and `place +
+/// 1`; after the last one reads -1.0. Zeros of both signs tie and keep the order of the input. None if a sort is
+/// needed: with a NaN, or if a copy cannot be allocated.
 std::optional<Neighbours> selectNeighbours(const double* x, std::size_t n, std::size_t place);
 
 } // namespace vecmat

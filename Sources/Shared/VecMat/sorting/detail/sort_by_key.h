@@ -10,7 +10,7 @@ namespace vecmat {
 
 namespace detail {
 
-/// Sorts column after column where the storage and the range are fit for it. False: nothing is done.
+/// Sorts column by column if the storage and the range allow it. Returns false, having done nothing, otherwise.
 template <class KeyCells, class... Cells>
 bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
 {
@@ -28,9 +28,9 @@ bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKe
 
 } // namespace detail
 
-/// Sorts the rows of the range by the elements of `key` with the same numbers. Row after row takes its key, then its
-/// cells in each table in turn: the order of these writes shows where a row lies beyond its table. Where nothing of it
-/// shows, the columns are rearranged one after another.
+/// Sorts the rows of the range by the elements of `key` with the same numbers. Row by row, the key is written, then the
+/// row's cells in each table in turn: the order of these writes is observable if a row lies beyond its table. Otherwise
+/// the columns are rearranged one by one.
 template <class KeyCells, class... Cells>
 void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
 {

@@ -10,7 +10,7 @@ namespace vecmat {
 
 namespace {
 
-/// False where the merge has to serve; nothing is done then.
+/// Returns false, having done nothing, if a merge is needed.
 bool sortByBits(std::vector<pairToSort>& records)
 {
     const std::size_t n = records.size();

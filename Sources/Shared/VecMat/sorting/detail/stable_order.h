@@ -1,16 +1,17 @@
-// The one order under every sort of the library: records of (key, position) over a range of rows are loaded, sorted
+// The one order behind every sort of the library: records of (key, position) over a range of rows are loaded, sorted
 // ascending by a stable sort, and placed row by row from a working copy.
 //
 // Descending is no second comparison: the records are loaded backwards and placed backwards, so that rows with equal
 // keys keep the order of the input in both directions. Everything that sorts in steps, groups, ranks or removes
-// duplicates rests on that.
+// duplicates relies on that.
 //
 // Keys are compared with the plain less-than. Zeros of both signs tie; the missing value is below every other number,
-// the empty string below every other string. A NaN is not ordered against anything: with such keys the rows of the
-// range end up in an order that nothing promises, each of them still exactly once, and nothing outside is touched.
+// the empty string below every other string. A NaN is unordered: with such keys the rows of the range end up in an
+// unspecified order, each of them still exactly once, and nothing outside is changed.
 //
-// Many numbers are sorted by the bits of their keys, everything else by a merge. Both ask for their scratch without
-// throwing: where memory is short the merge serves, at last without a buffer, with the same result.
+// Many numbers are sorted by the bits of their keys, everything else by a merge. Both allocate their scratch memory
+// without throwing: if allocation fails the merge takes over, in the last resort without a buffer, with the same
+// result.
 #pragma once
 
 #include "../../access/cells.h"
@@ -26,13 +27,13 @@
 
 namespace vecmat {
 
-/// How an option of the sorts is read: exactly -1 is descending, also 1 is ascending.
+/// How an option of the sorts is read: exactly -1 is descending, everything else ascending, even 1.
 constexpr Direction directionOf(short descending)
 {
     return descending == -1 ? Direction::descending : Direction::ascending;
 }
 
-/// What becomes of the vector of keys: rearranged like the rows, or left as it was, out of step with them.
+/// What happens to the vector of keys: rearranged like the rows, or left unchanged, out of step with them.
 enum class SortedKeys { written, discarded };
 
 /// Exactly -1 writes the keys back.
@@ -64,7 +65,7 @@ struct KeyedPosition
 /// Integer keys are widened to double, which is exact.
 using pairToSort = KeyedPosition<double>;
 
-/// Sorts records by their keys, or plain elements, keeping the order of those that tie.
+/// Sorts records by their keys, or plain elements, keeping the order of ties.
 template <class Record>
 void sortStably(std::vector<Record>& records)
 {
@@ -74,8 +75,8 @@ void sortStably(std::vector<Record>& records)
 /// The same for records of numbers.
 void sortStably(std::vector<pairToSort>& records);
 
-/// Calls `place(row, record)` for the rows of the range from its first to its last, with the records that
-/// `load(row)` makes of these rows in their sorted order. All records are loaded before the first is placed.
+/// Calls `place(row, record)` for the rows of the range from first to last, with the records that `load(row)` makes of
+/// these rows in sorted order. All records are loaded before the first is placed.
 template <class Load, class Place>
 void placeInStableOrder(RowRange range, Direction direction, Load load, Place place)
 {
@@ -93,11 +94,10 @@ void placeInStableOrder(RowRange range, Direction direction, Load load, Place pl
 /// The rows of a vector of n in ascending order of its elements. An element beyond the table is -1.0.
 RowOrder ascendingRows(matrix* x, int n);
 
-/// The rows of one table that follow a sort. Keeps a working copy of the range, row after row, so that a row that is
-/// fetched from anywhere costs one contiguous read however many columns there are.
-///
-/// Reads and writes are those of the accessor: beyond a table a cell is -1.0 (-1, empty), and is not written. With no
-/// columns the table is never looked at and may be absent.
+/// The rows of one table rearranged by a sort. Keeps a working copy of the range, row by row, so that fetching a row
+/// from anywhere costs one contiguous read however many columns there are. Reads and writes are those of the accessor:
+/// beyond a table a cell is -1.0 (-1, empty), and is not written. With no columns the table is never read and may be
+/// absent.
 template <class Cells>
 class MovedRows
 {
@@ -110,7 +110,7 @@ public:
                 before_[position(k) + static_cast<std::size_t>(j)] = cells_.get(zeroBased(range.at(k)), j);
     }
 
-    /// Row `target` takes what row `source` held at the start. Each source may be fetched once: strings are moved.
+    /// Gives row `target` the original contents of row `source`. Each source may be fetched once: strings are moved.
     void place(int target, int source)
     {
         auto* const row = before_.data() + position(static_cast<long long>(source) - first_);
@@ -134,8 +134,8 @@ private:
     std::vector<typename Cells::Value> before_;
 };
 
-/// Places the rows of the range in the order of the elements of `key` with the same numbers. Row after row takes its
-/// key, then its cells in each table of `moved` in turn.
+/// Places the rows of the range in the order of the elements of `key` with the same numbers. Row by row, the key is
+/// written, then the row's cells in each table of `moved` in turn.
 template <class KeyCells, class... Moved>
 void placeByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
 {
