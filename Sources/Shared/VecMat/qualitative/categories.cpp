@@ -52,7 +52,7 @@ void collect(Smatrix* table, int nRows, int variable, matrix* weights, WeightedC
     int i = 0;
     while (i < nRows && text.get(i, variable).empty())
         ++i;
-    // Without data the search has run one place past the column, and what stands there is its category.
+    // Without data the search has run one place past the column, and the cell there is its category.
     if (i >= nRows) {
         list.add(text.get(i, variable), weight.get(i));
         return;
@@ -64,8 +64,8 @@ void collect(Smatrix* table, int nRows, int variable, matrix* weights, WeightedC
     });
 }
 
-/// Lists at most `places` categories of each variable. `countOf(variable, found)` gives the count by which the mode and
-/// the total go.
+/// Lists at most `places` categories of each variable. `countOf(variable, found)` gives the count used for the mode and
+/// the total.
 template <class CountOf>
 void summarize(Smatrix* table, int nRows, int nCols, int places, matrix* weights, const Summary& result, int* total,
                CountOf countOf)

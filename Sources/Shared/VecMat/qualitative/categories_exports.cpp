@@ -57,10 +57,10 @@ int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts)
 {
     const StringTableHandle labels = copied(table, nRows, nCols);
     const int longest = nRows < 1 ? 0 : *std::max_element(counts, counts + nRows);
-    // Of the places beyond the table, which are empty, the second already repeats the first.
+    // The places beyond the table are empty, so the second already repeats the first.
     const int visited = longest < 1 ? 0 : std::min(longest, std::max(nCols, 0) + 2);
 
-    // Place by place, so that a label met again stands later than its first place, or in another row at the same.
+    // Place by place, so that a repeated label is found after its first place, or in another row at the same place.
     TextPlaces places;
     for (int place = 0; place < visited; ++place) {
         for (int i = 0; i < nRows; ++i) {

@@ -15,7 +15,7 @@ using namespace vecmat;
 
 namespace {
 
-/// All places of each text in the list of a variable, lowest first: a list may hold a text more than once.
+/// All places of each text in the list of a variable, lowest first: a list may contain a text more than once.
 class PlaceChains
 {
 public:
@@ -43,8 +43,8 @@ private:
     std::vector<int> next_;
 };
 
-/// What an observation of the baseline has in the columns of the other categories, from the second on. Empty where the
-/// coding has no value for them.
+/// The values of a baseline observation in the columns of the other categories, from the second on. Empty if the coding
+/// has no value for them.
 std::vector<double> baselineRow(matrix* freq, int variable, int places, int coding)
 {
     const std::size_t others = static_cast<std::size_t>(std::max(places, 1) - 1);
@@ -71,8 +71,7 @@ bool showsBaseline(int variable, int coding, int keepBaseline)
     return coding == 0 || keepBaseline == 2 || (keepBaseline == 1 && variable == 0);
 }
 
-/// The first row, from the second on, whose flag is not exactly -1; the row behind the last where there is none.
-/// 0-based.
+/// The first row, from the second on, whose flag is not exactly -1; one past the last row if none. 0-based.
 int firstComparedRow(const short* mask, int nRows)
 {
     int row = 1;
@@ -91,7 +90,7 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
     int offset = 0;
     for (int j = 0; j < nCols; ++j) {
         const int count = linear(nCats).get(j);
-        // Behind the last column of the result nothing can be written.
+        // Nothing can be written after the last column of the result.
         const long long columnsLeft = std::max(0LL, static_cast<long long>(out->nCols) - offset);
         const int places = static_cast<int>(std::clamp<long long>(count, 0, columnsLeft));
         const PlaceChains chains(categories, j, std::min(places, placesToVisit(categories, count)));
@@ -108,7 +107,7 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
             if (first == 0)
                 for (std::size_t other = 0; other < contrasts.size(); ++other)
                     target.set(i, offset + 1 + static_cast<int>(other), contrasts[other]);
-            // A category equal to the baseline's takes its 1 before the contrast, so these come last.
+            // A category equal to the baseline would be overwritten by the contrast, so the ones are written last.
             for (int place = first; place != PlaceChains::none; place = chains.after(place))
                 if (place > 0 || baselineShown)
                     target.set(i, offset + place, 1.0);

@@ -14,7 +14,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The columns behind the keys, from 0, in a table of `keys` key columns.
+/// The columns after the keys, from 0, in a table of `keys` key columns.
 struct Layout
 {
     int keys;
@@ -31,13 +31,13 @@ class Deduplication
 public:
     Deduplication(matrix* table, int nCols) : rows_(cells(table)), columns_{nCols} {}
 
-    /// Moves the first row of each run of equal rows up, and puts the others below them. Answers how many were kept.
+    /// Moves the first of each group of equal rows up, and puts the others below them. Returns how many were kept.
     int separate(int nRows)
     {
         int kept = 0;
         for (int i = 0; i < nRows; ++i) {
             const double identifier = rows_.get(i, columns_.sourceIdentifier());
-            // The last row kept holds the keys of the run, and a repeated row shares them.
+            // The last row kept has the keys of the group, which a repeated row shares.
             if (kept > 0 && sameKeys(kept - 1, i)) {
                 setAside(i, identifier);
                 const double count = rows_.get(kept - 1, columns_.count());
@@ -87,7 +87,7 @@ private:
 
     TableCells<matrix> rows_;
     Layout columns_;
-    std::vector<double> repeated_; // row after row: the keys, the identifier
+    std::vector<double> repeated_; // row by row: the keys, the identifier
 };
 
 void sortVector(matrix* x, int n)
@@ -108,7 +108,7 @@ Handle<Table> sortedCopy(Table* x, int n, Handle<Table> copy)
     return copy;
 }
 
-/// Behind a sort, what differs from the one before is greater; a NaN is greater than nothing and adds nothing.
+/// After a sort, a value that differs from the previous one is greater; a NaN is greater than nothing and adds nothing.
 template <class Table>
 int countAscents(Table* x, int n, Handle<Table> empty)
 {

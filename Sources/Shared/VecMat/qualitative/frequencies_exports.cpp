@@ -13,7 +13,7 @@ double VB_V_Freq(double* x, int n, double* weights, double value, double toleran
 
 int VB_V_FreqLng(int* x, int n, double* weights, int value)
 {
-    constexpr double tolerance = 0.01; // any number below 1 finds the equal ints alone
+    constexpr double tolerance = 0.01; // any number below 1 matches only equal ints
     return truncated(V_Freq(viewed(x, n, 1), n, viewed(weights, n, 1), value, tolerance));
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 enum Aggregate { sum, mean, median, firstRow, rowAfter, minimum, maximum, range };
 
-/// The rows `first` to below `end` of the sorted table, from 0.
+/// The rows `first` to `end` - 1 of the sorted table, from 0.
 struct Group
 {
     int first;
@@ -41,7 +41,7 @@ struct Unweighted
     double median(matrix* values, int n) const { return V_Quantile(values, n, 0.5); }
 };
 
-/// The same with weights that start from the first one for every group.
+/// The same with weights that start at the first one for every group.
 struct WeightedByPosition
 {
     matrix* weights;
@@ -51,7 +51,7 @@ struct WeightedByPosition
     double median(matrix* values, int n) const { return V_QuantileW(values, n, weights, 0.5); }
 };
 
-/// Copies `data` to `out` and sorts its rows, and those of a companion of so many columns.
+/// Copies `data` to `out` and sorts its rows, along with those of a companion of `nCompanionCols` columns.
 void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matrix* companion, int nCompanionCols)
 {
     matrix keys(nRows, 1, 0.0);
@@ -62,8 +62,8 @@ void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matr
     SortQ(out, nRows, nCols, 1, nRows, key, companion, nCompanionCols, 0, 0);
 }
 
-/// Puts the groups of a sorted table into its first rows. A result never comes below the first row of its group, and
-/// is read before it is written, so that one table serves for both.
+/// Writes the groups of a sorted table to its first rows. A result never goes below the first row of its group, which
+/// is read before it is written, so that one table is both input and output.
 template <class Aggregates>
 class Grouping
 {
@@ -100,7 +100,7 @@ private:
         cells_.set(target, j, qualitative ? V_ModeCat(&values, group.size()) : quantity(&values, group, j));
     }
 
-    /// The cells of a group, one behind the other: where they stand, or copied where some lie beyond the table.
+    /// The cells of a group, contiguous: in place, or copied if some lie beyond the table.
     double* valuesOf(Group group, int j)
     {
         if (inside_)
@@ -123,7 +123,7 @@ private:
         case Aggregate::firstRow:
             return cells_.get(group.first, j);
         case Aggregate::rowAfter:
-            return cells_.get(group.end, j); // behind the last row it goes on in the next column
+            return cells_.get(group.end, j); // after the last row it continues in the next column
         case Aggregate::minimum:
             return V_Min2(values, group.size());
         case Aggregate::maximum:
@@ -140,7 +140,7 @@ private:
     matrixInt* colTypes_;
     int code_;
     Aggregates aggregates_;
-    std::vector<double> values_; // of the column and group at hand
+    std::vector<double> values_; // of the current column and group
 };
 
 } // namespace

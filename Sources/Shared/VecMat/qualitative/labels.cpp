@@ -12,7 +12,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The places, ascending, of each label that is still to come, as the labels change.
+/// The places, ascending, of each label still to come, updated as the labels change.
 class LabelPlaces
 {
 public:
@@ -25,7 +25,7 @@ public:
             append(place);
     }
 
-    /// Takes the repeats of the label at `place` out of the list, and gives the first of them. They are no longer
+    /// Removes the repeats of the label at `place` from the list, and returns the first of them. They are no longer
     /// found.
     int takeRepeatsOf(int place)
     {
@@ -44,11 +44,11 @@ public:
         return number != Chains::none && chains_.value(number).last > place;
     }
 
-    /// Notes the label that now stands at `place`. It stands nowhere behind.
+    /// Records the label now at `place`, which occurs nowhere later.
     void append(int place)
     {
         next_[static_cast<std::size_t>(place)] = none;
-        // The label that opens a chain is never rewritten, so that the view of it holds.
+        // The label that opens a chain is never rewritten, so the view of it stays valid.
         Chain& chain = chains_.value(chains_.add(labels_[place], {}).first);
         (chain.first == none ? chain.first : next_[static_cast<std::size_t>(chain.last)]) = place;
         chain.last = place;

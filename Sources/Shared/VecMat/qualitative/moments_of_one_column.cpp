@@ -10,7 +10,7 @@ void M_MeanStDevVarOneInMat(matrix* table, int nRows, int col, double* mean, dou
                             matrix* weights, short sampleVariance, short countDivisor)
 {
     const int j = zeroBased(col);
-    // A block starts at the first column: a column before it is left to the checked reads.
+    // A block starts at the first column: an earlier column is left to checked reads.
     const Block<TableCells<matrix>> column{cells(table), col > 0 && cells(table).covers(nRows, col)};
     const auto moments = onBlocks(
         [=](auto x, auto weight) {

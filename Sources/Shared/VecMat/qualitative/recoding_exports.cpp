@@ -18,7 +18,7 @@ int largestCount(int* nCats, int nCols)
 
 void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
 {
-    // A view: what matches nothing keeps the caller's content.
+    // A view: cells without a match keep the caller's contents.
     auto codes = viewed(out, nRows, nCols);
     M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
                         copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());

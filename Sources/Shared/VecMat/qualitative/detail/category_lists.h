@@ -1,6 +1,6 @@
-// Lists of categories, and finding a text in one without a walk over it. Internal to the library.
+// Lists of categories, and finding a text in one without scanning it. Internal to the library.
 //
-// In a table of categories row j is the list of variable j, its places being the columns. Places are 0-based here.
+// In a table of categories row j is the list of variable j, and its places are the columns. Places are 0-based here.
 #pragma once
 
 #include "../../access/cells.h"
@@ -13,10 +13,10 @@
 
 namespace vecmat {
 
-/// Which place counts of a text that a list holds more than once.
+/// Which place counts for a text that a list contains more than once.
 enum class Repeated { firstCounts, lastCounts };
 
-/// The place of each text of a list. The texts stay where they are: only views of them are kept.
+/// The place of each text of a list. Only views are kept: the texts must stay in place.
 class TextPlaces
 {
 public:
@@ -42,15 +42,15 @@ private:
     Places places_;
 };
 
-/// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so that the first
-/// of them speaks for the rest. A table may be null where there is no place.
+/// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so the first of
+/// them represents the rest. A table may be null if there is no place.
 template <class Table>
 int placesToVisit(const Table* table, int count)
 {
     return count < 1 ? 0 : std::min(count, std::max(table->nCols, 0) + 1);
 }
 
-/// The places of the first `count` categories of a variable, as the checked reads give them.
+/// The places of the first `count` categories of a variable, read with checks.
 inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeated repeated)
 {
     TextPlaces places;
@@ -60,13 +60,14 @@ inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeate
     return places;
 }
 
-/// Categories in the order of their first appearance, each with the sum of its weights. Views the texts it is given.
+/// Categories in order of first appearance, each with the sum of its weights. Keeps views of the texts it is given.
 class WeightedCategories
 {
 public:
     static constexpr int unlimited = std::numeric_limits<int>::max();
 
-    /// A text met when the list has reached its capacity is appended each time anew, since nobody finds it there again.
+    /// Once the list has reached its capacity, a new text is appended afresh each time it occurs, since it cannot be
+    /// found again there.
     explicit WeightedCategories(int capacity) : capacity_(capacity) {}
 
     void add(const HashedText& text, double weight)
@@ -110,8 +111,8 @@ private:
     std::vector<Entry> beyond_; // the capacity
 };
 
-/// The place of the largest weight. A later one must exceed it, so that the first of equals stays, and so does a NaN
-/// that comes first.
+/// The place of the largest weight. A later one must exceed it, so the first of equals wins, as does a NaN that comes
+/// first.
 template <class WeightAt>
 int heaviest(int count, WeightAt weightAt)
 {

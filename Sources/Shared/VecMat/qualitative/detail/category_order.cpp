@@ -18,21 +18,21 @@ float singlePrecisionValue(const std::wstring& text)
     return static_cast<float>(_wtof(text.c_str()));
 }
 
-/// A value for each text, or nothing where one of them is not a number.
+/// A value for each text, or nothing if one of them is not a number.
 std::optional<std::vector<float>> numericKeys(const std::vector<std::wstring>& texts)
 {
     std::vector<float> values;
     values.reserve(texts.size());
     for (const std::wstring& text : texts) {
         values.push_back(singlePrecisionValue(text));
-        // 0 becomes 01, while a word still leads with no digit.
+        // 0 becomes 01, while a word still starts with no digit.
         if (values.back() == 0.0f && singlePrecisionValue(text + L"1") == 0.0f)
             return std::nullopt;
     }
     return values;
 }
 
-/// A NaN, should the companion ever parse one, is never the smaller of two: it is not chosen and stays where it stands.
+/// A NaN, should the companion ever parse one, is never the smaller of two: it is not chosen and stays in place.
 bool isOrdered(float key)
 {
     return key == key;
@@ -42,8 +42,8 @@ bool isOrdered(const std::wstring&)
     return true;
 }
 
-/// The exchanges of a selection sort over places of which the first `held` lie inside the table. What remains is kept
-/// in order, so that the smallest is found without the walk that the sort is told as.
+/// The exchanges of a selection sort over places of which the first `held` lie inside the table. The remaining ones are
+/// kept in order, so that the smallest is found without the scan of a plain selection sort.
 template <class Key, class Exchange>
 void sortBySelection(std::vector<Key> keys, int held, Exchange exchange)
 {
@@ -63,7 +63,7 @@ void sortBySelection(std::vector<Key> keys, int held, Exchange exchange)
         if (smallest == place)
             continue;
         exchange(place, smallest);
-        if (smallest < held) { // a place beyond the table takes nothing and goes on to read as it did
+        if (smallest < held) { // a place beyond the table is not written and reads as before
             rest.erase(rest.begin());
             keyOf(smallest) = keyOf(place);
             rest.emplace(keyOf(smallest), smallest);

@@ -13,8 +13,8 @@ namespace vecmat {
 /// numeric list goes by those values in single precision, any other by the plain comparison of strings.
 ///
 /// The order is that of a selection sort by exchanges: place by place, the smallest of the rest, the first of equals,
-/// changes places with what stands there. That is not stable: what is exchanged away may pass its equals. Places beyond
-/// the tables read as the checked reads do, and what is exchanged out there is lost.
+/// is exchanged with the current one. That is not stable: an exchanged category may pass its equals. Places beyond the
+/// tables read as the checked reads do, and what is exchanged out there is lost.
 void sortCategories(Smatrix* categories, matrix* catWeights, int variable, int count);
 
 } // namespace vecmat
