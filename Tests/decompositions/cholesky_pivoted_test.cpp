@@ -95,7 +95,7 @@ Pivoted reference(const std::vector<double>& cells, int n, short keep)
     return finished(0);
 }
 
-TEST(M_CholDecompPrinc, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MCholDecompPrinc, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(791);
     SCOPED_TRACE(data);
@@ -119,7 +119,7 @@ TEST(M_CholDecompPrinc, HasTheBitsOfTheStepsInTheirOrder)
     EXPECT_GT(failures, 20);
 }
 
-TEST(M_CholDecompPrinc, HasThoseBitsWhereManyCellsAreWorkedOnSideBySide)
+TEST(MCholDecompPrinc, HasThoseBitsWhereManyCellsAreWorkedOnSideBySide)
 {
     RandomData data(796);
     SCOPED_TRACE(data);
@@ -146,7 +146,7 @@ TEST(M_CholDecompPrinc, HasThoseBitsWhereManyCellsAreWorkedOnSideBySide)
         }
 }
 
-TEST(M_CholDecompPrinc, StartsWithTheLargestOfTheDiagonal)
+TEST(MCholDecompPrinc, StartsWithTheLargestOfTheDiagonal)
 {
     const Pivoted factor = pivoted({1, 0.5, 0.5, 4}, 2, -1);
     EXPECT_EQ(factor.status, 0);
@@ -157,7 +157,7 @@ TEST(M_CholDecompPrinc, StartsWithTheLargestOfTheDiagonal)
     EXPECT_EQ(pivoted({4, 0, 0, 4}, 2, 0).perm, (std::vector<int>{1, 2}));
 }
 
-TEST(M_CholDecompPrinc, EstimatesTheNextPivotByTheDivisorNotItsSquare)
+TEST(MCholDecompPrinc, EstimatesTheNextPivotByTheDivisorNotItsSquare)
 {
     // What remains is 5 - 100/100 for row 2 and 3 for row 3; the estimate is 5 - 100/10.
     const Pivoted factor = pivoted({100, 10, 0, 10, 5, 0, 0, 0, 3}, 3, 0);
@@ -165,7 +165,7 @@ TEST(M_CholDecompPrinc, EstimatesTheNextPivotByTheDivisorNotItsSquare)
     EXPECT_EQ(factor.perm, (std::vector<int>{1, 3, 2}));
 }
 
-TEST(M_CholDecompPrinc, TakesOnlyTheRowBeforeIntoTheEstimate)
+TEST(MCholDecompPrinc, TakesOnlyTheRowBeforeIntoTheEstimate)
 {
     // Row 1 would take 3.24 off the 4 of row 4; row 2 takes nothing off.
     const Pivoted factor = pivoted({25, 0, 0, 9, 0, 9, 0, 0, 0, 0, 2, 0, 9, 0, 0, 4}, 4, 0);
@@ -173,7 +173,7 @@ TEST(M_CholDecompPrinc, TakesOnlyTheRowBeforeIntoTheEstimate)
     EXPECT_EQ(factor.perm, (std::vector<int>{1, 2, 4, 3}));
 }
 
-TEST(M_CholDecompPrinc, KeepsThePermutedTableOnlyWhereAsked)
+TEST(MCholDecompPrinc, KeepsThePermutedTableOnlyWhereAsked)
 {
     const std::vector<double> cells{1, 0.5, 0.5, 4};
     EXPECT_THAT(pivoted(cells, 2, 0).a, SameBits(cells));
@@ -181,7 +181,7 @@ TEST(M_CholDecompPrinc, KeepsThePermutedTableOnlyWhereAsked)
     EXPECT_THAT(pivoted(cells, 2, -1).a, SameBits({4, 0.5, 0.5, 1}));
 }
 
-TEST(M_CholDecompPrinc, KeepsThePermutedTableAfterAFailureToo)
+TEST(MCholDecompPrinc, KeepsThePermutedTableAfterAFailureToo)
 {
     const Pivoted factor = pivoted({1, 2, 2, 4}, 2, -1);
     EXPECT_EQ(factor.status, -1);
@@ -191,7 +191,7 @@ TEST(M_CholDecompPrinc, KeepsThePermutedTableAfterAFailureToo)
     EXPECT_THAT(pivoted({1, 2, 2, 4}, 2, 0).a, SameBits({1, 2, 2, 4}));
 }
 
-TEST(M_CholDecompPrinc, SearchesNothingForOrderOne)
+TEST(MCholDecompPrinc, SearchesNothingForOrderOne)
 {
     EXPECT_THAT(pivoted({9}, 1, 0).l, SameBits({3}));
     EXPECT_EQ(pivoted({1e-12}, 1, 0).status, 0);
@@ -199,7 +199,7 @@ TEST(M_CholDecompPrinc, SearchesNothingForOrderOne)
     EXPECT_EQ(pivoted({1e-13}, 1, 0).perm, (std::vector<int>{1}));
 }
 
-TEST(M_CholDecompPrinc, LeavesAResultTableThatIsTooSmall)
+TEST(MCholDecompPrinc, LeavesAResultTableThatIsTooSmall)
 {
     const Owned<matrix> a = byRows({{1, 0.5}, {0.5, 4}});
     const Owned<matrix> l = filled(1, 2, 77.0);
@@ -210,7 +210,7 @@ TEST(M_CholDecompPrinc, LeavesAResultTableThatIsTooSmall)
     EXPECT_THAT(cellsOf(a), SameBits({4, 0.5, 0.5, 1}));
 }
 
-TEST(M_CholDecompPrinc, PassesResidualTests)
+TEST(MCholDecompPrinc, PassesResidualTests)
 {
     RandomData data(792);
     SCOPED_TRACE(data);
@@ -230,7 +230,7 @@ TEST(M_CholDecompPrinc, PassesResidualTests)
     }
 }
 
-TEST(VB_M_CholDecompPrinc, ChangesAllItsArrays)
+TEST(VBMCholDecompPrinc, ChangesAllItsArrays)
 {
     Guarded<double> a{1, 0.5, 0.5, 4};
     Guarded<double> l(4, 77.0);

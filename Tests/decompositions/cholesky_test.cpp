@@ -35,7 +35,7 @@ Factor factorOf(const std::vector<double>& cells, int n)
     return factorOf(table(n, n, cells), n);
 }
 
-TEST(M_CholDecomp, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MCholDecomp, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(781);
     SCOPED_TRACE(data);
@@ -52,7 +52,7 @@ TEST(M_CholDecomp, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_CholDecomp, TakesTheTermsOffFromTheLastToTheFirst)
+TEST(MCholDecomp, TakesTheTermsOffFromTheLastToTheFirst)
 {
     RandomData data(782);
     SCOPED_TRACE(data);
@@ -63,7 +63,7 @@ TEST(M_CholDecomp, TakesTheTermsOffFromTheLastToTheFirst)
     EXPECT_THAT(factorOf(cells, n).l, testing::Not(SameBits(cellsOf(upwards))));
 }
 
-TEST(M_CholDecomp, GivesALowerTriangle)
+TEST(MCholDecomp, GivesALowerTriangle)
 {
     const Factor factor = factorOf(byRows({{4, 2}, {2, 10}}), 2);
     EXPECT_EQ(factor.status, 0);
@@ -72,7 +72,7 @@ TEST(M_CholDecomp, GivesALowerTriangle)
     EXPECT_THAT(factorOf(byRows({{4, 2}, {99, 10}}), 2).l, SameBits({2, 1, 0, 3}));
 }
 
-TEST(M_CholDecomp, FailsAtAPivotBelowTheTolerance)
+TEST(MCholDecomp, FailsAtAPivotBelowTheTolerance)
 {
     EXPECT_EQ(factorOf(column({1e-13}), 1).status, -1);
     EXPECT_EQ(factorOf(column({1e-12}), 1).status, 0);
@@ -83,14 +83,14 @@ TEST(M_CholDecomp, FailsAtAPivotBelowTheTolerance)
     EXPECT_EQ(factorOf(column({std::numeric_limits<double>::quiet_NaN()}), 1).status, 0);
 }
 
-TEST(M_CholDecomp, KeepsTheColumnsDoneBeforeTheFailure)
+TEST(MCholDecomp, KeepsTheColumnsDoneBeforeTheFailure)
 {
     const Factor factor = factorOf(byRows({{4, 2, 6}, {2, 1, 3}, {6, 3, 30}}), 3);
     EXPECT_EQ(factor.status, -1);
     EXPECT_THAT(factor.l, SameBits({2, 1, 3, 0, 0, 0, 0, 0, 0}));
 }
 
-TEST(M_CholDecomp, PreparesItsResult)
+TEST(MCholDecomp, PreparesItsResult)
 {
     Owned<matrix> none;
     EXPECT_EQ(M_CholDecomp(byRows({{4, 2}, {2, 10}}), 2, none), 0);
@@ -101,7 +101,7 @@ TEST(M_CholDecomp, PreparesItsResult)
     EXPECT_THAT(cellsOf(large), SameBits({2, 1, 0, 0, 3, 77, 77, 77, 77}));
 }
 
-TEST(M_CholDecomp, ReadsMinusOneOutsideTheTable)
+TEST(MCholDecomp, ReadsMinusOneOutsideTheTable)
 {
     // (4, -1; ., -1): the second pivot is -1 - 1/4.
     const Factor factor = factorOf(column({4.0}), 2);
@@ -109,7 +109,7 @@ TEST(M_CholDecomp, ReadsMinusOneOutsideTheTable)
     EXPECT_THAT(factor.l, SameBits({2, -0.5, 0, 0}));
 }
 
-TEST(M_CholDecomp, PassesResidualTests)
+TEST(MCholDecomp, PassesResidualTests)
 {
     RandomData data(783);
     SCOPED_TRACE(data);
@@ -131,7 +131,7 @@ TEST(M_CholDecomp, PassesResidualTests)
     }
 }
 
-TEST(VB_M_CholDecomp, WritesTheCallersArray)
+TEST(VBMCholDecomp, WritesTheCallersArray)
 {
     Guarded<double> a{4, 2, 2, 10};
     Guarded<double> l(4, 77.0);
@@ -158,7 +158,7 @@ Factor retainedFactorOf(matrix* a, int n, const std::vector<int>& mask)
     return {status, cellsOf(l)};
 }
 
-TEST(M_CholDecompCleaned, FactorsWhatTheMaskRetains)
+TEST(MCholDecompCleaned, FactorsWhatTheMaskRetains)
 {
     const Owned<matrix> a = byRows({{4, 9, 2}, {9, 9, 9}, {2, 9, 10}});
     const Factor factor = retainedFactorOf(a, 3, {0, 1, 0});
@@ -170,14 +170,14 @@ TEST(M_CholDecompCleaned, FactorsWhatTheMaskRetains)
     EXPECT_THAT(retainedFactorOf(a, 3, {1, 1, 1}).l, SameBits(std::vector<double>(9, 77.0)));
 }
 
-TEST(M_CholDecompCleaned, DropsWhatTheMaskMarksByAnyNumberAboveZero)
+TEST(MCholDecompCleaned, DropsWhatTheMaskMarksByAnyNumberAboveZero)
 {
     const Owned<matrix> l = filled(2, 2, 77.0);
     EXPECT_EQ(M_CholDecompCleaned(byRows({{-1, 1}, {1, 4}}), 2, column({0.5, 0}), l), 0);
     EXPECT_THAT(cellsOf(l), SameBits({77, 0, 77, 2}));
 }
 
-TEST(M_CholDecompCleaned, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MCholDecompCleaned, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(784);
     SCOPED_TRACE(data);
@@ -191,7 +191,7 @@ TEST(M_CholDecompCleaned, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_CholDecompCleaned, AcceptsAPivotThatIsNotBelowZero)
+TEST(MCholDecompCleaned, AcceptsAPivotThatIsNotBelowZero)
 {
     EXPECT_EQ(retainedFactorOf(column({1e-13}), 1, {0}).status, 0);
     EXPECT_EQ(factorOf(column({1e-13}), 1).status, -1);
@@ -199,7 +199,7 @@ TEST(M_CholDecompCleaned, AcceptsAPivotThatIsNotBelowZero)
     EXPECT_EQ(retainedFactorOf(byRows({{1e-13, 0}, {0, 1}}), 2, {0, 0}).status, 0);
 }
 
-TEST(M_CholDecompCleaned, FailsAtAZeroPivotOnlyAsADivisor)
+TEST(MCholDecompCleaned, FailsAtAZeroPivotOnlyAsADivisor)
 {
     EXPECT_EQ(retainedFactorOf(column({0.0}), 1, {0}).status, 0);
     EXPECT_THAT(retainedFactorOf(byRows({{4, 2}, {2, 1}}), 2, {0, 0}).l, SameBits({2, 1, 0, 0}));
@@ -208,7 +208,7 @@ TEST(M_CholDecompCleaned, FailsAtAZeroPivotOnlyAsADivisor)
     EXPECT_THAT(middle.l, SameBits(std::vector<double>(9, 77.0)));
 }
 
-TEST(M_CholDecompCleaned, IsSafeForAMaskThatIsNotOne)
+TEST(MCholDecompCleaned, IsSafeForAMaskThatIsNotOne)
 {
     // An entry below 0 counts in the order of the block, and its row is not taken.
     const Factor factor = retainedFactorOf(byRows({{4, 2}, {2, 10}}), 2, {0, -1});
@@ -218,7 +218,7 @@ TEST(M_CholDecompCleaned, IsSafeForAMaskThatIsNotOne)
     EXPECT_EQ(M_CholDecompCleaned(byRows({{4, 2}, {2, 10}}), 2, intColumn({0}), l), 0);
 }
 
-TEST(VB_M_CholDecompCleaned, KeepsTheRowsThatWereDropped)
+TEST(VBMCholDecompCleaned, KeepsTheRowsThatWereDropped)
 {
     Guarded<double> a{4, 9, 2, 9, 9, 9, 2, 9, 10};
     Guarded<int> mask{0, 1, 0};

@@ -175,7 +175,7 @@ TEST(CleanConstraintsAndInvertTriang, OfOneRowIsTheReciprocalAndNeverFails)
     EXPECT_THAT(invertedTriangle(column({1e-13}), 1, {0}, -1).out, SameBits({1.0 / 1e-13}));
 }
 
-TEST(M_DeterminantCleaned, IsTheDeterminantOfTheBlock)
+TEST(MDeterminantCleaned, IsTheDeterminantOfTheBlock)
 {
     const Owned<matrix> a = byRows({{2, 9, 3}, {9, 9, 9}, {4, 9, 4}});
     short status = 7;
@@ -189,7 +189,7 @@ TEST(M_DeterminantCleaned, IsTheDeterminantOfTheBlock)
     EXPECT_EQ(status, -1);
 }
 
-TEST(M_DeterminantCleaned, OfOneRowIsTheCellWithoutAStatus)
+TEST(MDeterminantCleaned, OfOneRowIsTheCellWithoutAStatus)
 {
     const Owned<matrix> a = byRows({{-2, 9}, {9, 0.1}});
     short status = 7;

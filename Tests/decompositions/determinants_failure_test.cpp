@@ -26,7 +26,7 @@ extern "C" __attribute__((visibility("default"))) int Mod(int a, int b)
 namespace vecmat::test {
 namespace {
 
-TEST(M_Determinant, EndsAnExceptionWithTheTwinAndAStatus)
+TEST(MDeterminant, EndsAnExceptionWithTheTwinAndAStatus)
 {
     const Owned<matrix> a = byRows({{2, 3}, {4, 4}});
     double value = 0.0;
@@ -50,13 +50,13 @@ TEST(M_Determinant, EndsAnExceptionWithTheTwinAndAStatus)
     EXPECT_EQ(status, 0);
 }
 
-TEST(M_LogDeterminant, LetsAnExceptionPass)
+TEST(MLogDeterminant, LetsAnExceptionPass)
 {
     const Owned<matrix> a = byRows({{2, 0}, {0, 4}});
     EXPECT_EQ(forEachFailingAllocation([&] { M_LogDeterminant(a, 2); }), 3);
 }
 
-TEST(M_DeterminantTriang, ReportsWhereTheParityCannotBeFound)
+TEST(MDeterminantTriang, ReportsWhereTheParityCannotBeFound)
 {
     const Owned<matrix> a = byRows({{2, 0}, {0, 4}});
     short status = 7;

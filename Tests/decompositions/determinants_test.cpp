@@ -81,7 +81,7 @@ double referenceDeterminant(const Owned<matrix>& a, int n)
     return sum < -708.0 ? 0.0 : negatives % 2 == 1 ? -size : size;
 }
 
-TEST(M_Determinant, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MDeterminant, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(751);
     SCOPED_TRACE(data);
@@ -98,7 +98,7 @@ TEST(M_Determinant, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_Determinant, HasTheSignOfThePermutationAndOfThePivots)
+TEST(MDeterminant, HasTheSignOfThePermutationAndOfThePivots)
 {
     EXPECT_NEAR(determinant(byRows({{0, 1}, {1, 0}}), 2).value, -1.0, 1e-15);
     EXPECT_NEAR(determinant(byRows({{-2, 0}, {0, 3}}), 2).value, -6.0, 1e-14);
@@ -108,17 +108,17 @@ TEST(M_Determinant, HasTheSignOfThePermutationAndOfThePivots)
     EXPECT_NEAR(determinant(table(3, 3, hilbertMatrix(3).cells), 3).value, 1.0 / 2160.0, 1e-17);
 }
 
-TEST(M_Determinant, OfATableWithAZeroRowIsZeroWithAStatus)
+TEST(MDeterminant, OfATableWithAZeroRowIsZeroWithAStatus)
 {
     expectResult(determinant(byRows({{1, 2}, {0, 0}}), 2), 0.0, -1);
 }
 
-TEST(M_Determinant, WithoutAPivotIsZeroWithAStatus)
+TEST(MDeterminant, WithoutAPivotIsZeroWithAStatus)
 {
     expectResult(determinant(byRows({{notANumber, 1}, {notANumber, 2}}), 2), 0.0, 1);
 }
 
-TEST(M_Determinant, OfASingularTableIsTinyOrZero)
+TEST(MDeterminant, OfASingularTableIsTinyOrZero)
 {
     const Result tiny = determinant(byRows({{1, 2}, {1, 2}}), 2);
     EXPECT_EQ(tiny.status, 0);
@@ -127,7 +127,7 @@ TEST(M_Determinant, OfASingularTableIsTinyOrZero)
     expectResult(determinant(filled(20, 20, 1.0), 20), 0.0, 0);
 }
 
-TEST(M_Determinant, ComputesUpToALogarithmOf709)
+TEST(MDeterminant, ComputesUpToALogarithmOf709)
 {
     const double largest = exponential(709.0);
     ASSERT_THAT(logarithm(largest), SameBits(709.0));
@@ -140,7 +140,7 @@ TEST(M_Determinant, ComputesUpToALogarithmOf709)
     expectResult(determinant(column({-above}), 1), positiveTwin, -1);
 }
 
-TEST(M_Determinant, GivesTheSignedLogarithmBeyondTheLimitWhereAsked)
+TEST(MDeterminant, GivesTheSignedLogarithmBeyondTheLimitWhereAsked)
 {
     const double above = exponential(709.0) * 1.5;
     expectResult(determinant(column({above}), 1, -1), logarithm(above), 0);
@@ -149,7 +149,7 @@ TEST(M_Determinant, GivesTheSignedLogarithmBeyondTheLimitWhereAsked)
     expectResult(exchanged, -(logarithm(1.0) + logarithm(above)), 0);
 }
 
-TEST(M_Determinant, ComputesDownToALogarithmOfMinus708)
+TEST(MDeterminant, ComputesDownToALogarithmOfMinus708)
 {
     const double smallest = exponential(-708.0);
     ASSERT_THAT(logarithm(smallest), SameBits(-708.0));
@@ -159,7 +159,7 @@ TEST(M_Determinant, ComputesDownToALogarithmOfMinus708)
     expectResult(determinant(column({below}), 1), 0.0, 0);
 }
 
-TEST(M_Determinant, PassesANaNThrough)
+TEST(MDeterminant, PassesANaNThrough)
 {
     const Result result = determinant(byRows({{1, notANumber}, {0, 1}}), 2);
     EXPECT_EQ(result.status, 0);
@@ -169,7 +169,7 @@ TEST(M_Determinant, PassesANaNThrough)
     EXPECT_TRUE(std::isnan(diagonal.value));
 }
 
-TEST(M_Determinant, LeavesTheTableAndIsOneForNothing)
+TEST(MDeterminant, LeavesTheTableAndIsOneForNothing)
 {
     const Owned<matrix> a = byRows({{2, 3}, {4, 4}});
     determinant(a, 2);
@@ -177,7 +177,7 @@ TEST(M_Determinant, LeavesTheTableAndIsOneForNothing)
     expectResult(determinant(filled(0, 0, 0.0), 0), 1.0, 0);
 }
 
-TEST(M_LogDeterminant, IsTheLogarithmOfAPositiveDeterminant)
+TEST(MLogDeterminant, IsTheLogarithmOfAPositiveDeterminant)
 {
     EXPECT_THAT(M_LogDeterminant(byRows({{2, 0}, {0, 3}}), 2),
                 SameBits(logarithm(2.0) + logarithm(3.0) + logarithm(1.0)));
@@ -187,14 +187,14 @@ TEST(M_LogDeterminant, IsTheLogarithmOfAPositiveDeterminant)
     EXPECT_THAT(M_LogDeterminant(filled(0, 0, 0.0), 0), SameBits(0.0));
 }
 
-TEST(M_LogDeterminant, IsMissingForANegativeDeterminantAndAZeroRow)
+TEST(MLogDeterminant, IsMissingForANegativeDeterminantAndAZeroRow)
 {
     EXPECT_THAT(M_LogDeterminant(byRows({{0, 1}, {1, 0}}), 2), SameBits(M));
     EXPECT_THAT(M_LogDeterminant(byRows({{-2, 0}, {0, 3}}), 2), SameBits(M));
     EXPECT_THAT(M_LogDeterminant(byRows({{1, 2}, {0, 0}}), 2), SameBits(M));
 }
 
-TEST(M_LogDeterminant, HasNoLimits)
+TEST(MLogDeterminant, HasNoLimits)
 {
     const Owned<matrix> large = byRows({{1e300, 0}, {0, 1e300}});
     EXPECT_THAT(M_LogDeterminant(large, 2), SameBits(logarithm(1e300) + logarithm(1e300)));
@@ -202,7 +202,7 @@ TEST(M_LogDeterminant, HasNoLimits)
     EXPECT_THAT(M_LogDeterminant(small, 2), SameBits(logarithm(1e-300) + logarithm(1e-300)));
 }
 
-TEST(M_LogDeterminant, GoesOnWithoutAPivotOnTheTableAsItIs)
+TEST(MLogDeterminant, GoesOnWithoutAPivotOnTheTableAsItIs)
 {
     // The determinant itself is 0.0 with status 1 for all of these.
     EXPECT_TRUE(std::isnan(M_LogDeterminant(byRows({{notANumber, 1}, {notANumber, 2}}), 2)));
@@ -211,14 +211,14 @@ TEST(M_LogDeterminant, GoesOnWithoutAPivotOnTheTableAsItIs)
                 SameBits(0.0));
 }
 
-TEST(M_LogDeterminant, LeavesTheTable)
+TEST(MLogDeterminant, LeavesTheTable)
 {
     const Owned<matrix> a = byRows({{2, 3}, {4, 4}});
     M_LogDeterminant(a, 2);
     EXPECT_THAT(cellsOf(a), SameBits({2, 4, 3, 4}));
 }
 
-TEST(M_DeterminantTriang, IsTheProductOfTheDiagonalAlone)
+TEST(MDeterminantTriang, IsTheProductOfTheDiagonalAlone)
 {
     expectResult(triangular(byRows({{2, 9}, {9, 3}}), 2), exponential(logarithm(2.0) + logarithm(3.0)), 0);
     expectResult(triangular(byRows({{-2, 9}, {9, 3}}), 2), -exponential(logarithm(2.0) + logarithm(3.0)), 0);
@@ -226,13 +226,13 @@ TEST(M_DeterminantTriang, IsTheProductOfTheDiagonalAlone)
     expectResult(triangular(filled(0, 0, 0.0), 0), 1.0, 0);
 }
 
-TEST(M_DeterminantTriang, IsZeroForAZeroOnTheDiagonal)
+TEST(MDeterminantTriang, IsZeroForAZeroOnTheDiagonal)
 {
     expectResult(triangular(byRows({{-2, 9}, {9, -0.0}}), 2), 0.0, 0);
     expectResult(triangular(byRows({{0, 9}, {9, notANumber}}), 2), 0.0, 0);
 }
 
-TEST(M_DeterminantTriang, HasNoLimitsUnlikeTheFullOne)
+TEST(MDeterminantTriang, HasNoLimitsUnlikeTheFullOne)
 {
     expectResult(triangular(byRows({{1e300, 0}, {0, 1e300}}), 2), inf, 0);
     expectResult(triangular(byRows({{-1e300, 0}, {0, 1e300}}), 2), -inf, 0);
@@ -241,7 +241,7 @@ TEST(M_DeterminantTriang, HasNoLimitsUnlikeTheFullOne)
     expectResult(determinant(column({below}), 1), 0.0, 0);
 }
 
-TEST(M_DeterminantTriang, CountsACellOutsideTheTableAsANegativeOne)
+TEST(MDeterminantTriang, CountsACellOutsideTheTableAsANegativeOne)
 {
     expectResult(triangular(column({5.0}), 2), -exponential(logarithm(5.0) + logarithm(1.0)), 0);
 }

@@ -81,7 +81,7 @@ std::vector<double> hermite(matrix* a, int n)
     return cellsOf(out);
 }
 
-TEST(M_ForwardDoolittle, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MForwardDoolittle, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(761);
     SCOPED_TRACE(data);
@@ -107,14 +107,14 @@ TEST(M_ForwardDoolittle, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_ForwardDoolittle, GivesPivotsOfOneAndZerosBelow)
+TEST(MForwardDoolittle, GivesPivotsOfOneAndZerosBelow)
 {
     EXPECT_THAT(doolittle(byRows({{4, 2}, {2, 3}}), 2), SameBits({1, 0, 0.5, 1}));
     // A dependent row vanishes.
     EXPECT_THAT(doolittle(byRows({{4, 2, 4}, {2, 1, 2}, {4, 2, 8}}), 3), SameBits({1, 0, 0, 0.5, 0, 0, 1, 0, 1}));
 }
 
-TEST(M_ForwardDoolittle, DividesOnlyTheRowRightBelowThePivot)
+TEST(MForwardDoolittle, DividesOnlyTheRowRightBelowThePivot)
 {
     const auto reference = [](const Owned<matrix>& a, Divided divided) {
         const Owned<matrix> out = filled(a->nRows, a->nRows, 0.0);
@@ -131,13 +131,13 @@ TEST(M_ForwardDoolittle, DividesOnlyTheRowRightBelowThePivot)
     EXPECT_THAT(doolittle(graded, 3), testing::Not(SameBits(reference(graded, Divided::everyRow))));
 }
 
-TEST(M_ForwardDoolittle, ZeroesTheNextRowWhereItsPivotWouldVanish)
+TEST(MForwardDoolittle, ZeroesTheNextRowWhereItsPivotWouldVanish)
 {
     // 1 - 1*1 is 0 for row 2: cleared at once, although its cell (2, 3) would be 2 - 1.
     EXPECT_THAT(doolittle(byRows({{1, 1, 1}, {1, 1, 2}, {1, 2, 9}}), 3), SameBits({1, 0, 0, 1, 0, 0, 1, 0, 1}));
 }
 
-TEST(M_ForwardDoolittle, TakesASmallPivotForZero)
+TEST(MForwardDoolittle, TakesASmallPivotForZero)
 {
     EXPECT_THAT(doolittle(byRows({{1e-12, 5}, {5, 4}}), 2), SameBits({0, 0, 0, 1}));
     const double above = std::nextafter(1e-12, 1.0);
@@ -145,14 +145,14 @@ TEST(M_ForwardDoolittle, TakesASmallPivotForZero)
     EXPECT_THAT(doolittle(column({-1e-12}), 1), SameBits({0}));
 }
 
-TEST(M_ForwardDoolittle, LeavesAPivotThatIsOneWithinTheTolerance)
+TEST(MForwardDoolittle, LeavesAPivotThatIsOneWithinTheTolerance)
 {
     const double nearlyOne = 1.0 + 0x1p-41;
     EXPECT_THAT(doolittle(byRows({{nearlyOne, 3}, {3, 20}}), 2)[0], SameBits(nearlyOne));
     EXPECT_THAT(doolittle(byRows({{nearlyOne, 3}, {3, 20}}), 2)[2], SameBits(3.0));
 }
 
-TEST(M_ForwardDoolittle, ReadsTheUpperTriangleOnly)
+TEST(MForwardDoolittle, ReadsTheUpperTriangleOnly)
 {
     EXPECT_THAT(doolittle(byRows({{4, 2}, {99, 3}}), 2), SameBits({1, 0, 0.5, 1}));
     // So that the table may be its own result.
@@ -161,13 +161,13 @@ TEST(M_ForwardDoolittle, ReadsTheUpperTriangleOnly)
     EXPECT_THAT(cellsOf(a), SameBits({1, 0, 0.5, 1}));
 }
 
-TEST(M_HermiteCanonical, BringsTheCellsAboveThePivotsToZero)
+TEST(MHermiteCanonical, BringsTheCellsAboveThePivotsToZero)
 {
     EXPECT_THAT(hermite(byRows({{4, 2}, {2, 3}}), 2), SameBits({1, 0, 0, 1}));
     EXPECT_THAT(hermite(byRows({{4, 2, 4}, {2, 1, 2}, {4, 2, 8}}), 3), SameBits({1, 0, 0, 0.5, 0, 0, 0, 0, 1}));
 }
 
-TEST(M_HermiteCanonical, TakesAPivotNearOneForOne)
+TEST(MHermiteCanonical, TakesAPivotNearOneForOne)
 {
     // Row 3 is the next of no pivot, so that nothing divides it.
     const double nearlyOne = 1 + 0x1p-41;
@@ -175,7 +175,7 @@ TEST(M_HermiteCanonical, TakesAPivotNearOneForOne)
                 SameBits({1, 0, 0, 0, 0, 0, 0, 0, nearlyOne}));
 }
 
-TEST(M_HermiteCanonical, IsIdempotentForAPositiveSemidefiniteTable)
+TEST(MHermiteCanonical, IsIdempotentForAPositiveSemidefiniteTable)
 {
     // x'x of a design with a constant and two groups: rank 2 of 3.
     const Owned<matrix> a = byRows({{5, 2, 3}, {2, 2, 0}, {3, 0, 3}});

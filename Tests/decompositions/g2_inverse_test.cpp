@@ -96,7 +96,7 @@ TEST(G2SweepStep, DividesByZeroWhereTheToleranceIsZero)
     EXPECT_THAT(a->vbget(2, 2), SameBits(-inf));
 }
 
-TEST(M_InverseG2, IsTheInverseOfARegularTable)
+TEST(MInverseG2, IsTheInverseOfARegularTable)
 {
     RandomData data(812);
     SCOPED_TRACE(data);
@@ -110,7 +110,7 @@ TEST(M_InverseG2, IsTheInverseOfARegularTable)
     }
 }
 
-TEST(M_InverseG2, ZeroesTheRowsAndColumnsOfDependentParameters)
+TEST(MInverseG2, ZeroesTheRowsAndColumnsOfDependentParameters)
 {
     // Columns 1 and 2 are the same.
     const std::vector<double> g = inverted(byRows({{4, 4, 2}, {4, 4, 2}, {2, 2, 5}}), 3, 1e-12);
@@ -119,7 +119,7 @@ TEST(M_InverseG2, ZeroesTheRowsAndColumnsOfDependentParameters)
     EXPECT_THAT(inverted(byRows({{0, 3}, {3, 2}}), 2, 1e-12), SameBits({0, 0, -0.0, 0.5}));
 }
 
-TEST(M_InverseG2, IsReflexiveForASingularTable)
+TEST(MInverseG2, IsReflexiveForASingularTable)
 {
     RandomData data(813);
     SCOPED_TRACE(data);
@@ -143,7 +143,7 @@ TEST(M_InverseG2, IsReflexiveForASingularTable)
     }
 }
 
-TEST(M_InverseG2Selective, SweepsWhereTheEntryIsExactlyOne)
+TEST(MInverseG2Selective, SweepsWhereTheEntryIsExactlyOne)
 {
     const Owned<matrix> a = byRows({{4, 2}, {6, 8}});
     const Owned<matrix> out = filled(2, 2, 77.0);
@@ -159,7 +159,7 @@ TEST(M_InverseG2Selective, SweepsWhereTheEntryIsExactlyOne)
     EXPECT_THAT(cellsOf(a), SameBits({4, 6, 2, 8}));
 }
 
-TEST(M_InverseG2Selective, ZeroesTheOthersWhereAskedByExactlyMinusOne)
+TEST(MInverseG2Selective, ZeroesTheOthersWhereAskedByExactlyMinusOne)
 {
     const Owned<matrix> a = byRows({{4, 2}, {6, 8}});
     const Owned<matrix> out = filled(2, 2, 77.0);

@@ -68,7 +68,7 @@ void expectMoorePenrose(const std::vector<double>& cells, const std::vector<doub
     EXPECT_LT(residual((x * a).transposed() - x * a, condition), residualBound) << n;
 }
 
-TEST(M_InvGeneralized, HasTheBitsOfItsSteps)
+TEST(MInvGeneralized, HasTheBitsOfItsSteps)
 {
     RandomData data(801);
     SCOPED_TRACE(data);
@@ -92,7 +92,7 @@ TEST(M_InvGeneralized, HasTheBitsOfItsSteps)
     }
 }
 
-TEST(M_InvGeneralized, MeetsTheConditionsOfMooreAndPenrose)
+TEST(MInvGeneralized, MeetsTheConditionsOfMooreAndPenrose)
 {
     RandomData data(802);
     SCOPED_TRACE(data);
@@ -106,7 +106,7 @@ TEST(M_InvGeneralized, MeetsTheConditionsOfMooreAndPenrose)
         }
 }
 
-TEST(M_InvGeneralized, InvertsAZeroTableToZero)
+TEST(MInvGeneralized, InvertsAZeroTableToZero)
 {
     const Inverse inverse = inverted({0, 0, 0, 0}, 2, 1e-12);
     EXPECT_EQ(inverse.status, 0);
@@ -114,7 +114,7 @@ TEST(M_InvGeneralized, InvertsAZeroTableToZero)
     EXPECT_THAT(inverse.out, testing::Each(0.0));
 }
 
-TEST(M_InvGeneralized, CountsAValueEqualToTheTolerance)
+TEST(MInvGeneralized, CountsAValueEqualToTheTolerance)
 {
     const std::vector<double> cells{2, 0, 0, 0.5};
     const Inverse equal = inverted(cells, 2, 0.5);
@@ -127,7 +127,7 @@ TEST(M_InvGeneralized, CountsAValueEqualToTheTolerance)
     EXPECT_EQ(inverted(cells, 2, 3.0).rank, 0);
 }
 
-TEST(M_InvGeneralized, JudgesEachValueForItselfWhereTheDecompositionFails)
+TEST(MInvGeneralized, JudgesEachValueForItselfWhereTheDecompositionFails)
 {
     // The first value is 0, the others do not converge: sorted values would end at the first.
     const std::vector<double> cells{0, 0, 0, 0, notANumber, 1, 0, 1, 2};
@@ -140,7 +140,7 @@ TEST(M_InvGeneralized, JudgesEachValueForItselfWhereTheDecompositionFails)
     EXPECT_EQ(inverted(cells, 3, 1e-12, Form::symmetric).rank, 2);
 }
 
-TEST(M_InvGeneralizedSym, AgreesForEigenvaluesThatAreNotNegative)
+TEST(MInvGeneralizedSym, AgreesForEigenvaluesThatAreNotNegative)
 {
     RandomData data(803);
     SCOPED_TRACE(data);
@@ -158,7 +158,7 @@ TEST(M_InvGeneralizedSym, AgreesForEigenvaluesThatAreNotNegative)
     }
 }
 
-TEST(M_InvGeneralizedSym, LosesTheSignOfANegativeEigenvalue)
+TEST(MInvGeneralizedSym, LosesTheSignOfANegativeEigenvalue)
 {
     EXPECT_NEAR(inverted({-2}, 1, 1e-12).out[0], -0.5, 1e-16);
     EXPECT_NEAR(inverted({-2}, 1, 1e-12, Form::symmetric).out[0], 0.5, 1e-16);

@@ -35,7 +35,7 @@ Owned<matrix> inverseOf(matrix* b)
     return inverse;
 }
 
-TEST(M_ProductTrAinvBA, MultipliesTheTransposeByTheInverseFirst)
+TEST(MProductTrAinvBA, MultipliesTheTransposeByTheInverseFirst)
 {
     RandomData data(731);
     SCOPED_TRACE(data);
@@ -57,7 +57,7 @@ TEST(M_ProductTrAinvBA, MultipliesTheTransposeByTheInverseFirst)
     EXPECT_THAT(cellsOf(out), testing::Not(SameBits(cellsOf(other))));
 }
 
-TEST(M_ProductTrVinvBV, IsAQuadraticForm)
+TEST(MProductTrVinvBV, IsAQuadraticForm)
 {
     EXPECT_THAT(M_ProductTrVinvBV(column({2, 3}), 2, byRows({{4, 0}, {0, 8}})), SameBits(1.0 + 9.0 / 8.0));
     RandomData data(732);
@@ -66,7 +66,7 @@ TEST(M_ProductTrVinvBV, IsAQuadraticForm)
     EXPECT_THAT(M_ProductTrVinvBV(f.a, 5, f.b), SameBits(M_ProductTrVBV(f.a, 5, inverseOf(f.b))));
 }
 
-TEST(M_ProductAinvBTrA, MultipliesByTheInverseFirst)
+TEST(MProductAinvBTrA, MultipliesByTheInverseFirst)
 {
     RandomData data(733);
     SCOPED_TRACE(data);

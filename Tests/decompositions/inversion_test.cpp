@@ -248,7 +248,7 @@ TEST(Inverse1SPV, TakesAColumnThatIsNotThereForOneOfMinusOnes)
     EXPECT_THAT(invertedColumns(one, 2, 1.0).out, SameBits(referenceOf(byColumns({{2, 1}}), 1.0)));
 }
 
-TEST(VB_M_Inverse1, WritesTheInverseAndReturnsTheStatus)
+TEST(VBMInverse1, WritesTheInverseAndReturnsTheStatus)
 {
     Guarded<double> a{2, 0, 0, 4};
     Guarded<double> out(4, 77.0);
@@ -257,7 +257,7 @@ TEST(VB_M_Inverse1, WritesTheInverseAndReturnsTheStatus)
     EXPECT_TRUE(a.untouched());
 }
 
-TEST(VB_M_Inverse1, LeavesTheArraysWhereItFails)
+TEST(VBMInverse1, LeavesTheArraysWhereItFails)
 {
     Guarded<double> a{1, 2, 2, 4};
     Guarded<double> out(4, 77.0);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-TEST(M_InverseTriang, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MInverseTriang, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(711);
     SCOPED_TRACE(data);
@@ -37,7 +37,7 @@ TEST(M_InverseTriang, HasTheBitsOfTheStepsInTheirOrder)
         }
 }
 
-TEST(M_InverseTriang, NeitherReadsNorWritesTheOtherTriangle)
+TEST(MInverseTriang, NeitherReadsNorWritesTheOtherTriangle)
 {
     Owned<matrix> out = filled(2, 2, 77.0);
     EXPECT_EQ(M_InverseTriang(byRows({{2, notANumber}, {1, 4}}), 2, -1, out, 1e-12), 0);
@@ -47,7 +47,7 @@ TEST(M_InverseTriang, NeitherReadsNorWritesTheOtherTriangle)
     EXPECT_THAT(cellsOf(upper), SameBits({0.5, 77, -0.125, 0.25}));
 }
 
-TEST(M_InverseTriang, TakesAnythingButZeroForLower)
+TEST(MInverseTriang, TakesAnythingButZeroForLower)
 {
     for (const short lower : {short{1}, short{-1}, short{7}}) {
         Owned<matrix> out = filled(2, 2, 0.0);
@@ -56,7 +56,7 @@ TEST(M_InverseTriang, TakesAnythingButZeroForLower)
     }
 }
 
-TEST(M_InverseTriang, PassesADiagonalCellEqualToTheTolerance)
+TEST(MInverseTriang, PassesADiagonalCellEqualToTheTolerance)
 {
     Owned<matrix> out = filled(1, 1, 0.0);
     EXPECT_EQ(M_InverseTriang(column({1e-3}), 1, -1, out, 1e-3), 0);
@@ -67,14 +67,14 @@ TEST(M_InverseTriang, PassesADiagonalCellEqualToTheTolerance)
     EXPECT_TRUE(std::isinf(out->X[0]));
 }
 
-TEST(M_InverseTriang, LeavesTheDiagonalUpToTheCellThatFailed)
+TEST(MInverseTriang, LeavesTheDiagonalUpToTheCellThatFailed)
 {
     Owned<matrix> out = filled(3, 3, 77.0);
     EXPECT_EQ(M_InverseTriang(byRows({{2, 0, 0}, {1, 4, 0}, {1, 1, 0}}), 3, -1, out, 1e-12), -1);
     EXPECT_THAT(cellsOf(out), SameBits({0.5, 77, 77, 77, 0.25, 77, 77, 77, 77}));
 }
 
-TEST(M_InverseTriang, WorksOnTheTopLeftCornerOfLargerTables)
+TEST(MInverseTriang, WorksOnTheTopLeftCornerOfLargerTables)
 {
     Owned<matrix> out = filled(4, 3, 77.0);
     EXPECT_EQ(M_InverseTriang(byRows({{2, 9, 9}, {1, 4, 9}, {9, 9, 9}}), 2, -1, out, 1e-12), 0);
@@ -82,7 +82,7 @@ TEST(M_InverseTriang, WorksOnTheTopLeftCornerOfLargerTables)
     EXPECT_THAT(out->vbget(3, 1), SameBits(77.0));
 }
 
-TEST(M_InverseTriang, ReadsMinusOneOutsideTheTables)
+TEST(MInverseTriang, ReadsMinusOneOutsideTheTables)
 {
     const Owned<matrix> a = byColumns({{2.0, 1.0}});
     Owned<matrix> out = filled(2, 1, 77.0);
@@ -93,7 +93,7 @@ TEST(M_InverseTriang, ReadsMinusOneOutsideTheTables)
     EXPECT_THAT(cellsOf(out), SameBits({0.5, -0.5 * -1.0}));
 }
 
-TEST(M_InverseTriang, PassesResidualTests)
+TEST(MInverseTriang, PassesResidualTests)
 {
     RandomData data(712);
     SCOPED_TRACE(data);
@@ -112,7 +112,7 @@ TEST(M_InverseTriang, PassesResidualTests)
         }
 }
 
-TEST(VB_M_InverseTriang, ClearsTheOtherTriangle)
+TEST(VBMInverseTriang, ClearsTheOtherTriangle)
 {
     Guarded<double> a{2, 1, 9, 4};
     Guarded<double> out(4, 77.0);
@@ -121,7 +121,7 @@ TEST(VB_M_InverseTriang, ClearsTheOtherTriangle)
     EXPECT_TRUE(a.untouched());
 }
 
-TEST(VB_M_InverseTriang, HandsBackTheDiagonalUpToTheCellThatFailed)
+TEST(VBMInverseTriang, HandsBackTheDiagonalUpToTheCellThatFailed)
 {
     Guarded<double> a{2, 1, 0, 0};
     Guarded<double> out(4, 77.0);

@@ -22,7 +22,7 @@ namespace {
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double tiny = std::bit_cast<double>(std::uint64_t{0x3bc79ca10c924223});
 
-TEST(M_LUDecomp, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MLUDecomp, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(741);
     SCOPED_TRACE(data);
@@ -36,7 +36,7 @@ TEST(M_LUDecomp, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_LUDecomp, HasThoseBitsWhereTheOrderIsNotThatOfTheTable)
+TEST(MLUDecomp, HasThoseBitsWhereTheOrderIsNotThatOfTheTable)
 {
     RandomData data(742);
     SCOPED_TRACE(data);
@@ -52,7 +52,7 @@ TEST(M_LUDecomp, HasThoseBitsWhereTheOrderIsNotThatOfTheTable)
     }
 }
 
-TEST(M_LUDecomp, PutsTheFactorsInThePlaceOfTheTable)
+TEST(MLUDecomp, PutsTheFactorsInThePlaceOfTheTable)
 {
     // Row 2 is the pivot: 4 over 4 against 2 over 3.
     const Factors lu = factored(byRows({{2, 3}, {4, 4}}));
@@ -62,14 +62,14 @@ TEST(M_LUDecomp, PutsTheFactorsInThePlaceOfTheTable)
     EXPECT_EQ(lu.status, 0);
 }
 
-TEST(M_LUDecomp, ScalesTheCandidatesByTheLargestCellOfTheirRow)
+TEST(MLUDecomp, ScalesTheCandidatesByTheLargestCellOfTheirRow)
 {
     // Without the scales row 1 would be the pivot.
     const Factors lu = factored(byRows({{10, 1000}, {1, 1}}));
     EXPECT_EQ(lu.index, (std::vector<int>{2, 2}));
 }
 
-TEST(M_LUDecomp, TakesTheLastOfEqualCandidates)
+TEST(MLUDecomp, TakesTheLastOfEqualCandidates)
 {
     const Factors lu = factored(byRows({{1, 0, 0}, {1, 1, 0}, {1, 0, 1}}));
     EXPECT_EQ(lu.index[0], 3);
@@ -77,7 +77,7 @@ TEST(M_LUDecomp, TakesTheLastOfEqualCandidates)
     EXPECT_EQ(referenceOf(a, 3, Tie::first).index[0], 1);
 }
 
-TEST(M_LUDecomp, ReplacesAPivotOfZeroByATinyOne)
+TEST(MLUDecomp, ReplacesAPivotOfZeroByATinyOne)
 {
     const Factors last = factored(byRows({{1, 2}, {1, 2}}));
     EXPECT_EQ(last.status, 0);
@@ -90,7 +90,7 @@ TEST(M_LUDecomp, ReplacesAPivotOfZeroByATinyOne)
     EXPECT_THAT(factored(byRows({{5e-324}})).cells, SameBits({5e-324}));
 }
 
-TEST(M_LUDecomp, LeavesTheTableWhereARowIsAllZeros)
+TEST(MLUDecomp, LeavesTheTableWhereARowIsAllZeros)
 {
     const Factors lu = factored(byRows({{1, 2}, {0, -0.0}}));
     EXPECT_EQ(lu.status, -1);
@@ -102,7 +102,7 @@ TEST(M_LUDecomp, LeavesTheTableWhereARowIsAllZeros)
     EXPECT_EQ(factored(byRows({{notANumber, notANumber}, {1, 2}})).status, -1);
 }
 
-TEST(M_LUDecomp, LeavesTheTableWhereNoCandidateOfTheFirstColumnCompares)
+TEST(MLUDecomp, LeavesTheTableWhereNoCandidateOfTheFirstColumnCompares)
 {
     const Factors lu = factored(byRows({{notANumber, 1}, {notANumber, 2}}));
     EXPECT_EQ(lu.status, 1);
@@ -111,7 +111,7 @@ TEST(M_LUDecomp, LeavesTheTableWhereNoCandidateOfTheFirstColumnCompares)
     EXPECT_THAT(lu.d, SameBits(1.0));
 }
 
-TEST(M_LUDecomp, KeepsThePivotRowOfTheColumnBeforeWhereNoCandidateCompares)
+TEST(MLUDecomp, KeepsThePivotRowOfTheColumnBeforeWhereNoCandidateCompares)
 {
     const Owned<matrix> a = byRows({{1, notANumber, 1}, {2, notANumber, 9}, {3, notANumber, 4}});
     const Factors lu = factored(table(3, 3, cellsOf(a)));
@@ -120,13 +120,13 @@ TEST(M_LUDecomp, KeepsThePivotRowOfTheColumnBeforeWhereNoCandidateCompares)
     expectSame(lu, referenceOf(a, 3));
 }
 
-TEST(M_LUDecomp, WorksOnTheTopLeftCornerOfALargerTable)
+TEST(MLUDecomp, WorksOnTheTopLeftCornerOfALargerTable)
 {
     const Factors lu = factored(byRows({{2, 3, 9}, {4, 4, 9}, {9, 9, 9}}), 2);
     EXPECT_THAT(lu.cells, SameBits({4, 0.5, 9, 4, 1, 9, 9, 9, 9}));
 }
 
-TEST(M_LUDecomp, KeepsALargeIndexAndReplacesASmallOne)
+TEST(MLUDecomp, KeepsALargeIndexAndReplacesASmallOne)
 {
     Owned<matrix> a = byRows({{2, 3}, {4, 4}});
     Owned<matrixInt> index = intTable(3, 1, {9, 9, 9});
@@ -139,13 +139,13 @@ TEST(M_LUDecomp, KeepsALargeIndexAndReplacesASmallOne)
     EXPECT_EQ(small->nRows, 2);
 }
 
-TEST(M_LUDecomp, OfNothingSucceeds)
+TEST(MLUDecomp, OfNothingSucceeds)
 {
     EXPECT_EQ(factored(filled(0, 0, 0.0)).status, 0);
     EXPECT_THAT(factored(filled(0, 0, 0.0)).d, SameBits(1.0));
 }
 
-TEST(M_LUDecomp, PassesResidualTests)
+TEST(MLUDecomp, PassesResidualTests)
 {
     RandomData data(743);
     SCOPED_TRACE(data);
@@ -175,7 +175,7 @@ TEST(M_LUDecomp, PassesResidualTests)
     }
 }
 
-TEST(VB_M_LUDecomp, WorksInTheCallersArrays)
+TEST(VBMLUDecomp, WorksInTheCallersArrays)
 {
     Guarded<double> a{2, 4, 3, 4};
     Guarded<int> index(2, 9);
@@ -188,7 +188,7 @@ TEST(VB_M_LUDecomp, WorksInTheCallersArrays)
     EXPECT_EQ(status, 0);
 }
 
-TEST(VB_M_LUDecomp, ReportsInTheStatusAlone)
+TEST(VBMLUDecomp, ReportsInTheStatusAlone)
 {
     Guarded<double> a{1, 0, 2, 0};
     Guarded<int> index(2, 9);

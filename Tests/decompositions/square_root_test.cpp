@@ -32,7 +32,7 @@ Root rootOf(matrix* a, int n)
     return {status, cellsOf(out)};
 }
 
-TEST(M_SquareRoot, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MSquareRoot, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(771);
     SCOPED_TRACE(data);
@@ -55,7 +55,7 @@ TEST(M_SquareRoot, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_SquareRoot, IsNotSymmetricButGivesTheTableBack)
+TEST(MSquareRoot, IsNotSymmetricButGivesTheTableBack)
 {
     RandomData data(772);
     SCOPED_TRACE(data);
@@ -75,7 +75,7 @@ TEST(M_SquareRoot, IsNotSymmetricButGivesTheTableBack)
     }
 }
 
-TEST(M_SquareRoot, TakesASlightlyNegativeEigenvalueForZero)
+TEST(MSquareRoot, TakesASlightlyNegativeEigenvalueForZero)
 {
     EXPECT_EQ(rootOf(column({-1e-13}), 1).status, 0);
     EXPECT_THAT(rootOf(column({-1e-13}), 1).out, SameBits({0.0}));
@@ -85,7 +85,7 @@ TEST(M_SquareRoot, TakesASlightlyNegativeEigenvalueForZero)
     EXPECT_EQ(rootOf(byRows({{1, 0}, {0, -1e-13}}), 2).status, 0);
 }
 
-TEST(M_SquareRoot, LeavesTheResultWhereItFails)
+TEST(MSquareRoot, LeavesTheResultWhereItFails)
 {
     const Root negative = rootOf(byRows({{1, 0}, {0, -1}}), 2);
     EXPECT_EQ(negative.status, -1);
@@ -95,7 +95,7 @@ TEST(M_SquareRoot, LeavesTheResultWhereItFails)
     EXPECT_THAT(missing.out, SameBits({77, 77, 77, 77}));
 }
 
-TEST(M_SquareRoot, ReportsAVectorWithoutLength)
+TEST(MSquareRoot, ReportsAVectorWithoutLength)
 {
     // A NaN in the table reaches the vectors: their squared lengths are not above 0.
     const Root root = rootOf(byRows({{1, 0.5, 0.25},
@@ -106,7 +106,7 @@ TEST(M_SquareRoot, ReportsAVectorWithoutLength)
     EXPECT_THAT(root.out, SameBits(std::vector<double>(9, 77.0)));
 }
 
-TEST(M_SquareRoot, PreparesItsResult)
+TEST(MSquareRoot, PreparesItsResult)
 {
     Owned<matrix> out;
     EXPECT_EQ(M_SquareRoot(byRows({{4, 0}, {0, 1}}), 2, out), 0);
@@ -115,7 +115,7 @@ TEST(M_SquareRoot, PreparesItsResult)
     EXPECT_EQ(M_SquareRoot(filled(0, 0, 0.0), 0, out), 0);
 }
 
-TEST(Cpp_M_SquareRoot, WritesTheCallersArrayUnlessItFails)
+TEST(CppMSquareRoot, WritesTheCallersArrayUnlessItFails)
 {
     Guarded<double> a{4, 0, 0, 1};
     Guarded<double> out(4, 77.0);

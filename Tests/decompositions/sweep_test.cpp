@@ -70,7 +70,7 @@ std::vector<double> packedOf(const TestMatrix& m)
     return cells;
 }
 
-TEST(M_Sweep, HasTheBitsOfTheStepsInTheirOrder)
+TEST(MSweep, HasTheBitsOfTheStepsInTheirOrder)
 {
     RandomData data(721);
     SCOPED_TRACE(data);
@@ -86,7 +86,7 @@ TEST(M_Sweep, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(M_Sweep, HasThoseBitsInLongRowsToo)
+TEST(MSweep, HasThoseBitsInLongRowsToo)
 {
     RandomData data(726);
     SCOPED_TRACE(data);
@@ -104,14 +104,14 @@ TEST(M_Sweep, HasThoseBitsInLongRowsToo)
             }
 }
 
-TEST(M_Sweep, TurnsAPositivePivotNegativeAndScalesItsRow)
+TEST(MSweep, TurnsAPositivePivotNegativeAndScalesItsRow)
 {
     // (4, 2; 2, 6): the Schur complement 6 - 2*2/4 stands at (2, 2).
     EXPECT_THAT(swept({4, 2, 6}, 2, 1), SameBits({-0.25, 0.5, 5}));
     EXPECT_THAT(swept({4, 2, 6}, 2, 2), SameBits({4 + (2 * (1.0 / 6)) * -2, 2 * (1.0 / 6), -1.0 / 6}));
 }
 
-TEST(M_Sweep, UndoesItselfThroughTheSignOfThePivot)
+TEST(MSweep, UndoesItselfThroughTheSignOfThePivot)
 {
     const std::vector<double> cells{4, 2, 6, 1, -3, 8};
     const std::vector<double> once = swept(cells, 3, 1);
@@ -121,7 +121,7 @@ TEST(M_Sweep, UndoesItselfThroughTheSignOfThePivot)
     EXPECT_THAT(swept({0.25, 0.5, 5}, 2, 1), testing::Not(SameBits({4, 2, 6})));
 }
 
-TEST(M_Sweep, TwiceRestoresUpToRounding)
+TEST(MSweep, TwiceRestoresUpToRounding)
 {
     RandomData data(722);
     SCOPED_TRACE(data);
@@ -136,7 +136,7 @@ TEST(M_Sweep, TwiceRestoresUpToRounding)
     }
 }
 
-TEST(M_Sweep, OnEveryPivotGivesMinusTheInverse)
+TEST(MSweep, OnEveryPivotGivesMinusTheInverse)
 {
     RandomData data(723);
     SCOPED_TRACE(data);
@@ -151,7 +151,7 @@ TEST(M_Sweep, OnEveryPivotGivesMinusTheInverse)
     }
 }
 
-TEST(M_Sweep, ClearsWhatIsBelowTheToleranceOutsideThePivotsRow)
+TEST(MSweep, ClearsWhatIsBelowTheToleranceOutsideThePivotsRow)
 {
     // 1 - 1*(1 - 1e-12...) leaves less than 1e-12: exactly 0, which a second sweep does not bring back.
     const double nearly = 1.0 + 0x1p-41;
@@ -165,7 +165,7 @@ TEST(M_Sweep, ClearsWhatIsBelowTheToleranceOutsideThePivotsRow)
     EXPECT_THAT(swept({1, 1e-30, 1e-13, 1e-13, 0, 3}, 3, 1), SameBits({-1, 1e-30, 0, 1e-13, 0, 3}));
 }
 
-TEST(M_Sweep, DividesByAZeroPivot)
+TEST(MSweep, DividesByAZeroPivot)
 {
     const Owned<matrix> a = column({0, 2, 6});
     EXPECT_EQ(M_Sweep(a, 2, 1), 0);
@@ -176,7 +176,7 @@ TEST(M_Sweep, DividesByAZeroPivot)
     EXPECT_THAT(cellsOf(b), SameBits({inf, inf, inf}));
 }
 
-TEST(M_Sweep, TakesAPivotOutsideTheTableForMinusOneNotYetSwept)
+TEST(MSweep, TakesAPivotOutsideTheTableForMinusOneNotYetSwept)
 {
     // Row 3 is not there: its cells read -1.0 before and after.
     const Owned<matrix> a = column({4, 2, 6});
@@ -188,7 +188,7 @@ TEST(M_Sweep, TakesAPivotOutsideTheTableForMinusOneNotYetSwept)
     EXPECT_THAT(cellsOf(a), SameBits({3, 1, 5}));
 }
 
-TEST(M_Sweep, HasTheBitsOfTheStepsForAnyNumbers)
+TEST(MSweep, HasTheBitsOfTheStepsForAnyNumbers)
 {
     RandomData data(724);
     SCOPED_TRACE(data);
@@ -207,7 +207,7 @@ TEST(M_Sweep, HasTheBitsOfTheStepsForAnyNumbers)
             }
 }
 
-TEST(M_Sweep, StaysInsideForAnyNumberOfThePivot)
+TEST(MSweep, StaysInsideForAnyNumberOfThePivot)
 {
     // All of them lie outside: c = -(-1.0), and each element gains -1.0 times that.
     for (const int k : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), 70000, -70000}) {
@@ -216,12 +216,12 @@ TEST(M_Sweep, StaysInsideForAnyNumberOfThePivot)
     }
 }
 
-TEST(M_Sweep, WorksOnTheLeadingOrderOfALargerTable)
+TEST(MSweep, WorksOnTheLeadingOrderOfALargerTable)
 {
     EXPECT_THAT(swept({4, 2, 6, 77, 77, 77}, 2, 1), SameBits({-0.25, 0.5, 5, 77, 77, 77}));
 }
 
-TEST(VB_M_Sweep, SweepsTheCallersArray)
+TEST(VBMSweep, SweepsTheCallersArray)
 {
     Guarded<double> a{4, 2, 6};
     EXPECT_EQ(VB_M_Sweep(a, 2, 1), 0);

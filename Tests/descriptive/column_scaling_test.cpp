@@ -334,7 +334,7 @@ TEST(ColumnScaling, AConstantColumnBecomesZeroThroughout)
     }
 }
 
-TEST(M_StandardizeApply2, UsesWhatItIsGivenAndMakesAFlatColumnMissing)
+TEST(MStandardizeApply2, UsesWhatItIsGivenAndMakesAFlatColumnMissing)
 {
     const auto x = table(2, 3, {1, M, 5, 6, 7, 8});
     M_StandardizeApply2(x.get(), 2, 3, column({1, 5, 7}), column({2, 0, -1}));
@@ -349,7 +349,7 @@ TEST(M_StandardizeApply2, UsesWhatItIsGivenAndMakesAFlatColumnMissing)
     EXPECT_TRUE(mean.untouched() && stdev.untouched());
 }
 
-TEST(M_StandardizeByGroup, TransformsEachGroupByItself)
+TEST(MStandardizeByGroup, TransformsEachGroupByItself)
 {
     const Cells g{2, 1, 2, 3, 1, 2, 1.5, 0, M};
     RandomData data(20264);

@@ -46,7 +46,7 @@ double varIfW(const std::vector<double>& v, const std::vector<double>& g, const 
 
 } // namespace
 
-TEST(V_MeanIf, IsThePlainMeanOfTheSelected)
+TEST(VMeanIf, IsThePlainMeanOfTheSelected)
 {
     EXPECT_THAT(meanIf({1, 2, 6, M}, {3, 4, 3, 3}, 3), SameBits(3.5));
     EXPECT_THAT(meanIf({0.1, 0.2, 0.3}, {1, 1, 1}, 1), SameBits(((0.1 + 0.2) + 0.3) / 3.0));
@@ -55,7 +55,7 @@ TEST(V_MeanIf, IsThePlainMeanOfTheSelected)
     EXPECT_THAT(meanIf({1, 2}, {-0.0, 1}, 0.0), SameBits(1.0));
 }
 
-TEST(V_MeanIf, NeverSelectsAMissingCode)
+TEST(VMeanIf, NeverSelectsAMissingCode)
 {
     EXPECT_THAT(meanIf({1, 2}, {M, M}, M), SameBits(M));
     EXPECT_THAT(meanIfW({1, 2}, {M, M}, {1, 1}, M), SameBits(M));
@@ -64,7 +64,7 @@ TEST(V_MeanIf, NeverSelectsAMissingCode)
     EXPECT_THAT(meanIf({1, 2}, {notANumber, 1}, notANumber), SameBits(M));
 }
 
-TEST(V_MeanIfW, TakesWeightsAboveZeroOnly)
+TEST(VMeanIfW, TakesWeightsAboveZeroOnly)
 {
     EXPECT_THAT(meanIfW({1, 2, 100, 100, 100}, {1, 1, 1, 1, 1}, {1, 3, 0, -2, notANumber}, 1), SameBits(7.0 / 4.0));
     EXPECT_THAT(meanIfW({M, 2, 3}, {1, 1, 2}, {1, 3, 1}, 1), SameBits(2.0));
@@ -72,7 +72,7 @@ TEST(V_MeanIfW, TakesWeightsAboveZeroOnly)
     EXPECT_THAT(meanIfW({1, 2}, {1, 1}, {1, 1}, 2), SameBits(M));
 }
 
-TEST(V_VarIf, UpdatesByTheCount)
+TEST(VVarIf, UpdatesByTheCount)
 {
     const std::vector<double> x{0.3, 1.9, 0.7, 2.2};
     double mean = 0.0, Q = 0.0, m = 0.0;
@@ -88,7 +88,7 @@ TEST(V_VarIf, UpdatesByTheCount)
     EXPECT_THAT(varIf(v, g, 5, 1), SameBits(Q / 4.0)); // only -1 asks for the corrected divisor
 }
 
-TEST(V_VarIf, IsMissingWhereTheDivisorIsNotAboveZero)
+TEST(VVarIf, IsMissingWhereTheDivisorIsNotAboveZero)
 {
     EXPECT_THAT(varIf({7}, {1}, 1, -1), SameBits(M));
     EXPECT_THAT(varIf({7}, {1}, 1, 0), SameBits(0.0));
@@ -96,7 +96,7 @@ TEST(V_VarIf, IsMissingWhereTheDivisorIsNotAboveZero)
     EXPECT_THAT(varIf({7}, {1}, 2, -1), SameBits(M));
 }
 
-TEST(V_VarIfW, HasAnUpdateOfItsOwn)
+TEST(VVarIfW, HasAnUpdateOfItsOwn)
 {
     RandomData data(69);
     SCOPED_TRACE(data);
@@ -119,7 +119,7 @@ TEST(V_VarIfW, HasAnUpdateOfItsOwn)
     EXPECT_GT(otherForm, 0); // the form of the unconditional variance gives other bits
 }
 
-TEST(V_VarIfW, LetsAZeroWeightInUnlikeTheMean)
+TEST(VVarIfW, LetsAZeroWeightInUnlikeTheMean)
 {
     // Ahead of all others it divides 0 by 0; the mean passes it over.
     EXPECT_TRUE(std::isnan(varIfW({5, 1, 3}, {1, 1, 1}, {0, 1, 1}, 1, 0)));

@@ -70,7 +70,7 @@ std::vector<double> symmetricTable(RandomData& random, int p)
     return S;
 }
 
-TEST(M_CorrMatFromCovMat, FollowsTheRuleInATableAndInATriangle)
+TEST(MCorrMatFromCovMat, FollowsTheRuleInATableAndInATriangle)
 {
     RandomData random(671);
     SCOPED_TRACE(random);
@@ -83,7 +83,7 @@ TEST(M_CorrMatFromCovMat, FollowsTheRuleInATableAndInATriangle)
         }
 }
 
-TEST(M_CorrMatFromCovMat, OfAZeroTableIsAllFallback)
+TEST(MCorrMatFromCovMat, OfAZeroTableIsAllFallback)
 {
     const std::vector<double> zeros(9, 0.0);
     EXPECT_THAT(correlations(3, zeros, 0), SameBits(std::vector<double>(9, M)));
@@ -92,7 +92,7 @@ TEST(M_CorrMatFromCovMat, OfAZeroTableIsAllFallback)
     EXPECT_THAT(inTriangle(3, zeros), SameBits(std::vector<double>(6, M)));
 }
 
-TEST(M_CorrMatFromCovMat, TheDiagonalHasAThresholdOfItsOwn)
+TEST(MCorrMatFromCovMat, TheDiagonalHasAThresholdOfItsOwn)
 {
     // A variance of 1e-13: a fallback on the diagonal, a real correlation beside it.
     const std::vector<double> S{1e-13, 3e-14, 3e-14, 4};
@@ -106,14 +106,14 @@ TEST(M_CorrMatFromCovMat, TheDiagonalHasAThresholdOfItsOwn)
     EXPECT_THAT(correlations(2, {notANumber, 2, 2, 1}), SameBits({M, M, M, 1}));
 }
 
-TEST(M_CorrMatFromCovMat, ReadsTheUpperTriangleAndMayWorkInPlace)
+TEST(MCorrMatFromCovMat, ReadsTheUpperTriangleAndMayWorkInPlace)
 {
     Owned<matrix> S = byRows({{4, 2, 6}, {99, 1, 3}, {99, 99, 9}});
     M_CorrMatFromCovMat(S, 3, S, 0);
     EXPECT_THAT(cellsOf(S), SameBits({1, 1, 1, 1, 1, 1, 1, 1, 1}));
 }
 
-TEST(M_CorrMatFromCovMat, DoesNotPrepareItsResult)
+TEST(MCorrMatFromCovMat, DoesNotPrepareItsResult)
 {
     Owned<matrix> R = filled(3, 3, 7.0), small = filled(1, 2, 7.0);
     M_CorrMatFromCovMat(byRows({{4, 2}, {2, 4}}), 2, R, 0);
@@ -127,7 +127,7 @@ TEST(M_CorrMatFromCovMat, DoesNotPrepareItsResult)
     EXPECT_THAT(cellsOf(T), SameBits({1, M, M, M}));
 }
 
-TEST(VB_M_CorrMatFromCovMat, FallsBackToTheMissingValue)
+TEST(VBMCorrMatFromCovMat, FallsBackToTheMissingValue)
 {
     Guarded<double> S{4, 3, 0, 3, 9, 0, 0, 0, 0}, R(9, 7.0);
     EXPECT_EQ(VB_M_CorrMatFromCovMat(S, 3, R), 0);

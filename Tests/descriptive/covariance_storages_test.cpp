@@ -115,7 +115,7 @@ std::vector<double> expectedTriangle(const Observations& d, Options o, std::vect
     return joined(columns);
 }
 
-TEST(M_CovCorr3, GivesTheBitsOfThePlainFormFromRowsAndFromColumns)
+TEST(MCovCorr3, GivesTheBitsOfThePlainFormFromRowsAndFromColumns)
 {
     RandomData random(641);
     SCOPED_TRACE(random);
@@ -133,7 +133,7 @@ TEST(M_CovCorr3, GivesTheBitsOfThePlainFormFromRowsAndFromColumns)
         }
 }
 
-TEST(M_CovCorr3, ReadsMinusOneBehindARowOrColumn)
+TEST(MCovCorr3, ReadsMinusOneBehindARowOrColumn)
 {
     const Observations data = observations({{1, 3, -1}, {2, 6, -1}});
     const std::vector<double> expected = plain(data, {});
@@ -146,7 +146,7 @@ TEST(M_CovCorr3, ReadsMinusOneBehindARowOrColumn)
     EXPECT_THAT(cellsOf(D), SameBits(expected));
 }
 
-TEST(M_CovCorr3, AResultThatIsTooSmallIsLost)
+TEST(MCovCorr3, AResultThatIsTooSmallIsLost)
 {
     const Observations data = observations({{1, 3}, {2, 6}});
     TableColumns rows(data.rows()), columns(data.columns());
@@ -161,7 +161,7 @@ TEST(M_CovCorr3, AResultThatIsTooSmallIsLost)
     EXPECT_THAT(cellsOf(large), SameBits({1, 2, 0, 2, 4, 9}));
 }
 
-TEST(M_CovCorrSPV, WritesTheTriangleAndReadsTheNumeratorElsewhere)
+TEST(MCovCorrSPV, WritesTheTriangleAndReadsTheNumeratorElsewhere)
 {
     RandomData random(642);
     SCOPED_TRACE(random);
@@ -184,7 +184,7 @@ TEST(M_CovCorrSPV, WritesTheTriangleAndReadsTheNumeratorElsewhere)
         }
 }
 
-TEST(M_CovCorrSPV, TheNumeratorIsThatOfAnotherPairOrMinusOne)
+TEST(MCovCorrSPV, TheNumeratorIsThatOfAnotherPairOrMinusOne)
 {
     // Covariances by 0-based pairs: (0,0) 1, (0,1) 2, (0,2) 3, (1,1) 4, (1,2) 6, (2,2) 9.
     const Observations data = observations({{1, 3}, {1, 5}, {1, 7}});
@@ -200,7 +200,7 @@ TEST(M_CovCorrSPV, TheNumeratorIsThatOfAnotherPairOrMinusOne)
     EXPECT_THAT(full.cells(), SameBits({1, 2, 3, 1, 5, 7, 1, 30, 7}));
 }
 
-TEST(M_CovCorrSPV, AProductThatIsNotANumberHasNoCorrelation)
+TEST(MCovCorrSPV, AProductThatIsNotANumberHasNoCorrelation)
 {
     // 0/0 in every cell: the square forms compute on and give 1.0 on the diagonal.
     const Observations one = observations({{5}, {6}});

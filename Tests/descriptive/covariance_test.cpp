@@ -31,7 +31,7 @@ std::vector<double> covCorr(Observations d, short corr, Divisor divisor = {}, sh
     return cellsOf(C);
 }
 
-TEST(M_CovCorr, FollowsThePlainPassToTheLastBit)
+TEST(MCovCorr, FollowsThePlainPassToTheLastBit)
 {
     RandomData random(631);
     SCOPED_TRACE(random);
@@ -47,7 +47,7 @@ TEST(M_CovCorr, FollowsThePlainPassToTheLastBit)
         }
 }
 
-TEST(M_CovCorr, TakesSpecialValuesAsTheyAre)
+TEST(MCovCorr, TakesSpecialValuesAsTheyAre)
 {
     RandomData random(632);
     SCOPED_TRACE(random);
@@ -63,7 +63,7 @@ TEST(M_CovCorr, TakesSpecialValuesAsTheyAre)
     EXPECT_TRUE(std::isnan(covCorr(observations({{-inf, 1, 2}}), 0)[0]));
 }
 
-TEST(M_CovCorr, APairUsesItsCommonRowsAndAVarianceThoseOfItsColumn)
+TEST(MCovCorr, APairUsesItsCommonRowsAndAVarianceThoseOfItsColumn)
 {
     // Common to both are the last two rows, (3, 2) and (5, 8): covariance 2 * 6 / 2. The variances are those of
     // 1, 3, 5 and of 2, 8, 5.
@@ -72,7 +72,7 @@ TEST(M_CovCorr, APairUsesItsCommonRowsAndAVarianceThoseOfItsColumn)
     EXPECT_THAT(covCorr(data, 1, {-1, -1}), SameBits({1.0, 1.0, 1.0, 1.0}));
 }
 
-TEST(M_CovCorr, CorrelationsMayPassBeyondOne)
+TEST(MCovCorr, CorrelationsMayPassBeyondOne)
 {
     // The rows without a partner lie at the mean and make the variances small.
     const Observations data = observations({{-1, 1, 0, 0, M, M}, {-1, 1, M, M, 0, 0}});
@@ -80,7 +80,7 @@ TEST(M_CovCorr, CorrelationsMayPassBeyondOne)
     EXPECT_THAT(covCorr(data, 0, {0, 0}), SameBits({0.5, 1.0, 1.0, 0.5}));
 }
 
-TEST(M_CovCorr, ARowOfNoWeightCountsAmongTheRowsAndMovesNothing)
+TEST(MCovCorr, ARowOfNoWeightCountsAmongTheRowsAndMovesNothing)
 {
     Observations data = observations({{1, 77, 3}});
     data.w = {1, 0, 1};
@@ -94,7 +94,7 @@ TEST(M_CovCorr, ARowOfNoWeightCountsAmongTheRowsAndMovesNothing)
     EXPECT_THAT(covCorr(data, 0, {-1, -1}, 1), SameBits({-0.0}));
 }
 
-TEST(M_CovCorr, AnyMaskEntryButZeroDropsTheRow)
+TEST(MCovCorr, AnyMaskEntryButZeroDropsTheRow)
 {
     Observations data = observations({{1, 50, 60, 3}});
     data.mask = {0, 1, -1, 0};
@@ -104,7 +104,7 @@ TEST(M_CovCorr, AnyMaskEntryButZeroDropsTheRow)
     EXPECT_THAT(cellsOf(C), SameBits({1.0}));
 }
 
-TEST(M_CovCorr, AConstantColumnHasNoCorrelation)
+TEST(MCovCorr, AConstantColumnHasNoCorrelation)
 {
     const Observations data = observations({{1, 2, 4}, {7, 7, 7}, {3, 1, 1}});
     const double r = plainCorrelations(data, {}, M)[2];
@@ -117,7 +117,7 @@ TEST(M_CovCorr, AConstantColumnHasNoCorrelation)
     EXPECT_THAT(covCorr(observations({{0, 1e-160}, {0, 1}}), 1, {0, 0})[0], SameBits(M));
 }
 
-TEST(M_CovCorr, AColumnWithoutRowsFallsBackAndCorrelatesWithItself)
+TEST(MCovCorr, AColumnWithoutRowsFallsBackAndCorrelatesWithItself)
 {
     const Observations data = observations({{M, M, M}, {1, 2, 4}, {M, M, M}});
     const double variance = plainVariances(data, {})[1];
@@ -134,7 +134,7 @@ TEST(M_CovCorr, AColumnWithoutRowsFallsBackAndCorrelatesWithItself)
     EXPECT_THAT(covCorr(Observations{0, 0, {}, {}, {}}, 1), SameBits(std::vector<double>{}));
 }
 
-TEST(M_CovCorr, APairWithoutCommonRowsHasTheFallbackAsItsCovariance)
+TEST(MCovCorr, APairWithoutCommonRowsHasTheFallbackAsItsCovariance)
 {
     const Observations data = observations({{1, 3, M, M}, {M, M, 2, 6}});
     EXPECT_THAT(covCorr(data, 0, {0, 0}), SameBits({1, M, M, 4}));
@@ -142,7 +142,7 @@ TEST(M_CovCorr, APairWithoutCommonRowsHasTheFallbackAsItsCovariance)
     EXPECT_THAT(covCorr(data, 1, {0, 0}, 1), SameBits({1, 0.0, 0.0, 1}));
 }
 
-TEST(M_CovCorr, TheDivisorIsNotTested)
+TEST(MCovCorr, TheDivisorIsNotTested)
 {
     // One row: 0/0. A NaN is not 0, so that the correlations are computed, and the diagonal is 1.
     const Observations one = observations({{5}, {6}});
@@ -160,7 +160,7 @@ TEST(M_CovCorr, TheDivisorIsNotTested)
     EXPECT_THAT(covCorr(light, 1, {-1, -1}), SameBits({1, notANumber, notANumber, 1}));
 }
 
-TEST(M_CovCorr, AnyCorrButZeroGivesCorrelations)
+TEST(MCovCorr, AnyCorrButZeroGivesCorrelations)
 {
     const Observations data = observations({{1, 2, 4}, {3, 1, 1}});
     EXPECT_THAT(covCorr(data, 1), SameBits(covCorr(data, -1)));
@@ -168,7 +168,7 @@ TEST(M_CovCorr, AnyCorrButZeroGivesCorrelations)
     EXPECT_NE(covCorr(data, 0)[0], 1.0);
 }
 
-TEST(M_CovCorr, KeepsALargerResultWithItsStride)
+TEST(MCovCorr, KeepsALargerResultWithItsStride)
 {
     Owned<matrix> X = byColumns({{1, 3}, {2, 6}}), C = filled(4, 3, 9.0);
     matrix* const given = C;
@@ -181,14 +181,14 @@ TEST(M_CovCorr, KeepsALargerResultWithItsStride)
     EXPECT_THAT(cellsOf(small), SameBits({1, 2, 2, 4}));
 }
 
-TEST(M_CovCorr, ReadsTheCornerOfALargerTable)
+TEST(MCovCorr, ReadsTheCornerOfALargerTable)
 {
     Owned<matrix> X = byColumns({{1, 3, 99}, {2, 6, 99}, {99, 99, 99}}), C;
     M_CovCorr(X, 2, 2, C, 0, nullptr, column({1, 1, 99}), 0, 0, 0);
     EXPECT_THAT(cellsOf(C), SameBits({1, 2, 2, 4}));
 }
 
-TEST(M_CovCorr, BehindTheTableItReadsMinusOne)
+TEST(MCovCorr, BehindTheTableItReadsMinusOne)
 {
     // Row 2 of column 1 is cell (1, 2); row 2 of column 2 lies outside, as do the rows from 3 on.
     Owned<matrix> X = byColumns({{1}, {3}}), C;
@@ -203,7 +203,7 @@ TEST(M_CovCorr, BehindTheTableItReadsMinusOne)
     EXPECT_THAT(cellsOf(D), SameBits(plainCovariances(data, {0, 0}, M)));
 }
 
-TEST(VB_M_CovCorr, LeavesTheTableAsItWasAndFallsBackToTheMissingValue)
+TEST(VBMCovCorr, LeavesTheTableAsItWasAndFallsBackToTheMissingValue)
 {
     RandomData random(633);
     SCOPED_TRACE(random);
@@ -225,7 +225,7 @@ TEST(VB_M_CovCorr, LeavesTheTableAsItWasAndFallsBackToTheMissingValue)
 }
 
 // The table goes back last: of a result that reaches into it only what lies behind it stays.
-TEST(VB_M_CovCorr, LeavesTheTableAsItWasBelowAResult)
+TEST(VBMCovCorr, LeavesTheTableAsItWasBelowAResult)
 {
     RandomData random(634);
     SCOPED_TRACE(random);

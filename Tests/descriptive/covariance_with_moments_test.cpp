@@ -115,7 +115,7 @@ void expectSame(const Results& actual, const Results& wanted)
     EXPECT_THAT(actual.X, SameBits(wanted.X));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, FollowsThePlainPassToTheLastBitSquareAndPacked)
+TEST(MCovCorrAndMeanStDevVar, FollowsThePlainPassToTheLastBitSquareAndPacked)
 {
     RandomData random(651);
     SCOPED_TRACE(random);
@@ -135,7 +135,7 @@ TEST(M_CovCorrAndMeanStDevVar, FollowsThePlainPassToTheLastBitSquareAndPacked)
         }
 }
 
-TEST(M_CovCorrAndMeanStDevVar, TakesTheMagnitudeOfTheFactor)
+TEST(MCovCorrAndMeanStDevVar, TakesTheMagnitudeOfTheFactor)
 {
     // W is 1 at the second row: f = -1 - 1/1 = -2. The plain form has Q = -2 * 4, this one 2 * 4.
     Observations data = observations({{1, 3}});
@@ -147,7 +147,7 @@ TEST(M_CovCorrAndMeanStDevVar, TakesTheMagnitudeOfTheFactor)
     EXPECT_THAT(cellsOf(C), SameBits({-8.0}));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, OnlyMinusOneGivesCorrelations)
+TEST(MCovCorrAndMeanStDevVar, OnlyMinusOneGivesCorrelations)
 {
     const Observations data = observations({{1, 2, 4}, {3, 1, 1}});
     EXPECT_THAT(square(data, {1}).C, SameBits(square(data, {0}).C));
@@ -156,7 +156,7 @@ TEST(M_CovCorrAndMeanStDevVar, OnlyMinusOneGivesCorrelations)
     EXPECT_NE(square(data, {0}).C[0], 1.0);
 }
 
-TEST(M_CovCorrAndMeanStDevVar, DoesNotLookForColumnsWithoutRows)
+TEST(MCovCorrAndMeanStDevVar, DoesNotLookForColumnsWithoutRows)
 {
     const Observations data = observations({{M, M, M}, {1, 2, 4}});
     const double variance = plainVariances(data, {})[1];
@@ -176,7 +176,7 @@ TEST(M_CovCorrAndMeanStDevVar, DoesNotLookForColumnsWithoutRows)
             EXPECT_THAT(square(data, o).X[i], SameBits(M));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, AProductOfZeroOrBelowHasNoCorrelation)
+TEST(MCovCorrAndMeanStDevVar, AProductOfZeroOrBelowHasNoCorrelation)
 {
     Observations light = observations({{1, 3, M}, {1, 3, 5}});
     light.w = {0.25, 0.25, 2};
@@ -189,7 +189,7 @@ TEST(M_CovCorrAndMeanStDevVar, AProductOfZeroOrBelowHasNoCorrelation)
     EXPECT_THAT(square(constant, {-1, {}, 0, 0, 2}).C, SameBits({0, 0, 0, 1}));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, AColumnWithoutSpreadBecomesZeroOnlyWhenCentredAndReduced)
+TEST(MCovCorrAndMeanStDevVar, AColumnWithoutSpreadBecomesZeroOnlyWhenCentredAndReduced)
 {
     Observations data = observations({{5, 6, M, 5}, {1, 3, 2, M}});
     data.mask = {0, 1, 0, 0};
@@ -208,7 +208,7 @@ TEST(M_CovCorrAndMeanStDevVar, AColumnWithoutSpreadBecomesZeroOnlyWhenCentredAnd
     EXPECT_THAT(square(light, {0, {-1, -1}, -1, 0}).X, SameBits({-1, 1}));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, StandardisingDoesNotReachThePairs)
+TEST(MCovCorrAndMeanStDevVar, StandardisingDoesNotReachThePairs)
 {
     RandomData random(652);
     SCOPED_TRACE(random);
@@ -219,7 +219,7 @@ TEST(M_CovCorrAndMeanStDevVar, StandardisingDoesNotReachThePairs)
     EXPECT_THAT(with.var, SameBits(without.var));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, ANullMaskKeepsEveryRow)
+TEST(MCovCorrAndMeanStDevVar, ANullMaskKeepsEveryRow)
 {
     for (Function* const function : {M_CovCorrAndMeanStDevVar, M_CovCorrVAndMeanStDevVar}) {
         Owned<matrix> X = column({1, 3}), C, mean, stdev, var;
@@ -230,7 +230,7 @@ TEST(M_CovCorrAndMeanStDevVar, ANullMaskKeepsEveryRow)
     }
 }
 
-TEST(M_CovCorrAndMeanStDevVar, PreparesItsResults)
+TEST(MCovCorrAndMeanStDevVar, PreparesItsResults)
 {
     Owned<matrix> X = byColumns({{1, 3}, {2, 6}}), C = filled(1, 1, 9.0), mean = filled(1, 1, 9.0),
                   stdev = filled(3, 1, 9.0), var;
@@ -246,7 +246,7 @@ TEST(M_CovCorrAndMeanStDevVar, PreparesItsResults)
     EXPECT_THAT(cellsOf(S), SameBits({1, 2, 0, 2, 4, 9, 9, 9, 9}));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, BehindTheTableItReadsMinusOneAndWritesNothing)
+TEST(MCovCorrAndMeanStDevVar, BehindTheTableItReadsMinusOneAndWritesNothing)
 {
     // Row 2 of column 1 is cell (1, 2), so that standardising column 1 changes what later pairs read.
     Owned<matrix> X = byColumns({{1}, {3}}), C, mean, stdev, var;
@@ -256,7 +256,7 @@ TEST(M_CovCorrAndMeanStDevVar, BehindTheTableItReadsMinusOneAndWritesNothing)
     EXPECT_THAT(cellsOf(X), SameBits({-1, 1}));
 }
 
-TEST(M_CovCorrAndMeanStDevVar, WithMoreRowsThanTheTableAChangedColumnReachesTheNext)
+TEST(MCovCorrAndMeanStDevVar, WithMoreRowsThanTheTableAChangedColumnReachesTheNext)
 {
     RandomData random(652);
     SCOPED_TRACE(random);
@@ -290,7 +290,7 @@ TEST(M_CovCorrAndMeanStDevVar, WithMoreRowsThanTheTableAChangedColumnReachesTheN
     }
 }
 
-TEST(VB_M_CovCorrAndMeanStDevVar, HandsTheTableBackOnlyWhenStandardised)
+TEST(VBMCovCorrAndMeanStDevVar, HandsTheTableBackOnlyWhenStandardised)
 {
     RandomData random(653);
     SCOPED_TRACE(random);
@@ -317,7 +317,7 @@ TEST(VB_M_CovCorrAndMeanStDevVar, HandsTheTableBackOnlyWhenStandardised)
               0);
 }
 
-TEST(VB_M_CovCorrAndMeanStDevVar, FallsBackToTheMissingValue)
+TEST(VBMCovCorrAndMeanStDevVar, FallsBackToTheMissingValue)
 {
     Guarded<double> X{7, 7, 1, 3}, w{1, 1}, C(4, 9.0), V(3, 9.0), mean(2, 9.0), stdev(2, 9.0), var(2, 9.0);
     VB_M_CovCorrAndMeanStDevVar(X, 2, 2, C, mean, stdev, var, -1, nullptr, w, 0, 0, 0, 0);

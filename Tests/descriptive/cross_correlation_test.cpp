@@ -75,7 +75,7 @@ std::vector<double> expected(const Observations& x, const Observations& y, Optio
     return C;
 }
 
-TEST(M_CorrMatMat, FollowsThePlainPassToTheLastBitFromTableAndColumns)
+TEST(MCorrMatMat, FollowsThePlainPassToTheLastBitFromTableAndColumns)
 {
     RandomData random(661);
     SCOPED_TRACE(random);
@@ -94,7 +94,7 @@ TEST(M_CorrMatMat, FollowsThePlainPassToTheLastBitFromTableAndColumns)
             }
 }
 
-TEST(M_CorrMatMat, TheVarianceIsThatOfTheLastPair)
+TEST(MCorrMatMat, TheVarianceIsThatOfTheLastPair)
 {
     // Column 1 of Y lacks the row that gives X its spread in column 2 of Y.
     const Observations x = observations({{1, 3, 2, 8}});
@@ -109,7 +109,7 @@ TEST(M_CorrMatMat, TheVarianceIsThatOfTheLastPair)
     EXPECT_NEAR(corrMatMat(y, x, {1, 0, {0, 0}, 0})[0], S / std::sqrt(vxLast * vy), 1e-15);
 }
 
-TEST(M_CorrMatMat, AnyCorrButZeroAndAnySquareButZero)
+TEST(MCorrMatMat, AnyCorrButZeroAndAnySquareButZero)
 {
     const Observations x = observations({{1, 2, 4}}), y = observations({{3, 1, 1}});
     const double r = corrMatMat(x, y, {1, 0})[0];
@@ -120,7 +120,7 @@ TEST(M_CorrMatMat, AnyCorrButZeroAndAnySquareButZero)
     EXPECT_THAT(corrMatMat(x, y, {0, 1}), SameBits(corrMatMat(x, y, {0, 0}))); // covariances are not squared
 }
 
-TEST(M_CorrMatMat, FallsBackWhereTheVariancesMultiplyToNothing)
+TEST(MCorrMatMat, FallsBackWhereTheVariancesMultiplyToNothing)
 {
     const Observations constant = observations({{4, 4, 4}}), varying = observations({{1, 2, 4}});
     for (const short square : {0, 1}) {
@@ -138,7 +138,7 @@ TEST(M_CorrMatMat, FallsBackWhereTheVariancesMultiplyToNothing)
     EXPECT_NEAR(corrMatMat(unit, small, {1, 0, {0, 0}, 0})[0], 1.0, 1e-12);
 }
 
-TEST(M_CorrMatMat, TheDivisorIsNotTested)
+TEST(MCorrMatMat, TheDivisorIsNotTested)
 {
     Observations none = observations({{1, 2}});
     none.mask = {1, 1};
@@ -155,7 +155,7 @@ TEST(M_CorrMatMat, TheDivisorIsNotTested)
     EXPECT_THAT(corrMatMat(light, both, {1, 0, {-1, -1}, 1})[1], SameBits(notANumber));
 }
 
-TEST(M_CorrMatMat, KeepsALargerResultAndReadsMinusOneBehindATable)
+TEST(MCorrMatMat, KeepsALargerResultAndReadsMinusOneBehindATable)
 {
     Owned<matrix> C = filled(3, 2, 9.0);
     M_CorrMatMat(byColumns({{1, 3}, {2, 6}}), 2, 2, column({1, 5}), 1, C, nullptr, column({1, 1}), 0, 0, 0, 0, 0);
@@ -167,7 +167,7 @@ TEST(M_CorrMatMat, KeepsALargerResultAndReadsMinusOneBehindATable)
     EXPECT_THAT(C->X[0], SameBits(-2.0));
 }
 
-TEST(VB_M_CorrMatMat, AreTheComputingFunctions)
+TEST(VBMCorrMatMat, AreTheComputingFunctions)
 {
     RandomData random(662);
     SCOPED_TRACE(random);

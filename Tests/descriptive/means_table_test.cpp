@@ -65,7 +65,7 @@ std::vector<double> means3Of(Owned<matrix> X, int n, int p)
 
 } // namespace
 
-TEST(M_Mean, IsTheRunningWeightedMeanOfEachColumn)
+TEST(MMean, IsTheRunningWeightedMeanOfEachColumn)
 {
     RandomData data(62);
     SCOPED_TRACE(data);
@@ -82,7 +82,7 @@ TEST(M_Mean, IsTheRunningWeightedMeanOfEachColumn)
     }
 }
 
-TEST(M_Mean, IsZeroForAColumnWithoutRowsWhereTheOthersAreMissing)
+TEST(MMean, IsZeroForAColumnWithoutRowsWhereTheOthersAreMissing)
 {
     EXPECT_THAT(meansOf(byColumns({{M, M}, {1, 3}}), 2, 2, {1, 1}), SameBits({0.0, 2.0}));
     EXPECT_THAT(means2Of(byColumns({{M, M}, {1, 3}}), 2, 2, {1, 1}), SameBits({M, 2.0}));
@@ -92,7 +92,7 @@ TEST(M_Mean, IsZeroForAColumnWithoutRowsWhereTheOthersAreMissing)
     EXPECT_THAT(means3Of(byColumns({{5}}), 0, 1), SameBits({M}));
 }
 
-TEST(M_Mean, PassesOverAZeroWeightWhereMean2DividesZeroByZero)
+TEST(MMean, PassesOverAZeroWeightWhereMean2DividesZeroByZero)
 {
     EXPECT_THAT(meansOf(byColumns({{9, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
     EXPECT_THAT(meansOf(byColumns({{inf, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
@@ -102,7 +102,7 @@ TEST(M_Mean, PassesOverAZeroWeightWhereMean2DividesZeroByZero)
     EXPECT_THAT(means2Of(byColumns({{M, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
 }
 
-TEST(M_Mean, TellsMissingByEqualityAndMean2AndMean3ByOrder)
+TEST(MMean, TellsMissingByEqualityAndMean2AndMean3ByOrder)
 {
     EXPECT_TRUE(std::isnan(meansOf(byColumns({{1, notANumber, 3}}), 3, 1, {1, 1, 1})[0]));
     EXPECT_THAT(means2Of(byColumns({{1, notANumber, 3}}), 3, 1, {1, 1, 1}), SameBits({2.0}));
@@ -113,7 +113,7 @@ TEST(M_Mean, TellsMissingByEqualityAndMean2AndMean3ByOrder)
     EXPECT_THAT(means3Of(byColumns({{below, -inf, 4}}), 3, 1), SameBits({4.0}));
 }
 
-TEST(M_Mean, PreparesItsResultAndTheOthersDoNot)
+TEST(MMean, PreparesItsResultAndTheOthersDoNot)
 {
     Owned<matrix> larger = filled(5, 5, 7.0);
     matrix* const kept = larger.get();
@@ -133,7 +133,7 @@ TEST(M_Mean, PreparesItsResultAndTheOthersDoNot)
     EXPECT_THAT(cellsOf(tooSmall), SameBits({3.0}));
 }
 
-TEST(M_Mean2, IsTheRunningMeanOverTheOrderOfTheRows)
+TEST(MMean2, IsTheRunningMeanOverTheOrderOfTheRows)
 {
     double W = 0.0, mean = 0.0;
     const std::vector<double> x{0.3, 1.9, 0.7}, w{0.1, 0.7, 0.9};
@@ -144,7 +144,7 @@ TEST(M_Mean2, IsTheRunningMeanOverTheOrderOfTheRows)
     EXPECT_THAT(means2Of(column(x), 3, 1, w), SameBits({mean}));
 }
 
-TEST(M_Mean3, IsTheRunningMeanByTheCount)
+TEST(MMean3, IsTheRunningMeanByTheCount)
 {
     double mean = 0.0;
     mean += (0.3 - mean) / 1;
@@ -153,7 +153,7 @@ TEST(M_Mean3, IsTheRunningMeanByTheCount)
     EXPECT_THAT(means3Of(column({0.3, M, 1.9, 0.7}), 4, 1), SameBits({mean}));
 }
 
-TEST(M_Means, TheDimensionsPassedDriveTheLoops)
+TEST(MMeans, TheDimensionsPassedDriveTheLoops)
 {
     // Two of three rows and columns; the stride stays that of the table.
     const auto X = byColumns({{1, 3, 90}, {5, 9, 90}, {90, 90, 90}});
@@ -172,7 +172,7 @@ TEST(M_Means, TheDimensionsPassedDriveTheLoops)
     EXPECT_THAT(cellsOf(apart), SameBits({1.0, 7.0 + (-1.0 - 7.0) / 3.0}));
 }
 
-TEST(M_ColSum2, SumsThePresentCellsOfAColumn)
+TEST(MColSum2, SumsThePresentCellsOfAColumn)
 {
     const auto X = byColumns({{1, 2, 3}, {4, M, 6}});
     EXPECT_THAT(M_ColSum2(X.get(), 3, 2), SameBits(10.0));

@@ -46,7 +46,7 @@ std::array<double, 2> geometric(const std::vector<double>& x, std::vector<short>
 
 } // namespace
 
-TEST(V_Mean, IsTheWeightedSumOverTheSumOfWeightsInRowOrder)
+TEST(VMean, IsTheWeightedSumOverTheSumOfWeightsInRowOrder)
 {
     EXPECT_THAT(mean({1, 2, 6}, {0, 0, 0}, {1, 2, 1}), SameBits(11.0 / 4.0));
     // Sums, not a running mean: the two differ in the last bits.
@@ -54,14 +54,14 @@ TEST(V_Mean, IsTheWeightedSumOverTheSumOfWeightsInRowOrder)
     EXPECT_THAT(mean(x, {0, 0, 0, 0}, {1, 1, 1, 1}), SameBits((((0.1 + 0.7) + 0.3) + 1e16) / 4.0));
 }
 
-TEST(V_Mean, LeavesOutMaskedRowsMissingCellsAndZeroWeights)
+TEST(VMean, LeavesOutMaskedRowsMissingCellsAndZeroWeights)
 {
     EXPECT_THAT(mean({1, 2, M, 6, inf}, {0, 1, 0, 0, 0}, {1, 5, 5, 3, 0}), SameBits(19.0 / 4.0));
     EXPECT_THAT(mean({1, 2}, {-1, 7}, {1, 1}), SameBits(M));
     EXPECT_THAT(mean({}, {}, {}), SameBits(M));
 }
 
-TEST(V_Mean, TakesANaNAndTheNeighboursOfTheMissingValueAsNumbers)
+TEST(VMean, TakesANaNAndTheNeighboursOfTheMissingValueAsNumbers)
 {
     EXPECT_TRUE(std::isnan(mean({1, notANumber}, {0, 0}, {1, 1})));
     EXPECT_THAT(mean({-inf, 1}, {0, 0}, {1, 1}), SameBits(-inf));
@@ -69,13 +69,13 @@ TEST(V_Mean, TakesANaNAndTheNeighboursOfTheMissingValueAsNumbers)
     EXPECT_THAT(mean({below}, {0}, {1}), SameBits(below));
 }
 
-TEST(V_Mean, IsMissingWhereTheWeightsCancelOut)
+TEST(VMean, IsMissingWhereTheWeightsCancelOut)
 {
     EXPECT_THAT(mean({3, 4}, {0, 0}, {1, -1}), SameBits(M));
     EXPECT_THAT(mean({3, 4}, {0, 0}, {0, 0}), SameBits(M));
 }
 
-TEST(V_Mean, ReadsMinusOneBehindTheEndOfTheTables)
+TEST(VMean, ReadsMinusOneBehindTheEndOfTheTables)
 {
     std::vector<short> mask(3, 0);
     EXPECT_THAT(V_Mean(column({5, 7}), 3, mask.data(), column({1, 1, 2})), SameBits(10.0 / 4.0));
@@ -93,7 +93,7 @@ TEST(Means, ANullMaskKeepsEveryRow)
     EXPECT_THAT((std::array{gmean, gsd}), SameBits({1.0, 1.0}));
 }
 
-TEST(V_Mean2, IsThePlainMeanOfWhatIsPresent)
+TEST(VMean2, IsThePlainMeanOfWhatIsPresent)
 {
     EXPECT_THAT(V_Mean2(column({1, M, 6}), 3), SameBits(3.5));
     EXPECT_THAT(V_Mean2(column({1, 5, 6}), 2), SameBits(3.0));
@@ -104,34 +104,34 @@ TEST(V_Mean2, IsThePlainMeanOfWhatIsPresent)
     EXPECT_TRUE(std::isnan(V_Mean2(column({4, notANumber}), 2)));
 }
 
-TEST(V_MeanAbs, IsTheMeanOfTheMagnitudes)
+TEST(VMeanAbs, IsTheMeanOfTheMagnitudes)
 {
     EXPECT_THAT(meanAbs({-1, 2, M, 6, -inf, 9}, {0, 0, 0, 0, 0, 1}, {1, 2, 5, 1, 0, 1}), SameBits(11.0 / 4.0));
     EXPECT_THAT(meanAbs({-1}, {1}, {1}), SameBits(M));
     EXPECT_THAT(meanAbs({-1, 1}, {0, 0}, {2, -2}), SameBits(M));
 }
 
-TEST(V_HarmonicMean, IsTheSumOfWeightsOverTheSumOfWeightedReciprocals)
+TEST(VHarmonicMean, IsTheSumOfWeightsOverTheSumOfWeightedReciprocals)
 {
     EXPECT_THAT(harmonic({2, 4, M, 9}, {0, 0, 0, 3}, {1, 2, 5, 5}), SameBits(3.0 / (1.0 / 2.0 + 2.0 / 4.0)));
     EXPECT_THAT(harmonic({-2, -4}, {0, 0}, {1, 1}), SameBits(2.0 / -0.75));
 }
 
-TEST(V_HarmonicMean, IsMissingForAKeptZeroAlsoOfNoWeight)
+TEST(VHarmonicMean, IsMissingForAKeptZeroAlsoOfNoWeight)
 {
     EXPECT_THAT(harmonic({2, 0}, {0, 0}, {1, 0}), SameBits(M));
     EXPECT_THAT(harmonic({2, -0.0}, {0, 0}, {1, 1}), SameBits(M));
     EXPECT_THAT(harmonic({2, 0}, {0, 1}, {1, 1}), SameBits(2.0));
 }
 
-TEST(V_HarmonicMean, IsMissingWithoutRowsOrWhereTheReciprocalsCancelOut)
+TEST(VHarmonicMean, IsMissingWithoutRowsOrWhereTheReciprocalsCancelOut)
 {
     EXPECT_THAT(harmonic({}, {}, {}), SameBits(M));
     EXPECT_THAT(harmonic({M, 3}, {0, 1}, {1, 1}), SameBits(M));
     EXPECT_THAT(harmonic({2, -2}, {0, 0}, {1, 1}), SameBits(M));
 }
 
-TEST(V_GMeanGSD, UpdatesWithTheShareOfTheWeight)
+TEST(VGMeanGSD, UpdatesWithTheShareOfTheWeight)
 {
     RandomData data(60);
     SCOPED_TRACE(data);
@@ -150,13 +150,13 @@ TEST(V_GMeanGSD, UpdatesWithTheShareOfTheWeight)
     }
 }
 
-TEST(V_GMeanGSD, LeavesOutMaskedRowsAndMissingCells)
+TEST(VGMeanGSD, LeavesOutMaskedRowsAndMissingCells)
 {
     const auto all = geometric({2, 8, 3}, {0, 0, 0}, {1, 1, 1});
     EXPECT_THAT(geometric({2, -5, M, 8, 0, 3}, {0, 2, 0, 0, -1, 0}, {1, 1, 1, 1, 1, 1}), SameBits({all[0], all[1]}));
 }
 
-TEST(V_GMeanGSD, CountsARowOfNoWeightInTheDivisorOnly)
+TEST(VGMeanGSD, CountsARowOfNoWeightInTheDivisorOnly)
 {
     // W = 2, m = 3: the divisor is 2 - 2/3, where leaving the row out would make it 1.
     const auto results = geometric({1, 5, vecmat::exp(2.0)}, {0, 0, 0}, {1, 0, 1});
@@ -166,14 +166,14 @@ TEST(V_GMeanGSD, CountsARowOfNoWeightInTheDivisorOnly)
     EXPECT_THAT(geometric({5}, {0}, {0}), SameBits({1.0, M}));
 }
 
-TEST(V_GMeanGSD, IsMissingForAKeptCellAtOrBelowZeroEvenAfterGoodRows)
+TEST(VGMeanGSD, IsMissingForAKeptCellAtOrBelowZeroEvenAfterGoodRows)
 {
     EXPECT_THAT(geometric({2, 3, -1}, {0, 0, 0}, {1, 1, 1}), SameBits({M, M}));
     EXPECT_THAT(geometric({2, 3, 0}, {0, 0, 0}, {1, 1, 0}), SameBits({M, M}));
     EXPECT_THAT(geometric({2, 3, -inf}, {0, 0, 0}, {1, 1, 1}), SameBits({M, M}));
 }
 
-TEST(V_GMeanGSD, IsMissingWithoutRowsAndHasNoDeviationForASingleRow)
+TEST(VGMeanGSD, IsMissingWithoutRowsAndHasNoDeviationForASingleRow)
 {
     EXPECT_THAT(geometric({}, {}, {}), SameBits({M, M}));
     EXPECT_THAT(geometric({M, 4}, {0, 1}, {1, 1}), SameBits({M, M}));

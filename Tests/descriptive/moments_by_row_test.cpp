@@ -34,7 +34,7 @@ RowMoments byRow(Owned<matrix> X, int n, int p, const std::vector<double>& w, sh
 
 } // namespace
 
-TEST(M_MeanStDevByRow, FollowsTheRunningUpdateToTheLastBit)
+TEST(MMeanStDevByRow, FollowsTheRunningUpdateToTheLastBit)
 {
     RandomData data(73);
     SCOPED_TRACE(data);
@@ -68,7 +68,7 @@ TEST(M_MeanStDevByRow, FollowsTheRunningUpdateToTheLastBit)
         }
 }
 
-TEST(M_MeanStDevByRow, ARowWhoseOwnNumberHasNoWeightLosesAllItsColumns)
+TEST(MMeanStDevByRow, ARowWhoseOwnNumberHasNoWeightLosesAllItsColumns)
 {
     const RowMoments results = byRow(byRows({{1, 3, 5}, {2, 4, 9}, {1, 2, 3}}), 3, 3, {1, 0, 1}, 0, 0);
     // Row 2 is gone; in the others the weight 0 of column 2 adds nothing.
@@ -76,14 +76,14 @@ TEST(M_MeanStDevByRow, ARowWhoseOwnNumberHasNoWeightLosesAllItsColumns)
     EXPECT_THAT(results.stdev, SameBits({2.0, M, 1.0}));
 }
 
-TEST(M_MeanStDevByRow, RowsBeyondTheWeightsPassTheTest)
+TEST(MMeanStDevByRow, RowsBeyondTheWeightsPassTheTest)
 {
     const RowMoments results = byRow(byRows({{1, 3}, {2, 4}, {5, 9}}), 3, 2, {1, 1}, 0, 0);
     EXPECT_THAT(results.mean, SameBits({2.0, 3.0, 7.0}));
     EXPECT_THAT(results.stdev, SameBits({1.0, 1.0, 2.0}));
 }
 
-TEST(M_MeanStDevByRow, AColumnOfNoWeightAheadOfAllOthersDividesZeroByZero)
+TEST(MMeanStDevByRow, AColumnOfNoWeightAheadOfAllOthersDividesZeroByZero)
 {
     const RowMoments results = byRow(byRows({{1, 3}, {M, 4}, {5, 9}}), 3, 2, {0, 1}, 0, 0);
     EXPECT_THAT(results.mean[0], SameBits(M)); // lost by its own number
@@ -96,14 +96,14 @@ TEST(M_MeanStDevByRow, AColumnOfNoWeightAheadOfAllOthersDividesZeroByZero)
     EXPECT_THAT(only.stdev[1], SameBits(M));
 }
 
-TEST(M_MeanStDevByRow, CountsAColumnOfNoWeight)
+TEST(MMeanStDevByRow, CountsAColumnOfNoWeight)
 {
     // W = 2, m = 3, Q = 8: the divisor is 2 - 2/3.
     const RowMoments results = byRow(byRows({{1, 100, 5}}), 1, 3, {1, 0, 1}, -1, 0);
     EXPECT_THAT(results.stdev, SameBits({std::sqrt(8.0 / (2.0 - 2.0 / 3))}));
 }
 
-TEST(M_MeanStDevByRow, IsMissingForARowWithoutColumnsAndForADivisorNotAboveZero)
+TEST(MMeanStDevByRow, IsMissingForARowWithoutColumnsAndForADivisorNotAboveZero)
 {
     const RowMoments results = byRow(byRows({{M, M}, {M, 5}}), 2, 2, {1, 1}, -1, 0);
     EXPECT_THAT(results.mean, SameBits({M, 5.0}));
@@ -113,7 +113,7 @@ TEST(M_MeanStDevByRow, IsMissingForARowWithoutColumnsAndForADivisorNotAboveZero)
     EXPECT_THAT(none.stdev, SameBits({M, M}));
 }
 
-TEST(M_MeanStDevByRow, ANullWeightIsOneForEachColumn)
+TEST(MMeanStDevByRow, ANullWeightIsOneForEachColumn)
 {
     Owned<matrix> mean, stdev = filled(3, 1, 0.0);
     M_MeanStDevByRow(byRows({{1, 3}, {2, 4}, {5, 9}}), 3, 2, mean, stdev, nullptr, 0, 0);
@@ -121,7 +121,7 @@ TEST(M_MeanStDevByRow, ANullWeightIsOneForEachColumn)
     EXPECT_THAT(cellsOf(stdev), SameBits({1.0, 1.0, 2.0}));
 }
 
-TEST(M_MeanStDevByRow, TheDeviationsAreSizedByTheColumns)
+TEST(MMeanStDevByRow, TheDeviationsAreSizedByTheColumns)
 {
     // More rows than columns: what does not fit is dropped, unless the table was larger already.
     Owned<matrix> mean, stdev = filled(1, 1, 77.0);
@@ -140,7 +140,7 @@ TEST(M_MeanStDevByRow, TheDeviationsAreSizedByTheColumns)
     EXPECT_THAT(cellsOf(replaced), SameBits({2.0, 0.0, 0.0}));
 }
 
-TEST(M_MeanStDevByRow, TheFlatFormLeavesTheDeviationsAloneWhereThereAreMoreColumnsThanRows)
+TEST(MMeanStDevByRow, TheFlatFormLeavesTheDeviationsAloneWhereThereAreMoreColumnsThanRows)
 {
     Guarded<double> wide{1, 2, 3, 6, 5, 10}; // two rows, three columns
     Guarded<double> w{1, 1, 1};
@@ -151,7 +151,7 @@ TEST(M_MeanStDevByRow, TheFlatFormLeavesTheDeviationsAloneWhereThereAreMoreColum
     EXPECT_TRUE(wide.untouched() && w.untouched());
 }
 
-TEST(M_MeanStDevByRow, TheFlatFormWritesEveryRowWhereThereAreAtLeastAsMany)
+TEST(MMeanStDevByRow, TheFlatFormWritesEveryRowWhereThereAreAtLeastAsMany)
 {
     Guarded<double> tall{1, 2, 5, 3, 6, 9}; // three rows, two columns
     Guarded<double> w{1, 1};

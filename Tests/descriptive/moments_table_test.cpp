@@ -180,7 +180,7 @@ TEST(ColumnMoments, TellMissingByEquality)
     EXPECT_THAT(meanStDev(columnData({-inf}, {1}), {0, 0, 0})[0], SameBits(-inf));
 }
 
-TEST(M_MeanStDev, TheMaskIsAppliedIgnoredOrDropsEveryRow)
+TEST(MMeanStDev, TheMaskIsAppliedIgnoredOrDropsEveryRow)
 {
     Data d = columnData({1, 3, 50}, {1, 1, 1});
     d.mask = {0, 0, 1};
@@ -199,7 +199,7 @@ TEST(M_MeanStDev, TheMaskIsAppliedIgnoredOrDropsEveryRow)
     EXPECT_THAT(joined(cellsOf(mean), cellsOf(stdev)), SameBits({M, M}));
 }
 
-TEST(M_MeanStDev, ANullWeightIsOneForEachRow)
+TEST(MMeanStDev, ANullWeightIsOneForEachRow)
 {
     std::vector<short> mask(3, 0);
     Owned<matrix> mean, stdev = filled(1, 1, 0.0);
@@ -212,7 +212,7 @@ TEST(M_MeanStDev, ANullWeightIsOneForEachRow)
                 SameBits(meanStDev(columnData({1, 3, 8}, {1, 1, 1}), {-1, 0, 0})));
 }
 
-TEST(M_MeanStDevVar, ANullMaskKeepsEveryRow)
+TEST(MMeanStDevVar, ANullMaskKeepsEveryRow)
 {
     Owned<matrix> mean, stdev = filled(1, 1, 0.0), var;
     M_MeanStDevVar(column({1, 3}), 2, 1, mean, stdev, var, nullptr, column({1, 1}), 0, 0);

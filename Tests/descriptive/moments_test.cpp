@@ -68,7 +68,7 @@ const std::vector<double> referenceWeights{0.5, 1.5, 2.0, 1.0, 0.25, 1.75};
 } // namespace
 
 // R 4.2: x <- c(2.5,3.1,4.7,5,7.9,11.2); w <- c(.5,1.5,2,1,.25,1.75); W <- sum(w); Q <- sum(w*(x-weighted.mean(x,w))^2)
-TEST(V_Var, AgreesWithPublishedFormulas)
+TEST(VVar, AgreesWithPublishedFormulas)
 {
     const double tolerance = 1e-13;
     const Data plain = unweighted(reference);
@@ -87,7 +87,7 @@ TEST(V_Var, AgreesWithPublishedFormulas)
     EXPECT_NEAR(meanVar(weighted, -1, 0)[1], 12.229760204081632, tolerance);
 }
 
-TEST(V_Var, FollowsTheRunningUpdateToTheLastBit)
+TEST(VVar, FollowsTheRunningUpdateToTheLastBit)
 {
     RandomData data(67);
     SCOPED_TRACE(data);
@@ -119,7 +119,7 @@ TEST(V_Var, FollowsTheRunningUpdateToTheLastBit)
     EXPECT_THAT(stdev(all, -1, 0), SameBits(std::sqrt(Q / (W - W / m))));
 }
 
-TEST(V_Var, CountsARowOfNoWeightAndMovesNothing)
+TEST(VVar, CountsARowOfNoWeightAndMovesNothing)
 {
     // Q = 2, W = 2, m = 3: W - W/m is 4/3, where leaving the row out would make it 1.
     const Data d{{1, inf, 3}, {0, 0, 0}, {1, 0, 1}};
@@ -128,7 +128,7 @@ TEST(V_Var, CountsARowOfNoWeightAndMovesNothing)
     EXPECT_THAT(var({{9, 1, 3}, {0, 0, 0}, {0, 1, 1}}, 0, 0), SameBits(1.0));
 }
 
-TEST(V_Var, DividesWithoutATest)
+TEST(VVar, DividesWithoutATest)
 {
     EXPECT_TRUE(std::isnan(var(unweighted({}), 0, 0)));
     EXPECT_TRUE(std::isnan(var(unweighted({}), -1, 0)));
@@ -142,7 +142,7 @@ TEST(V_Var, DividesWithoutATest)
     EXPECT_TRUE(std::isnan(var2({5}, -1, 0)));
 }
 
-TEST(V_Var2, HasTheUpdateOfTheCount)
+TEST(VVar2, HasTheUpdateOfTheCount)
 {
     const std::vector<double> x{0.3, 1.9, M, 0.7, 2.2};
     double mean = 0.0, Q = 0.0, m = 0.0;
@@ -160,7 +160,7 @@ TEST(V_Var2, HasTheUpdateOfTheCount)
     EXPECT_TRUE(std::isnan(var2({1, notANumber}, 0, 0)));
 }
 
-TEST(V_Stdev, IsZeroForAZeroOfEitherSign)
+TEST(VStdev, IsZeroForAZeroOfEitherSign)
 {
     EXPECT_THAT(stdev(unweighted({4, 4, 4}), -1, 0), SameBits(0.0));
     EXPECT_THAT(stdev(unweighted({}), -1, -1), SameBits(0.0));
@@ -169,7 +169,7 @@ TEST(V_Stdev, IsZeroForAZeroOfEitherSign)
     EXPECT_TRUE(std::isnan(stdev({{1, 3}, {0, 0}, {0.25, 0.25}}, -1, -1)));
 }
 
-TEST(V_MeanVar, GuardsWhatTheVarianceAloneDoesNot)
+TEST(VMeanVar, GuardsWhatTheVarianceAloneDoesNot)
 {
     EXPECT_THAT(meanVar(unweighted({}), 0, 0), SameBits({0.0, 0.0}));
     EXPECT_THAT(meanVar(unweighted({}), -1, -1), SameBits({0.0, 0.0}));
@@ -184,12 +184,12 @@ TEST(V_MeanVar, GuardsWhatTheVarianceAloneDoesNot)
     EXPECT_THAT(meanStdev(unweighted({}), -1, 0), SameBits({0.0, 0.0}));
 }
 
-TEST(V_Var, ANullMaskKeepsEveryRow)
+TEST(VVar, ANullMaskKeepsEveryRow)
 {
     EXPECT_THAT(V_Var(column({1, 3}), 2, nullptr, column({1, 1}), 0, 0), SameBits(1.0));
 }
 
-TEST(V_Var, ReadsMinusOneBehindTheEndOfTheTables)
+TEST(VVar, ReadsMinusOneBehindTheEndOfTheTables)
 {
     std::vector<short> mask(2, 0);
     EXPECT_THAT(V_Var(column({1}), 2, mask.data(), column({1, 1}), 0, 0), SameBits(1.0));

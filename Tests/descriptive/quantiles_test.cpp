@@ -46,7 +46,7 @@ double plainQuantile(std::vector<double> x, double p)
 
 } // namespace
 
-TEST(V_Quantile, InterpolatesAtTheShareOfTheLastPosition)
+TEST(VQuantile, InterpolatesAtTheShareOfTheLastPosition)
 {
     EXPECT_THAT(quantile({4, 2, 1, 3}, 0.5), SameBits(2.5));
     EXPECT_THAT(quantile({4, 2, 1, 3}, 0.0), SameBits(1.0));
@@ -58,20 +58,20 @@ TEST(V_Quantile, InterpolatesAtTheShareOfTheLastPosition)
     EXPECT_THAT(quantile(eleven, 0.5), SameBits(6.0));
 }
 
-TEST(V_Quantile, OfOneValueIsThatValueForEveryP)
+TEST(VQuantile, OfOneValueIsThatValueForEveryP)
 {
     for (const double p : {0.0, 0.05, 0.5, 0.99, 1.0, -3.0, 17.5})
         EXPECT_THAT(quantile({7}, p), SameBits(7.0));
 }
 
-TEST(V_Quantile, OfNothingIsMinusOne)
+TEST(VQuantile, OfNothingIsMinusOne)
 {
     for (const double p : {0.0, 0.3, 0.5, 1.0, -3.0, 17.5})
         for (const int n : {0, -1, std::numeric_limits<int>::min()})
             EXPECT_THAT(V_Quantile(column({5, 6}), n, p), SameBits(-1.0));
 }
 
-TEST(V_Quantile, KeepsARunOfTiesExact)
+TEST(VQuantile, KeepsARunOfTiesExact)
 {
     EXPECT_THAT(quantile({5, 5, 5, 7}, 0.3), SameBits(5.0));
     // The weighted sum alone would round.
@@ -84,7 +84,7 @@ TEST(V_Quantile, KeepsARunOfTiesExact)
     EXPECT_GT(rounded, 0);
 }
 
-TEST(V_Quantile, FollowsItsFormToTheLastBit)
+TEST(VQuantile, FollowsItsFormToTheLastBit)
 {
     RandomData data(81);
     SCOPED_TRACE(data);
@@ -104,14 +104,14 @@ TEST(V_Quantile, FollowsItsFormToTheLastBit)
     EXPECT_GT(otherForm, 0); // a + g (b-a) would give other bits
 }
 
-TEST(V_Quantile, CountsMissingValuesAsTheLowest)
+TEST(VQuantile, CountsMissingValuesAsTheLowest)
 {
     EXPECT_THAT(quantile({3, M, 1}, 0.0), SameBits(M));
     EXPECT_THAT(quantile({3, M, 1}, 0.5), SameBits(1.0));
     EXPECT_THAT(quantile({3, M, 1, M, M}, 0.5), SameBits(M));
 }
 
-TEST(V_Quantile, ReadsMinusOneOutsideTheData)
+TEST(VQuantile, ReadsMinusOneOutsideTheData)
 {
     EXPECT_THAT(quantile({1, 2, 3, 4}, -0.25), SameBits(-0.5)); // between -1 and 1
     EXPECT_THAT(quantile({1, 2, 3, 4}, 2.0), SameBits(-1.0));
@@ -121,7 +121,7 @@ TEST(V_Quantile, ReadsMinusOneOutsideTheData)
         EXPECT_THAT(quantile({1, 2, 3, 4}, p), SameBits(-1.0));
 }
 
-TEST(V_Quantile, ReadsItsTableByTheCheckedReadAndLeavesItAlone)
+TEST(VQuantile, ReadsItsTableByTheCheckedReadAndLeavesItAlone)
 {
     const auto x = column({5, 3, 4});
     EXPECT_THAT(V_Quantile(x.get(), 5, 0.0), SameBits(-1.0));
@@ -130,7 +130,7 @@ TEST(V_Quantile, ReadsItsTableByTheCheckedReadAndLeavesItAlone)
     EXPECT_THAT(cellsOf(x), SameBits({5.0, 3.0, 4.0}));
 }
 
-TEST(V_QuantileM, LeavesOutMaskedRowsAndMissingValues)
+TEST(VQuantileM, LeavesOutMaskedRowsAndMissingValues)
 {
     EXPECT_THAT(masked({4, M, 2, 99, 1, 3}, {0, 0, 0, 5, 0, 0}, 0.5), SameBits(2.5));
     EXPECT_THAT(masked({4, -inf, 2}, {0, 0, 0}, 0.0), SameBits(-inf)); // only the missing value itself
@@ -142,7 +142,7 @@ TEST(V_QuantileM, LeavesOutMaskedRowsAndMissingValues)
 }
 
 // R 4.2: x <- c(2.5,3.1,4.7,5,7.9,11.2,.3); quantile(x, p, type=7)
-TEST(V_Quantile, AgreesWithPublishedFormulas)
+TEST(VQuantile, AgreesWithPublishedFormulas)
 {
     const std::vector<double> x{2.5, 3.1, 4.7, 5.0, 7.9, 11.2, 0.3};
     const std::vector<std::pair<double, double>> expected{

@@ -47,7 +47,7 @@ std::vector<double> plainThirteen(std::vector<double> x)
 
 } // namespace
 
-TEST(V_Quantiles13, ShiftsByAHalfUpToTheMedianAndByOneAboveIt)
+TEST(VQuantiles13, ShiftsByAHalfUpToTheMedianAndByOneAboveIt)
 {
     std::vector<double> eleven;
     for (int i = 11; i >= 1; --i)
@@ -56,7 +56,7 @@ TEST(V_Quantiles13, ShiftsByAHalfUpToTheMedianAndByOneAboveIt)
     EXPECT_THAT(V_Quantile(column(eleven), 11, 0.5), SameBits(6.0)); // the other rule
 }
 
-TEST(V_Quantiles13, FollowsItsFormToTheLastBit)
+TEST(VQuantiles13, FollowsItsFormToTheLastBit)
 {
     RandomData data(85);
     SCOPED_TRACE(data);
@@ -67,7 +67,7 @@ TEST(V_Quantiles13, FollowsItsFormToTheLastBit)
         }
 }
 
-TEST(V_Quantiles13, GivesTheFirstElementBeforeThePositionOne)
+TEST(VQuantiles13, GivesTheFirstElementBeforeThePositionOne)
 {
     EXPECT_THAT(thirteen({7}), SameBits(std::vector<double>(13, 7.0)));
     const auto two = thirteen({4, 2});
@@ -76,7 +76,7 @@ TEST(V_Quantiles13, GivesTheFirstElementBeforeThePositionOne)
     EXPECT_THAT(two[7], SameBits(2.0 + (0.6 + 1.0 - 1.0) * (4.0 - 2.0)));
 }
 
-TEST(V_Quantiles13, OfNothingReadsTheTable)
+TEST(VQuantiles13, OfNothingReadsTheTable)
 {
     EXPECT_THAT(thirteen({}), SameBits(std::vector<double>(13, -1.0)));
     // The first cell stands for every position before 1; the whole position 0 of p = 0.5 lies outside.
@@ -87,7 +87,7 @@ TEST(V_Quantiles13, OfNothingReadsTheTable)
     EXPECT_THAT(cellsOf(out), SameBits(expected));
 }
 
-TEST(V_Quantiles13, CountsMissingValues)
+TEST(VQuantiles13, CountsMissingValues)
 {
     const auto results = thirteen({3, M, M, 1, M});
     EXPECT_THAT(results[0], SameBits(M));
@@ -95,7 +95,7 @@ TEST(V_Quantiles13, CountsMissingValues)
     EXPECT_THAT(results[9], SameBits(1.0)); // h = 4
 }
 
-TEST(V_Quantiles13, SortsTheFirstElementsOfItsVectorInPlace)
+TEST(VQuantiles13, SortsTheFirstElementsOfItsVectorInPlace)
 {
     const auto x = column({4, 3, 2, 1});
     Owned<matrix> out = filled(15, 1, 77.0);
@@ -108,7 +108,7 @@ TEST(V_Quantiles13, SortsTheFirstElementsOfItsVectorInPlace)
     EXPECT_THAT(cellsOf(small), SameBits({2.0, 2.0}));
 }
 
-TEST(Cpp_V_Quantiles13, LeavesTheCallersVectorUnsorted)
+TEST(CppVQuantiles13, LeavesTheCallersVectorUnsorted)
 {
     RandomData data(86);
     SCOPED_TRACE(data);

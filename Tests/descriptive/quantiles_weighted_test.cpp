@@ -49,7 +49,7 @@ double plainStep(const std::vector<double>& x, const std::vector<double>& w, dou
 
 } // namespace
 
-TEST(V_QuantileW, StepsWithTheMidpointOnAnExactHit)
+TEST(VQuantileW, StepsWithTheMidpointOnAnExactHit)
 {
     EXPECT_THAT(weighted({1, 2, 3, 4}, {1, 1, 1, 2}, 0.2), SameBits(1.5));
     EXPECT_THAT(weighted({1, 2, 3, 4}, {1, 1, 1, 2}, 0.19), SameBits(1.0));
@@ -57,7 +57,7 @@ TEST(V_QuantileW, StepsWithTheMidpointOnAnExactHit)
     EXPECT_THAT(weighted({4, 1, 3, 2}, {2, 1, 1, 1}, 0.4), SameBits(2.5)); // weights travel with their values
 }
 
-TEST(V_QuantileW, FollowsTheWalkToTheLastBit)
+TEST(VQuantileW, FollowsTheWalkToTheLastBit)
 {
     RandomData data(83);
     SCOPED_TRACE(data);
@@ -71,7 +71,7 @@ TEST(V_QuantileW, FollowsTheWalkToTheLastBit)
     }
 }
 
-TEST(V_QuantileW, TiesKeepTheOrderOfTheInput)
+TEST(VQuantileW, TiesKeepTheOrderOfTheInput)
 {
     // Equal keys of either sign: the weights stand as they came, 1, 2, 1, and the hit at C = 1 lies between them.
     EXPECT_THAT(weighted({0.0, -0.0, 5}, {1, 2, 1}, 0.25), SameBits(0.0));
@@ -79,7 +79,7 @@ TEST(V_QuantileW, TiesKeepTheOrderOfTheInput)
     EXPECT_THAT(weighted({-0.0, 0.0, 5}, {1, 2, 1}, 0.2), SameBits(-0.0));
 }
 
-TEST(V_QuantileW, EqualWeightsMeanInterpolation)
+TEST(VQuantileW, EqualWeightsMeanInterpolation)
 {
     EXPECT_THAT(weighted({1, 2, 3, 4}, {1, 1, 1, 1}, 0.25), SameBits(1.75));
     EXPECT_THAT(weighted({1, 2, 3, 4}, {3, 3, 3, 3}, 0.25), SameBits(1.75));
@@ -91,7 +91,7 @@ TEST(V_QuantileW, EqualWeightsMeanInterpolation)
     EXPECT_THAT(weighted({7}, {2}, 0.3), SameBits(7.0));
 }
 
-TEST(V_QuantileW, AtTheEndsTakesTheSmallestAndTheLargestWhateverTheirWeights)
+TEST(VQuantileW, AtTheEndsTakesTheSmallestAndTheLargestWhateverTheirWeights)
 {
     EXPECT_THAT(weighted({5, 1, 3}, {2, 0, 1}, 0.0), SameBits(1.0));
     EXPECT_THAT(weighted({5, 1, 3}, {0, 2, 1}, 1.0), SameBits(5.0));
@@ -100,7 +100,7 @@ TEST(V_QuantileW, AtTheEndsTakesTheSmallestAndTheLargestWhateverTheirWeights)
     EXPECT_THAT(weighted({1, 3}, {-1, 2}, -0.0), SameBits(1.0));
 }
 
-TEST(V_QuantileW, IsMissingWhereNothingCounts)
+TEST(VQuantileW, IsMissingWhereNothingCounts)
 {
     EXPECT_THAT(weighted({1, 2}, {0, 0}, 0.5), SameBits(M));
     EXPECT_THAT(weighted({M, 2}, {3, 0}, 0.5), SameBits(M));
@@ -110,14 +110,14 @@ TEST(V_QuantileW, IsMissingWhereNothingCounts)
     EXPECT_THAT(V_QuantileW(column({1}), -4, column({1}), 0.5), SameBits(M));
 }
 
-TEST(V_QuantileW, DoesNotRemoveMissingValues)
+TEST(VQuantileW, DoesNotRemoveMissingValues)
 {
     // Sorted M, 1, 2 with 5, 1, 2: the target 2.4 of 8 is passed behind the first.
     EXPECT_THAT(weighted({1, M, 2}, {1, 5, 2}, 0.3), SameBits(M));
     EXPECT_THAT(masked({1, M, 2}, {0, 0, 0}, {1, 5, 2}, 0.3), SameBits(1.0));
 }
 
-TEST(V_QuantileW, NeverComparesTheSumThatHasTheLastWeight)
+TEST(VQuantileW, NeverComparesTheSumThatHasTheLastWeight)
 {
     EXPECT_THAT(weighted({1, 2, 3}, {1, 1, 8}, 0.95), SameBits(3.0));
     EXPECT_THAT(weighted({1, 2, 3}, {1, 2, 0}, 0.9), SameBits(2.0)); // C = 3 is above 2.7 at the last place
@@ -127,20 +127,20 @@ TEST(V_QuantileW, NeverComparesTheSumThatHasTheLastWeight)
     EXPECT_THAT(weighted({1, 2}, {least, 2 * least}, 0.9), SameBits(2.0));
 }
 
-TEST(V_QuantileW, ReadsMinusOneBeforeTheFirstValue)
+TEST(VQuantileW, ReadsMinusOneBeforeTheFirstValue)
 {
     EXPECT_THAT(weighted({4, 6}, {2, -2}, 0.5), SameBits((-1.0 + 4.0) * 0.5)); // a total of 0 is hit at once
     EXPECT_THAT(weighted({4, 6}, {1, 2}, -0.5), SameBits(-1.0));
     EXPECT_THAT(weighted({4, 6}, {1, 2}, 1.5), SameBits(6.0));
 }
 
-TEST(V_QuantileW, LeavesMissingWeightsOutOfTheTotalAndAddsThemInTheWalk)
+TEST(VQuantileW, LeavesMissingWeightsOutOfTheTotalAndAddsThemInTheWalk)
 {
     EXPECT_THAT(weighted({1, 2, 3}, {M, 1, 2}, 0.5), SameBits(3.0)); // the sum stays far below
     EXPECT_THAT(weighted({1, 2, 3}, {1, 2, M}, 0.5), SameBits(2.0));
 }
 
-TEST(V_QuantileW, ReadsItsTablesByTheCheckedReadAndLeavesThemAlone)
+TEST(VQuantileW, ReadsItsTablesByTheCheckedReadAndLeavesThemAlone)
 {
     const auto x = column({5, 3}), w = column({2, 1});
     // Third row: value -1 of weight -1. Sorted -1, 3, 5 with -1, 1, 2; target 1 of 2.
@@ -149,7 +149,7 @@ TEST(V_QuantileW, ReadsItsTablesByTheCheckedReadAndLeavesThemAlone)
     EXPECT_THAT(cellsOf(w), SameBits({2.0, 1.0}));
 }
 
-TEST(V_QuantileMW, PacksValuesAndWeightsInStep)
+TEST(VQuantileMW, PacksValuesAndWeightsInStep)
 {
     const std::vector<double> x{4, 99, 1, M, 3, 2}, w{2, 50, 1, 50, 1, 1};
     const std::vector<short> mask{0, 3, 0, 0, 0, 0};
@@ -161,7 +161,7 @@ TEST(V_QuantileMW, PacksValuesAndWeightsInStep)
     EXPECT_THAT(masked({1, 2, 3}, {0, 0, 0}, {M, 1, 2}, 0.5), SameBits(3.0));
 }
 
-TEST(V_QuantileMW, IsMissingWhereNothingIsLeft)
+TEST(VQuantileMW, IsMissingWhereNothingIsLeft)
 {
     EXPECT_THAT(masked({1, 2}, {1, 1}, {1, 2}, 0.5), SameBits(M));
     EXPECT_THAT(masked({M, 2}, {0, 1}, {1, 2}, 0.5), SameBits(M));
@@ -169,7 +169,7 @@ TEST(V_QuantileMW, IsMissingWhereNothingIsLeft)
     EXPECT_THAT(masked({}, {}, {}, 0.5), SameBits(M));
 }
 
-TEST(M_QuantileMW, WorksOnAColumn)
+TEST(MQuantileMW, WorksOnAColumn)
 {
     const auto m = byColumns({{9, 9, 9, 9}, {4, 1, 3, 2}});
     std::vector<short> mask(4, 0);

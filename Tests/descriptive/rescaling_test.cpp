@@ -44,7 +44,7 @@ Normalised plainly(Cells x, std::size_t n, std::size_t p, const std::vector<shor
     return {x, norms};
 }
 
-TEST(M_Normalize, FollowsTheStepsWrittenOut)
+TEST(MNormalize, FollowsTheStepsWrittenOut)
 {
     RandomData data(20281);
     SCOPED_TRACE(data);
@@ -76,7 +76,7 @@ TEST(M_Normalize, FollowsTheStepsWrittenOut)
     }
 }
 
-TEST(M_Normalize, HasNoGuard)
+TEST(MNormalize, HasNoGuard)
 {
     auto zeros = column({0, 0});
     Owned<matrix> norms;
@@ -93,7 +93,7 @@ TEST(M_Normalize, HasNoGuard)
     EXPECT_THAT(norms->X[0], SameBits(0.0));
 }
 
-TEST(M_NormalizeMatrix, DividesTheCompanionsUntested)
+TEST(MNormalizeMatrix, DividesTheCompanionsUntested)
 {
     const Cells x{3, 4, 6, 8};
     const double c = std::sqrt(2.0 / (-1.0 + 2.0));
@@ -126,14 +126,14 @@ Cells rescaled(const Cells& x, double low, double high, std::vector<short> mask)
     return out.values();
 }
 
-TEST(V_Rescale, BringsTheCellsToTheRange)
+TEST(VRescale, BringsTheCellsToTheRange)
 {
     EXPECT_THAT(rescaled({2, 4, 3}, 0, 10, {0, 0, 0}), SameBits({0, 10, 5}));
     EXPECT_THAT(rescaled({2, 4, 99, 3}, 1, 2, {0, 0, 4, 0}), SameBits({1, 2, M, 1.5}));
     EXPECT_THAT(rescaled({1, 4, 2}, 0.1, 0.7, {0, 0, 0})[2], SameBits((2.0 - 1.0) * (0.7 - 0.1) / 3.0 + 0.1));
 }
 
-TEST(V_Rescale, MultipliesBeforeItDivides)
+TEST(VRescale, MultipliesBeforeItDivides)
 {
     RandomData data(20282);
     SCOPED_TRACE(data);
@@ -148,19 +148,19 @@ TEST(V_Rescale, MultipliesBeforeItDivides)
     EXPECT_THAT(rescaled(x, low, high, std::vector<short>(x.size(), 0)), SameBits(wanted));
 }
 
-TEST(V_Rescale, TakesTheMiddleWithoutSpread)
+TEST(VRescale, TakesTheMiddleWithoutSpread)
 {
     EXPECT_THAT(rescaled({4, 4, 4}, 0, 10, {0, 0, -1}), SameBits({5, 5, M}));
     EXPECT_THAT(rescaled({0, 1e-16}, 0, 10, {0, 0}), SameBits({5, 5}));
     EXPECT_THAT(rescaled({0, 2.220446049250313e-16}, 0, 10, {0, 0}), SameBits({0, 10})); // not below
 }
 
-TEST(V_Rescale, ComputesAMissingCellLikeAnyOther)
+TEST(VRescale, ComputesAMissingCellLikeAnyOther)
 {
     EXPECT_THAT(rescaled({2, M, 4}, 0, 1, {0, 0, 0}), SameBits({0, (M - 2) * 1 / 2 + 0, 1}));
 }
 
-TEST(VB_M_RescaleByVect, MasksEachColumnByItself)
+TEST(VBMRescaleByVect, MasksEachColumnByItself)
 {
     const Cells x{1, 3, M, 10, 30, 20};
     std::vector<short> none{0, 0, 1};

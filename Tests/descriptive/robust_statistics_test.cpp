@@ -68,7 +68,7 @@ const std::vector<double> reference{2.5, 3.1, 4.7, 5.0, 7.9, 11.2, 0.3};
 
 } // namespace
 
-TEST(V_MedianAbsDev, IsTheMedianOfTheDeviationsOfTheRowsLeft)
+TEST(VMedianAbsDev, IsTheMedianOfTheDeviationsOfTheRowsLeft)
 {
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9, M}, 2, {0, 0, 0, 0, 0}, {1, 1, 1, 1, 1}), SameBits(2.5)); // 1, 0, 4, 7
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9, M}, 2, {0, 0, 0, 8, 0}, {1, 1, 1, 1, 1}), SameBits(1.0));
@@ -76,7 +76,7 @@ TEST(V_MedianAbsDev, IsTheMedianOfTheDeviationsOfTheRowsLeft)
     EXPECT_THAT(medianAbsDev({}, 2, {}, {}), SameBits(M));
 }
 
-TEST(V_MedianAbsDev, StepsWhereTheWeightsDiffer)
+TEST(VMedianAbsDev, StepsWhereTheWeightsDiffer)
 {
     // Deviations 1, 0, 4, 7; sorted 0, 1, 4, 7 with 1, 1, 1, 3: target 3 of 6 is hit between 4 and 7.
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9}, 2, {0, 0, 0, 0}, {1, 1, 1, 3}), SameBits(5.5));
@@ -86,7 +86,7 @@ TEST(V_MedianAbsDev, StepsWhereTheWeightsDiffer)
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9}, 2, {0, 0, 0, 0}, {0, 0, 0, 0}), SameBits(2.5));
 }
 
-TEST(V_MeanAbsDev, DividesByTheSumOfTheWeights)
+TEST(VMeanAbsDev, DividesByTheSumOfTheWeights)
 {
     EXPECT_THAT(meanAbsDev({1, 2, 6, M, 50}, 2, {0, 0, 0, 0, 1}, {1, 5, 2, 9, 9}), SameBits(9.0 / 8.0));
     EXPECT_THAT(meanAbsDev({1, 2}, 2, {1, -1}, {1, 1}), SameBits(M));
@@ -97,7 +97,7 @@ TEST(V_MeanAbsDev, DividesByTheSumOfTheWeights)
     EXPECT_TRUE(std::isnan(meanAbsDev({1, inf}, 2, {0, 0}, {1, 0})));
 }
 
-TEST(V_MedianAbsDev2, FindsTheCentreOrKeepsTheOneGiven)
+TEST(VMedianAbsDev2, FindsTheCentreOrKeepsTheOneGiven)
 {
     EXPECT_THAT(medianAbsDev2({1, 2, 6}, M), SameBits({1.0, 2.0}));
     EXPECT_THAT(medianAbsDev2({1, 2, 6}, 6.0), SameBits({4.0, 6.0}));
@@ -105,7 +105,7 @@ TEST(V_MedianAbsDev2, FindsTheCentreOrKeepsTheOneGiven)
     EXPECT_THAT(medianAbsDev2({5, 5, 5}, M), SameBits({0.0, 5.0}));
 }
 
-TEST(V_MedianAbsDev2, LetsMissingValuesDrawBothMediansDown)
+TEST(VMedianAbsDev2, LetsMissingValuesDrawBothMediansDown)
 {
     // Sorted M, 1, 2, 6, 9: centre 2. Deviations 1, 0, 4, 7 and a missing one: sorted M, 0, 1, 4, 7.
     EXPECT_THAT(medianAbsDev2({1, 2, M, 6, 9}, M), SameBits({1.0, 2.0}));
@@ -114,7 +114,7 @@ TEST(V_MedianAbsDev2, LetsMissingValuesDrawBothMediansDown)
     EXPECT_THAT(medianAbsDev2({M, M, M, 5}, M), SameBits({M, M}));
 }
 
-TEST(V_MeanStdev2, IsTheUpdatingFormOverWhatIsAboveTheMissingValue)
+TEST(VMeanStdev2, IsTheUpdatingFormOverWhatIsAboveTheMissingValue)
 {
     const std::vector<double> x{0.3, M, 1.9, notANumber, 0.7, -inf, std::nextafter(M, -inf), 2.2};
     double mean = 0.0, Q = 0.0, m = 0.0;
@@ -129,7 +129,7 @@ TEST(V_MeanStdev2, IsTheUpdatingFormOverWhatIsAboveTheMissingValue)
     EXPECT_THAT(meanStdev2(x, -1), SameBits({mean, std::sqrt(Q / 3.0)}));
 }
 
-TEST(V_MeanStdev2, GuardsNeitherNoCellsNorOne)
+TEST(VMeanStdev2, GuardsNeitherNoCellsNorOne)
 {
     EXPECT_THAT(meanStdev2({}, 0)[0], SameBits(0.0));
     EXPECT_TRUE(std::isnan(meanStdev2({}, 0)[1]));
@@ -138,21 +138,21 @@ TEST(V_MeanStdev2, GuardsNeitherNoCellsNorOne)
     EXPECT_TRUE(std::isnan(meanStdev2({5}, -1)[1]));
 }
 
-TEST(V_Winsorize2, ClipsToTheQuantiles)
+TEST(VWinsorize2, ClipsToTheQuantiles)
 {
     EXPECT_THAT(winsorized({5, 1, 4, 2, 3}, 0.25, 0.75), SameBits({4.0, 2.0, 4.0, 2.0, 3.0}));
     EXPECT_THAT(winsorized({5, 1, 4, 2, 3}, 0.0, 1.0), SameBits({5.0, 1.0, 4.0, 2.0, 3.0}));
     EXPECT_THAT(winsorized({}, 0.1, 0.9), SameBits(std::vector<double>{}));
 }
 
-TEST(V_Winsorize2, LeavesMissingCellsButCountsThemInBothLimits)
+TEST(VWinsorize2, LeavesMissingCellsButCountsThemInBothLimits)
 {
     // Sorted M, 1, 2, 3, 4: limits 1 and 3, where 1, 2, 3, 4 alone have 1.75 and 3.25.
     EXPECT_THAT(winsorized({4, M, 3, 1, 2}, 0.25, 0.75), SameBits({3.0, M, 3.0, 1.0, 2.0}));
     EXPECT_THAT(winsorized({4, 3, 1, 2}, 0.25, 0.75), SameBits({3.25, 3.0, 1.75, 2.0}));
 }
 
-TEST(V_Winsorize2, StaysInsideItsTable)
+TEST(VWinsorize2, StaysInsideItsTable)
 {
     const auto v = column({4, 2});
     V_Winsorize2(v.get(), 3, 0.5, 1.0); // the third reads -1.0, and is not written
@@ -162,7 +162,7 @@ TEST(V_Winsorize2, StaysInsideItsTable)
     EXPECT_THAT(cellsOf(longer), SameBits({1.0, 2.0, 2.0, 50.0}));
 }
 
-TEST(V_ZScores, ClassicalScoresComputeMeanAndDeviationWhereTheMeanIsMissing)
+TEST(VZScores, ClassicalScoresComputeMeanAndDeviationWhereTheMeanIsMissing)
 {
     double mean = M, stdev = 99.0;
     const auto out = filled(5, 1, 77.0);
@@ -175,7 +175,7 @@ TEST(V_ZScores, ClassicalScoresComputeMeanAndDeviationWhereTheMeanIsMissing)
     EXPECT_THAT(scores({1, 2, 7}, 0, 2.0, M), SameBits({M, M, M}));
 }
 
-TEST(V_ZScores, RobustScoresMultiplyBeforeTheyDivide)
+TEST(VZScores, RobustScoresMultiplyBeforeTheyDivide)
 {
     double mean = 11.0, stdev = 12.0;
     const auto out = filled(4, 1, 77.0);
@@ -192,7 +192,7 @@ TEST(V_ZScores, RobustScoresMultiplyBeforeTheyDivide)
     EXPECT_THAT(cellsOf(out), SameBits(expected));
 }
 
-TEST(V_ZScores, AreMissingWhereTheScaleIsNegligible)
+TEST(VZScores, AreMissingWhereTheScaleIsNegligible)
 {
     EXPECT_THAT(scores({5, 5, 5}, 0), SameBits({M, M, M}));
     EXPECT_THAT(scores({5, 5, 5}, 1), SameBits({M, M, M}));
@@ -203,7 +203,7 @@ TEST(V_ZScores, AreMissingWhereTheScaleIsNegligible)
     EXPECT_THAT(scores({5}, 0, 5.0, -1.0), SameBits({M}));
 }
 
-TEST(V_ZScores, TakeAMissingCellForTheNumberItIs)
+TEST(VZScores, TakeAMissingCellForTheNumberItIs)
 {
     EXPECT_THAT(scores({M, 5}, 0, 1.0, 2.0), SameBits({(M - 1.0) / 2.0, 2.0}));
     EXPECT_LT(scores({1, 2, 3, 6, M}, 1)[4], -1e300);

@@ -56,7 +56,7 @@ std::vector<std::vector<double>> scatters(const Data& d, int group)
     return {cellsOf(fromInts), cellsOf(fromDoubles), cellsOf(fromColumns)};
 }
 
-TEST(M_Inertie_W, AddsTheWeightedProductsOfTheDeviations)
+TEST(MInertieW, AddsTheWeightedProductsOfTheDeviations)
 {
     RandomData random(691);
     SCOPED_TRACE(random);
@@ -73,7 +73,7 @@ TEST(M_Inertie_W, AddsTheWeightedProductsOfTheDeviations)
         }
 }
 
-TEST(M_Inertie_W, GroupsCountFromZero)
+TEST(MInertieW, GroupsCountFromZero)
 {
     const Data data{{3, 1, {5, 7, 100}, {}, {1, 2, 1}}, {1, 1, 0}, {99, 4}, 2};
     for (const auto& T : scatters(data, 1))
@@ -86,7 +86,7 @@ TEST(M_Inertie_W, GroupsCountFromZero)
         EXPECT_THAT(T, SameBits({0.0}));
 }
 
-TEST(M_Inertie_W, AGroupWithoutACentreReadsMinusOne)
+TEST(MInertieW, AGroupWithoutACentreReadsMinusOne)
 {
     Owned<matrix> T, S;
     M_Inertie_W(column({5}), 1, 1, column({1}), 4, intColumn({4}), column({99, 4}), T);
@@ -96,14 +96,14 @@ TEST(M_Inertie_W, AGroupWithoutACentreReadsMinusOne)
     EXPECT_THAT(cellsOf(S), SameBits({36.0}));
 }
 
-TEST(M_Inertie_W, TestsNoCellForTheMissingValue)
+TEST(MInertieW, TestsNoCellForTheMissingValue)
 {
     const Data data{{2, 1, {M, 1}, {}, {1, 1}}, {0, 0}, {0}, 1};
     for (const auto& T : scatters(data, -1))
         EXPECT_THAT(T, SameBits({inf}));
 }
 
-TEST(M_Inertie_W, ADoubleGroupIsComparedAsItIsAndTruncatedForItsCentre)
+TEST(MInertieW, ADoubleGroupIsComparedAsItIsAndTruncatedForItsCentre)
 {
     Owned<matrix> T;
     const auto run = [&](int group) {
@@ -114,7 +114,7 @@ TEST(M_Inertie_W, ADoubleGroupIsComparedAsItIsAndTruncatedForItsCentre)
     EXPECT_THAT(run(-1), SameBits(4.0 + 4.0)); // but its centre is the second row
 }
 
-TEST(M_Inertie_W, AddsNothingWhereTheShapesDiffer)
+TEST(MInertieW, AddsNothingWhereTheShapesDiffer)
 {
     // A T kept larger than p, and an X of more columns than p.
     Owned<matrix> large = filled(3, 3, 9.0), T;
@@ -132,7 +132,7 @@ TEST(M_Inertie_W, AddsNothingWhereTheShapesDiffer)
     EXPECT_THAT(cellsOf(kept), SameBits({10, 20, 0, 20, 49, 9, 9, 9, 9}));
 }
 
-TEST(M_Inertie_W, PreparesItsResult)
+TEST(MInertieW, PreparesItsResult)
 {
     Owned<matrix> T = filled(1, 1, 9.0);
     M_Inertie_W(column({5}), 1, 1, column({2}), -1, intColumn({0}), column({4}), T);

@@ -81,7 +81,7 @@ void expectSame(const Standardised& actual, const Standardised& wanted)
     EXPECT_THAT(actual.var, SameBits(wanted.var));
 }
 
-TEST(M_Standardize, FollowsTheStepsWrittenOut)
+TEST(MStandardize, FollowsTheStepsWrittenOut)
 {
     RandomData data(20271);
     SCOPED_TRACE(data);
@@ -110,7 +110,7 @@ TEST(M_Standardize, FollowsTheStepsWrittenOut)
     }
 }
 
-TEST(M_Standardize, EndsAtADivisorOfZero)
+TEST(MStandardize, EndsAtADivisorOfZero)
 {
     const auto result = standardised({5, 1, 2}, 1, 3, {}, {1}, -1, -1);
     expectSame(result, {{0, 0, 0}, {M, 0, 0}, {M, 0, 0}, {M, 0, 0}});
@@ -122,13 +122,13 @@ TEST(M_Standardize, EndsAtADivisorOfZero)
     EXPECT_THAT(later.var[1], SameBits(2.0));
 }
 
-TEST(M_Standardize, DividesAConstantColumnByOne)
+TEST(MStandardize, DividesAConstantColumnByOne)
 {
     const auto result = standardised({4, 4, 4}, 3, 1, {}, {1, 1, 1}, 0, 0);
     expectSame(result, {{0, 0, 0}, {4}, {0}, {0}});
 }
 
-TEST(M_StandardizeW, HasNoMissingTestAndCorrectsByTheArgumentN)
+TEST(MStandardizeW, HasNoMissingTestAndCorrectsByTheArgumentN)
 {
     RandomData data(20272);
     SCOPED_TRACE(data);
@@ -169,7 +169,7 @@ TEST(M_StandardizeW, HasNoMissingTestAndCorrectsByTheArgumentN)
     EXPECT_THAT(cellsOf(z), SameBits({0, 0}));
 }
 
-TEST(M_StandardizeKnownMeansStDev, IsListwiseWithoutAMask)
+TEST(MStandardizeKnownMeansStDev, IsListwiseWithoutAMask)
 {
     auto x = table(3, 2, {1, 2, 3, 10, M, 30});
     Owned<matrix> z;
@@ -177,7 +177,7 @@ TEST(M_StandardizeKnownMeansStDev, IsListwiseWithoutAMask)
     EXPECT_THAT(cellsOf(z), SameBits({0, M, 1, 0, M, 20})); // a deviation of 0 divides as 1
 }
 
-TEST(M_StandardizeKnownMeansStDev, DoesNotTestACellOfAKeptRow)
+TEST(MStandardizeKnownMeansStDev, DoesNotTestACellOfAKeptRow)
 {
     auto x = table(2, 1, {M, 8});
     std::vector<short> mask{0, 5};
@@ -193,7 +193,7 @@ TEST(M_StandardizeKnownMeansStDev, DoesNotTestACellOfAKeptRow)
     EXPECT_TRUE(X.untouched() && mean.untouched() && var.untouched());
 }
 
-TEST(M_StandardizeMatrix, CentresXAndOnlyDividesTheOthers)
+TEST(MStandardizeMatrix, CentresXAndOnlyDividesTheOthers)
 {
     // Plain divisor: the deviations are 1 and 2.
     auto X = table(2, 2, {1, 3, 10, 14});
@@ -210,7 +210,7 @@ TEST(M_StandardizeMatrix, CentresXAndOnlyDividesTheOthers)
     EXPECT_THAT(y.values(), SameBits({M, 3}));
 }
 
-TEST(M_StandardizeMatrix, DividesTheOthersByTheDeviationAsItIs)
+TEST(MStandardizeMatrix, DividesTheOthersByTheDeviationAsItIs)
 {
     const double inf = std::numeric_limits<double>::infinity();
     // Without spread X is divided by 1.0, the others by 0.
@@ -230,7 +230,7 @@ TEST(M_StandardizeMatrix, DividesTheOthersByTheDeviationAsItIs)
     EXPECT_THAT(cellsOf(others), SameBits({7, 8 / M, inf}));
 }
 
-TEST(M_SubstractFirstCol2, ClearsTheFirstColumnOnly)
+TEST(MSubstractFirstCol2, ClearsTheFirstColumnOnly)
 {
     const auto x = table(2, 3, {3, M, 4, 7, 5, 8});
     M_SubstractFirstCol2(x.get(), 2, 3);
@@ -240,7 +240,7 @@ TEST(M_SubstractFirstCol2, ClearsTheFirstColumnOnly)
     EXPECT_THAT(flat.values(), SameBits({0, 4, 5}));
 }
 
-TEST(VB_V_Standardize, IsTheTableFormOfOneColumn)
+TEST(VBVStandardize, IsTheTableFormOfOneColumn)
 {
     const Cells x{1, 2, M, 4, 8};
     std::vector<short> mask{0, 1, 0, 0, 0};
@@ -256,7 +256,7 @@ TEST(VB_V_Standardize, IsTheTableFormOfOneColumn)
     }
 }
 
-TEST(VB_M_StandardizeByVect, MasksEachColumnByItself)
+TEST(VBMStandardizeByVect, MasksEachColumnByItself)
 {
     // The second cell of the second column is missing by the order test alone: it is dropped there, not in the first.
     const double below = -std::numeric_limits<double>::infinity();

@@ -310,7 +310,7 @@ TEST(MatrixRanksTies, ranksOneColumnAndLeavesTheOthers)
 
 // ---- flat forms -----------------------------------------------------------------------------------------------------
 
-TEST(VbGetRanks, writeTheRanksAndLeaveTheValues)
+TEST(VBGetRanks, writeTheRanksAndLeaveTheValues)
 {
     Guarded<double> x({3, M, 3, 1});
     Guarded<double> ranks(4, 0.5);
@@ -322,7 +322,7 @@ TEST(VbGetRanks, writeTheRanksAndLeaveTheValues)
     EXPECT_TRUE(x.untouched());
 }
 
-TEST(VbGetRanksTies, eachCallsItsRuleAndOnlyTheMeansClearTheSizes)
+TEST(VBGetRanksTies, eachCallsItsRuleAndOnlyTheMeansClearTheSizes)
 {
     Guarded<double> x({2, 1, 2});
     Guarded<double> weights({1, 5, 1});

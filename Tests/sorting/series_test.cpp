@@ -104,7 +104,7 @@ TEST(TimeIntervalSize, aMissingTimeIsANumberLikeAnyOther)
     EXPECT_THAT(step({M, M}), SameBits(0.0));
 }
 
-TEST(VbSeries, flatFormsAnswerAndLeaveTheSeries)
+TEST(VBSeries, flatFormsAnswerAndLeaveTheSeries)
 {
     Guarded<double> x({3, 1, 2});
     EXPECT_EQ(VB_V_IsSorted(x, 3, 0), 0);

@@ -112,7 +112,7 @@ TEST(SortApplyStr, movesStringsAndReadsAnEmptyOneBeyondTheTable)
     EXPECT_EQ(cellsOf(out), (Texts{L"c", L"", L"d", L"d"}));
 }
 
-TEST(VbSortApply, givesTheRowsInAnotherArray)
+TEST(VBSortApply, givesTheRowsInAnotherArray)
 {
     Guarded<double> source({1, 2, 3, 4, M, 6});
     Guarded<double> order({2, 2, 1});
@@ -132,7 +132,7 @@ TEST(VbSortApply, givesTheRowsInAnotherArray)
     EXPECT_TRUE(source.untouched() && order.untouched() && ints.untouched());
 }
 
-TEST(VbSortApply, theResultMayBeTheOrderOrTheSource)
+TEST(VBSortApply, theResultMayBeTheOrderOrTheSource)
 {
     Guarded<double> source({10, 20, 30});
     Guarded<double> order({3, 1, 2});
@@ -145,7 +145,7 @@ TEST(VbSortApply, theResultMayBeTheOrderOrTheSource)
     EXPECT_TRUE(again.untouched());
 }
 
-TEST(VbSortApply2, worksInPlace)
+TEST(VBSortApply2, worksInPlace)
 {
     Guarded<double> table({1, 2, 3, 4, M, 6});
     Guarded<double> order({3, 1, 1});
@@ -160,7 +160,7 @@ TEST(VbSortApply2, worksInPlace)
     EXPECT_TRUE(order.untouched());
 }
 
-TEST(VbSortApply, noRowsIsNoWork)
+TEST(VBSortApply, noRowsIsNoWork)
 {
     Guarded<double> cell({5});
     VB_SortApply(cell, 0, 1, cell, cell);

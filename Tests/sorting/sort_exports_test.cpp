@@ -16,7 +16,7 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-TEST(VbSortQVector, sortsTheRange)
+TEST(VBSortQVector, sortsTheRange)
 {
     Guarded<double> x({5, 3, M, 4, 1});
     EXPECT_EQ(VB_SortQVectorDbl(x, 5, 2, 5, 0), 0);
@@ -28,7 +28,7 @@ TEST(VbSortQVector, sortsTheRange)
     EXPECT_EQ(k.values(), (std::vector<int>{5, -2, 1, 3, 4}));
 }
 
-TEST(VbSortQVector, ofStringsIsDescendingForAnyOptionButZero)
+TEST(VBSortQVector, ofStringsIsDescendingForAnyOptionButZero)
 {
     for (const short descending : {short{0}, short{1}, short{-1}}) {
         BstrArray x({L"b", L"c", L"", L"a", L"0"});
@@ -39,7 +39,7 @@ TEST(VbSortQVector, ofStringsIsDescendingForAnyOptionButZero)
     }
 }
 
-TEST(VbSortQVector, ofNumbersIsDescendingOnlyForMinusOne)
+TEST(VBSortQVector, ofNumbersIsDescendingOnlyForMinusOne)
 {
     Guarded<double> x({2, 1, 3});
     VB_SortQVectorDbl(x, 3, 1, 3, 1);
@@ -49,7 +49,7 @@ TEST(VbSortQVector, ofNumbersIsDescendingOnlyForMinusOne)
     EXPECT_EQ(k.values(), (std::vector<int>{1, 2, 3}));
 }
 
-TEST(VbSortQVector, oneElementStaysAndNoneIsNoWork)
+TEST(VBSortQVector, oneElementStaysAndNoneIsNoWork)
 {
     Guarded<double> x({7});
     VB_SortQVectorDbl(x, 1, 1, 1, 0);
@@ -66,7 +66,7 @@ TEST(VbSortQVector, oneElementStaysAndNoneIsNoWork)
     EXPECT_EQ(texts.texts(), (Texts{L"x"}));
 }
 
-TEST(VbSortQMatrixCol, sortsRowsByAColumn)
+TEST(VBSortQMatrixCol, sortsRowsByAColumn)
 {
     Guarded<double> table({2, 1, 2, 1, 2, 3});
     EXPECT_EQ(VB_SortQMatrixCol(table, 3, 2, 1, 1, 3, -1), 0);
@@ -77,7 +77,7 @@ TEST(VbSortQMatrixCol, sortsRowsByAColumn)
 }
 
 // Rows (1, 2), (1, 1), (0, 3), each in its column.
-TEST(VbSortMatrixSeqQ, theFlagChoosesTheMajorKey)
+TEST(VBSortMatrixSeqQ, theFlagChoosesTheMajorKey)
 {
     Guarded<double> down({1, 1, 0, 2, 1, 3});
     EXPECT_EQ(VB_SortMatrixSeqQDbl(down, 3, 2, -1), 0);
@@ -90,7 +90,7 @@ TEST(VbSortMatrixSeqQ, theFlagChoosesTheMajorKey)
     EXPECT_EQ(ints.values(), (std::vector<int>{0, 1, 1, 3, 1, 2}));
 }
 
-TEST(VbSortMatrixSeqQP1toP2, sortsTheCallersArrayBySomeColumns)
+TEST(VBSortMatrixSeqQP1toP2, sortsTheCallersArrayBySomeColumns)
 {
     Guarded<double> table({9, 8, 7, 1, 1, 0, 2, 1, 3});
     EXPECT_EQ(VB_SortMatrixSeqQP1toP2Dbl(table, 3, 3, 2, 3, -1), 0);
@@ -100,7 +100,7 @@ TEST(VbSortMatrixSeqQP1toP2, sortsTheCallersArrayBySomeColumns)
     EXPECT_EQ(ints.values(), (std::vector<int>{8, 9, 7, 1, 1, 0, 1, 2, 3}));
 }
 
-TEST(VbSortQ, rearrangesDataAndCompanionAndWritesTheKeysOnRequest)
+TEST(VBSortQ, rearrangesDataAndCompanionAndWritesTheKeysOnRequest)
 {
     for (const short writeKeys : {short{0}, short{1}, short{-1}}) {
         const bool written = writeKeys == -1;
@@ -138,7 +138,7 @@ TEST(VbSortQ, rearrangesDataAndCompanionAndWritesTheKeysOnRequest)
     }
 }
 
-TEST(VbSortQ, onlyMinusOneIsDescending)
+TEST(VBSortQ, onlyMinusOneIsDescending)
 {
     Guarded<double> data({1, 2});
     Guarded<double> key({2, 1});
@@ -150,7 +150,7 @@ TEST(VbSortQ, onlyMinusOneIsDescending)
     EXPECT_THAT(companion.values(), SameBits({8, 7}));
 }
 
-TEST(VbSortQ, rowsOutsideTheRangeStay)
+TEST(VBSortQ, rowsOutsideTheRangeStay)
 {
     Guarded<double> data({1, 2, 3, 4});
     Guarded<double> key({9, 3, 2, 0});
@@ -161,7 +161,7 @@ TEST(VbSortQ, rowsOutsideTheRangeStay)
     EXPECT_THAT(companion.values(), SameBits({5, 7, 6, 8}));
 }
 
-TEST(VbSortQ, noColumnsCountAsOneInDataAndCompanion)
+TEST(VBSortQ, noColumnsCountAsOneInDataAndCompanion)
 {
     Guarded<double> data({1, 2});
     Guarded<double> key({2, 1});
@@ -209,7 +209,7 @@ TEST(VbSortQ, noColumnsCountAsOneInDataAndCompanion)
     EXPECT_TRUE(key.untouched());
 }
 
-TEST(VbSortQBool, trueComesBackAsMinusOneAlsoOutsideTheRange)
+TEST(VBSortQBool, trueComesBackAsMinusOneAlsoOutsideTheRange)
 {
     Guarded<short> data({1, 2, 0, -1});
     Guarded<double> key({0, 3, 2, 1});
@@ -220,7 +220,7 @@ TEST(VbSortQBool, trueComesBackAsMinusOneAlsoOutsideTheRange)
     EXPECT_THAT(companion.values(), SameBits({1, 4, 3, 2}));
 }
 
-TEST(VbSortQSPV, givesWhatTheFlatFormGives)
+TEST(VBSortQSPV, givesWhatTheFlatFormGives)
 {
     const int n = 60;
     const int cols = 3;
@@ -268,7 +268,7 @@ TEST(VbSortQSPV, givesWhatTheFlatFormGives)
     }
 }
 
-TEST(VbSortQByColDbl, movesColumnsAndTakesNoRowsAsOne)
+TEST(VBSortQByColDbl, movesColumnsAndTakesNoRowsAsOne)
 {
     Guarded<double> data({1, 2, 3, 4, 5, 6});
     Guarded<double> key({3, 1, 2});
@@ -289,7 +289,7 @@ TEST(VbSortQByColDbl, movesColumnsAndTakesNoRowsAsOne)
 
 // ---- by an indicator ------------------------------------------------------------------------------------------------
 
-TEST(VbSortDataBy01, groupsKeepTheirOrderAndTheKeysStayAsTheyWere)
+TEST(VBSortDataBy01, groupsKeepTheirOrderAndTheKeysStayAsTheyWere)
 {
     Guarded<double> data({1, 2, 3, 4, 5, 6, 7, 8});
     Guarded<double> key({1, 0, 1, 0});
@@ -304,7 +304,7 @@ TEST(VbSortDataBy01, groupsKeepTheirOrderAndTheKeysStayAsTheyWere)
     EXPECT_TRUE(key.untouched());
 }
 
-TEST(VbSortDataBy01, noColumnsCountAsOne)
+TEST(VBSortDataBy01, noColumnsCountAsOne)
 {
     Guarded<double> key({1, 0});
     Guarded<double> data({1, 2});
@@ -318,7 +318,7 @@ TEST(VbSortDataBy01, noColumnsCountAsOne)
     EXPECT_THAT(columns.numbers(), SameBits({2, 1}));
 }
 
-TEST(VbSortDataBy01, oneRowStaysAndNoRowIsNoWork)
+TEST(VBSortDataBy01, oneRowStaysAndNoRowIsNoWork)
 {
     Guarded<double> data({5});
     Guarded<double> key({1});
@@ -341,7 +341,7 @@ struct References
     }
 };
 
-TEST(VbSortDataBy01Str, movesReferencesAndCopiesNoString)
+TEST(VBSortDataBy01Str, movesReferencesAndCopiesNoString)
 {
     const References given({L"a", L"b", L"c", L"d", L"", L"f"});
     std::vector<wchar_t*> slots = given.slots;
@@ -355,7 +355,7 @@ TEST(VbSortDataBy01Str, movesReferencesAndCopiesNoString)
     EXPECT_EQ(data.values(), (std::vector<wchar_t*>{slots[0], slots[1], slots[2], slots[5], slots[4], nullptr}));
 }
 
-TEST(VbSortDataBy01Str, groupsKeepTheirOrder)
+TEST(VBSortDataBy01Str, groupsKeepTheirOrder)
 {
     RandomData random(5);
     SCOPED_TRACE(random);
@@ -368,7 +368,7 @@ TEST(VbSortDataBy01Str, groupsKeepTheirOrder)
     EXPECT_TRUE(key.untouched());
 }
 
-TEST(VbSortDataBy01Str, oneRowStaysAndNoRowIsNoWork)
+TEST(VBSortDataBy01Str, oneRowStaysAndNoRowIsNoWork)
 {
     const References given({L"x"});
     Guarded<wchar_t*> data(given.slots);
