@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """ole_calls.py CALLS PROGRAM...: the calls that CALLS tells of, repeated with arrays of OLE Automation.
 
-CALLS is what write_calls of the native build has written, PROGRAM what runs ole_calls.exe. Every array and string must
+CALLS is what write_host_calls of the native build has written, PROGRAM what runs ole_calls.exe. Every array and string must
 come back bit for bit as in the native build, and nothing that the library made may damage the heap of its host.
 """
 
