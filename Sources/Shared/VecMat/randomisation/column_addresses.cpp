@@ -16,7 +16,7 @@ bool beginsWithDigit(const std::wstring& text)
     return !text.empty() && text.front() >= L'0' && text.front() <= L'9';
 }
 
-/// The number of a column by its letters. No letters are taken as one with the code 0.
+/// The number of a column from its letters. No letters are treated as one letter with code 0.
 double columnNumber(const std::wstring& letters)
 {
     constexpr double base = 26.0;
@@ -31,20 +31,20 @@ double columnNumber(const std::wstring& letters)
     return number + lastCode + -64.0;
 }
 
-/// What is left of an address list while it is read.
+/// The unread part of an address list.
 class Remainder
 {
 public:
     explicit Remainder(const std::wstring& text) : text_(text) {}
 
-    /// The text between the next "$" and the delimiter behind it. Then what is left begins behind the first delimiter,
+    /// The text between the next "$" and the delimiter after it. The unread part then begins after the first delimiter,
     /// if there is one.
     std::wstring takeColumn(const wchar_t* delimiter)
     {
         const auto sign = text_.find(L'$', start_);
         const auto end = text_.find(delimiter, sign == std::wstring::npos ? start_ : sign + 1);
-        // Nothing behind the delimiter is handed over: a copy of all that is left, for every column, would make the
-        // reading quadratic.
+        // Nothing after the delimiter is passed on: copying the whole unread part for every column would make reading
+        // quadratic.
         const auto length = end == std::wstring::npos ? std::wstring::npos : end + 1 - start_;
         std::wstring column = cStrBetweenChrAndChr(text_.substr(start_, length), L"$", delimiter);
         const auto next = text_.find(delimiter, start_);
@@ -53,7 +53,7 @@ public:
         return column;
     }
 
-    /// All that is left, less its first character.
+    /// The whole unread part, without its first character.
     std::wstring takeLastColumn() const { return start_ < text_.size() ? text_.substr(start_ + 1) : std::wstring(); }
 
 private:
@@ -78,11 +78,11 @@ public:
     const std::wstring& first(int piece) const { return columns_.X[piece - 1]; }
     const std::wstring& last(int piece) const { return columns_.X[count_ + piece - 1]; }
 
-    /// Does this piece begin with the column behind the end of the piece before?
+    /// Does this piece begin with the column after the end of the previous piece?
     bool followsItsPredecessor(int piece) const { return AreContiguous(last(piece - 1), first(piece)) != 0; }
 
 private:
-    /// Ends at the first column that is a row number: what has been read until then stands, and all else is empty.
+    /// Ends at the first column that is a row number: what has been read so far is kept, and all else is empty.
     void read(const std::wstring& list)
     {
         Remainder remainder(list);
@@ -104,7 +104,7 @@ private:
     matrix keys_;
 };
 
-/// The list that comes out, written piece by piece.
+/// The output list, written piece by piece.
 class AddressWriter
 {
 public:
@@ -127,8 +127,7 @@ private:
     std::wstring text_;
 };
 
-/// Walks the pieces from the second on, each time looking at a piece and its predecessor, whose first column has been
-/// written.
+/// Walks the pieces from the second on, comparing each with its predecessor, whose first column has been written.
 std::wstring mergedNeighbours(const SortedPieces& pieces, const std::wstring& sheet)
 {
     const int n = pieces.count();
@@ -164,7 +163,7 @@ std::wstring cSimplifyRange(std::wstring& input)
     const int separators = cChrCount(input, L",");
     if (separators == 0)
         return input;
-    // The sheets of the other pieces are not looked at: a list on several sheets is merged like any other.
+    // The sheets of the other pieces are not read: a list on several sheets is merged like any other.
     const std::wstring sheet = cStrBetweenChrAndChr(input, L"'", L"'");
     return mergedNeighbours(SortedPieces(input, separators + 1), sheet);
 }

@@ -8,8 +8,8 @@ namespace {
 
 using namespace vecmat;
 
-/// Calls `keep(line, place)` for each line that is kept, `place` being its number among them, and flags the others.
-/// Returns how many are kept.
+/// Calls `keep(line, place)` for each line kept, `place` being its number among them, and flags the others. Returns how
+/// many are kept.
 template <class Keep>
 int dropEmptyLines(matrix& sums, int count, matrixInt& flags, Keep keep)
 {

@@ -12,7 +12,7 @@ using namespace vecmat;
 
 namespace {
 
-/// How far the rows of a sample are apart, and how many rows at the start of the population they can start from.
+/// The distance between the rows of a sample, and how many rows at the start of the population they can start from.
 struct Interval
 {
     int step;
@@ -34,13 +34,13 @@ constexpr double notTaken(int N)
     return N + 1.0;
 }
 
-/// A step of 0 has no multiple but 0.
+/// 0 is the only multiple of a step of 0.
 constexpr bool isMultiple(long long distance, int step)
 {
     return step == 0 ? distance == 0 : distance % step == 0;
 }
 
-/// Takes `n` rows at most, from row `start` on.
+/// Takes at most `n` rows, from row `start` on.
 template <class Rows>
 void sampleSystematically(Rows S, int N, int p, int n, Rows Z, matrix* ids, int step, long long start)
 {
@@ -70,7 +70,7 @@ void sampleFromMiddle(Rows S, int N, int p, int n, Rows Z, matrix* ids)
     sampleSystematically(S, N, p, n, Z, ids, interval.step, interval.middle());
 }
 
-/// One row for each interval. The walk ends with the population; only where it would never get there, with `n` rows.
+/// One row per interval. Stops at the end of the population, or after `n` rows if it would never get there.
 template <class Rows>
 void sampleIntervals(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
 {

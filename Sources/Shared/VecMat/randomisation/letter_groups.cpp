@@ -33,7 +33,7 @@ private:
     std::wstring text_;
 };
 
-/// One walk over the sorted places, from 0.
+/// One pass over the sorted places, from 0.
 class LetterGrouping
 {
 public:
@@ -47,7 +47,7 @@ public:
     bool run()
     {
         *nGroups_ = 1;
-        // Behind a missing first mean the code stands before the first letter, but the place itself is empty.
+        // After a missing first mean the code is before the first letter, but the place itself is empty.
         label(0, letter_.code() < codeOfA ? emptyText : letter_.text());
         for (;;) {
             extend();
@@ -66,14 +66,14 @@ private:
     double mean(int place) const { return linear(&means_).get(place); }
     void label(int place, const std::wstring& text) { cells(labels_).set(place, zeroBased(*nGroups_), text); }
 
-    /// Takes in the places behind that do not differ from the first of the group.
+    /// Adds the following places that do not differ from the first of the group.
     void extend()
     {
         while (last_ + 1 < n_ && differences_.magnitudeInForwardRun(first_, last_ + 1) == 0)
             label(++last_, letter_.text());
     }
 
-    /// The place behind the group differs from its first; all others behind should, too.
+    /// The place after the group differs from its first; all later ones should, too.
     void checkOrderBehind()
     {
         for (int t = last_ + 2; t < n_; ++t)
@@ -81,9 +81,9 @@ private:
                 clean_ = false;
     }
 
-    /// Looks at the pairs of the group. Those that were in the group before have been looked at there, and one that
-    /// differs has left its mark: they are passed over, which keeps the work in proportion to the number of pairs. Not
-    /// so where a look-up may find nothing, as the outcome then depends on the one before.
+    /// Checks the pairs of the group. Pairs already in the previous group were checked there, and any that differs is
+    /// already marked: they are skipped, which keeps the work proportional to the number of pairs. Not so if a look-up
+    /// may find nothing, as the outcome then depends on the one before.
     template <class Differ>
     void checkWithin(Differ differ)
     {
@@ -95,8 +95,8 @@ private:
         checkedUpTo_ = last_;
     }
 
-    /// Begins the next group with the place behind this one, and goes back over the places that do not differ from it.
-    /// False where there are too many groups.
+    /// Begins the next group with the place after this one, and goes back over the places that do not differ from it.
+    /// False if there are too many groups.
     bool openNext()
     {
         const int opening = last_ + 1;
@@ -144,10 +144,10 @@ void listPairs(matrixInt* comp, int nPairs, matrix& pairs, matrixInt& diff)
     }
 }
 
-/// Empties the n by n cells at the top left, those that the table has.
+/// Empties the n by n cells at the top left, as far as the table has them.
 void clearLabels(Smatrix* labels, int n)
 {
-    const int cols = std::min(n, labels->nCols); // no cell lies behind, and n columns of n could be very many
+    const int cols = std::min(n, labels->nCols); // there are no cells beyond, and n columns could be very many
     for (int j = 0; j < cols; ++j)
         for (int i = 0; i < n; ++i)
             cells(labels).set(i, j, emptyText);

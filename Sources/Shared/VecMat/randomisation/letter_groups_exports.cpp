@@ -12,7 +12,7 @@ void Cpp_GetCompMatrices(double* X, int n, int col, int* comp, short keepOrder, 
     const auto orderTable = copied(order, n, 1);
     const auto labelTable = copied(labels, n, labelColumns);
     GetCompMatrices(table, n, col, viewed(comp, n, n), keepOrder, orderTable, labelTable, nGroups);
-    // The strings first: making them may fail, and then the numbers are as they were.
+    // The strings first: creating them may fail, and then the numbers are unchanged.
     handBack(labelTable, labels);
     handBack(table, X);
     handBack(orderTable, order);

@@ -49,8 +49,8 @@ TableHandle drawnKeys(int n, int& seed, short seedFlag, int& seedOut)
     return keys;
 }
 
-/// Every permutation: the sort of whole rows by their keys. The keys have done their work then, so that none of the
-/// callers has a use for them in sorted order.
+/// Every permutation: the sort of whole rows by their keys. The keys are then no longer needed, so no caller uses them
+/// in sorted order.
 template <class Table>
 void sortByDraws(Table* data, int n, int p, TableHandle keys)
 {

@@ -22,8 +22,8 @@ void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
         ranges.add(memoryOf(columns[j]->X, columns[j]->nElems));
 }
 
-/// Does each row of the sample have cells of its own, of which the population has none? Then all that is read is what
-/// the population holds from the start, and it plays no part in which order the rows are written.
+/// Does each row of the sample have cells of its own, none of them in the population? Then everything read is the
+/// population's original contents, and the order in which the rows are written does not matter.
 template <class Rows>
 bool rowsStandApart(Rows S, Rows Z, int n, int p)
 {
@@ -47,7 +47,7 @@ void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int
     const auto rowDrawn = [=](int i) { return std::floor(key.get(zeroBased(i)) * static_cast<double>(N)) + 1.0; };
     for (int i = 1; i <= n; ++i)
         id.set(zeroBased(i), rowDrawn(i));
-    // As a rule the numbers are sorted alone, so that no string is moved once it is copied.
+    // Usually the numbers are sorted alone, so that no string is moved once it is copied.
     if (id.covers(n) && rowsStandApart(S, Z, n, p)) {
         SortQVector(ids, n, 1, n, sortAscending);
         for (int i = 1; i <= n; ++i)

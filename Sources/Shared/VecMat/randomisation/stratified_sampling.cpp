@@ -16,7 +16,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Sums that run on where a caller's sizes are out of bounds.
+/// Sums that wrap if a caller's sizes are out of bounds.
 constexpr int sum(int a, int b)
 {
     return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
@@ -26,7 +26,7 @@ constexpr int difference(int a, int b)
     return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
 }
 
-/// What the next series starts from. Each goes on where the one before left off.
+/// The seed of the next series. Each continues from the one before.
 struct SeedChain
 {
     int seed;
@@ -54,7 +54,7 @@ Block blockOf(Rows S, matrix* rowIds, int rowsBefore, int size, int room, int p)
     return block;
 }
 
-/// The rows with the smallest keys, put in the order of their labels.
+/// The rows with the smallest keys, in the order of their labels.
 Block drawnOnce(Block block, int size, int wanted, int p, SeedChain& series)
 {
     TableHandle keys = fresh(size, 1);
@@ -75,7 +75,7 @@ Block drawnWithReplacement(const Block& block, int size, int wanted, int p, Seed
     const auto drawnLabel = linear<matrix>(drawn.labels);
     for (int i = 0; i < wanted; ++i)
         drawnLabel.set(i, label.get(zeroBased(truncated(position.get(i)))));
-    return drawn; // NOLINT(clang-analyzer-core.StackAddressEscape): a handle that moves takes its table along
+    return drawn; // NOLINT(clang-analyzer-core.StackAddressEscape): a moved handle takes its table along
 }
 
 /// `Rows` is a table, or an array of columns.
@@ -97,7 +97,7 @@ void sampleByStratum(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, matrix
         const bool last = k == nStrata - 1;
         const int wanted = last ? difference(n, done) : truncated(std::floor(quotaOf.get(k) + 0.5));
         Block block = blockOf(S, rowIds, rowsBefore, size, std::max(size, wanted), p);
-        // The quota and the size as they are given, both perhaps fractions, and then the numbers of rows.
+        // The quota and the size as given, possibly fractions, and then the numbers of rows.
         const bool repeats = quotaOf.get(k) > sizeOf.get(k) || size < wanted;
         const Block drawn = repeats ? drawnWithReplacement(block, size, wanted, p, series)
                                     : drawnOnce(std::move(block), size, wanted, p, series);
@@ -110,7 +110,7 @@ void sampleByStratum(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, matrix
         }
 
         if (k == 0) {
-            *seed = series.seed; // the generator may have put another there
+            *seed = series.seed; // the generator may have changed it
             series.flag = goOnFromSeed;
         }
         series.goOn();

@@ -55,7 +55,7 @@ PairRows::PairRows(matrix* pairs, int colA, int colB, matrix* perm, int n)
 
 std::optional<std::size_t> PairRows::numberOf(double item) const
 {
-    // As a rule the items are consecutive, and the distance from the lowest is the number.
+    // Usually the items are consecutive, and the distance from the lowest is the number.
     const double distance = item - items_.front();
     if (distance >= 0.0 && distance < static_cast<double>(items_.size())) {
         const auto number = static_cast<std::size_t>(distance);

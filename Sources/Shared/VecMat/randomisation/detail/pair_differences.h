@@ -1,4 +1,4 @@
-// What a set of pairwise comparisons says about the items in two sorted places.
+// What a set of pairwise comparisons shows about the items in two sorted places.
 #pragma once
 
 #include "../../matrix.h"
@@ -10,7 +10,7 @@
 
 namespace vecmat {
 
-/// Finds the row of a table of pairs that holds the items of two places. The table is read once, so that a look-up does
+/// Finds the row of a table of pairs that holds the items of two places. The table is read once, so that a look-up need
 /// not search it.
 class PairRows
 {
@@ -18,7 +18,7 @@ public:
     /// `pairs` has the item numbers of a pair in columns `colA` and `colB`, 1-based; `perm` the items of n places.
     PairRows(matrix* pairs, int colA, int colB, matrix* perm, int n);
 
-    /// The first row, from 0, whose smaller and larger item are those of the places s and t, from 0; -1 where there is
+    /// The first row, from 0, whose smaller and larger item are those of the places s and t, from 0; -1 if there is
     /// none.
     int rowOf(int s, int t) const
     {
@@ -39,8 +39,8 @@ private:
     bool complete_;
 };
 
-/// The differences of the items in two places, from 0. A pair in no row takes the outcome of the look-up before, so the
-/// order of calls is part of the result unless the pairs are complete.
+/// The differences of the items in two places, from 0. A pair in no row takes the outcome of the previous look-up, so
+/// the order of calls is part of the result unless the pairs are complete.
 class PairDifferences
 {
 public:
@@ -51,11 +51,11 @@ public:
 
     bool complete() const { return rows_.complete(); }
 
-    /// 0 or a number above 0, whichever sign the difference has.
+    /// 0 or a positive number, whatever the sign of the difference.
     long long magnitude(int s, int t);
-    /// With the sign it has.
+    /// With its sign.
     long long signedValue(int s, int t);
-    /// The magnitude, but 0 where the row is not marked as counting for the forward run.
+    /// The magnitude, but 0 if the row is not marked as counting for the forward run.
     long long magnitudeInForwardRun(int s, int t);
 
 private:

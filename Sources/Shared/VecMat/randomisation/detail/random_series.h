@@ -1,13 +1,13 @@
-// One series of random numbers, from its opening to its close.
+// One series of random numbers, from opening to closing.
 #pragma once
 
 #include "../../base/detail/companions.h"
 
 namespace vecmat {
 
-/// Opens a series of the companion generator when it is made and closes it when it goes, exactly once each, on every
-/// path: also where no number was drawn, and where a failed allocation passes. The library keeps no generator state of
-/// its own: what links one series to the next is in the three values alone, which nobody here interprets.
+/// Opens a series of the companion generator on construction and closes it on destruction, exactly once each, on every
+/// path: even if no number was drawn, or a failed allocation throws. The library keeps no generator state of its own:
+/// one series is linked to the next only by the three values, which are not interpreted here.
 class SeedFrame
 {
 public:

@@ -1,4 +1,4 @@
-// What the sampling designs share: how a row gets from the population into the sample, and how rows are put in order.
+// Shared by the sampling designs: how a row gets from the population into the sample, and how rows are sorted.
 #pragma once
 
 #include "../../Smatrix.h"
@@ -8,8 +8,8 @@
 
 namespace vecmat {
 
-/// Row `to` of the sample takes the first `p` cells of row `from` of the population, both 1-based. The two may be held
-/// differently; reads and writes are those of the accessors, so that beyond a plain table a row slides into the next
+/// Copies the first `p` cells of row `from` of the population to row `to` of the sample, both 1-based. Their storages
+/// may differ; reads and writes are those of the accessors, so that beyond a plain table a row runs into the next
 /// column, and beyond the columns of an array it is empty, or dropped.
 template <class Population, class Sample>
 void copyRow(Population population, int from, Sample sample, int to, int p)
@@ -22,7 +22,7 @@ constexpr short sortAscending = 0;
 constexpr short writeSortedKeys = -1;
 
 /// Sorts rows 1 to `n` by their keys, ascending and stably; the keys come back sorted, and `carried`, of one column,
-/// goes with the rows.
+/// moves with the rows.
 inline void sortRowsByKey(Smatrix* rows, int n, int p, matrix* key, matrix* carried)
 {
     SortQ(rows, n, p, 1, n, key, carried, 1, sortAscending, writeSortedKeys);
@@ -30,7 +30,7 @@ inline void sortRowsByKey(Smatrix* rows, int n, int p, matrix* key, matrix* carr
 
 inline void sortRowsByKey(Smatrix** rows, int n, int p, matrix* key, matrix* carried)
 {
-    // To the sort, 0 columns of strings are one. An array of none has no first table to look at.
+    // To the sort, 0 columns of strings mean one. An array of none has no first table to read.
     constexpr int noColumns = -1;
     SortQ(rows, n, p == 0 ? noColumns : p, 1, n, key, carried, 1, sortAscending, writeSortedKeys);
 }

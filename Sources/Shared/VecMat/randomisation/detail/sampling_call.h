@@ -1,12 +1,12 @@
-// The call frame of the sampling designs.
+// Common frame of the calls of the sampling designs.
 #pragma once
 
 #include "../../frame/detail/handles.h"
 
 namespace vecmat {
 
-/// A caller without rows may have no array either: that is a table without cells, which can be read and written like
-/// any other. A design visits cells also where there are no rows.
+/// A caller without rows may also have no array: this gives a table without cells, which can be read and written like
+/// any other. A design visits cells even if there are no rows.
 inline StringTableHandle copiedOrEmpty(wchar_t** x, int rows, int cols)
 {
     return x != nullptr ? copied(x, rows, cols) : freshStrings(0, 0);
@@ -17,8 +17,8 @@ inline TableHandle copiedOrEmpty(double* x, int rows)
 }
 
 /// Calls `design(population, sample, ids)` on tables over the caller's arrays: `N` rows of the population, `n` of the
-/// sample, `p` columns each, and `nIds` row numbers. The sample and the row numbers then go back; whatever the design
-/// leaves unwritten in them is the caller's.
+/// sample, `p` columns each, and `nIds` row numbers. The sample and the row numbers are then written back; whatever the
+/// design leaves unwritten in them is the caller's.
 template <class Design>
 void sampleInto(wchar_t** S, int N, int p, wchar_t** Z, int n, double* ids, int nIds, Design design)
 {
