@@ -29,7 +29,7 @@ Factors observationFactors(matrix* eigen, int k, double alpha)
 Factors variableFactors(matrix* eigen, int k, double alpha)
 {
     Factors factors(countOf(k));
-    // The cells stay as they are, with no multiplication by the vanished factor of an eigenvalue of 0.
+    // The cells stay unchanged, without multiplying by the vanished factor of an eigenvalue of 0.
     if (alpha == 0.0) {
         std::fill(factors.begin(), factors.end(), 1.0);
         return factors;
@@ -41,7 +41,8 @@ Factors variableFactors(matrix* eigen, int k, double alpha)
     return factors;
 }
 
-/// Multiplies each of the `count` columns by its factor, into the rows of `out` from `firstRow`; missing cells stay.
+/// Multiplies each of the `count` columns by its factor, into the rows of `out` from `firstRow`; missing cells stay
+/// missing.
 template <class From>
 void scaleAxes(From from, int rows, const Factors& factors, matrix* out, int firstRow)
 {
@@ -78,7 +79,7 @@ void biplot(Storage rows, matrix* sup, Storage cols, int nA, int nB, int m, int 
 }
 
 /// `squares` holds the sum of squares of each row. By rows: in a result with fewer than n rows a point runs over into
-/// the next column, and the last one to be written stands.
+/// the next column, and the last one written remains.
 template <class From>
 void cosines(From a, matrix* squares, int n, int k, matrix* out)
 {

@@ -30,7 +30,7 @@ ModelMoments momentsOf(matrix* z, int m, matrix* y, int n, matrix* w)
         return moments;
     TableHandle table = merged(z, m, y, n);
     TableHandle variance;
-    // It is a copy, of which nobody sees whether it is standardised.
+    // It is a copy, so standardising it is not observable.
     M_CovCorrVAndMeanStDevVar(table.reference(), n, m + 1, moments.packed.reference(), moments.mean.reference(),
                               moments.deviation.reference(), variance.reference(), -1, nullptr, w, -1, -1, 0, 0, -1);
     return moments;
@@ -49,7 +49,7 @@ ModelMoments rawMomentsOf(matrix* z, int m, matrix* y, int n, matrix* w, double 
     return moments;
 }
 
-/// Fits the model, and hands out the moments as the sweeps have left them.
+/// Fits the model, and returns the moments as the sweeps leave them.
 ModelMoments fit(int n, matrix* X, matrix* y, matrix* w, const ModelShape& shape, Intercept intercept, double tol,
                  const FitResults& results)
 {

@@ -13,7 +13,7 @@ using namespace vecmat;
 
 namespace {
 
-/// One of the caller's tables. The last one is a private copy with the response behind its columns.
+/// One of the caller's tables. The last one is a private copy with the response after its columns.
 struct ModelBlock
 {
     matrix* table;
@@ -119,7 +119,7 @@ void OLSBasic2Lg(int n, int p1, matrix* X1, int p2, matrix* X2, int p3, matrix* 
     } else {
         for (const ModelBlock& block : blocks)
             measureColumns(moments, block, rows);
-        // Unlike the fit from one table, which has no correlation for a missing deviation.
+        // Unlike the fit from one table, which sets the correlations to 0.0 for a missing deviation.
         correlateAboutOrigin(moments, variables, n, w, W, MissingDeviation::notTested);
     }
 

@@ -9,7 +9,7 @@ using namespace vecmat;
 
 namespace {
 
-/// The caller's block. One of width 0 need not have an array, and is not looked at.
+/// The caller's block. One of width 0 need not have an array, and is not read.
 View<matrix> viewedBlock(double* x, int n, int width)
 {
     return viewed(width > 0 ? x : nullptr, n, width);

@@ -13,7 +13,7 @@ using namespace vecmat;
 
 namespace {
 
-/// Shortens the step to `maxStep` in its largest change.
+/// Shortens the step so that its largest change is `maxStep`.
 void shorten(matrix* step, int n, double maxStep)
 {
     double largest = 0.0;

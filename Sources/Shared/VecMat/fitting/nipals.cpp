@@ -15,10 +15,11 @@ using namespace vecmat;
 
 namespace {
 
-/// At or below this a standard deviation is that of a constant; below it a sum of squares is no denominator.
+/// At or below this a standard deviation counts as that of a constant; below it a sum of squares is too small to divide
+/// by.
 constexpr double vanishing = 1e-6;
 
-/// Where the passes for a component end that does not settle.
+/// Limit on the passes for a component that does not settle.
 constexpr int passLimit = 100000;
 
 enum Outcome : int { done = 0, degenerate = 1, tooManyMissing = -6 };
@@ -32,9 +33,9 @@ struct ColumnSummary
     int missingCells = 0;
 };
 
-/// The residual table, the missing value where a cell is missing. It is held twice, in columns and in strips of
-/// columns, for the regressions of the rows and for those of the columns; rows and columns without cells fill it up to
-/// what these work on at a time.
+/// The residual table, with the missing value in missing cells. It is held twice, in columns and in strips of columns,
+/// for regressing the rows and for regressing the columns; rows and columns of missing cells pad it to the width of
+/// these passes.
 class Residual
 {
 public:
@@ -56,13 +57,13 @@ public:
     template <class Cells>
     void copy(Cells x, int n)
     {
-        constexpr int rowsAtOnce = 64; // of a strip, while its columns come in one by one
+        constexpr int rowsAtOnce = 64; // of a strip, while its columns are filled one by one
         for (int first = 0; first < n; first += rowsAtOnce)
             for (std::size_t j = 0; j < cols(); ++j)
                 for (int i = first; i < std::min(n, first + rowsAtOnce); ++i)
                     set(static_cast<std::size_t>(i), j, x.get(i, static_cast<int>(j)));
     }
-    /// Sums up the columns of a copy and centres them. False where a column is constant.
+    /// Sums the columns of a copy and centres them. False if a column is constant.
     bool centre(const Column& w);
 
     /// Sums for the regression of each column on the scores, of `width` numbers each.
@@ -108,8 +109,8 @@ private:
 
 struct Component
 {
-    Column scores;   // one for each row of the residual; missing for a row without cells
-    Column loadings; // one for each column, of length 1, filled up with 0.0
+    Column scores;   // one for each row of the residual; missing for a row without present cells
+    Column loadings; // one for each column, of length 1, padded with 0.0
 };
 
 // ---- sums and centring -----------------------------------------------------------------------------------------------
@@ -126,10 +127,10 @@ bool Residual::centre(const Column& w)
         means[j] = sums.sums[lane] / total;
         if (squareRoot((sums.squares[lane] - means[j] * means[j] * total) / (total - 1.0)) <= vanishing)
             return false;
-        // Rows that only fill up are none of the table's.
+        // Padding rows do not belong to the table.
         summaries_[j] = {means[j], static_cast<int>(sums.missing[lane]) - static_cast<int>(height_ - rowCount_)};
     }
-    // The weight comes before the mean is taken off; the imputation divides it out again.
+    // The weight is applied before the mean is subtracted; the imputation divides by it again.
     for (std::size_t j = 0; j < cols(); ++j)
         regressionKernels().centreColumn(rows(), columns_.data() + j * height_, w.data(), means[j]);
     for (std::size_t j = 0; j < width_; j += stripWidth)
@@ -137,7 +138,7 @@ bool Residual::centre(const Column& w)
     return true;
 }
 
-/// The table, centred; none where a column is constant.
+/// The table, centred; none if a column is constant.
 template <class Cells, class Weights>
 std::optional<Residual> centredTable(Cells x, Weights w, int n, int p)
 {
@@ -175,7 +176,7 @@ class Loadings
 public:
     explicit Loadings(const Residual& residual) : squares_(residual.width()), products_(residual.width()) {}
 
-    /// False where a column meets scores that vanish.
+    /// False if the scores vanish for a column.
     bool regress(const Residual& residual, const Column& scores, Column& loadings)
     {
         residual.regressColumns(scores, squares_, products_);
@@ -197,7 +198,7 @@ private:
     Column products_;
 };
 
-/// The variance of the change in the loadings; not a number for one column.
+/// The variance of the change in the loadings; NaN for one column.
 double varianceOfChange(const Column& previous, const Column& loadings, std::size_t cols)
 {
     double sum = 0.0;
@@ -211,7 +212,7 @@ double varianceOfChange(const Column& previous, const Column& loadings, std::siz
     return (squares - sum * sum / count) / (count - 1.0);
 }
 
-/// The leading component of the residual; none where scores vanish.
+/// The leading component of the residual; none if scores vanish.
 std::optional<Component> leadingComponent(const Residual& residual, double tol)
 {
     Component component{Column(residual.column(0), residual.column(0) + residual.height()), Column(residual.width())};
@@ -222,8 +223,8 @@ std::optional<Component> leadingComponent(const Residual& residual, double tol)
             return std::nullopt;
         // The denominators are not tested.
         residual.regressRows(component.loadings, component.scores);
-        // A variance that is no number ends the passes: it comes from a single column, whose loading cannot change, or
-        // from loadings that are no numbers and stay so.
+        // A NaN variance ends the passes: it comes from a single column, whose loading cannot change, or from loadings
+        // that are NaN and stay so.
         if (pass > 1 && !(varianceOfChange(previous, component.loadings, residual.cols()) > tol))
             break;
         previous = component.loadings;
@@ -231,7 +232,7 @@ std::optional<Component> leadingComponent(const Residual& residual, double tol)
     return component;
 }
 
-/// None where scores vanish before all components are found.
+/// None if scores vanish before all components are found.
 std::optional<std::vector<Component>> extract(Residual& residual, int count, double tol)
 {
     std::vector<Component> components;

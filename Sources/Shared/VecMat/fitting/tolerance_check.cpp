@@ -12,12 +12,12 @@ using namespace vecmat;
 
 namespace {
 
-// What `status` says of a variable.
+// The values of `status` for a variable.
 constexpr int kept = -1;
 constexpr int constant = 50000;
 constexpr int collinear = 60000;
 
-/// Two variables that correlate by more than this are one.
+/// Two variables that correlate by more than this are treated as one.
 constexpr double equalVariables = 0.999999999999;
 
 struct Options
@@ -101,7 +101,7 @@ private:
         vif_->vbset(i, 1, vif);
     }
 
-    /// Where no entry is g, the last one.
+    /// The last one if no entry is g.
     int firstMember(int g) const
     {
         int position = 1;
@@ -117,7 +117,7 @@ private:
         return options_.otherGroupsOnly != -1 || group_->vbget(k, 1) != group_->vbget(v, 1);
     }
 
-    /// Sweeps the table afresh, with v as a response behind the variables.
+    /// Sweeps the table afresh, with v as a response after the variables.
     void testMember(int v)
     {
         std::copy_n(clean_.X, clean_.nElems, swept_.X);
@@ -132,7 +132,7 @@ private:
             const double t = OLSCheckIfIn(&swept_, p_, k, options_.tol);
             if (t > options_.tol) {
                 M_Sweep(&swept_, response_, k);
-                // Not the element itself: the round trip through its complement drops digits.
+                // Not the element itself: the round trip through its complement loses digits.
                 const double remaining = 1.0 - (1.0 - cell(swept_, response_, response_));
                 if (remaining < options_.tol) {
                     if (options_.keepGoing == 0)

@@ -1,4 +1,4 @@
-// The explanatory columns of a linear model, wherever they stand. Internal to the library.
+// The explanatory columns of a linear model, wherever they are stored. Internal to the library.
 #pragma once
 
 #include "../../access/operands.h"
@@ -27,11 +27,11 @@ using ModelColumns = std::vector<ModelColumn>;
 class PlainModelCells
 {
 public:
-    /// None where one of them does not have n rows.
+    /// None if one of them does not have n rows.
     static std::optional<PlainModelCells> of(const ModelColumns& columns, int n);
 
     const double* column(int j) const { return columns_[countOf(j)]; }
-    /// For the passes over columns. It must not outlive this.
+    /// For the passes over columns. Must not outlive this object.
     struct Cells
     {
         const double* const* columns;
@@ -48,19 +48,19 @@ private:
 /// The first `count` columns of a table.
 ModelColumns columnsOf(matrix* table, int count);
 
-/// Which columns are made of the p that the caller gives: powers up to `degree`, and with `interactions` -1 the
-/// products of each two, unless `degree` is 1. A `degree` below 1 makes no powers.
+/// The columns to make of the caller's p: powers up to `degree`, and with `interactions` -1 the pairwise products,
+/// unless `degree` is 1. A `degree` below 1 gives no powers.
 struct ModelShape
 {
     int p;
     int degree;
     short interactions;
 
-    /// Degree 1: the caller's columns as they are, whatever `interactions` says.
+    /// Degree 1: the caller's columns as they are, whatever `interactions` is.
     bool isLinear() const { return degree == 1; }
     int columns() const;
 
-    /// What callers reserve for coefficients. Unlike the model, this has room for the products at degree 1, too.
+    /// What callers reserve for coefficients. Unlike the model, this includes room for the products even at degree 1.
     int reserved() const;
 
 private:

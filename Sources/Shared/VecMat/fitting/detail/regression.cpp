@@ -17,7 +17,7 @@
 namespace vecmat {
 namespace {
 
-/// The model's columns and the response count among the observations' degrees of freedom whether they entered or not.
+/// The model's columns and the response count towards the degrees of freedom whether they entered or not.
 double degreesOfFreedom(double observations, int columns)
 {
     return observations - columns - 1;
@@ -36,7 +36,7 @@ double crossProduct(const ModelColumn& a, const ModelColumn& b, int n, matrix* w
         block(a.cells(), n, 1), block(b.cells(), n, 1), block(linear(w), n));
 }
 
-/// The cross products of all variables at once; none where that does not pay or memory is short.
+/// The cross products of all variables at once; none if that does not pay or allocation fails.
 std::optional<ColumnPanels> crossProducts(const ModelColumns& variables, int n, matrix* w)
 {
     const int p = static_cast<int>(variables.size());
@@ -88,7 +88,7 @@ double interceptVariance(const ModelMoments& moments, int n, double W, const mat
     const double* const sd = moments.deviation->X;
     const double* const mean = moments.mean->X;
     const double residual = moments.at(m, m);
-    // Of the weights, where the slopes go by the count of rows.
+    // From the weights, whereas the slopes use the number of rows.
     const double df = degreesOfFreedom(W, m);
     const double ofResponse = sd[m] * sd[m];
 
@@ -120,7 +120,7 @@ void estimateIntercept(const ModelMoments& moments, int n, double W, const FitRe
     results.se->X[m] = squareRoot(interceptVariance(moments, n, W, results.se));
 }
 
-/// Some rows at a time, column by column: the terms of each row are still added in the order of the columns.
+/// A block of rows at a time, column by column: the terms of each row are still added in the order of the columns.
 void fillFitted(const PlainModelCells& columns, int count, int n, const FitResults& results)
 {
     constexpr int rowsAtOnce = 512;

@@ -36,23 +36,23 @@ private:
     int columns_;
 };
 
-/// Correlations about the means over the rows of each pair, with weights that are frequencies; 0.0 where there is none.
-/// False, with nothing done, where a column or the weights do not have n rows.
+/// Correlations about the means over the rows of each pair, with weights treated as frequencies; 0.0 if undefined.
+/// Returns false, having done nothing, if a column or the weights do not have n rows.
 bool correlateAboutMeans(const ModelMoments& moments, const ModelColumns& variables, int n, matrix* w);
 
-/// What the coefficients of a line through the origin do about a standard deviation that could not be computed.
+/// How the coefficients of a line through the origin treat a standard deviation that could not be computed.
 enum class MissingDeviation {
-    uncorrelated, ///< its variable correlates with none
-    notTested     ///< it is the number that it is
+    uncorrelated, ///< its variable is uncorrelated with all others
+    notTested     ///< the missing value is used as a number
 };
 
-/// Raw cross-products of the variables over the rows of weight other than 0, not centred, divided by W - 1 and by both
-/// standard deviations, which the moments have already; 0.0 where the deviations multiply to nothing. A missing cell is
+/// Raw cross-products of the variables over the rows of non-zero weight, not centred, divided by W - 1 and by both
+/// standard deviations, which the moments already hold; 0.0 if the product of the deviations is 0. A missing cell is
 /// multiplied like any number.
 void correlateAboutOrigin(const ModelMoments& moments, const ModelColumns& variables, int n, matrix* w, double W,
                           MissingDeviation rule);
 
-/// Where the results of a fit go: tables of m + 1, m + 1 and n cells, cleared.
+/// Where the results of a fit are written: tables of m + 1, m + 1 and n cells, cleared.
 struct FitResults
 {
     matrix* beta;
@@ -60,10 +60,10 @@ struct FitResults
     matrix* fitted;
 };
 
-/// Clears and, where they are too small, replaces the tables that receive the results.
+/// Clears the tables that receive the results, and replaces those that are too small.
 FitResults prepared(matrix*& beta, matrix*& se, matrix*& fitted, int columns, int n);
 
-/// Lets each column in turn enter by a sweep where what the columns before it leave of its diagonal is above `tol`.
+/// Enters each column in turn by a sweep, provided that what the earlier columns leave of its diagonal is above `tol`.
 /// Any other gets a standard deviation of 0.0.
 void enterColumns(const ModelMoments& moments, double tol);
 
