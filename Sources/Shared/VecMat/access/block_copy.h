@@ -4,7 +4,7 @@
 //
 //     copyCells(window(src, zeroBased(r1), zeroBased(c1)), window(dst, 0, 0), rows, cols);
 //
-// Cells are copied as they are, missing ones too. A read outside a table yields what the checked read yields and that
+// Cells are copied as they are, including missing ones. A read outside a table gives the value of a checked read, which
 // is stored; a write outside is dropped.
 #pragma once
 
@@ -17,13 +17,13 @@ namespace vecmat {
 
 // ---- numbers of rows and columns ------------------------------------------------------------------------------------
 
-/// Sum of two numbers of rows or columns. It wraps: a senseless number then fails the bound check of the table.
+/// Sum of two numbers of rows or columns. It wraps: a nonsensical number then fails the table's bound check.
 constexpr int shifted(int number, int by)
 {
     return static_cast<int>(static_cast<unsigned>(number) + static_cast<unsigned>(by));
 }
 
-/// How many numbers the range holds, both ends included; none where it ends before it starts.
+/// How many numbers the range contains, both ends included; 0 if it ends before it starts.
 constexpr int countFromTo(int from, int to)
 {
     return to < from ? 0 : static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from) + 1u);
@@ -31,7 +31,7 @@ constexpr int countFromTo(int from, int to)
 
 // ---- windows --------------------------------------------------------------------------------------------------------
 
-/// Cells seen from the corner (row, col) of their storage, both from 0.
+/// Cells relative to the corner (row, col) of their storage, both from 0.
 template <class Cells>
 class Window
 {
@@ -70,7 +70,7 @@ public:
 
     /// Can two cells of a block of `rows` rows be the same cell of the storage?
     bool folds(int rows) const { return row_ < 0 || static_cast<long long>(row_) + rows > height_; }
-    /// The table, or the array of columns, that the cells belong to.
+    /// The table, or the array of columns, that contains the cells.
     const void* storage() const { return storage_; }
     int row() const { return row_; }
     int col() const { return col_; }
@@ -96,7 +96,7 @@ Window<ColumnCells<Table>> window(Table** columns, int row, int col)
     return {cells(columns), row, col, columns, std::numeric_limits<int>::max()};
 }
 
-/// A symmetric table held as a triangle of columns: (i, j) and (j, i) are one cell, so that every block may fold.
+/// A symmetric table held as a triangle of columns: (i, j) and (j, i) are the same cell, so any block may fold.
 template <class Table>
 Window<TriangleCells<Table>> triangleWindow(Table** columns, int row, int col)
 {
@@ -105,7 +105,7 @@ Window<TriangleCells<Table>> triangleWindow(Table** columns, int row, int col)
 
 // ---- copying --------------------------------------------------------------------------------------------------------
 
-/// A cell on its way into a table of another type: ints are widened, doubles truncated.
+/// A cell being copied to a table of another type: ints are widened, doubles truncated.
 template <class Value, class Read>
 decltype(auto) converted(const Read& x)
 {
@@ -117,8 +117,9 @@ decltype(auto) converted(const Read& x)
         return static_cast<Value>(x);
 }
 
-/// May the copy run down the columns? It is settled as rows outside, columns inside. That shows where two cells of the
-/// target are one, and where a copy within one table reads what it has written; elsewhere memory decides the order.
+/// May the copy run down the columns? The defined order is rows outside, columns inside. That is observable if two
+/// cells of the target coincide, or if a copy within one table reads what it has written; otherwise the faster order is
+/// used.
 template <class Source, class Target>
 bool mayRunDownColumns(const Source& source, const Target& target, int rows, int cols)
 {
@@ -129,14 +130,13 @@ bool mayRunDownColumns(const Source& source, const Target& target, int rows, int
     if (source.storage() != target.storage())
         return true;
     if constexpr (std::is_same_v<Source, Target>)
-        // Along one axis only, each line of the other axis is on its own.
+        // Along one axis only, each line of the other axis is independent.
         return !source.folds(rows) && (source.row() == target.row() || source.col() == target.col());
     else
         return false;
 }
 
-/// Copies a block of `rows` by `cols` cells, converted to the target's type. Nothing is copied from or to a storage
-/// that is not there.
+/// Copies a block of `rows` by `cols` cells, converted to the target's type. Does nothing if either storage is absent.
 template <class Source, class Target>
 void copyCells(Source source, Target target, int rows, int cols)
 {
@@ -172,8 +172,8 @@ void copyCells(Source source, Target target, int rows, int cols)
         block(source, rows, cols), block(target, rows, cols));
 }
 
-/// Prepares a result table of the library's kinds: a numeric table is cleared, a string table of the exact shape kept
-/// as it is.
+/// Prepares a result table of any of the library's types: a numeric table is cleared; a string table is kept as it is
+/// if it has the exact shape.
 template <class Table>
 void prepareResult(Table*& out, int rows, int cols)
 {

@@ -1,15 +1,15 @@
-// How a cell is reached: one algorithm, written over an accessor, serves every storage.
+// Access to cells: one algorithm, written over an accessor, works for every storage.
 //
 // An accessor comes in two kinds with the same members. The checked kind follows the rules of the tables: out of range
-// a read gives -1.0 (-1, an empty string) and a write is dropped. The plain kind reads memory directly; it is handed
-// out only where the whole block that a loop visits lies inside its tables, and then both give the same result:
+// a read gives -1.0 (-1, an empty string) and a write is dropped. The plain kind reads memory directly; it is used
+// only if the whole block that a loop visits lies inside its tables, and then both give the same result:
 //
 //     onBlocks([&](auto x, auto y) { ... x.get(i, j) ... y.set(i, j, v) ... }, block(cells(a), rows, cols),
 //     block(linear(v), n));
 //
-// What a loop may do in another order depends on where its cells lie. A plain accessor says it for a block at the top
-// left: `folds(rows, cols)`, whether two places of the block can be the same cell, and
-// `visitStorage(rows, cols, visit)`, which calls visit(first, last) for each memory range that the block lies in.
+// Whether a loop may run in another order depends on where its cells lie. A plain accessor reports this for a block at
+// the top left: `folds(rows, cols)`, whether two places of the block can be the same cell, and
+// `visitStorage(rows, cols, visit)`, which calls visit(first, last) for each memory range that the block occupies.
 //
 // Numbers are 0-based. Accessors are small and are passed by value; they own nothing.
 #pragma once
@@ -83,11 +83,11 @@ public:
     {
         if (rows < 1 || cols < 1)
             return true;
-        // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): a table may be null only where there is no cell to visit
+        // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): a table may be null only if there is no cell to visit
         const long long last = (cols - 1LL) * table_->nRows + rows;
         return table_->nRows >= 0 && last <= static_cast<long long>(table_->nElems);
     }
-    /// A table may be null where no cell is visited.
+    /// The table may be null if no cell is visited.
     PlainCells<Table> plain() const
     {
         return table_ != nullptr ? PlainCells<Table>(table_->X, table_->nRows) : PlainCells<Table>(nullptr, 0);
@@ -128,7 +128,7 @@ private:
     Value* first_;
 };
 
-/// Checked cells of a vector: a table walked in linear order, whatever its shape.
+/// Checked cells of a vector: a table read in linear order, whatever its shape.
 template <class Table>
 class VectorCells
 {
@@ -146,7 +146,7 @@ public:
     }
 
     bool covers(int n) const { return n < 1 || static_cast<unsigned>(n) <= table_->nElems; }
-    /// A table may be null where no cell is visited.
+    /// The table may be null if no cell is visited.
     PlainVector<Table> plain() const { return PlainVector<Table>(table_ != nullptr ? table_->X : nullptr); }
 
 private:
@@ -186,8 +186,8 @@ private:
     Table** columns_;
 };
 
-/// Checked cells of an array of column tables. The check is that of the one table: a row never slides into the next
-/// column. A negative column number is out of range; up to where columns exist is the caller's word, and a null column
+/// Checked cells of an array of column tables. The check is that of the single table: a row never runs into the next
+/// column. A negative column number is out of range; the caller vouches for the number of columns, and a null column
 /// must not be reached.
 template <class Table>
 class ColumnCells
@@ -226,7 +226,7 @@ private:
 
 // ---- a triangle of columns ------------------------------------------------------------------------------------------
 
-/// Plain cells of a symmetric table held as its lower triangle: cell (i, j) and cell (j, i) are the same one.
+/// Plain cells of a symmetric table held as its lower triangle: cells (i, j) and (j, i) are the same.
 template <class Table>
 class PlainTriangle
 {
@@ -257,7 +257,7 @@ private:
     Table** columns_;
 };
 
-/// Checked cells of such a triangle: cell (i, j) is cell |i - j| of column min(i, j), which is out of range where it is
+/// Checked cells of such a triangle: cell (i, j) is cell |i - j| of column min(i, j), which is out of range if
 /// negative.
 template <class Table>
 class TriangleCells
@@ -328,9 +328,9 @@ VectorCells<Table> linear(Table* table)
     return VectorCells<Table>(table);
 }
 
-// ---- one question before the loop -----------------------------------------------------------------------------------
+// ---- one check before the loop --------------------------------------------------------------------------------------
 
-/// Cells with the part of them that a loop will visit.
+/// Cells together with the part of them that a loop will visit.
 template <class Checked>
 struct Block
 {
@@ -350,8 +350,8 @@ Block<Checked> block(Checked vector, int n)
     return {vector, vector.covers(n)};
 }
 
-/// Runs `plainBody` on plain accessors where every block lies inside its tables, else `checkedBody` on the checked
-/// ones: for bodies that ask where the cells lie.
+/// Runs `plainBody` on plain accessors if every block lies inside its tables, otherwise `checkedBody` on the checked
+/// ones: for bodies that need to know where the cells lie.
 template <class PlainBody, class CheckedBody, class... Checked>
 decltype(auto) onBlocksOrElse(PlainBody&& plainBody, CheckedBody&& checkedBody, Block<Checked>... blocks)
 {
@@ -360,7 +360,7 @@ decltype(auto) onBlocksOrElse(PlainBody&& plainBody, CheckedBody&& checkedBody, 
     return checkedBody(blocks.checked...);
 }
 
-/// Runs `body` on plain accessors where every block lies inside its tables, else on the checked ones.
+/// Runs `body` on plain accessors if every block lies inside its tables, otherwise on the checked ones.
 template <class Body, class... Checked>
 decltype(auto) onBlocks(Body&& body, Block<Checked>... blocks)
 {

@@ -21,13 +21,13 @@ void mapCells(int rows, int cols, Out out, Function f, Operands... operands)
         block(out, rows, cols), block(operands, rows, cols)...);
 }
 
-/// The product of two cells, missing where one of them is (equality test).
+/// The product of two cells, missing if either is (equality test).
 inline double productUnlessMissing(double x, double y)
 {
     return isMissing(x) || isMissing(y) ? missingValue : x * y;
 }
 
-/// Squares cells in linear order; missing ones stay (equality test).
+/// Squares cells in linear order; missing ones stay missing (equality test).
 inline void squareCells(double* x, unsigned count)
 {
     for (unsigned k = 0; k < count; ++k)

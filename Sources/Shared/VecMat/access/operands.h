@@ -1,11 +1,11 @@
-// How an operand of a product is read. Each name of the product family says how its operands stand in the formula; the
-// adaptors here say the same over the accessors of `access/cells.h`, so that the formula of a name, here a diag(v) b',
-// is its code:
+// How an operand of a product is read. The name of each product shows the form of its operands in the formula; the adaptors
+// here express the same over the accessors of `access/cells.h`, so that the formula of a name, here a diag(v) b', is its
+// code:
 //
 //     multiply(timesDiagonal(cells(a), linear(v)), transposed(cells(b)), {rows, cols, rowsB}, cells(out));
 //
 // An adaptor has the members of an accessor: `get`, `set` where it can be a result, and on the checked kind `covers`
-// and `plain`. Numbers are 0-based. A vector stands as a table of one column, `cells(v)`, wherever a table is expected.
+// and `plain`. Numbers are 0-based. A vector is passed as a table of one column, `cells(v)`, wherever a table is expected.
 #pragma once
 
 #include "../base/detail/numbers.h"
@@ -20,7 +20,7 @@ namespace vecmat {
 
 // ---- tables ---------------------------------------------------------------------------------------------------------
 
-/// The part of a table that starts at cell (row0, col0). A start before the table is out of range like one behind it.
+/// The part of a table that starts at cell (row0, col0). A start before the table is out of range like one after it.
 template <class Cells>
 class Shifted
 {
@@ -133,7 +133,7 @@ TimesDiagonal<Cells, Vector> timesDiagonal(Cells cells, Vector vector)
     return TimesDiagonal<Cells, Vector>(cells, vector);
 }
 
-/// A vector that stands in every column of a table: cell (i, j) is v(i).
+/// A vector repeated in every column of a table: cell (i, j) is v(i).
 template <class Vector>
 class InEachColumn
 {
@@ -209,7 +209,7 @@ public:
         const int order = std::max(rows, cols);
         return order < 1 || packedPosition(order - 1, order - 1) < packed_->nElems;
     }
-    /// A table may be null where no cell is visited.
+    /// The table may be null if no cell is visited.
     PlainPacked plain() const { return PlainPacked(packed_ != nullptr ? packed_->X : nullptr); }
 
 private:

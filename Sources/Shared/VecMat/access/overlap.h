@@ -1,5 +1,5 @@
-// Whether a write to one block of cells can be seen in another: the answer that decides where a loop may run in another
-// order. A block is a plain accessor with its extent: rows and columns, or the length of a vector.
+// Whether a write to one block of cells is visible in another, which decides where a loop may run in another order. A
+// block is a plain accessor with its extent: rows and columns, or the length of a vector.
 #pragma once
 
 #include "../base/detail/memory_ranges.h"
@@ -31,7 +31,7 @@ void addTo(MemoryRanges& ranges, const Storage<Visit>& storage)
     storage.visit([&](const MemoryRange& range) { ranges.add(range); });
 }
 
-/// Does each byte belong to one block only, and in it to one column?
+/// Does each byte belong to one block only, and within it to one column?
 template <class... Visits>
 bool areApart(const Storage<Visits>&... storages)
 {
@@ -40,7 +40,7 @@ bool areApart(const Storage<Visits>&... storages)
     return ranges.areApart();
 }
 
-/// Can a write to the one be seen in the other? What overlaps within either does not count.
+/// Is a write to one visible in the other? Overlaps within either do not count.
 template <class Written, class Read>
 bool overlap(const Storage<Written>& written, const Storage<Read>& read)
 {

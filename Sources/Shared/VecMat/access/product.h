@@ -1,6 +1,6 @@
-// What every product is: each result is one running sum, from +0.0, over the inner index from the first to
-// the last, one rounded product added at a time. The results are worked on row by row; a result that is an operand too,
-// or whose rows run over into the next column, shows that order.
+// The definition of every product: each result is one running sum, from +0.0, over the inner index from first to last,
+// one rounded product added at a time. The results are computed row by row; that order is observable if a result is
+// also an operand, or its rows run over into the next column.
 #pragma once
 
 #include "../base/detail/numbers.h"
@@ -19,11 +19,11 @@ struct ProductShape
     int cols;
 };
 
-/// What a factor that is the missing value (equality test) does: it enters the product as the large negative number
-/// that it is, or it ends the sum and makes the result missing.
+/// How a factor that is the missing value (equality test) is treated: it enters the product as the large negative
+/// number that it is, or it ends the sum and makes the result missing.
 enum class MissingFactor { multiplied, makesResultMissing };
 
-/// Stores a number in a cell; a cell of ints takes it truncated.
+/// Stores a number in a cell; a cell of ints gets it truncated.
 template <class Out>
 void storeNumber(const Out& out, int i, int j, double value)
 {
@@ -50,7 +50,7 @@ double sumOfProducts(const Left& left, int i, const Right& right, int j, int inn
     return sum;
 }
 
-/// out = left right, each result by itself.
+/// out = left right, each result on its own.
 template <MissingFactor missing = MissingFactor::multiplied, class Left, class Right, class Out>
 void multiplyCellByCell(const Left& left, const Right& right, ProductShape shape, const Out& out)
 {
@@ -59,8 +59,8 @@ void multiplyCellByCell(const Left& left, const Right& right, ProductShape shape
             storeNumber(out, i, j, sumOfProducts<missing>(left, i, right, j, shape.inner));
 }
 
-/// out = left right of order n, a product that is symmetric but for rounding, each result by itself: the lower triangle
-/// is computed, and each of its cells is stored at its mirror place too.
+/// out = left right of order n, a product symmetric but for rounding, each result on its own: the lower triangle is
+/// computed, and each of its cells is also stored at its mirror place.
 template <class Left, class Right, class Out>
 void multiplySymmetricCellByCell(const Left& left, const Right& right, int n, int inner, const Out& out)
 {

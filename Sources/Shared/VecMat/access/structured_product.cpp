@@ -22,7 +22,7 @@ Structure structureOf(matrix* table, int rows, int cols, int row0, int col0)
     if (part.covers(rows, cols)) {
         describe(*table, row0, col0);
     } else {
-        // The reads there are not checked: it gets a block with what checked reads yield.
+        // Reads there are unchecked: it gets a block of what checked reads give.
         matrix readable(rows, cols, 0.0);
         mapCells(rows, cols, cells(&readable), std::identity(), part);
         describe(readable, 0, 0);

@@ -1,4 +1,4 @@
-// Products that look for structure in their operands, to skip work.
+// Products that detect structure in their operands, to skip work.
 #pragma once
 
 #include "product.h"
@@ -9,7 +9,7 @@ class matrix;
 
 namespace vecmat {
 
-/// Which rows and columns of a block are all zero, and in a square block which are zero off the diagonal.
+/// Which rows and columns of a block are all zero, and, in a square block, which are zero off the diagonal.
 struct Structure
 {
     std::unique_ptr<bool[]> columnIsZero;
@@ -21,8 +21,8 @@ struct Structure
 /// count as -1.0.
 Structure structureOf(matrix* table, int rows, int cols, int row0 = 0, int col0 = 0);
 
-/// One cell of a product. A row or column of zeros gives +0.0 and a diagonal one a single product, whatever the cells
-/// that this skips hold: an infinity or a NaN among them does not reach the result, as it would in the plain sum.
+/// One cell of a product. A row or column of zeros gives +0.0 and a diagonal one a single product, whatever the skipped
+/// cells hold: an infinity or a NaN among them does not reach the result, as it would in the plain sum.
 template <class Left, class Right>
 double structuredCell(const Left& left, const Structure& ofLeft, int i, const Right& right, const Structure& ofRight,
                       int j, int inner)

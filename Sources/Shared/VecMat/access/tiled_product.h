@@ -1,5 +1,5 @@
-// Products worked on tile by tile, many results side by side. Each result is the same sum in the same order as in
-// `product.h`, which stays the way for small products and wherever the order of the results can be seen.
+// Products computed tile by tile, many results side by side. Each result is the same sum in the same order as in
+// `product.h`, which is still used for small products and wherever the order of the results is observable.
 #pragma once
 
 #include "../base/detail/scratch.h"
@@ -14,13 +14,13 @@
 
 namespace vecmat {
 
-/// Which results there are: all, or those on and below the diagonal, each stored at its mirror place too.
+/// Which results are computed: all, or those on and below the diagonal, each also stored at its mirror place.
 enum class ResultPart { whole, lowerMirrored };
 
 namespace detail {
 
 /// A product by tiles: the operands are copied into panels as wide as a tile, a block of the inner index at a time.
-/// The scratch memory is a block of both operands, and the results where there is more than one block.
+/// Needs scratch memory for a block of both operands, and for the results if there is more than one block.
 template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
 class TiledProduct
 {
@@ -67,12 +67,12 @@ public:
 
 private:
     static constexpr int longestBlock = 256;
-    /// Panels of the left operand that are used for one panel of the right one while they are in the cache.
+    /// Panels of the left operand used with one panel of the right one while they are in the cache.
     static constexpr std::size_t panelsInCache = 12;
-    /// Cells in a line of the cache, which are used while they are there, whichever way an operand is stored.
+    /// Cells in a cache line, all used while in the cache, whichever way an operand is stored.
     static constexpr int cacheLine = 8;
 
-    /// Panels of the width of a tile, which is above 0.
+    /// Number of panels as wide as a tile, which is above 0.
     static std::size_t panels(int count, int width)
     {
         // NOLINTNEXTLINE(clang-analyzer-core.DivideZero)
@@ -96,7 +96,7 @@ private:
     }
 
     /// Copies a block of both operands: of the left one `kernels_.rows` cells for each k, of the right one
-    /// `kernels_.cols`. Places behind the last row or column are zero; their results are not used.
+    /// `kernels_.cols`. Places after the last row or column are zero; their results are not used.
     void pack(int first, int count)
     {
         packPanels(leftPanels_.data(), leftPanelSize(), kernels_.rows, shape_.rows, count, rowIsMissing_.get(),
@@ -149,7 +149,7 @@ private:
                     storeNumber(out_, col0 + c, row0 + r, result(r, c));
     }
 
-    /// Of the rows of a tile that starts at row0, the first whose result in column j is stored there.
+    /// Of the rows of a tile starting at row0, the first whose result in column j is stored.
     static int firstRow(int row0, int j) { return part == ResultPart::lowerMirrored ? std::max(j - row0, 0) : 0; }
 
     const TileKernels& kernels_ = tileKernels();
@@ -168,12 +168,12 @@ private:
 };
 
 /// Below this number of single products, or with fewer rows, columns or terms than this, copying costs more than it
-/// brings.
+/// saves.
 inline constexpr double fewestProducts = 2000;
 inline constexpr int fewestLines = 4;
 
-/// Runs the product by tiles where that is worth it and the order of the results cannot be seen. False: nothing is
-/// done.
+/// Runs the product by tiles if that pays off and the order of the results is not observable. Returns false, having
+/// done nothing, otherwise.
 template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
 bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, const Out& out)
 {
@@ -206,8 +206,8 @@ void multiply(Left left, Right right, ProductShape shape, Out out)
         block(out, shape.rows, shape.cols));
 }
 
-/// out = left right of order n, a product that is symmetric but for rounding: what stands above the diagonal is a copy
-/// of what stands below it.
+/// out = left right of order n, a product symmetric but for rounding: the cells above the diagonal are copies of those
+/// below it.
 template <class Left, class Right, class Out>
 void multiplySymmetric(Left left, Right right, int n, int inner, Out out)
 {

@@ -5,7 +5,7 @@
 
 namespace vecmat {
 
-/// Cell (i, j) is cell (j, i) of what it holds.
+/// Cell (i, j) is cell (j, i) of the wrapped accessor.
 template <class Cells>
 class Transposed
 {
