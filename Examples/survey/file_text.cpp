@@ -39,9 +39,8 @@ int lineAt(std::string_view text, std::size_t place)
 
 std::string converted(std::string& content, const std::string& encoding, const std::string& file)
 {
-    const auto failed = reinterpret_cast<iconv_t>(-1);
     iconv_t const opened = iconv_open("UTF-8", encoding.c_str());
-    if (opened == failed)
+    if (reinterpret_cast<std::intptr_t>(opened) == -1)
         throw InputError({.file = file}, "the encoding " + quoted(encoding) + " is not known (iconv -l lists them)");
     const std::unique_ptr<void, CloseConverter> converter(opened);
     std::string result;

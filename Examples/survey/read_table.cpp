@@ -178,6 +178,7 @@ private:
             if (name && std::find(names.begin(), names.end(), *name) == names.end())
                 names.insert(names.begin(), *name);
         std::vector<Wanted> wanted;
+        wanted.reserve(names.size());
         for (const std::string& name : names)
             wanted.push_back({placeOf(name), name});
         return wanted;
