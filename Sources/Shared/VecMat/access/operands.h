@@ -1,11 +1,12 @@
-// How an operand of a product is read. The name of each product shows the form of its operands in the formula; the adaptors
-// here express the same over the accessors of `access/cells.h`, so that the formula of a name, here a diag(v) b', is its
-// code:
+// How an operand of a product is read. The name of each product shows the form of its operands in the formula; the
+// adaptors here express the same over the accessors of `access/cells.h`, so that the formula of a name, here
+// a diag(v) b', is its code:
 //
 //     multiply(timesDiagonal(cells(a), linear(v)), transposed(cells(b)), {rows, cols, rowsB}, cells(out));
 //
 // An adaptor has the members of an accessor: `get`, `set` where it can be a result, and on the checked kind `covers`
-// and `plain`. Numbers are 0-based. A vector is passed as a table of one column, `cells(v)`, wherever a table is expected.
+// and `plain`. Numbers are 0-based. A vector is passed as a table of one column, `cells(v)`, wherever a table is
+// expected.
 #pragma once
 
 #include "../base/detail/numbers.h"

@@ -12,7 +12,7 @@ using namespace vecmat;
 
 namespace {
 
-/// n (n - 1), from the given row count, whatever the count of usable rows.
+/// n / (n - 1), from the given row count, whatever the count of usable rows.
 double inflation(int n)
 {
     return n / (-1.0 + n);

@@ -113,7 +113,7 @@ struct Component
     Column loadings; // one for each column, of length 1, padded with 0.0
 };
 
-// ---- sums and centring -----------------------------------------------------------------------------------------------
+// ---- sums and centring ----------------------------------------------------------------------------------------------
 
 bool Residual::centre(const Column& w)
 {

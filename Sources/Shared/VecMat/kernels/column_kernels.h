@@ -1,4 +1,4 @@
-// Work on the columns of a workspace: the kernels under the decompositions.
+// Operations on the columns of a workspace: the kernels under the decompositions.
 #pragma once
 
 #include "instruction_set.h"
@@ -7,7 +7,7 @@
 
 namespace vecmat {
 
-/// A plane rotation of two columns, by their numbers from 0: x' = c x + s y, y' = c y - s x.
+/// A plane rotation of two columns, given by their numbers from 0: x' = c x + s y, y' = c y - s x.
 struct ColumnRotation
 {
     double c;
@@ -16,41 +16,42 @@ struct ColumnRotation
     int y;
 };
 
-/// Columns stand `stride` doubles apart. Each product and each sum is rounded; a sum begins at +0.0 and takes its terms
+/// Columns start `stride` doubles apart. Each product and each sum is rounded; a sum starts at +0.0 and adds its terms
 /// in ascending order.
 struct ColumnKernels
 {
     static constexpr int mostLanes = 8;
     /// Columns whose inner products are formed side by side: up to twice the lanes.
     static constexpr int mostColumns = 2 * mostLanes;
-    /// Rows that are rotated side by side: up to four times the lanes.
+    /// Rows rotated side by side: up to four times the lanes.
     static constexpr int mostVectors = 4;
 
     int lanes;
 
-    /// sums(c) = sum over k of column(c)(k) * with(k), for up to 2 `lanes` columns. It reads as many columns as the
-    /// next multiple of `lanes` has, and writes as many sums.
+    /// sums(c) = sum over k of column(c)(k) * with(k), for up to 2 `lanes` columns. Reads as many columns as the next
+    /// multiple of `lanes`, and writes as many sums.
     void (*innerProducts)(int count, const double* with, int columns, const double* first, std::ptrdiff_t stride,
                           double* sums);
 
     /// to(k) = to(k) + factor * from(k).
     void (*addMultiple)(int count, double factor, const double* from, double* to);
 
-    /// For the symmetric table a of order n, of which all cells are held:
+    /// For the symmetric table a of order n, stored in full:
     ///     a(i, k) = a(i, k) - (x(i) * y(k) + y(i) * x(k)), then product(i) = sum over k of a(i, k) * v(k).
-    /// Rows up to the next multiple of `lanes` are read and written, of the table and of x, y and product.
+    /// Rows up to the next multiple of `lanes` are read and written, in the table and in x, y and product.
     void (*updateAndMultiply)(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y,
                               const double* v, double* product);
 
     /// For each row i of a: sum = sum over j of weights(j) * a(i, j), then a(i, j) = a(i, j) + factors(j) * sum. A
-    /// weight or factor of exactly 0 leaves its column out.
+    /// weight or factor of exactly 0 excludes its column.
     void (*reflectRows)(int rows, int columns, const double* weights, const double* factors, double* a,
                         std::ptrdiff_t stride);
 
-    /// One rotation after the other, of a panel whose columns have `vectors` times `lanes` rows and stand without gaps.
+    /// Applies one rotation after another to a panel whose columns have `vectors` times `lanes` rows and are
+    /// contiguous.
     void (*rotate)(int vectors, int count, const ColumnRotation* rotations, double* panel);
 
-    /// Copies so many columns of `vectors` times `lanes` rows.
+    /// Copies `columns` columns of `vectors` times `lanes` rows.
     void (*copyColumns)(int vectors, int columns, const double* from, std::ptrdiff_t fromStride, double* to,
                         std::ptrdiff_t toStride);
 };

@@ -22,7 +22,7 @@ using EachLane = Numbers<0, 1, 2, 3>;
 using EachLane = Numbers<0, 1>;
 #endif
 
-/// Exchanges the upper right and the lower left block of `step` by `step` of each such four.
+/// Exchanges the upper right and the lower left block in each group of four blocks of `step` by `step`.
 template <int step, int... lane>
 [[gnu::always_inline]] inline void exchangeBlocks(Lanes* rows, Numbers<lane...> /*each*/)
 {
@@ -41,8 +41,8 @@ template <int step, int... lane>
     }
 }
 
-/// Adds the terms of rows k + `skipped` to k + laneCount - 1. The products of a column are side by side as they come
-/// from memory; turned round, those of a row are, and each column's sum takes them in its order.
+/// Adds the terms of rows k + `skipped` to k + laneCount - 1. The products of a column come side by side from memory;
+/// once transposed, those of a row are side by side, and each column's sum adds them in its order.
 template <int groups>
 [[gnu::always_inline]] inline void addRows(int k, int skipped, const double* with, const double* first,
                                            std::ptrdiff_t stride, Lanes* sums)
@@ -96,7 +96,7 @@ void addMultiple(int count, double factor, const double* __restrict from, double
         to[k] = to[k] + factor * from[k];
 }
 
-/// Some columns of `updateAndMultiply`; `product` has the sums up to them.
+/// Some columns of `updateAndMultiply`; `product` holds the sums up to them.
 template <int columns>
 void updateColumns(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y, const double* xHere,
                    const double* yHere, const double* v, double* product)
@@ -184,7 +184,7 @@ void reflectRows(int rows, int columns, const double* weights, const double* fac
 
 // ---- rotations ------------------------------------------------------------------------------------------------------
 
-/// So many numbers side by side of one column.
+/// This many numbers of one column, side by side.
 template <int vectors>
 struct Segment
 {
@@ -206,7 +206,7 @@ struct Segment
     }
 };
 
-/// The second column of a rotation is mostly the first of the next: it waits in registers.
+/// The second column of a rotation is usually the first of the next: it is kept in registers.
 template <int vectors>
 void rotatePanel(int count, const ColumnRotation* rotations, double* panel)
 {

@@ -7,16 +7,16 @@
 
 namespace vecmat {
 
-/// Points lie in panels, one panel behind the other: of each column the numbers of `DistanceKernels::width`
-/// points next to each other.
+/// Points are stored in contiguous panels: for each column the numbers of `DistanceKernels::width` points next to each
+/// other.
 struct DistanceKernels
 {
     static constexpr int width = 32;
 
-    /// What one column adds to the distance of a point x from the target.
+    /// The contribution of one column to the distance of a point x from the target.
     struct Term
     {
-        std::ptrdiff_t column; ///< where the column stands in a panel
+        std::ptrdiff_t column; ///< position of the column in a panel
         double target;
         double factor;
     };

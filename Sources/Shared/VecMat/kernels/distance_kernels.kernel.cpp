@@ -6,7 +6,7 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-// As many points as keep the sums in registers, and enough of them to work on one while another waits.
+// As many points as keep the sums in registers, and enough to work on one while another waits.
 constexpr int vectors = 4;
 constexpr int points = vectors * laneCount;
 static_assert(DistanceKernels::width % points == 0);

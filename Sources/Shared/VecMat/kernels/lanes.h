@@ -1,5 +1,5 @@
-// Several doubles side by side, as wide as the instruction set that a kernel is compiled for. For the sources of
-// kernels only: every name here belongs to the namespace of one instruction set.
+// Several doubles side by side, as wide as the instruction set a kernel is compiled for. For kernel sources only: every
+// name here belongs to the namespace of one instruction set.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +22,7 @@ inline constexpr int laneCount = 2;
 
 /// Arithmetic on it is plain IEEE arithmetic, lane by lane.
 using Lanes [[gnu::vector_size(laneCount * sizeof(double))]] = double;
-/// The same in memory at any address of a double.
+/// The same in memory, at the address of any double.
 using LanesInMemory [[gnu::vector_size(laneCount * sizeof(double)), gnu::aligned(alignof(double)), gnu::may_alias]] =
     double;
 
@@ -41,8 +41,8 @@ inline Lanes inEachLane(double x)
     return x - Lanes{};
 }
 
-// Where the machine fuses a product with a sum: sum + x y and sum - x y, rounded once. Only for steps that are proved to
-// give the bits of the unfused ones.
+// Where the machine has fused multiply-add: sum + x y and sum - x y, rounded once. Only for steps proved to give the
+// bits of the unfused ones.
 #if defined(__AVX512F__)
 #define VECMAT_FUSES_LANES
 inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)

@@ -7,7 +7,7 @@
 
 namespace vecmat {
 
-/// Over n cells that stand one behind the other. Counts are whole numbers, so that their order plays no part.
+/// Over n contiguous cells. Counts are whole numbers, so their order does not matter.
 struct MissingKernels
 {
     /// How many are missing by the equality test, and by the order test.

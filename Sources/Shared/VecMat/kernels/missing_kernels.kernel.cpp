@@ -7,7 +7,7 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-/// What a comparison of lanes gives: -1 where it holds, else 0.
+/// The result of comparing lanes: -1 where it holds, otherwise 0.
 using Answers = decltype(Lanes() == Lanes());
 
 template <class Test>

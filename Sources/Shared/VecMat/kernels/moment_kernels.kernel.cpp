@@ -10,8 +10,8 @@ namespace {
 
 // ---- means and variances --------------------------------------------------------------------------------------------
 
-/// A row waits for the division of the row before: as many columns as possible share the wait. Vectors of four wait
-/// less for it than longer ones, and a divider takes no longer for two of them than for one of eight.
+/// A row waits for the division of the previous row: as many columns as possible share the wait. Vectors of four have a
+/// shorter wait than longer ones, and a divider takes no longer for two of them than for one of eight.
 #if defined(__AVX__)
 constexpr int groupWidth = 4;
 #else
@@ -56,7 +56,7 @@ struct GroupMoments
 template <Sums sums, int groups>
 void addInGroups(int count, int columns, const double* const* cells, const double* w, MomentKernels::Moments* moments)
 {
-    // The places behind the last column see its cells once more.
+    // The places after the last column repeat its cells.
     const double* eachPlace[groups * groupWidth];
     for (int c = 0; c < groups * groupWidth; ++c)
         eachPlace[c] = cells[c < columns ? c : columns - 1];
@@ -80,7 +80,7 @@ void addInGroups(int count, int columns, const double* const* cells, const doubl
     }
 }
 
-/// Takes as few groups as hold all columns.
+/// Uses the smallest number of groups that holds all columns.
 template <Sums sums, int groups = MomentKernels::mostColumns / groupWidth>
 void add(int count, int columns, const double* const* cells, const double* w, MomentKernels::Moments* moments)
 {

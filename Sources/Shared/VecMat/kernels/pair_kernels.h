@@ -1,8 +1,8 @@
-// Running cross products of one column with the columns of strips: the kernel under covariances past missing cells.
+// Running cross products of one column with the columns of strips: the kernel under covariances with missing cells.
 //
 // A strip holds the cells of `PairKernels::lanes` columns row by row, the cells of one row next to each other. All
-// functions take the rows in their order, and each lane does for its column what the plain update does: it rounds after
-// each operation, in the order stated here, from left to right.
+// functions take the rows in order, and each lane does for its column what the plain update does: it rounds after each
+// operation, in the order given here, from left to right.
 #pragma once
 
 #include "instruction_set.h"
@@ -14,10 +14,11 @@ namespace vecmat {
 struct PairKernels
 {
     static constexpr int lanes = 8;
-    /// Strips that a function takes at a time, at most.
+    /// The most strips that a function takes at a time.
     static constexpr int mostStrips = 2;
 
-    /// The state of the pairs of one column x with the columns y of a strip. `rows` counts as a double does: exactly.
+    /// The state of the pairs of one column x with the columns y of a strip. `rows` counts exactly, although it is a
+    /// double.
     struct Pairs
     {
         double weights[lanes];
@@ -34,13 +35,13 @@ struct PairKernels
     ///     dx = x - meanX     dy = y - meanY     f = w - w w / W
     ///     products = products + f dx dy
     ///     meanX = meanX + dx w / W     meanY = meanY + dy w / W
-    /// `y` begins with the first of the strips, which stand `strip` doubles apart; there are Pairs for each.
+    /// `y` points to the first of the strips, which start `strip` doubles apart; there are Pairs for each.
     void (*addCovariances)(int count, const double* x, const double* y, std::ptrdiff_t strip, int strips,
                            const double* w, Pairs* pairs);
     /// The same with |f|.
     void (*addCovariancesOfMagnitude)(int count, const double* x, const double* y, std::ptrdiff_t strip, int strips,
                                       const double* w, Pairs* pairs);
-    /// The same, where the products come first:
+    /// The same, with the products formed first:
     ///     squaresX = squaresX + dx dx f     squaresY = squaresY + dy dy f     products = products + dx dy f
     void (*addCorrelations)(int count, const double* x, const double* y, std::ptrdiff_t strip, int strips,
                             const double* w, Pairs* pairs);

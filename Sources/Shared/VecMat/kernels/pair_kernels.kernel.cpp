@@ -11,7 +11,7 @@ namespace {
 constexpr int lanes = PairKernels::lanes;
 constexpr int vectors = lanes / laneCount;
 
-/// `value` in the lanes that the comparison `where` holds in, else `otherwise`.
+/// `value` in the lanes where the comparison `where` holds, otherwise `otherwise`.
 template <class Where>
 Lanes select(Where where, Lanes value, Lanes otherwise)
 {
@@ -48,7 +48,7 @@ struct PairLanes
     }
 };
 
-// ---- what the sums of a pair take from a row ------------------------------------------------------------------------
+// ---- what a row adds to the sums of a pair --------------------------------------------------------------------------
 
 struct Covariance
 {
@@ -99,7 +99,7 @@ void addRow(PairLanes& sums, Lanes x, Lanes y, double w, typename Divide::Numera
     sums.meanY = select(present, sums.meanY + byWeights.of(dy * w), sums.meanY);
 }
 
-/// False: nothing is done, because a quotient may have come out wrong.
+/// Returns false, having done nothing, if a quotient may be wrong.
 template <class Rule, class Divide, int strips>
 bool addRows(int count, const double* x, const double* y, std::ptrdiff_t strip, const double* w,
              PairKernels::Pairs* pairs)
@@ -141,7 +141,7 @@ void addPairs(int count, const double* x, const double* y, std::ptrdiff_t strip,
         addRows<Rule, Division, strips>(count, x, y, strip, w, pairs);
 }
 
-/// Two strips at once where one is not enough to fill the time that a row waits for the one before.
+/// Two strips at once if one is not enough to fill the time that a row waits for the previous one.
 template <class Rule>
 void addPairs(int count, const double* x, const double* y, std::ptrdiff_t strip, int strips, const double* w,
               PairKernels::Pairs* pairs)

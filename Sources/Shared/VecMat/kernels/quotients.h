@@ -1,12 +1,12 @@
-// Quotients by weights, many by the same divisor. For the sources of kernels only.
+// Quotients by weights, many by the same divisor. For kernel sources only.
 //
-// A division takes as long as some sixteen products. Where the machine fuses a product with a sum, one division gives
-// the reciprocal y of the divisor W, and each quotient a/W takes three steps more, each rounded once:
+// A division takes as long as some sixteen products. With fused multiply-add, one division gives the reciprocal y of
+// the divisor W, and each quotient a/W takes three more steps, each rounded once:
 //     q = a y     rest = a - q W     a/W = q + rest y
 // That is the quotient as the division rounds it, to the last bit, if no step leaves the range of normal numbers
 // (Brisebarre, N., Muller, J.-M. and Raina, S. K. 2004, Accelerating correctly rounded floating-point division when
-// the divisor is known in advance, IEEE Trans. Computers 53 (8), 1069-1072). What may have left it shows when the sums
-// are done; the caller then starts again with `Division`.
+// the divisor is known in advance, IEEE Trans. Computers 53 (8), 1069-1072). Any that may have left it is detected at
+// the end of the sums; the caller then starts again with `Division`.
 #pragma once
 
 #include "lanes.h"
@@ -16,7 +16,7 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 /// Divides.
 struct Division
 {
-    /// Nothing to look after.
+    /// Nothing to check.
     struct Numerators
     {
         void watch(Lanes /*numerators*/) {}
@@ -38,7 +38,7 @@ struct Division
 class FusedDivision
 {
 public:
-    /// Numerators other than 0 must not be so small that digits of q or of the rest fall below the normal numbers.
+    /// Non-zero numerators must not be so small that digits of q or of the rest fall below the normal numbers.
     class Numerators
     {
     public:
@@ -56,7 +56,7 @@ public:
     private:
         using Bits [[gnu::vector_size(sizeof(Lanes))]] = unsigned long long;
 
-        /// In the order of the magnitudes, but with 0 above all others.
+        /// In order of magnitude, but with 0 above all others.
         static Bits rankOf(Lanes x)
         {
             const Bits bits = reinterpret_cast<Bits>(x);
@@ -66,7 +66,7 @@ public:
         Bits least_ = ~Bits{};
     };
 
-    /// Weights of 0 divide nothing. Of the others, sums of up to 2^31 are divisors.
+    /// Weights of 0 divide nothing. With the others, sums of up to 2^31 are allowed as divisors.
     static bool admitsWeights(int count, const double* w)
     {
         bool admitted = true;
@@ -74,7 +74,8 @@ public:
             admitted = admitted & (w[i] == 0.0 || (w[i] >= 0x1p-200 && w[i] <= 0x1p+200));
         return admitted;
     }
-    /// For what quotients are added to. A step beyond the largest number makes infinite or no number of it, for good.
+    /// For the sums that quotients are added to. A step beyond the largest number makes them infinite or NaN,
+    /// permanently.
     static bool admitsResult(Lanes sums) { return inAllLanes(sums - sums == Lanes{}); }
 
     explicit FusedDivision(Lanes by) : FusedDivision(by, 1.0 / by) {}

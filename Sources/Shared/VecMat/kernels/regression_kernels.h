@@ -1,7 +1,7 @@
-// Regressions through the origin past missing cells, many side by side: the kernel under imputation by principal
+// Regressions through the origin with missing cells, many side by side: the kernel under imputation by principal
 // components.
 //
-// Missing is the equality test. A score that is missing stands for a row without cells.
+// Missing is decided by the equality test. A missing score means a row without cells.
 #pragma once
 
 #include "instruction_set.h"
@@ -12,22 +12,21 @@ namespace vecmat {
 
 struct RegressionKernels
 {
-    /// A strip holds the cells of so many columns row by row, the cells of one row next to each other.
+    /// A strip holds the cells of this many columns row by row, the cells of one row next to each other.
     static constexpr int stripWidth = 8;
-    /// Rows are worked on in blocks of so many: `rows` is a multiple of it.
+    /// Rows are processed in blocks of this many: `rows` is a multiple of it.
     static constexpr int blockHeight = 32;
 
     /// The sums of the columns of a strip.
     struct ColumnSums
     {
-        double missing[stripWidth]; ///< the count of missing cells
+        double missing[stripWidth]; ///< number of missing cells
         double weights[stripWidth];
         double sums[stripWidth];
         double squares[stripWidth];
     };
 
-    /// From 0.0, in the columns of strips that stand one behind the other, for each row in order whose cell x is not
-    /// missing:
+    /// From 0.0, in the columns of contiguous strips, for each row in order whose cell x is not missing:
     ///     weights = weights + w     sums = sums + w x     squares = squares + w x x
     void (*sumColumns)(std::ptrdiff_t rows, int strips, const double* first, const double* w, ColumnSums* columnSums);
 
@@ -35,15 +34,15 @@ struct RegressionKernels
     void (*centreColumn)(std::ptrdiff_t rows, double* column, const double* w, double mean);
     void (*centreStrip)(std::ptrdiff_t rows, double* strip, const double* w, const double* means);
 
-    /// The columns of strips, which stand one behind the other, on the scores. From 0.0, for each row in order, in each
-    /// lane where neither the cell z nor the score t is missing:
+    /// Regresses the columns of contiguous strips on the scores. From 0.0, for each row in order, in each lane where
+    /// neither the cell z nor the score t is missing:
     ///     squares = squares + t t     products = products + z t
     void (*onScores)(std::ptrdiff_t rows, int strips, const double* first, const double* scores, double* squares,
                      double* products);
 
-    /// The rows on the loadings, from columns that stand `rows` apart. For each row a score that is missing at first
-    /// and q of 0.0; for each column in order whose cell z is not missing, with its loading p:
-    ///     q = q + p p     score = z p where it is missing, score + z p otherwise
+    /// Regresses the rows on the loadings, from columns that start `rows` apart. Each row starts with a missing score
+    /// and q = 0.0; for each column in order whose cell z is not missing, with its loading p:
+    ///     q = q + p p     score = z p if it is missing, otherwise score + z p
     /// and at the end score = score / q unless it is missing.
     void (*onLoadings)(std::ptrdiff_t rows, const double* columns, std::ptrdiff_t columnCount, const double* loadings,
                        double* scores);

@@ -7,7 +7,7 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-/// What a missing cell adds to a sum that starts at 0.0: such a sum is never -0.0, so that it stays as it is.
+/// What a missing cell adds to a sum that starts at 0.0: such a sum is never -0.0, so it stays unchanged.
 constexpr Lanes nothing = {};
 
 constexpr int width = RegressionKernels::stripWidth;
@@ -82,7 +82,7 @@ void addScores(std::ptrdiff_t rows, const double* first, const double* scores, d
         }
 }
 
-/// Sums wait for those of the row before: four vectors of them at once fill the time.
+/// Sums wait for those of the previous row: four vectors of them at once fill the time.
 template <int atOnce =
               vectors<4 ? 4 / vectors : 1> void onScores(std::ptrdiff_t rows, int strips, const double* first,
                                                          const double* scores, double* squares, double* products)

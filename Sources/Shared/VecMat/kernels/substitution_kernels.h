@@ -7,15 +7,15 @@
 
 namespace vecmat {
 
-/// Where the factors of a row stand, or the rows of solutions that are known: the first and the distance to the next,
-/// which may be negative.
+/// Position of the factors of a row, or of the rows of known solutions: the first and the distance to the next, which
+/// may be negative.
 struct Sequence
 {
     const double* first;
     std::ptrdiff_t step;
 };
 
-/// A row has `width` results, side by side. For k from 0 to terms - 1, and for each result by itself,
+/// A row has `width` results, side by side. For k from 0 to terms - 1, and for each result on its own,
 ///     add        row(c) = row(c) + factors(k) * known(k, c)
 ///     subtract   row(c) = row(c) - factors(k) * known(k, c)
 /// each product and each sum rounded; `known.step` is the distance from row k of `known` to the next.

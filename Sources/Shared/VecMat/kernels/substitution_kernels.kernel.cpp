@@ -6,7 +6,7 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-// Enough sums side by side to fill the time that one addition takes.
+// Enough sums side by side to fill the time of one addition.
 #if defined(__AVX512F__)
 constexpr int vectors = 4;
 #else

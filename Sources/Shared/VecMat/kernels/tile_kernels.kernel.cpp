@@ -78,7 +78,7 @@ inline Lanes laneNumbers()
     return numbers;
 }
 
-/// Takes `factor` times a column off the rows of another that are behind row k.
+/// Subtracts `factor` times a column from the rows of another after row k.
 inline void takeOffBehind(int k, const double* column, double factor, double* from)
 {
     int v = k / laneCount * laneCount;

@@ -1,4 +1,4 @@
-// How large a tile is with the instruction set that a kernel is compiled for. For the sources of kernels only.
+// The size of a tile with the instruction set a kernel is compiled for. For kernel sources only.
 #pragma once
 
 #include "lanes.h"

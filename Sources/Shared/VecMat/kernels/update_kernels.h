@@ -9,7 +9,7 @@ struct UpdateKernels
 {
     /// For each j from 0 to count - 1
     ///     row(j) = row(j) + column(j) * factor
-    /// product and sum rounded, but 0.0 where the magnitude of that is below `tolerance`; a NaN is not.
+    /// product and sum rounded, but 0.0 if the magnitude of the result is below `tolerance`; a NaN is kept.
     void (*addAndClear)(int count, const double* column, double factor, double tolerance, double* row);
 
     /// For each j whose column(j) is not the missing value

@@ -1,4 +1,4 @@
-// Reads and writes of a table's cells with the checks of its accessors, by linear position.
+// Checked reads and writes of a table's cells, by linear position.
 #pragma once
 
 #include "../missing_value.h"
@@ -12,11 +12,11 @@ class Smatrix;
 
 namespace vecmat {
 
-/// What a checked read outside a table of strings refers to. A constant, made before any call: a static of the function
-/// would bring a guard, and with it an atomic operation, into every such read.
+/// What a checked read outside a table of strings refers to. A constant, initialised before any call: a function-local
+/// static would need a guard, and with it an atomic operation, in every such read.
 inline const std::wstring emptyText;
 
-/// The cell type of a table, and what a checked read outside it yields.
+/// The cell type of a table, and the value of a checked read outside it.
 template <class Table>
 struct CellOf;
 

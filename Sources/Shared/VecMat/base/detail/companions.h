@@ -1,5 +1,5 @@
-// What the library asks of its three companion libraries. It holds none of their code and links them dynamically, so
-// that another build of a companion can take the place of the one in this repository.
+// The functions that the library calls in its three companion libraries. It contains none of their code and links them
+// dynamically, so that another build of a companion can replace the one in this repository.
 #pragma once
 
 #include <string>
@@ -10,14 +10,14 @@ extern "C" {
 void GetSeed(int* seed, int seedFlag);
 /// The next uniform number of the series, at least 0 and below 1.
 double Random01(void);
-/// Closes a series, also one without draws, and stores the seed with which a later one goes on.
+/// Closes a series, even one without draws, and stores the seed from which a later one continues.
 void GetSeedUpdate(int* seedOut);
 
 /// CompanionRuntime: the text of a 16-bit BSTR in 32-bit characters; valid up to the thread's next call.
 const wchar_t* CW162W32(const void* bstr);
-/// A new BSTR that the caller owns, also for an empty text.
+/// A new BSTR owned by the caller, even for an empty text.
 wchar_t* SysAllocString2(const wchar_t* text);
-/// The number that the text spells, 0.0 where no number leads.
+/// The number that the text spells; 0.0 if it does not start with a number.
 #ifdef __MINGW32__ // whose C library has another of this name, declared as its own
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wattributes"
@@ -31,7 +31,7 @@ double _wtof(const wchar_t* text);
 double sqr(double x);
 /// The magnitude of a with the sign of b; a zero b counts as positive.
 double FSign(double a, double b);
-/// -1 if x has no fractional part, else 0.
+/// -1 if x has no fractional part, otherwise 0.
 short IsLong(double x);
 double Log10(double x);
 int Mod(int a, int b);
@@ -47,7 +47,7 @@ std::wstring convToWstring(const void* text);
 
 namespace vecmat {
 
-/// The companion's root, under a name that does not read as a square.
+/// The companion's root, under a name that cannot be mistaken for a square.
 inline double squareRoot(double x)
 {
     return sqr(x);

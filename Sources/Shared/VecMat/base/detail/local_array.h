@@ -1,4 +1,4 @@
-// Working memory for the length of a call.
+// Working memory for the duration of a call.
 #pragma once
 
 #include <algorithm>
@@ -8,15 +8,15 @@
 
 namespace vecmat {
 
-/// Numbers of a fixed count: few of them stand in the object itself, which takes no call for memory. What is not asked
-/// to have a value has none. A failing allocation throws.
+/// A fixed number of elements: a few are stored in the object itself, which needs no allocation. Elements are
+/// uninitialised unless a value is given. Throws if allocation fails.
 template <class Number>
 class LocalArray
 {
 public:
     explicit LocalArray(std::size_t count) : many_(count > few ? new Number[count] : nullptr), count_(count) {}
     LocalArray(std::size_t count, Number value) : LocalArray(count) { std::fill_n(data(), count, value); }
-    /// The other one must not be looked at any more.
+    /// `other` is left unusable.
     LocalArray(LocalArray&& other) noexcept : many_(std::move(other.many_)), count_(other.count_)
     {
         if (many_ == nullptr)
@@ -35,7 +35,7 @@ private:
 
     std::unique_ptr<Number[]> many_;
     std::size_t count_;
-    mutable Number few_[few]; // of a constant array, too, they are written
+    mutable Number few_[few]; // writable in a constant array, too
 };
 
 } // namespace vecmat

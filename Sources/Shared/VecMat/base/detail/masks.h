@@ -1,4 +1,4 @@
-// Exclusion masks, as the caller hands them in: one 16-bit entry for each row or cell.
+// Exclusion masks, as passed in by the caller: one 16-bit entry for each row or cell.
 #pragma once
 
 #include "../missing_value.h"
@@ -19,8 +19,8 @@ private:
     const short* entries_;
 };
 
-/// The entry of a row in a mask of missing cells: set where the row is excluded already, by a flag of exactly -1, or
-/// where its cell is missing (order test).
+/// The entry of a row in a mask of missing cells: set if the row is already excluded, by a flag of exactly -1, or its
+/// cell is missing (order test).
 constexpr short maskOfMissing(short flag, double cell)
 {
     return booleanOf(flag == -1 || isMissingOrBelow(cell));

@@ -1,4 +1,4 @@
-// Do the arrays of a call share memory?
+// Do the arrays of a call overlap?
 #pragma once
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 
 namespace vecmat {
 
-/// The bytes from `first` up to `last`, which is not one of them.
+/// The bytes from `first` up to, but not including, `last`.
 struct MemoryRange
 {
     const void* first;
@@ -30,7 +30,7 @@ MemoryRange memoryOf(const Element* array, std::size_t count)
     return {array, array != nullptr ? array + count : nullptr};
 }
 
-/// Ranges collected to see whether a write to one can be seen in another.
+/// Ranges collected to find out whether a write to one is visible in another.
 class MemoryRanges
 {
 public:
@@ -49,8 +49,8 @@ public:
         }
     }
 
-    /// Does each byte belong to one of them only? No where memory is short: the caller then takes the way that asks for
-    /// nothing, and the result is the same.
+    /// Does each byte belong to only one of them? False if allocation fails: the caller then takes the path that needs
+    /// no memory, with the same result.
     bool areApart()
     {
         if (!isComplete_)
@@ -82,7 +82,7 @@ private:
         return true;
     }
 
-    std::array<MemoryRange, 6> few_; // these need no call for memory
+    std::array<MemoryRange, 6> few_; // these need no allocation
     std::size_t fewCount_ = 0;
     std::vector<MemoryRange> others_;
     bool isComplete_ = true;

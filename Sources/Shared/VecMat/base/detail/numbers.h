@@ -5,20 +5,20 @@
 
 namespace vecmat {
 
-/// Truncation towards zero. A NaN and a value outside the range of int give the lowest int, as the processor does.
+/// Truncation towards zero. A NaN or a value outside the range of int gives the lowest int, as on the processor.
 constexpr int truncated(double x)
 {
     return x > -2147483649.0 && x < 2147483648.0 ? static_cast<int>(x) : std::numeric_limits<int>::min();
 }
 
-/// Number of cells of a rows by cols table: a 32-bit product that wraps without a test. A negative dimension has no
-/// cells, so that no table claims cells that nobody allocated.
+/// Number of cells of a rows by cols table: a 32-bit product that wraps without a check. A negative dimension gives no
+/// cells, so that no table claims cells that were never allocated.
 constexpr unsigned elementCount(int rows, int cols)
 {
     return rows < 0 || cols < 0 ? 0u : static_cast<unsigned>(rows) * static_cast<unsigned>(cols);
 }
 
-/// A count that drives an allocation or a copy: none where it is negative.
+/// A count that drives an allocation or a copy: 0 if negative.
 constexpr unsigned countOf(int n)
 {
     return n < 0 ? 0u : static_cast<unsigned>(n);
@@ -30,7 +30,7 @@ constexpr unsigned linearIndex(int i, int j, int nRows)
     return static_cast<unsigned>(i) + static_cast<unsigned>(j) * static_cast<unsigned>(nRows);
 }
 
-/// The Boolean of the callers: -1 for true, 0 for false, never 1.
+/// The callers' Boolean: -1 for true, 0 for false, never 1.
 constexpr short booleanOf(bool answer)
 {
     return answer ? -1 : 0;

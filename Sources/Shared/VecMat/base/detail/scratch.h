@@ -9,14 +9,14 @@
 
 namespace vecmat {
 
-/// Doubles without a value, aligned for the widest vectors. Where memory is short it holds none: the caller then takes
-/// the way that needs no scratch, and the result is the same.
+/// Uninitialised doubles, aligned for the widest vectors. Empty if allocation fails: the caller then takes the path
+/// that needs no scratch memory, with the same result.
 class Scratch
 {
 public:
     explicit Scratch(std::size_t count)
     {
-        // Aligned here: the usual call for memory takes much less time than the one that aligns.
+        // Aligned here: plain allocation is much faster than aligned allocation.
         if (count <= std::numeric_limits<std::size_t>::max() / (2 * sizeof(double)) - alignment)
             block_ = ::operator new(count * sizeof(double) + alignment, std::nothrow);
         if (block_ != nullptr) {
@@ -26,7 +26,7 @@ public:
     }
     ~Scratch()
     {
-        // The analyzer destroys what an optional held a second time, with the optional's storage.
+        // The analyzer destroys the contents of an optional a second time, with the optional's storage.
         ::operator delete(block_); // NOLINT(clang-analyzer-cplusplus.NewDelete)
     }
     Scratch(Scratch&& other) noexcept

@@ -1,5 +1,5 @@
-// What the classes of tables have in common: the arrays beside the cells, which receivers of a result can be read, and
-// how one is replaced.
+// Common to the table classes: the arrays beside the cells, which receivers of a result can be read, and how one is
+// replaced.
 #pragma once
 
 #include "../missing_value.h"
@@ -31,8 +31,8 @@ Number* resizedCopyOf(const Number* src, unsigned known, unsigned n, Number fill
     return copy;
 }
 
-/// Gives a table under construction copies of the arrays that a copy takes along from `src`, a table with as many
-/// columns. Weights beyond those of `src` read as cells outside a table do.
+/// Gives a table under construction copies of the arrays that a copy takes over from `src`, a table with as many
+/// columns. Weights beyond those of `src` read like cells outside a table.
 template <class Table>
 void copyArrays(const Table& src, Table& table)
 {
@@ -65,12 +65,12 @@ void deleteArrays(Table& table)
     delete[] table.norSigma;
 }
 
-/// Ends a table that another one replaces; one that lies in the frame of a call ends there.
+/// Destroys a table that another one replaces, unless it belongs to the frame of a call and is destroyed there.
 template <class Table>
 void release(Table* table)
 {
     if (table != nullptr && table->inFrame == 0)
-        delete table; // NOLINT(clang-analyzer-cplusplus.NewDelete): the unset pattern is not kept from getting here
+        delete table; // NOLINT(clang-analyzer-cplusplus.NewDelete): the unset pattern can still get here
 }
 
 } // namespace vecmat
