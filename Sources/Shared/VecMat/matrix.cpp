@@ -74,8 +74,8 @@ matrix::~matrix()
     vecmat::deleteArrays(*this);
 }
 
-// Both pointers must exist on such tables, so that InitnCol and InitWeightcorr leave them alone; nothing reads the
-// entries before it has stored them.
+// Both pointers must be set on such tables, so that InitnCol and InitWeightcorr leave them alone; no entry is read
+// before it is stored.
 void matrix::allocateClearedCounts()
 {
     nCol = new int[countOf(nCols)]();
@@ -187,8 +187,8 @@ void matrix::matCheck(matrix*& ref, int rows, int cols, double value)
         std::fill_n(ref->X, std::min(elementCount(rows, cols), ref->nElems), value);
         return;
     }
-    // Null first, so that a failing allocation leaves nothing to delete twice. The unset pattern is kept from being
-    // read above, not from being deleted here.
+    // Null first, so that a failed allocation leaves nothing to delete twice. The check for the unset pattern prevents
+    // it from being read above, not from being deleted here.
     vecmat::release(std::exchange(ref, nullptr));
     ref = new matrix(rows, cols, value);
 }

@@ -19,7 +19,7 @@ using vecmat::outOfRangeValue;
 
 namespace {
 
-/// What a `double` member answers to a shape that it cannot work with, and when all went well.
+/// What a `double` member returns for an unsuitable shape, and on success.
 constexpr double wrongShape = -1.0;
 constexpr double done = 0.0;
 
@@ -28,7 +28,7 @@ double square(double x)
     return x * x;
 }
 
-/// A zero divisor of a projection step is 1.0.
+/// In a projection step a divisor of zero counts as 1.0.
 double ratio(double numerator, double denominator)
 {
     return numerator / (denominator == 0.0 ? 1.0 : denominator);
@@ -40,7 +40,7 @@ double matchingCell(matrix* m, bool flag, int other, int i)
     return flag ? cells(m).get(other, i) : cells(m).get(i, other);
 }
 
-/// Column c of `out` takes `target(i)` in each of its rows.
+/// Sets column c of `out` to `target(i)` in each row i.
 template <class Target>
 void project(matrix* out, int col, Target target)
 {
@@ -244,7 +244,7 @@ double matrix::matVecProd(matrix* a, matrix* b, int col, int dst)
     const auto y = cells(b);
     for (int i = 0; i < nRows; ++i) {
         double sum = 0.0;
-        // To this table's column count, not the factors': where they differ the reads run past the factors.
+        // Up to this table's column count, not the factors': if they differ the reads run past the factors.
         for (int k = 0; k < nCols; ++k)
             sum += x.get(i, k) * y.get(k, col);
         cells(this).set(i, dst, sum);
@@ -292,7 +292,7 @@ double matrix::predictLine(matrix* t, matrix* p, int row, int n, int tRow)
 }
 
 // ---- projection steps -----------------------------------------------------------------------------------------------
-// Of the four, only the weighted step over rows looks at whether the cell of `x` is missing, and only it has weights in
+// Of the four, only the weighted step over rows checks whether the cell of `x` is missing, and only it has weights in
 // its divisor: those of `x`.
 
 void matrix::GaussProd(matrix* x, int col, matrix* out)
@@ -321,7 +321,7 @@ void matrix::GaussProdWeighted(matrix* x, int col, matrix* out)
 {
     InitWeights();
     project(out, col, [=, this, own = cells(this), factor = cells(x)](int i) {
-        // A target row beyond this table has no weight: it reads as -1.0, as its cells do, and adds nothing.
+        // A target row beyond this table has no weight: it reads as -1.0, like its cells, and adds nothing.
         const double weight = i < nRows ? weights[i] : outOfRangeValue;
         double sum = 0.0;
         if (weight > 0.0)

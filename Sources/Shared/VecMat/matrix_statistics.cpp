@@ -13,7 +13,7 @@ using vecmat::onBlocks;
 
 namespace {
 
-/// What the getters answer for a column that is not there.
+/// What the getters return for a column that does not exist.
 constexpr double noSuchColumn = -1.0;
 
 /// Weighted mean and sum of squares about it, by running updates.
@@ -23,7 +23,7 @@ struct WeightedMoments
     double weight = 0.0;  ///< sum of the weights
     double squares = 0.0; ///< weighted sum of squares about the mean
     double mean = 0.0;
-    int rows = 0; ///< rows present, those of weight 0 too: they lower the corrected weight, and only that
+    int rows = 0; ///< rows present, including those of weight 0: they lower the corrected weight, and nothing else
 
     void add(double x, double w)
     {

@@ -30,7 +30,7 @@ int Mod(int a, int b)
 {
     if (b == 0)
         return a;
-    if (b == -1) // the quotient of the lowest int would not fit
+    if (b == -1) // the quotient of the lowest int would overflow
         return 0;
     return a % b;
 }

@@ -5,8 +5,8 @@
 
 namespace {
 
-/// std::mt19937 with a state of words of 32 bits, where the standard's name has the processor's fastest: the same
-/// series, drawn from half the memory in less than half the time.
+/// std::mt19937 with a state of 32-bit words, where the standard's alias uses the processor's fastest type: the same
+/// series, from half the memory in less than half the time.
 using Twister = std::mersenne_twister_engine<std::uint32_t, 32, 624, 397, 31, 0x9908b0df, 11, 0xffffffff, 7, 0x9d2c5680,
                                              15, 0xefc60000, 18, 1812433253>;
 
@@ -33,8 +33,8 @@ void GetSeed(int* seed, int seedFlag)
 
 double Random01(void)
 {
-    // 27 and 26 bits make the 53 of a double's significand; taken as one whole number below 2^53, the quotient is
-    // exact.
+    // 27 and 26 bits make up the 53 of a double's significand; the combined whole number is below 2^53, so the quotient
+    // is exact.
     Twister& twister = generator();
     const std::uint64_t high = twister() >> 5;
     const std::uint64_t low = twister() >> 6;

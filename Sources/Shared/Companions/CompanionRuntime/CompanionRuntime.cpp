@@ -9,7 +9,7 @@
 #include <vector>
 
 #ifdef _WIN32
-// OLE Automation's own, declared here: its header would bring in those of the whole system.
+// OLE Automation's own functions, declared here because its header would pull in those of the whole system.
 extern "C" {
 __declspec(dllimport) wchar_t* __stdcall SysAllocStringByteLen(const char* characters, unsigned int bytes);
 __declspec(dllimport) void __stdcall SysFreeString(wchar_t* bstr);
@@ -53,7 +53,7 @@ void releaseByPlatform(wchar_t* bstr)
 
 #endif
 
-// A host sets both before anything else runs: what counts is that a thread started later sees them.
+// A host sets both before anything else runs: it is enough that threads started later see them.
 constinit std::atomic<BstrAllocate> allocateBstr{allocateByPlatform};
 constinit std::atomic<BstrRelease> releaseBstr{releaseByPlatform};
 
@@ -74,7 +74,7 @@ std::size_t unitsOf(const wchar_t* text)
     return units;
 }
 
-/// Writes bytes, as they are read.
+/// Writes bytes, just as they are read.
 char* append(char16_t unit, char* to)
 {
     std::memcpy(to, &unit, sizeof unit);
@@ -96,8 +96,8 @@ void writeUnits(const wchar_t* text, char* to)
     append(u'\0', to);
 }
 
-/// Holds the text that was converted last, and whatever a longer one has left behind it. A function of its own, so that
-/// the place is looked up once for a text: inlined, the compiler looks it up again at each use.
+/// Holds the text converted last, and what remains of an earlier, longer one. A separate function, so that the address
+/// is looked up once per text: inlined, the compiler looks it up again at each use.
 [[gnu::noinline]] std::vector<wchar_t>& lastConverted()
 {
     thread_local std::vector<wchar_t> text;

@@ -6,17 +6,17 @@
 
 namespace {
 
-// Longer exponents are cut down to this: no text that fits into memory has digits enough to balance it.
+// Longer exponents are capped at this: no text that fits into memory has enough digits to balance it.
 constexpr long long exponentLimit = std::numeric_limits<long long>::max() / 4;
 
 struct DecimalText
 {
     bool negative = false;
-    std::string digits;      // as written, the point included, without the sign
-    long long magnitude = 0; // the power of ten just above the first digit that is not 0
+    std::string digits;      // as written, including the point, without the sign
+    long long magnitude = 0; // the power of ten just above the first non-zero digit
     long long exponent = 0;  // as written
     bool isNumber = false;   // a digit was found
-    bool isZero = true;      // no digit other than 0 was found
+    bool isZero = true;      // no non-zero digit was found
 };
 
 bool isDigit(wchar_t character)
@@ -29,7 +29,7 @@ bool isBlank(wchar_t character)
     return character == L' ' || (character >= L'\t' && character <= L'\r');
 }
 
-// Reads a sign, if there is one, and steps behind it; true for a minus.
+// Reads the sign, if any, and moves past it; true for a minus.
 bool readSign(const wchar_t*& text)
 {
     const bool negative = *text == L'-';

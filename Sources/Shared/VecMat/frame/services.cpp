@@ -81,7 +81,7 @@ std::wstring ChrSp(int code)
         long long power = 1;
         for (int k = 0; k < place; ++k)
             power *= 26;
-        // Counting from the character before A: the third place starts anew with a zero digit behind it, hence A@A.
+        // Counting from the character before A: the third place starts again with a zero digit after it, hence A@A.
         label += static_cast<wchar_t>(rest / power + 64);
         rest %= power;
     }

@@ -13,7 +13,7 @@ using vecmat::truncated;
 
 namespace {
 
-/// Deletes the tables made so far when loading fails half way.
+/// Deletes the tables created so far if loading fails half way.
 template <class Table>
 class ColumnArray
 {
@@ -33,7 +33,7 @@ private:
     std::unique_ptr<Table*[]> tables_;
 };
 
-/// Rows fall by one after every column that is present, where the array is a triangle.
+/// For a triangle the number of rows drops by one after every column present.
 template <class Table, class Open>
 Table** loadColumns(SAFEARRAY** sa, int nCols, int nRows, int width, SAFEARRAY* SAFEARRAYColumn::*kind, Open open)
 {
@@ -74,7 +74,7 @@ void forEachInterleaved(int n, int rows, int cols, Visit visit)
     }
 }
 
-/// Fills the stack with new tables; nulls first, so that a failure leaves the caller something to delete.
+/// Fills the stack with new tables; nulls first, so that after a failure the caller can still delete the stack.
 template <class Table, class Make>
 void makeStack(Table** sm, int n, Make make)
 {

@@ -5,16 +5,16 @@
 
 namespace vecmat {
 
-/// A tile has `rows` by `cols` results, column by column without gaps. The operands are packed: of the left one `rows`
-/// numbers for each k, of the right one `cols` numbers for each k. For k from 0 to inner - 1, and for each result on its
+/// A tile has `rows` by `cols` results, column by column without gaps. The operands are packed: the left one has `rows`
+/// numbers for each k, the right one `cols` numbers for each k. For k from 0 to inner - 1, and for each result on its
 /// own,
 ///     add            tile(i, j) = tile(i, j) + left(i, k) * right(k, j)
 ///     subtract       tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
 ///     addWeighted    tile(i, j) = tile(i, j) + left(i, k) * right(k, j) * weights(k)
 /// each product and each sum rounded.
 ///
-/// `substitute` solves a triangular system whose left side, of `count` rows and columns, at most `rows`, has an implicit
-/// diagonal of ones. For k from 0 to count - 1 row k of the tile is finished and copied to row k of `right`, and for
+/// `substitute` solves a triangular system whose left side, of `count` rows and columns, at most `rows`, has an
+/// implicit diagonal of ones. For k from 0 to count - 1 row k of the tile is finished and copied to row k of `right`, and for
 /// each result in a row i below it
 ///     tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
 /// down to the last row of the tile.

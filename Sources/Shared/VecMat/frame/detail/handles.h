@@ -1,14 +1,14 @@
-// The call frame: how an exported flat form wraps the caller's arrays, and how results go back.
+// The call frame: how an exported flat form wraps the caller's arrays, and how results are written back.
 //
 //     viewed    the caller's array itself, read or written in place
-//     copied    a private copy; the caller's array is never written unless the result is handed back
-//     fresh     a new table for a result that is then handed back
+//     copied    a private copy; the caller's array is written only if the result is written back
+//     fresh     a new table for a result that is then written back
 //     columns   an array of arrays, each column a view (numbers) or a copy (strings)
 //
-// The tables of a call end with it, on every path, also one that the computing function put in place of another. Tables
-// of numbers lie on the stack, and the cells of small ones too: a call on few numbers takes no memory for its frame.
-// A null array is handed on as a null table. Handing a result back is an explicit statement, so that nothing is written
-// to the caller while an exception passes.
+// The tables of a call are destroyed when it ends, on every path, including a replacement made by the computing
+// function. Tables of numbers are on the stack, and so are the cells of small ones: a call on few numbers needs no
+// allocation for its frame. A null array is passed on as a null table. Writing a result back is an explicit statement,
+// so that nothing is written to the caller while an exception propagates.
 #pragma once
 
 #include "../../Smatrix.h"
@@ -52,7 +52,7 @@ union TableInPlace {
     Table table;
 
 private:
-    /// Has a callee given it weights or moments? That is rare, and looked at in one go.
+    /// Has a callee given it weights or moments? That is rare, and tested for all arrays at once.
     bool hasArrays() const
     {
         const auto bits = [](const void* array) { return reinterpret_cast<std::uintptr_t>(array); };
@@ -61,7 +61,7 @@ private:
     }
 };
 
-/// What views and handles have in common: it stands for its table wherever one is asked for.
+/// Common to views and handles: converts to its table wherever one is expected.
 template <class Table>
 class FrameTable
 {
@@ -69,7 +69,7 @@ public:
     operator Table*() const { return pointer_; }
     Table* operator->() const { return pointer_; }
 
-    /// For a result argument: the callee may put another table in place of this one.
+    /// For a result argument: the callee may replace the table by another.
     Table*& reference() { return pointer_; }
 
     FrameTable(const FrameTable&) = delete;
@@ -83,16 +83,16 @@ protected:
     ~FrameTable()
     {
         if (pointer_ != &place_.table)
-            delete pointer_; // NOLINT(clang-analyzer-cplusplus.NewDelete): one that a callee has made
+            delete pointer_; // NOLINT(clang-analyzer-cplusplus.NewDelete): created by a callee
     }
 
-    /// The table that this one was made with is still the one.
+    /// Whether the original table is still in use.
     bool isInPlace() const { return pointer_ == &place_.table; }
-    /// Takes what the other has instead of a table of its own.
+    /// Takes over the table that has replaced the other's own.
     void takeReplacement(FrameTable& other) { pointer_ = std::exchange(other.pointer_, nullptr); }
 
 private:
-    mutable TableInPlace<Table> place_; // what is constant is which table this is, not the table
+    mutable TableInPlace<Table> place_; // constant is which table this is, not its contents
     Table* pointer_;
 };
 
@@ -107,7 +107,7 @@ public:
 View(double*, int, int)->View<matrix>;
 View(int*, int, int)->View<matrixInt>;
 
-/// A table with cells of its own, or none.
+/// A table with its own cells, or none.
 template <class Table>
 class Handle : LocalArray<CellType<Table>>, public FrameTable<Table>
 {
@@ -126,12 +126,12 @@ public:
         const std::size_t count = std::min<std::size_t>(given, Cells::size());
         std::fill(std::copy_n(src, count, Cells::data()), Cells::data() + Cells::size(), 0);
     }
-    /// Weights and moments that a callee gave the table stay behind.
+    /// Weights and moments that a callee gave the table are not moved.
     Handle(Handle&& other) noexcept
         : Cells(std::move(other)), FrameTable<Table>(other.rows(), other.cols(),
                                                      other.isInPlace() ? Cells::data() : nullptr)
     {
-        if (!other.isInPlace()) // NOLINT(bugprone-use-after-move): what has moved are its cells
+        if (!other.isInPlace()) // NOLINT(bugprone-use-after-move): only its cells have moved
             this->takeReplacement(other);
     }
 
@@ -146,7 +146,7 @@ using IntTableHandle = Handle<matrixInt>;
 
 // ---- tables of strings ----------------------------------------------------------------------------------------------
 
-/// Owns a table of strings for the length of a call.
+/// Owns a table of strings for the duration of a call.
 template <>
 class Handle<Smatrix>
 {
@@ -160,7 +160,7 @@ public:
     Handle& operator=(Handle&&) = delete;
     ~Handle()
     {
-        if (opened_ != table_) // one that was replaced is left to its owner
+        if (opened_ != table_) // a table that was replaced is left to its owner
             delete opened_;
         delete table_;
     }
@@ -168,7 +168,7 @@ public:
     operator Smatrix*() const { return table_; }
     Smatrix* operator->() const { return table_; }
 
-    /// For a result argument: the callee may put another table in place of this one.
+    /// For a result argument: the callee may replace the table by another.
     Smatrix*& reference() { return table_; }
 
 private:
@@ -190,7 +190,8 @@ inline View<matrixInt> viewed(int* x, int rows, int cols)
     return {x, rows, cols};
 }
 
-/// Opens the table at its final size over an array of `srcRows` by `srcCols` (0: as the table), copied in linear order.
+/// Opens the table at its final size over an array of `srcRows` by `srcCols` (0: the table's own), copied in linear
+/// order.
 inline TableHandle copied(double* x, int rows, int cols, int srcRows = 0, int srcCols = 0)
 {
     const unsigned given = elementCount(srcRows != 0 ? srcRows : rows, srcCols != 0 ? srcCols : cols);
@@ -228,9 +229,9 @@ inline StringTableHandle freshStrings(int rows, int cols)
     return StringTableHandle(new Smatrix(rows, cols));
 }
 
-// ---- hand back ------------------------------------------------------------------------------------------------------
+// ---- write back -----------------------------------------------------------------------------------------------------
 
-/// Writes every cell of the table to the caller's array; nothing where either is null.
+/// Writes every cell of the table to the caller's array; does nothing if either is null.
 template <class Tables, class Element>
 void handBack(const Tables& table, Element* out)
 {
@@ -240,7 +241,7 @@ void handBack(const Tables& table, Element* out)
 
 // ---- arrays of arrays -----------------------------------------------------------------------------------------------
 
-/// Owns the tables over a caller's array of arrays for the length of a call.
+/// Owns the tables over a caller's array of arrays for the duration of a call.
 template <class Table>
 class ColumnsHandle
 {
@@ -280,7 +281,7 @@ inline ColumnsHandle<matrix> triangleColumns(SAFEARRAY** x, int n)
     return {x != nullptr ? LoadSAFEARRAY(x, n, n, 0) : nullptr, n};
 }
 
-/// String columns: copies, which `SaveSAFEARRAY` hands back.
+/// String columns: copies, which `SaveSAFEARRAY` writes back.
 inline ColumnsHandle<Smatrix> stringColumns(SAFEARRAY** x, int nCols, int nRows)
 {
     return {x != nullptr ? LoadSAFEARRAYStr(x, nCols, nRows, 1) : nullptr, nCols};

@@ -1,5 +1,5 @@
-// Work on the caller's arrays themselves where no two of them share memory, else on copies: what is written to one array
-// is then never read in another before its time.
+// Works on the caller's arrays themselves if no two of them overlap, otherwise on copies: what is written to one array
+// is then never read from another too early.
 #pragma once
 
 #include "../../base/detail/memory_ranges.h"
@@ -8,7 +8,7 @@
 
 namespace vecmat {
 
-/// An array of numbers as the caller hands it in.
+/// An array of numbers as passed in by the caller.
 template <class Number>
 struct CallerArray
 {
@@ -30,11 +30,11 @@ bool areApart(const CallerArray<Numbers>&... arrays)
     return ranges.areApart();
 }
 
-/// What becomes of the copies when `compute` has returned.
+/// What happens to the copies once `compute` has returned.
 enum class Copies { handedBack, dropped };
 
-/// Calls compute(table, ...) on views of the arrays where `inPlace`, else on copies of them. These are handed back in the
-/// order of the arguments.
+/// Calls compute(table, ...) on views of the arrays if `inPlace`, otherwise on copies of them. These are written back
+/// in the order of the arguments.
 template <Copies copies, class Compute, class... Numbers>
 auto onViewsOrCopies(bool inPlace, Compute compute, CallerArray<Numbers>... arrays)
 {

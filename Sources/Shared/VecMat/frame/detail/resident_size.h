@@ -1,9 +1,9 @@
-// How much memory the process holds, as its operating system tells it.
+// The memory in use by the process, as reported by its operating system.
 #pragma once
 
 namespace vecmat {
 
-/// Resident size of the process in bytes; negative where the operating system does not tell.
+/// Resident size of the process in bytes; negative if the operating system does not report it.
 double residentSize();
 
 } // namespace vecmat
