@@ -7,7 +7,7 @@
 
 namespace companions {
 
-/// Whether a wide character holds a whole code point. Where it doesn't, a wide text is UTF-16 as a BSTR is.
+/// Whether a wide character can hold a whole code point. If not, a wide text is UTF-16, like a BSTR.
 constexpr bool wideHoldsCodePoints = sizeof(wchar_t) == sizeof(char32_t);
 static_assert(wideHoldsCodePoints || sizeof(wchar_t) == sizeof(char16_t));
 
@@ -21,7 +21,7 @@ inline bool isLowSurrogate(char16_t unit)
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
-/// Reads bytes, not units: the text comes from another language, whose type for a unit is its own affair.
+/// Reads bytes, not units: the text comes from another language, whose type for a unit may differ.
 inline char16_t unitAt(const void* text, std::size_t position)
 {
     char16_t unit;
@@ -37,9 +37,8 @@ inline std::size_t lengthOf(const void* text)
     return length;
 }
 
-/// Converts `length` units to wide characters, which are no more, and returns the place behind the last. A surrogate
-/// pair becomes one character, if one can hold it; a surrogate without its partner stays as it is, so that no text is
-/// lost on the way there and back.
+/// Converts `length` units to at most as many wide characters, and returns the place after the last. A surrogate pair
+/// becomes one character, if one can hold it; an unpaired surrogate is kept, so that no text is lost in a round trip.
 inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
 {
     if constexpr (!wideHoldsCodePoints) {
@@ -48,7 +47,7 @@ inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
     }
     for (std::size_t position = 0; position < length; ++position) {
         const char16_t unit = unitAt(text, position);
-        // Behind a high surrogate stands at least the NUL, so the next unit may be read.
+        // A high surrogate is followed at least by the NUL, so the next unit may be read.
         const char16_t next = isHighSurrogate(unit) ? unitAt(text, position + 1) : char16_t(0);
         if (isLowSurrogate(next)) {
             *to++ = static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
@@ -60,7 +59,7 @@ inline wchar_t* widen(const void* text, std::size_t length, wchar_t* to)
     return to;
 }
 
-/// Appends the text up to its NUL to `wide`. A null pointer is the empty text.
+/// Appends the text up to its NUL to `wide`. A null pointer means the empty text.
 inline void appendUtf16(const void* text, std::wstring& wide)
 {
     if (text == nullptr)
