@@ -14,8 +14,8 @@ namespace vecmat {
 /// each product and each sum rounded.
 ///
 /// `substitute` solves a triangular system whose left side, of `count` rows and columns, at most `rows`, has an
-/// implicit diagonal of ones. For k from 0 to count - 1 row k of the tile is finished and copied to row k of `right`, and
-/// for each result in a row i below it
+/// implicit diagonal of ones. For k from 0 to count - 1 row k of the tile is finished and copied to row k of `right`,
+/// and for each result in a row i below it
 ///     tile(i, j) = tile(i, j) - left(i, k) * right(k, j)
 /// down to the last row of the tile.
 struct TileKernels
