@@ -142,8 +142,8 @@ short V_IsPositive(matrix* x, int n, short strict)
 short M_IsPositive(matrix* a, int rows, int cols, short* mask, short strict)
 {
     const bool zeroFails = strict == -1;
-    return booleanOf(everyCell(cells(a), rows, cols, [zeroFails, asked = Mask(mask)](double cell, int row) {
-        return !(zeroFails ? cell <= 0.0 : cell < 0.0) || !asked.keeps(row);
+    return booleanOf(everyCell(cells(a), rows, cols, [zeroFails, included = Mask(mask)](double cell, int row) {
+        return !(zeroFails ? cell <= 0.0 : cell < 0.0) || !included.keeps(row);
     }));
 }
 

@@ -79,7 +79,7 @@ inline Lanes laneNumbers()
 }
 
 /// Subtracts `factor` times a column from the rows of another after row k.
-inline void takeOffBehind(int k, const double* column, double factor, double* from)
+inline void subtractBelow(int k, const double* column, double factor, double* from)
 {
     int v = k / laneCount * laneCount;
     const Lanes before = load(from + v);
@@ -94,7 +94,7 @@ void substitute(int count, const double* left, double* right, double* tile)
     for (int k = 0; k < count; ++k) {
         for (int j = 0; j < cols; ++j) {
             right[j] = tile[j * rows + k];
-            takeOffBehind(k, left, right[j], tile + j * rows);
+            subtractBelow(k, left, right[j], tile + j * rows);
         }
         left += rows;
         right += cols;

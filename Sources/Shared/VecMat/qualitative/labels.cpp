@@ -38,7 +38,7 @@ public:
     }
     int after(int place) const { return next_[static_cast<std::size_t>(place)]; }
 
-    bool standsBehind(int place, const std::wstring& label) const
+    bool occursAfter(int place, const std::wstring& label) const
     {
         const int number = chains_.find(label);
         return number != Chains::none && chains_.value(number).last > place;
@@ -81,7 +81,7 @@ void V_ReplaceDoubles(Smatrix* x, int n)
             std::wstring numbered;
             do
                 numbered = x->X[i] + std::to_wstring(++counter);
-            while (places.standsBehind(repeat, numbered));
+            while (places.occursAfter(repeat, numbered));
             x->X[repeat] = std::move(numbered);
             const int next = places.after(repeat);
             places.append(repeat);

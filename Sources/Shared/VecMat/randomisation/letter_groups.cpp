@@ -53,7 +53,7 @@ public:
             extend();
             if (last_ + 1 >= n_)
                 break;
-            checkOrderBehind();
+            checkOrderAfter();
             checkWithin([this](int s, int t) { return differences_.magnitude(s, t) > 0; });
             if (!openNext())
                 return clean_;
@@ -74,7 +74,7 @@ private:
     }
 
     /// The place after the group differs from its first; all later ones should, too.
-    void checkOrderBehind()
+    void checkOrderAfter()
     {
         for (int t = last_ + 2; t < n_; ++t)
             if (differences_.magnitude(first_, t) == 0)

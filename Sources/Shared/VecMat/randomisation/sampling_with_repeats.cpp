@@ -25,7 +25,7 @@ void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
 /// Does each row of the sample have cells of its own, none of them in the population? Then everything read is the
 /// population's original contents, and the order in which the rows are written does not matter.
 template <class Rows>
-bool rowsStandApart(Rows S, Rows Z, int n, int p)
+bool rowsAreApart(Rows S, Rows Z, int n, int p)
 {
     if (p < 1 || n < 1 || !cells(Z).covers(n, p) || cells(Z).plain().folds(n, p))
         return false;
@@ -48,7 +48,7 @@ void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int
     for (int i = 1; i <= n; ++i)
         id.set(zeroBased(i), rowDrawn(i));
     // Usually the numbers are sorted alone, so that no string is moved once it is copied.
-    if (id.covers(n) && rowsStandApart(S, Z, n, p)) {
+    if (id.covers(n) && rowsAreApart(S, Z, n, p)) {
         SortQVector(ids, n, 1, n, sortAscending);
         for (int i = 1; i <= n; ++i)
             copyRow(cells(S), truncated(id.get(zeroBased(i))), cells(Z), i, p);

@@ -142,15 +142,15 @@ void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTie
     const Ranking ranking(x, n);
     const auto weight = [&](std::size_t k) { return linear(weights).get(ranking.sorted.row(k)); };
     const auto closerThanTolerance = [](double value, double other) { return std::abs(value - other) < tieTolerance; };
-    const auto shareWeightedMean = [&](std::size_t first, std::size_t behind) {
+    const auto shareWeightedMean = [&](std::size_t first, std::size_t end) {
         // The first of a group takes the weight of the very first element: a fixed part of the rule.
         double weightSum = weight(0);
         double rankSum = ranking.ranks[first] * weightSum;
-        for (std::size_t k = first + 1; k < behind; ++k) {
+        for (std::size_t k = first + 1; k < end; ++k) {
             weightSum += weight(k);
             rankSum += ranking.ranks[k] * weight(k);
         }
-        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + behind, rankSum / weightSum);
+        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + end, rankSum / weightSum);
     };
     const auto lengths = settleTies(ranking, closerThanTolerance, shareWeightedMean);
     // All weights have been read: nothing written from here on can change them.
@@ -163,8 +163,8 @@ void V_GetRanksTiesInt(matrix* x, int n, matrix* /*weights*/, matrix*& ranks, in
 {
     const Ranking ranking(x, n);
     const auto equal = [](double value, double other) { return value == other; };
-    const auto shareLowest = [&](std::size_t first, std::size_t behind) {
-        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + behind, ranking.ranks[first]);
+    const auto shareLowest = [&](std::size_t first, std::size_t end) {
+        std::fill(ranking.ranks.get() + first, ranking.ranks.get() + end, ranking.ranks[first]);
     };
     writeTies(settleTies(ranking, equal, shareLowest), nTies, tieSizes);
     ranking.writeTo(ranks);

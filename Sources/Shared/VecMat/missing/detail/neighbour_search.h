@@ -240,8 +240,8 @@ private:
         if (boundsState_ == Bounds::settled)
             return;
         const int columns = numberColumns(primary_) + numberColumns(second_);
-        if (boundsState_ == Bounds::notAsked) {
-            const bool pays = columns > 0 && rows_ >= fewestRowsToBound && rowsStandApart();
+        if (boundsState_ == Bounds::notRequested) {
+            const bool pays = columns > 0 && rows_ >= fewestRowsToBound && rowsAreApart();
             boundsState_ = pays ? Bounds::withNextSearch : Bounds::settled;
             return;
         }
@@ -262,7 +262,7 @@ private:
     }
 
     /// Does no row share a cell with another? Only then do the copied rows stay unchanged while others are filled.
-    bool rowsStandApart() const
+    bool rowsAreApart() const
     {
         MemoryRanges memory;
         return addColumns(primary_, memory) && addColumns(second_, memory) && memory.areApart();
@@ -305,9 +305,9 @@ private:
     Mask mask_;
     Distance distance_; // its flag lasts for the whole call
 
-    enum class Bounds { notAsked, withNextSearch, settled };
+    enum class Bounds { notRequested, withNextSearch, settled };
 
-    Bounds boundsState_ = Bounds::notAsked;
+    Bounds boundsState_ = Bounds::notRequested;
     std::optional<DistanceBounds> bounds_; // none if every row has to be visited
 };
 

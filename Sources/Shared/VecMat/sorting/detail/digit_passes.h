@@ -172,11 +172,11 @@ Item* sortByDigits(Item* from, Item* to, std::size_t n, int bits, WindowOf windo
 template <class Item, class Tied, class Sort>
 void forEachTie(Item* items, std::size_t n, Tied tied, Sort sort)
 {
-    for (std::size_t first = 0, behind = 1; behind <= n; ++behind)
-        if (behind == n || !tied(items[first], items[behind])) {
-            if (behind - first > 1)
-                sort(first, behind - first);
-            first = behind;
+    for (std::size_t first = 0, end = 1; end <= n; ++end)
+        if (end == n || !tied(items[first], items[end])) {
+            if (end - first > 1)
+                sort(first, end - first);
+            first = end;
         }
 }
 

@@ -120,12 +120,12 @@ Word* numberMissingApart(const double* keys, std::size_t n, std::size_t missing,
 /// Moves the missing numbers to that end, the others in any order.
 double* moveMissingApart(double* x, std::size_t n, std::size_t missing, Direction direction)
 {
-    double* const behind = std::remove_if(x, x + n, isMissing);
+    double* const end = std::remove_if(x, x + n, isMissing);
     if (direction == Direction::descending) {
-        std::fill(behind, x + n, missingValue);
+        std::fill(end, x + n, missingValue);
         return x;
     }
-    std::copy_backward(x, behind, x + n);
+    std::copy_backward(x, end, x + n);
     std::fill_n(x, missing, missingValue);
     return x + missing;
 }
