@@ -1,5 +1,5 @@
-// Category lists and disjunctive tables, over tables of strings: without the conversion of the caller's strings. What
-// a caller pays with the conversion is told by the flat exports beside them.
+// Category lists and disjunctive tables, over tables of strings: without converting the caller's strings. The flat
+// exports beside them show the cost including the conversion.
 #include "contest.h"
 #include "plain/plain.h"
 #include "texts.h"
@@ -58,7 +58,7 @@ struct CategoryList
         contest.ours(
             [this] { M_InfoQuali(table.get(), n, 1, modes, modeWeights, counts, names, sums, &weights, &total, 0); },
             [this] { return Cells(sums->X, sums->X + counts->X[0]); });
-        // One comparison with each category and row: beyond this many nobody waits for it.
+        // One comparison for each category and row: too slow to wait for beyond this many.
         if (categories <= 1000)
             contest.plain([this] { plain::categories(table->X, n, weights.X, plainNames, plainSums); },
                           [this] { return agreement(); });

@@ -1,4 +1,4 @@
-// A workload and those who compete in it: the library, the plain loop as told, and its peers, all over the same data.
+// A workload and its contenders: the library, the plain loop and the peers, all over the same data.
 //
 // A workload is a class that makes its data for one size and enters its contenders:
 //
@@ -16,8 +16,8 @@
 //     ...
 //     suite.add<Quantile>("quantile", {10'000, 100'000, 1'000'000});
 //
-// Before anything is timed, all contenders run once: the plain loop's result must have the bits of the library's, that
-// of a peer must agree within its tolerance. What fails this is reported as an error and not timed.
+// Before anything is timed, all contenders run once: the plain loop's result must be bit-identical to the library's, a
+// peer's must agree within its tolerance. A contender that fails this is reported as an error and not timed.
 #pragma once
 
 #include "support/constants.h"
@@ -40,7 +40,7 @@ using Texts = std::vector<std::wstring>;
 using Action = std::function<void()>;
 using Result = std::function<Cells()>;
 
-/// The count of elements as the library takes it.
+/// The number of elements, in the library's type.
 template <class Container>
 int lengthOf(const Container& container)
 {
@@ -59,33 +59,33 @@ struct Contender
 {
     std::string name;
     Action run;
-    Result result;    // after a run; where it is empty, all outputs
+    Result result;    // after a run; if empty, all outputs
     double tolerance; // largest deviation, in units of the largest number in the library's result
 };
 
-/// A peer whose result is another one by its own rules.
+/// For a peer whose rules give a different result.
 inline constexpr double incomparable = -1.0;
-/// The tolerance of those that must have the library's bits.
+/// The tolerance of contenders that must be bit-identical to the library.
 inline constexpr double sameBits = 0.0;
 
 class Contest
 {
 public:
-    /// Done before every run, without being timed: restores what a run spoils.
+    /// Called before every run, untimed: restores what a run overwrites.
     void reset(Action action) { reset_ = std::move(action); }
-    /// The result of a run, as far as the contender doesn't say otherwise.
+    /// The result of a run, unless the contender specifies another.
     void outputs(std::initializer_list<Cells*> cells) { outputs_ = cells; }
 
     void ours(Action run, Result result = {}) { add("ours", sameBits, run, result); }
     void plain(Action run, Result result = {}) { add("plain", sameBits, run, result); }
-    /// The library again, by another of its functions.
+    /// The library again, through another of its functions.
     void oursToo(const std::string& name, Action run, Result result = {}) { add(name, sameBits, run, result); }
     void peer(const std::string& name, double tolerance, Action run, Result result = {})
     {
         add(name, tolerance, run, result);
     }
 
-    /// Data for contenders outside of this program.
+    /// Data for contenders outside this program.
     void share(const std::string& name, const Cells& cells) { sharedCells_.emplace_back(name, &cells); }
     void share(const std::string& name, const Texts& texts) { sharedTexts_.emplace_back(name, &texts); }
 
@@ -96,10 +96,10 @@ public:
             reset_();
     }
 
-    /// The result of one run, into outputs that hold nothing of an earlier one.
+    /// The result of one run, in outputs cleared of earlier results.
     Cells resultOf(const Contender& contender) const;
 
-    /// Writes the shared data, the library's result and the size: numbers as doubles, strings one a line.
+    /// Writes the shared data, the library's result and the size: numbers as doubles, strings one per line.
     void write(const std::string& directory, int size) const;
 
 private:
@@ -115,7 +115,7 @@ private:
     std::vector<std::pair<std::string, const Texts*>> sharedTexts_;
 };
 
-/// A contest with the data that its contenders work on.
+/// A contest with its contenders' data.
 class Stage
 {
 public:
@@ -136,7 +136,7 @@ private:
     std::shared_ptr<void> workload_;
 };
 
-/// How a workload is timed: run by run with a reset before each, or in one loop of calls too short for a clock.
+/// How a workload is timed: run by run with a reset before each, or in a loop if a call is too short to time.
 enum class Timing { eachRun, manyCalls };
 
 struct Entry
@@ -161,7 +161,7 @@ private:
     std::vector<Entry> entries_;
 };
 
-// One function a source.
+// One function per source.
 void addSorting(Suite& suite);
 void addProducts(Suite& suite);
 void addMoments(Suite& suite);

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int cols = 60;
 
-/// Columns that have something in common.
+/// Columns with a common component.
 Cells relatedColumns(int n, std::uint64_t seed)
 {
     RandomData random(seed);

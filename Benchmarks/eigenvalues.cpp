@@ -34,7 +34,7 @@ struct Eigenvalues
     Cells a, values, vectors;
 
     explicit Eigenvalues(int order) : n(order), a(correlations(n, 50)), values(count(n)), vectors(a.size()) {}
-    /// The vectors of a peer may point the other way.
+    /// A peer's vectors may have the opposite sign.
     Cells descending() const
     {
         Cells sorted = values;
@@ -59,7 +59,7 @@ struct Eigenvalues
     }
 
 private:
-    /// The eigenvalues, if the vectors too have the library's bits.
+    /// The eigenvalues, provided the vectors are bit-identical to the library's, too.
     Cells agreement()
     {
         const Cells itsValues = values;
@@ -96,7 +96,7 @@ private:
     }
 };
 
-/// Correlations disturbed so much that they are those of nothing.
+/// Correlations perturbed so much that no data could have them.
 struct NearestCorrelation
 {
     int n;

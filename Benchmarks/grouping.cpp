@@ -49,7 +49,7 @@ struct GroupMeans
     }
 
 private:
-    /// The means, if all of the result has the library's bits.
+    /// The means, provided the whole result is bit-identical to the library's.
     Cells agreement()
     {
         const Cells itsOut = out;

@@ -1,4 +1,4 @@
-// Regression, and components past missing cells.
+// Regression, and components with missing cells.
 #include "contest.h"
 #include "lapack.h"
 #include "plain/plain.h"
@@ -66,7 +66,7 @@ private:
     {
         RunOLSBasic2(n, cols, x.data(), y.data(), w.data(), 1, 0, 0, tol, beta.data(), se.data(), fitted.data());
     }
-    /// The coefficients, if standard errors and fitted values too have the library's bits.
+    /// The coefficients, provided standard errors and fitted values are bit-identical to the library's, too.
     Cells agreement()
     {
         const Cells itsBeta = beta;

@@ -1,12 +1,12 @@
 // Times the library against plain loops and peers. Besides the options of Google Benchmark:
 //
 //     --only=REGEX      the workloads whose name matches
-//     --quick           each workload at its last size alone, with fewer repetitions
-//     --ours            the library alone (the bits are compared with the plain loop's all the same)
+//     --quick           each workload at its last size only, with fewer repetitions
+//     --ours            the library alone (its bits are still compared with the plain loop's)
 //     --export=DIR      time nothing; write the data of each workload at its last size, and the library's result
 //
 // A benchmark is named workload/contender/size. Its counter "best" is the shortest run, in seconds of processor time:
-// "min" is the aggregate to read. "deviation" tells how far the result is from the library's.
+// "min" is the aggregate to read. "deviation" is the distance of the result from the library's.
 #include "contest.h"
 
 #include <benchmark/benchmark.h>
@@ -70,7 +70,7 @@ bool haveSameBits(const Cells& left, const Cells& right)
     });
 }
 
-/// The largest difference in units of the largest number; infinite where the shapes differ or a number is none.
+/// The largest difference in units of the largest number; infinite if the shapes differ or a number is NaN.
 double deviation(const Cells& expected, const Cells& actual)
 {
     if (expected.size() != actual.size())
@@ -110,7 +110,7 @@ public:
             const bool exact = contender.tolerance == sameBits;
             if (exact || !oursAlone)
                 verdict = judged(contender, expected);
-            // Where the library and the plain loop differ, nobody knows who is right.
+            // If the library and the plain loop differ, either may be wrong.
             if (exact && !verdict.error.empty() && !verdicts_.empty())
                 verdicts_.front().error = verdict.error + " (" + contender.name + ")";
             verdicts_.push_back(verdict);
@@ -136,7 +136,7 @@ private:
     std::vector<Verdict> verdicts_;
 };
 
-/// The stage of the benchmark at hand. They come workload by workload, so that one is kept at a time.
+/// The stage of the current benchmark. They come workload by workload, so only one is kept at a time.
 const Judged& judgedStage(const Entry& entry, int size, bool oursAlone)
 {
     static std::optional<Judged> current;
@@ -153,7 +153,7 @@ const Judged& judgedStage(const Entry& entry, int size, bool oursAlone)
 
 // ---- timing ---------------------------------------------------------------------------------------------------------
 
-/// The time that this thread has had a processor: what else the machine is busy with does not count.
+/// This thread's processor time: other load on the machine does not count.
 double secondsOfThread()
 {
     timespec time{};
@@ -218,7 +218,7 @@ void registerBenchmarks(const Suite& suite, const Options& options)
             continue;
         for (std::size_t k = options.quick ? entry.sizes.size() - 1 : 0; k < entry.sizes.size(); ++k) {
             const int size = entry.sizes[k];
-            const auto stage = entry.stage(size); // for who takes part; the data are made anew when their turn comes
+            const auto stage = entry.stage(size); // for the contenders' names; the data are made again later
             const auto& contenders = stage->contest().contenders();
             const std::size_t taking = options.oursAlone ? 1 : contenders.size();
             for (std::size_t number = 0; number < taking; ++number) {

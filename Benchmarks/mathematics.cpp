@@ -1,4 +1,4 @@
-// The elementary functions, one value after the other, beside those of the C library. What a call takes is the time of a
+// The elementary functions, one value after the other, beside those of the C library. The time of a call is that of a
 // run divided by its size.
 #include "contest.h"
 
@@ -10,7 +10,7 @@ namespace vecmat::bench {
 
 namespace {
 
-/// Correct rounding and a last bit that may be off agree so far.
+/// Correct rounding and an error in the last bit agree to within this.
 constexpr double lastBits = 1e-15;
 
 struct Values

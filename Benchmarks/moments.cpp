@@ -36,7 +36,7 @@ struct WeightedColumns
     }
     const double* column(int j) const { return x.data() + count(n, j); }
 
-    /// What turns a variance by GSL's divisor for reliability weights into one by W - W/n.
+    /// The factor from a variance by GSL's divisor for reliability weights to one by W - W/n.
     double divisorRatio() const
     {
         double W = 0.0, squares = 0.0;
@@ -131,7 +131,7 @@ struct FourMoments
 
     explicit FourMoments(int n) : x(RandomData(22).normals(count(n))), w(count(n), 1.0), moments(4)
     {
-        for (double& cell : x) // something to measure in the third moment
+        for (double& cell : x) // for a third moment that isn't 0
             cell = cell * cell + cell;
     }
     void enter(Contest& contest)

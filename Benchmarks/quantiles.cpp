@@ -14,7 +14,7 @@ namespace vecmat::bench {
 
 namespace {
 
-/// Every contender leaves the data as they were: what works in place copies first.
+/// Every contender leaves the data unchanged: one that works in place copies them first.
 struct Quantile
 {
     static constexpr double p = 0.3;

@@ -124,7 +124,7 @@ def aims_table(results):
 
 
 def peers_cell(times, most):
-    """The peers aimed at come first."""
+    """The peers to beat come first."""
     peers = [name for name in times if name not in ("ours", "plain") and not name.endswith("converted")]
     parts = []
     for name in sorted(peers, key=lambda peer: (peer not in most, peers.index(peer))):
@@ -187,7 +187,7 @@ def string_table(results):
 
 
 def machine():
-    """The processor, and what of it counts here."""
+    """The processor, and its features that matter here."""
     info = Path("/proc/cpuinfo").read_text()
     field = lambda name: re.search(rf"^{name}\s*:\s*(.*)$", info, re.M)[1]
     sets = [name for name in ("avx2", "avx512f") if name in field("flags").split()]

@@ -47,7 +47,7 @@ struct SingularValues
     }
 
 private:
-    /// The singular values, if the vectors too have the library's bits.
+    /// The singular values, provided the vectors are bit-identical to the library's, too.
     Cells agreement()
     {
         constexpr int shortest = 21;
@@ -68,7 +68,7 @@ private:
     }
     void byGsl()
     {
-        // GSL's tables go row by row.
+        // GSL stores tables row by row.
         Cells rows(x.size());
         for (int i = 0; i < n; ++i)
             for (int j = 0; j < p; ++j)

@@ -1,4 +1,4 @@
-// The border of strings: a caller's cells into a table and back, against copies of the same texts.
+// Converting strings: a caller's cells into a table and back, against copies of the same texts.
 #include "contest.h"
 #include "texts.h"
 

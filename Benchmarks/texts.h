@@ -21,7 +21,7 @@ inline Texts categoryNames(int categories)
     return names;
 }
 
-/// Cells drawn from as many categories.
+/// Cells drawn from the given number of categories.
 inline Texts drawnTexts(std::size_t cells, int categories, std::uint64_t seed)
 {
     const Texts names = categoryNames(categories);

@@ -16,7 +16,7 @@ install(DIRECTORY Bindings/vba/ DESTINATION ${CMAKE_INSTALL_DATADIR}/VecMat FILE
 install(TARGETS VecMat VecMatGuarded EXPORT VecMatTargets)
 
 if(VECMAT_COMPANIONS_DIR)
-    # The companions stay where they are, and the installed library finds them there.
+    # The companions stay in place, and the installed library finds them there.
     set_property(TARGET VecMat APPEND PROPERTY INSTALL_RPATH ${VECMAT_COMPANIONS_DIR})
 else()
     foreach(companion IN LISTS VECMAT_COMPANIONS)
@@ -34,7 +34,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/VecMatConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/VecMatConfig.cmake ${PROJECT_BINARY_DIR}/VecMatConfigVersion.cmake
     DESTINATION ${package_directory})
 
-# The prefix is told relative to the file, so that an installed tree can be moved as a whole.
+# The prefix is relative to the file, so that an installed tree can be moved as a whole.
 file(RELATIVE_PATH pkgconfig_to_prefix
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/vecmat.pc.in ${PROJECT_BINARY_DIR}/vecmat.pc @ONLY)

@@ -12,7 +12,7 @@ function(vecmat_shared_library name)
     if(WIN32)
         set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
     endif()
-    # On these two the linker binds calls inside a library, and calls to others to the library that has them.
+    # On these two platforms the linker binds calls inside a library, and external calls to the library defining them.
     if(APPLE OR WIN32)
         return()
     endif()
@@ -24,7 +24,7 @@ function(vecmat_shared_library name)
     # Calls inside a library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded; calls
     # to the companions go through the loader and can be taken over by another build.
     target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions)
-    if(NOT VECMAT_SANITIZE) # the sanitizers' run time is found in the program, not in the library
+    if(NOT VECMAT_SANITIZE) # the sanitizers' runtime is in the program, not in the library
         target_link_options(${name} PRIVATE -Wl,--no-undefined)
     endif()
 endfunction()
@@ -69,16 +69,16 @@ file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp
 list(REMOVE_ITEM vecmat_sources ${vecmat_kernels} ${mathematics_sources})
 vecmat_shared_library(VecMat ${vecmat_sources})
 
-# The kernels are compiled once for each instruction set; which is used is decided at run time. Loops whose results
-# stand side by side become vector instructions: what the compiler needs to know for it is that nobody looks at errno
-# or at the floating-point exception flags.
+# The kernels are compiled once for each instruction set; the choice is made at run time. Loops with adjacent results
+# become vector instructions, provided the compiler knows that errno and the floating-point exception flags are never
+# read.
 set(vecmat_kernel_options -fno-math-errno -fno-trapping-math $<$<NOT:$<CONFIG:Debug>>:-O3>)
 set(instruction_sets baseline)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
     list(APPEND instruction_sets avx2 avx512)
     set(avx2_options -mavx2)
     set(avx512_options -mavx512f -mavx512dq -mavx512bw -mavx512vl -mprefer-vector-width=512)
-    if(MINGW) # g++ takes the stack of a function on Windows to be aligned for wide vectors, which it isn't
+    if(MINGW) # on Windows g++ assumes a stack aligned for wide vectors, which it isn't
         list(APPEND avx2_options -Wa,-muse-unaligned-vector-move)
         list(APPEND avx512_options -Wa,-muse-unaligned-vector-move)
     endif()
@@ -103,7 +103,7 @@ if(WIN32)
     set_property(TARGET VecMat APPEND PROPERTY LINK_DEPENDS ${PROJECT_SOURCE_DIR}/exports.tsv)
 endif()
 
-# The library asks the environment for nothing, but where the instruction sets are to be compared on one machine.
+# The library reads the environment only if built to compare the instruction sets on one machine.
 if(VECMAT_NARROWER_INSTRUCTIONS)
     set_property(SOURCE ${vecmat_source}/kernels/instruction_set.cpp APPEND PROPERTY
         COMPILE_DEFINITIONS VECMAT_NARROWER_INSTRUCTIONS)
@@ -115,7 +115,7 @@ target_include_directories(VecMat PUBLIC
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
 
-# The guarded calls are a library of their own: what VecMat exports is settled.
+# The guarded calls are a separate library: VecMat's exports are fixed.
 vecmat_shared_library(VecMatGuarded Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)
 target_include_directories(VecMatGuarded PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>

@@ -1,4 +1,4 @@
-# Cross compiler for 64-bit Arm, and the emulator under which what it builds runs.
+# Cross compiler for 64-bit Arm, and the emulator that runs its output.
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc-12)

@@ -1,4 +1,4 @@
-# Toolchain for 64-bit Windows, from any other system: MinGW-w64 compiles, Wine runs what was built.
+# Toolchain for 64-bit Windows, from any other system: MinGW-w64 compiles, Wine runs the programs.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
@@ -10,7 +10,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# The libraries stand alone: whoever has VecMat.dll and its companions needs nothing of the compiler's.
+# The libraries are self-contained: VecMat.dll and its companions need none of the compiler's DLLs.
 foreach(kind EXE SHARED)
     string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -static")
 endforeach()

@@ -1,9 +1,9 @@
-# Times R and its packages over the data that vecmat_benchmarks --export has written.
+# Times R and its packages over the data written by vecmat_benchmarks --export.
 #
 #     Rscript peers.R DATA RESULTS.csv REGEX quick|full
 #
 # A result is a row: workload, contender, seconds, deviation from the library's result in units of its largest number,
-# tolerance. A tolerance of -1 marks a result that is another one by its own rules.
+# tolerance. A tolerance of -1 marks a result that differs by the peer's own rules.
 
 suppressPackageStartupMessages({
     library(data.table)
@@ -55,7 +55,7 @@ shortest <- function(run) {
 
 cat("workload,contender,seconds,deviation,tolerance\n", file = results_file)
 
-# `result` makes of what `run` returns what the library's result is.
+# `result` converts what `run` returns to the form of the library's result.
 peer <- function(workload, contender, tolerance, run, result = identity) {
     difference <- if (tolerance == incomparable) 0 else deviation(read_cells(workload, "ours"), result(run()))
     cat(sprintf("%s,\"%s\",%.9g,%.3g,%.3g\n", workload, contender, shortest(run), difference, tolerance),

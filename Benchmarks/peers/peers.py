@@ -1,4 +1,4 @@
-"""Times Python's libraries over the data that vecmat_benchmarks --export has written.
+"""Times Python's libraries over the data written by vecmat_benchmarks --export.
 
     python3 peers.py DATA RESULTS.csv REGEX quick|full
 
@@ -48,7 +48,7 @@ class Workload:
         return (DATA / self.name / name).read_text().split("\n")[:-1]
 
     def peer(self, contender, tolerance, run, result=lambda found: found):
-        """`result` makes of what `run` returns what the library's result is."""
+        """`result` converts what `run` returns to the form of the library's result."""
         difference = 0.0
         if tolerance != INCOMPARABLE:
             difference = deviation(self.cells("ours"), result(run()))
@@ -135,7 +135,7 @@ def four_moments(w):
 
     def run():
         variance = x.var(ddof=1)
-        # Its forms divide by the variance that n divides.
+        # Its forms divide by the variance with divisor n.
         return x.mean(), variance, scipy.stats.skew(x), scipy.stats.kurtosis(x)
 
     def result(found):

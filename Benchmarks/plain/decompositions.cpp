@@ -1,4 +1,4 @@
-// The iterations are those that the tests keep.
+// The iterations are those of the tests.
 #include "plain.h"
 #include "table.h"
 

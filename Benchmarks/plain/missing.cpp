@@ -25,7 +25,7 @@ bool lacks(double x)
     return test::M >= x;
 }
 
-/// The row that is not flagged and nearest to row t in all columns; -1 where there is none.
+/// The unflagged row nearest to row t over all columns; -1 if there is none.
 int nearestRow(Table<double> X, int n, int p, int t, int j, const short* mask, const Cells& variances)
 {
     int best = -1;

@@ -24,7 +24,7 @@ struct Moments
     }
 };
 
-/// What a weight of 0 does.
+/// How a weight of 0 is treated.
 enum class ZeroWeight { skipped, counted };
 
 Moments columnMoments(const double* x, int n, const double* w, ZeroWeight zero)

@@ -1,9 +1,9 @@
-// The loops as they are told, over plain arrays: one cell after the other, one result after the other. What the
-// library is compared with, in time and by bits.
+// The plain loops, over plain arrays: one cell after the other, one result after the other. The library is compared
+// with them, in time and bit by bit.
 //
-// They make a shared library of their own, compiled as anybody's sources are: -O2 for the platform's baseline. Tables
-// are column-major; there are no masks, and what the workloads don't have is not looked for. Where the tests keep such
-// a loop, that one is used.
+// They form a separate shared library, compiled with common settings: -O2 for the platform's baseline. Tables are
+// column-major; there are no masks, and cases that don't occur in the workloads are not handled. If the tests have
+// such a loop, that one is used.
 #pragma once
 
 #include <string>

@@ -44,7 +44,7 @@ void sample(const std::wstring* population, int n, int cols, int draws, std::wst
         for (int j = 0; j < cols; ++j)
             result(i, j) = source(static_cast<int>(ids[i]) - 1, j);
     }
-    // Rows of strings are put in the order of their numbers by an ordered map.
+    // Rows of strings are sorted by their numbers with an ordered map.
     std::multimap<double, int> order;
     for (int i = 0; i < draws; ++i)
         order.emplace(ids[i], i);

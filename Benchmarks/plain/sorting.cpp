@@ -64,7 +64,7 @@ int ranksWithTies(const double* x, int n, const double* weights, double* ranks, 
             continue;
         }
         const std::size_t first = k - 1;
-        // The first of a run enters with the weight of the first of all.
+        // The first of a group takes the weight of the very first element.
         double weightSum = sortedWeights[0];
         double rankSum = rank[first] * sortedWeights[0];
         while (k < sorted.size() && std::fabs(sorted[k].key - sorted[first].key) < tolerance) {
