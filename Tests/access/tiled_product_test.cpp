@@ -4,7 +4,7 @@
 #include "elementary/matrix_products.h"
 #include "missing/missing_arithmetic.h"
 
-#include "../elementary/product_cases.h"
+#include "elementary/product_cases.h"
 
 #include "support/failing_new.h"
 

@@ -9,8 +9,8 @@
 #include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 
-#include "pair_reference.h"
-#include "penguin_measurements.h"
+#include "descriptive/pair_reference.h"
+#include "descriptive/penguin_measurements.h"
 #include "support/bits.h"
 #include "support/tables.h"
 

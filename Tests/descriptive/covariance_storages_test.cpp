@@ -1,7 +1,7 @@
 // Covariances and correlations from an array of rows or of columns, and into a triangle of columns.
 #include "descriptive/covariance.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/tables.h"

@@ -1,7 +1,7 @@
 // Covariances and correlations of the columns of one table, into a square one.
 #include "descriptive/covariance.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"

@@ -2,7 +2,7 @@
 #include "descriptive/covariance_with_moments.h"
 
 #include "descriptive/covariance.h"
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"

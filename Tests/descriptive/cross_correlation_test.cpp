@@ -1,7 +1,7 @@
 // Covariances and correlations between two tables, and of two vectors.
 #include "descriptive/cross_correlation.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"

@@ -5,7 +5,7 @@
 #include "descriptive/covariance_with_moments.h"
 #include "descriptive/cross_correlation.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/tables.h"

@@ -1,7 +1,7 @@
 // The weighted scatter about group centres.
 #include "descriptive/scatter.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/tables.h"

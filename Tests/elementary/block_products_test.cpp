@@ -1,7 +1,7 @@
 #include "elementary/block_products.h"
 
 #include "elementary/matrix_products.h"
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 #include "support/special_values.h"
 

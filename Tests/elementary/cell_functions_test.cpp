@@ -1,7 +1,7 @@
 #include "base/detail/mathematics/mathematics.h"
 #include "elementary/cell_functions.h"
 
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 #include "support/special_values.h"
 

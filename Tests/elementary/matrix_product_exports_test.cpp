@@ -1,6 +1,6 @@
 #include "elementary/matrix_products.h"
 
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 using vecmat::elementCount;
 using namespace vecmat::test;

@@ -1,6 +1,6 @@
 #include "elementary/packed_products.h"
 
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "elementary/sums_and_norms.h"
 
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 #include "support/special_values.h"
 

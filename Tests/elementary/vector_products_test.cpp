@@ -1,6 +1,6 @@
 #include "elementary/vector_products.h"
 
-#include "product_cases.h"
+#include "elementary/product_cases.h"
 
 #include "support/special_values.h"
 

@@ -1,6 +1,6 @@
 // What sets the fit from five tables apart from the fit from one.
-#include "regression_calls.h"
-#include "small_problem.h"
+#include "fitting/regression_calls.h"
+#include "fitting/small_problem.h"
 
 #include "support/guarded.h"
 

@@ -2,7 +2,7 @@
 // of Standards and Technology (linear regression, https://www.itl.nist.gov/div898/strd/lls/lls.shtml), as published
 // there to fifteen digits. The values of Longley and NoInt1 were also computed with exact fractions from the data
 // below, and are the same in all digits.
-#include "regression_calls.h"
+#include "fitting/regression_calls.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 // Which columns a least squares fit is made of, and which of them enter.
-#include "regression_calls.h"
-#include "small_problem.h"
+#include "fitting/regression_calls.h"
+#include "fitting/small_problem.h"
 
 #include "support/guarded.h"
 

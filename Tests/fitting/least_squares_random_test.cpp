@@ -1,5 +1,5 @@
 // The least squares fits against a plain second implementation, bit by bit.
-#include "regression_calls.h"
+#include "fitting/regression_calls.h"
 
 #include "support/guarded.h"
 #include "support/random_data.h"

@@ -1,6 +1,6 @@
 // Fits of many rows, which are worked on several columns and rows at a time, have the bits of the plain steps: at sizes
 // around the rows and columns taken at once, with missing cells, rows of no weight and numbers that are none.
-#include "regression_calls.h"
+#include "fitting/regression_calls.h"
 
 #include "support/failing_new.h"
 #include "support/random_data.h"

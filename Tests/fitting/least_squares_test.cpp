@@ -1,6 +1,6 @@
 // The edges of a least squares fit: degrees of freedom, lines through the origin, missing cells, other shapes.
-#include "regression_calls.h"
-#include "small_problem.h"
+#include "fitting/regression_calls.h"
+#include "fitting/small_problem.h"
 
 #include "support/guarded.h"
 

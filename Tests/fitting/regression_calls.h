@@ -3,7 +3,7 @@
 
 #include "fitting/least_squares.h"
 #include "fitting/least_squares_blocks.h"
-#include "regression_reference.h"
+#include "fitting/regression_reference.h"
 #include "support/bits.h"
 #include "support/tables.h"
 

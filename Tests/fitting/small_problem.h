@@ -1,7 +1,7 @@
 // A small problem whose columns explain each other hardly at all.
 #pragma once
 
-#include "regression_reference.h"
+#include "fitting/regression_reference.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "missing/complete_rows.h"
 
-#include "special_numbers.h"
+#include "missing/special_numbers.h"
 #include "support/random_data.h"
 #include "support/strings.h"
 #include "support/tables.h"

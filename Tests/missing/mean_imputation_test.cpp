@@ -1,7 +1,7 @@
 #include "missing/mean_imputation.h"
 
 #include "descriptive/means.h"
-#include "special_numbers.h"
+#include "missing/special_numbers.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
 #include "support/tables.h"

@@ -1,6 +1,6 @@
 // Rows enough for the distances to be bounded side by side before rows are compared one by one: what comes out is that
 // of the plain form, which compares them all.
-#include "neighbour_reference.h"
+#include "missing/neighbour_reference.h"
 
 #include "descriptive/moments.h"
 #include "support/failing_new.h"

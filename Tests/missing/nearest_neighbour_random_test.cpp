@@ -1,5 +1,5 @@
 // Every form against the plain form over small tables of all kinds.
-#include "neighbour_reference.h"
+#include "missing/neighbour_reference.h"
 
 namespace vecmat::test {
 namespace {

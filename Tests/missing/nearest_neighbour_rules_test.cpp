@@ -1,6 +1,6 @@
 // What sets the three searches of nearest-neighbour imputation apart. Each test names the row that a rule made like the
 // others would choose.
-#include "neighbour_cases.h"
+#include "missing/neighbour_cases.h"
 
 namespace vecmat::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "neighbour_cases.h"
+#include "missing/neighbour_cases.h"
 
 #include <cmath>
 #include <limits>

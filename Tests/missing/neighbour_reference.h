@@ -2,7 +2,7 @@
 // tables for it.
 #pragma once
 
-#include "neighbour_cases.h"
+#include "missing/neighbour_cases.h"
 #include "support/random_data.h"
 
 namespace vecmat::test {

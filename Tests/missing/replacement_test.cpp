@@ -1,6 +1,6 @@
 #include "missing/replacement.h"
 
-#include "special_numbers.h"
+#include "missing/special_numbers.h"
 #include "support/random_data.h"
 #include "support/safearrays.h"
 #include "support/strings.h"

@@ -1,5 +1,5 @@
 // Tables weighed against known categories, counts of different texts, and labels used twice.
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include "support/guarded.h"
 

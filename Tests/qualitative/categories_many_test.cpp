@@ -2,7 +2,7 @@
 #include "qualitative/disjunctive_tables.h"
 #include "qualitative/distinct.h"
 #include "qualitative/modes.h"
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include <cmath>
 #include <limits>

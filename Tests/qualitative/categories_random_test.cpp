@@ -1,5 +1,5 @@
 // The summaries against plain walks over random tables, with result tables that held something before.
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include <algorithm>
 

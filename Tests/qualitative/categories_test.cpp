@@ -1,4 +1,4 @@
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include <limits>
 

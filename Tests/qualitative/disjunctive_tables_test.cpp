@@ -1,6 +1,6 @@
 #include "qualitative/disjunctive_tables.h"
 
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include <algorithm>
 

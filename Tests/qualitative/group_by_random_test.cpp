@@ -1,7 +1,7 @@
 // Both functions and both flat forms against a plain walk over random tables, by bits.
 #include "qualitative/group_by.h"
 
-#include "group_reference.h"
+#include "qualitative/group_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"

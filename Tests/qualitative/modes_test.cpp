@@ -1,6 +1,6 @@
 #include "qualitative/modes.h"
 
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 #include <limits>
 #include <map>

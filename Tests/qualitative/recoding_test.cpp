@@ -1,7 +1,7 @@
 // Categories into codes.
 #include "qualitative/recoding.h"
 
-#include "summary_tables.h"
+#include "qualitative/summary_tables.h"
 
 namespace vecmat::test {
 

@@ -2,7 +2,7 @@
 // shares a column with, its population, and tables of other sizes than the sample.
 #include "randomisation/sampling_with_repeats.h"
 
-#include "scripted_draws.h"
+#include "randomisation/scripted_draws.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/strings.h"

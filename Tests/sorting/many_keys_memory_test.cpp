@@ -5,7 +5,7 @@
 #include "sorting/sort.h"
 #include "sorting/sort_apply.h"
 
-#include "many_keys.h"
+#include "sorting/many_keys.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
 

@@ -1,7 +1,7 @@
 // Ranks of few and many values against the rules written down once more.
 #include "sorting/ranks.h"
 
-#include "many_keys.h"
+#include "sorting/many_keys.h"
 #include "support/bits.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 // This program replaces the operators new and delete, which serves the library too.
 #include "sorting/sort.h"
 
-#include "sort_reference.h"
+#include "sorting/sort_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/tables.h"

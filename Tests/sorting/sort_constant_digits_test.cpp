@@ -1,7 +1,7 @@
 // Keys that agree in some of their digits, whichever these are: a sort by digits has nothing to do for those.
 #include "sorting/sort.h"
 
-#include "sort_reference.h"
+#include "sorting/sort_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 

@@ -1,7 +1,7 @@
 // The flat forms of the sorts: what is copied back, what stays, and counts of 0.
 #include "sorting/sort.h"
 
-#include "sort_reference.h"
+#include "sorting/sort_reference.h"
 #include "support/bits.h"
 #include "support/guarded.h"
 #include "support/random_data.h"

@@ -1,7 +1,7 @@
 // Sorts of few and many numbers against the sort by records, for keys of many kinds.
 #include "sorting/sort.h"
 
-#include "many_keys.h"
+#include "sorting/many_keys.h"
 #include "support/bits.h"
 #include "support/tables.h"
 

@@ -1,7 +1,7 @@
 // Memory that runs short: a failed allocation leaves the caller's data as it was, and nothing behind.
 #include "sorting/sort.h"
 
-#include "sort_reference.h"
+#include "sorting/sort_reference.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/random_data.h"

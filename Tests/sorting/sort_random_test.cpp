@@ -2,7 +2,7 @@
 // directions, over whole tables and inner ranges.
 #include "sorting/sort.h"
 
-#include "sort_reference.h"
+#include "sorting/sort_reference.h"
 #include "support/bits.h"
 #include "support/random_data.h"
 #include "support/tables.h"

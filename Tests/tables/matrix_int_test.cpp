@@ -4,7 +4,7 @@
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/guarded.h"
-#include "table_parts.h"
+#include "tables/table_parts.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,7 +3,7 @@
 #include "Smatrix.h"
 #include "support/failing_new.h"
 #include "support/strings.h"
-#include "table_parts.h"
+#include "tables/table_parts.h"
 
 #include <gmock/gmock.h>
 

@@ -7,7 +7,7 @@
 #include "descriptive/means.h"
 #include "descriptive/moments.h"
 
-#include "pair_reference.h"
+#include "descriptive/pair_reference.h"
 #include "support/bits.h"
 #include "support/failing_new.h"
 #include "support/random_data.h"
