@@ -1,8 +1,8 @@
-/* The functions of VecMat that take plain arrays, for C, and for whatever reads C. A C++ program includes VecMat.h.
+/* The functions of VecMat that take plain arrays, for C and languages that read C headers. C++ includes VecMat.h.
    Written by tools/bindings from exports.tsv: change those, not this file.
 
-   What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the pages
-   below Docs/contracts, what goes across the border in Docs/border.md. */
+   What each function does, and how it treats missing cells, masks, weights and empty inputs, is documented below
+   Docs/contracts; how arguments are passed in Docs/border.md. */
 #ifndef VECMAT_FLAT_H
 #define VECMAT_FLAT_H
 
@@ -19,8 +19,8 @@ extern "C" {
 #else
 #include <stdint.h>
 
-/* Array descriptor of OLE Automation, in which tables of columns come. Only pvData is ever read. A program that includes
-   the system's own, <oleauto.h>, does so before. */
+/* Array descriptor of OLE Automation, used for tables of columns. Only pvData is ever read. A program that includes the
+   system's own, <oleauto.h>, must do so first. */
 #ifndef __oaidl_h__
 typedef struct SAFEARRAYBOUND
 {

@@ -1,13 +1,13 @@
-/* Guarded calls of the functions of VecMat that take plain arrays, for C and for whatever calls C.
+/* Guarded calls of the functions of VecMat that take plain arrays, for C and languages that call C.
    Written by tools/bindings from exports.tsv: change those, not this file.
 
    An exception must not pass through the frames of another language: R, Python, macro hosts and C itself cannot catch
-   it, and the process ends. The functions here catch it. Each stands for the function of VecMatFlat.h after which it is
-   named, takes the same arguments and gives back one of the statuses below. What the function itself returns is stored
-   in *returned, unless that is null. After a failure *returned keeps what it held, and so do the caller's arrays where
+   it, and the process ends. The functions here catch it. Each wraps the function of VecMatFlat.h after which it is
+   named, takes the same arguments and returns one of the statuses below. The function's own result is stored in
+   *returned, unless that is null. After a failure *returned is unchanged, and so are the caller's arrays where
    Docs/border.md says so.
 
-   They are a library of their own, VecMatGuarded. */
+   They form a separate library, VecMatGuarded. */
 #ifndef VECMAT_GUARDED_H
 #define VECMAT_GUARDED_H
 
@@ -23,7 +23,7 @@
 
 enum {
     VECMAT_CALL_DONE = 0,
-    VECMAT_CALL_OUT_OF_MEMORY = 1, /* an allocation failed, or a size is beyond all memory */
+    VECMAT_CALL_OUT_OF_MEMORY = 1, /* an allocation failed, or a size exceeds any memory */
     VECMAT_CALL_FAILED = 2         /* any other failure */
 };
 
@@ -31,8 +31,8 @@ enum {
 extern "C" {
 #endif
 
-/* Why the last guarded call of this thread failed: the function's name and the reason. Empty where it was done, or
-   where there was none. Valid up to the thread's next guarded call. */
+/* Why the last guarded call of this thread failed: the function's name and the reason. Empty if it succeeded, or if
+   there was none. Valid until the thread's next guarded call. */
 VECMAT_GUARDED_API const char* vecmat_guarded_error(void);
 
 /* ---- frame/services ---- */

@@ -1,31 +1,32 @@
 Attribute VB_Name = "VecMat"
 Option Explicit
 
-' What the modules VecMatCalls1, 2, ... need, which declare the functions of VecMat that take plain arrays, for macros on
-' a Mac and on 64-bit Windows. Import all of them.
+' Shared by the modules VecMatCalls1, 2, ..., which declare the functions of VecMat that take plain arrays, for
+' macros on a Mac and on 64-bit Windows. Import all of them.
 ' Written by tools/bindings from exports.tsv and arguments.tsv: change those, not these modules.
 '
-' What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the
-' pages below Docs/contracts. What goes across the border is told in Docs/border.md, in short:
+' Docs/contracts describes what each function does, and how it treats missing cells, masks, weights and empty
+' inputs. Docs/border.md describes how arguments are passed; in short:
 '
-'   numbers       An array is handed over by its first element: VB_V_Mean2(v(0), n). Tables are stored column
+'   numbers       An array is passed by its first element: VB_V_Mean2(v(0), n). Tables are stored column
 '                 after column, as VBA stores an array (row, column). Give arrays the sizes that the function
-'                 tells: nothing is checked.
-'   Booleans      A single one goes in and comes back as an Integer, -1 or 0. An array is one of Booleans.
-'   strings       An array of strings is handed over by VarPtr(labels(0)). Let the strings that a function will
-'                 replace be empty: the library never frees one. A single string goes in as StrPtr(text) on
-'                 Windows, and on a Mac as the array of its characters' numbers, each a Long, with a 0 behind
-'                 the last: text(0). SimplifyRange and Increase1Col take StrPtr(text) everywhere. A string that comes back is a pointer, which the caller owns.
-'   columns       A table of columns is a VecMatTable, handed over by VarPtr(table).
+'                 requires: nothing is checked.
+'   Booleans      A single one is passed and returned as an Integer, -1 or 0. An array is one of Booleans.
+'   strings       An array of strings is passed as VarPtr(labels(0)). Strings that a function will replace must
+'                 be empty: the library never frees one. A single string is passed as StrPtr(text) on Windows,
+'                 and on a Mac as an array of character codes, each a Long, with a 0 after the last: text(0).
+'                 SimplifyRange and Increase1Col take StrPtr(text) everywhere. A returned string is a pointer,
+'                 which the caller owns.
+'   columns       A table of columns is a VecMatTable, passed as VarPtr(table).
 '   missing       A cell without a value holds VecMatMissing.
-'   absent        Where the contract lets an array be absent, as most masks and weights, it is declared As Any: hand over
-'                 its first element, or ByVal VecMatNothing.
-'   the library   On Windows VecMat.dll is found beside the host, on the path, or where VecMatFrom has told. On a Mac its
-'                 place is written in the declarations: see tools/bindings --library.
+'   absent        Where the contract allows an array to be absent, as with most masks and weights, it is declared
+'                 As Any: pass its first element, or ByVal VecMatNothing.
+'   the library   On Windows VecMat.dll is found beside the host, on the path, or in the folder given to VecMatFrom.
+'                 On a Mac its path is part of the declarations: see tools/bindings --library.
 
 Public Const VecMatMissing As Double = -1.79769313486231E+308
 
-' One column of a table of columns: of its two arrays fill the one that the function reads.
+' One column of a table of columns: fill the one of its two arrays that the function reads.
 Public Type VecMatColumn
     Numbers() As Double
     Strings() As String
@@ -45,7 +46,7 @@ Public Const VecMatNothing As Long = 0
 Private Declare PtrSafe Function LoadLibraryExW Lib "kernel32" ( _
     ByVal path As LongPtr, ByVal file As LongPtr, ByVal flags As Long) As LongPtr
 
-' Loads the library from a folder, which has the companions, too: VecMatFrom ThisWorkbook.Path. Call it before any
+' Loads the library from a folder that also contains the companions: VecMatFrom ThisWorkbook.Path. Call it before any
 ' function of the library; True if it was found.
 Public Function VecMatFrom(ByVal folder As String) As Boolean
     Dim path As String

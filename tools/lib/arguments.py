@@ -1,4 +1,4 @@
-"""arguments.tsv: what each argument of each flat function is. The columns are told in Docs/arguments.md.
+"""arguments.tsv: the role and shape of each argument of each flat function. Docs/arguments.md describes the columns.
 
     calls = read_calls(root)
     calls["VB_M_CovCorr"].arguments[3].shape.lengths({"n": 10, "p": 3})     # [9]
@@ -21,7 +21,7 @@ RETURNS = NUMBERS + ("void", "wchar_t*")
 ROLES = ("value", "in", "out", "inout", "scratch")
 ROOT = Path(__file__).resolve().parents[2]
 
-# The kinds of domains, and what may follow the word: nothing, a list of options, or a range of expressions.
+# The kinds of domains, and what may follow the keyword: nothing, a list of options, or a range of expressions.
 DOMAINS = {
     "-": "", "count": "", "rows": "", "columns": "", "number": "", "probability": "", "tolerance": "", "seed": "",
     "seed flag": "",
@@ -57,7 +57,7 @@ class Argument:
     type: str
     role: str
     shape: Shape
-    null: object        # False, True, or the tree of the condition under which null may stand
+    null: object        # False, True, or the tree of the condition under which null is allowed
     unwritten: str
     domain: Domain
     note: str = ""
@@ -78,7 +78,7 @@ class Call:
 
 
 def read_table(path, columns=None):
-    """The rows of a file with columns parted by tabs, as dictionaries."""
+    """The rows of a file of tab-separated columns, as dictionaries."""
     with open(path, encoding="utf-8", newline="") as file:
         reader = csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE)
         if columns and reader.fieldnames != columns:
@@ -115,7 +115,7 @@ def read_argument(row):
 
 
 def read_calls(root=ROOT):
-    """The flat functions with their arguments, by name. Raises ShapeError with all that is wrong."""
+    """The flat functions with their arguments, by name. Raises ShapeError with everything that is wrong."""
     exports = read_table(Path(root) / "exports.tsv")
     calls, wrong = calls_of(exports, read_table(Path(root) / "arguments.tsv", COLUMNS))
     if wrong:
@@ -148,7 +148,7 @@ def calls_of(exports, rows):
 
 
 def wrong_in(call, argument):
-    """What does not fit together in one argument."""
+    """The inconsistencies in one argument."""
     is_number = argument.type in NUMBERS
     if argument.role not in ROLES:
         yield f"no role {argument.role}"

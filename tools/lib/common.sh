@@ -1,4 +1,4 @@
-# What the commands in this directory share. Sourced, with the repository's root in $root.
+# Shared by the commands in tools. Sourced, with the repository's root in $root.
 
 # Packages to install before anything is built; filled by need_program and need_file.
 missing=()
@@ -43,7 +43,7 @@ quietly() {
     return $status
 }
 
-# Arguments for every configuration: a compiler cache where there is one, warnings as errors in continuous integration.
+# Arguments for every configuration: a compiler cache if installed, warnings as errors in continuous integration.
 configure_arguments() {
     printf '%s\n' -G Ninja
     if command -v ccache >/dev/null; then printf '%s\n' -DCMAKE_CXX_COMPILER_LAUNCHER=ccache; fi

@@ -3,12 +3,12 @@
 
 The contracts are in the comments of the public headers: prose, and tagged lines for how a function treats a missing cell,
 a mask, a weight, a divisor, an empty input (see header_comments.py). From them the pages Docs/contracts/<family>.md are
-written, in which functions of one contract share a row.
+written, in which functions with the same contract share a row.
 
     (no option)   writes the pages
-    --check       writes nothing; exit status 1 if a function lacks a tag that its parameters ask for, if a tag holds for
-                  no function, or if a page is not what would be written
-    --show        prints what holds for each function of the units
+    --check       writes nothing; exit status 1 if a function lacks a tag that its parameters require, if a tag applies
+                  to no function, or if a page is out of date
+    --show        prints the contract of each function of the units
 
 Other tools call contracts().
 """
@@ -38,7 +38,7 @@ FAMILIES = {
     "decompositions": "Decompositions",
     "fitting": "Model fitting",
 }
-# A function with a parameter of such a name needs the tag.
+# A function with a parameter of one of these names needs the tag.
 ASKED_BY_NAME = {"mask": {"mask", "filter", "constraints"}, "weights": {"w", "weights"},
                  "divisor": {"sample", "freqWeights", "sampleVariance", "countDivisor"}}
 # Tags that in a file or section hold only for functions with a parameter that they can be about: for the first two any
@@ -54,12 +54,12 @@ class Contract:
     unit: str            # `descriptive/means`
     declaration: object  # see declarations.py
     tags: dict           # text by name of tag, in the order of TITLES
-    prose: object        # the Comments that hold for the declaration; see header_comments.py
+    prose: object        # the Comments that apply to the declaration; see header_comments.py
     flat_form_of: str    # the name of the function whose flat form this is; empty for others
     lines: frozenset     # of the header, where its tags are
 
     def description(self):
-        """The lines of prose nearest to the function: its own, else those of its section, else of the file."""
+        """The prose nearest to the function: its own, or that of its section, or of the file."""
         blocks = self.prose.nearest_first()
         return next((block.prose for block in blocks if block.prose), ())
 
@@ -70,18 +70,18 @@ def family_of(unit):
 
 
 def base_of(name, names):
-    """The function of which a name is the flat form, or nothing where that can't be told."""
+    """The function whose flat form has this name, or nothing if that is ambiguous."""
     base = re.sub(r"^(VB_|Cpp_|Run)", "", name)
     if base == name:
         return f"c{name}" if f"c{name}" in names else ""
     without_type = re.sub(r"(Dbl|Lng|Str|Bool)(?=(\d|SPV\w*)?$)", "", base)
     of_table = re.sub(r"^V_", "M_", base)
-    without_storage = re.sub(r"SPV$", "", without_type)  # where the forms for tables and columns are overloads
+    without_storage = re.sub(r"SPV$", "", without_type)  # for forms over tables and columns that are overloads
     return next((other for other in (base, without_type, of_table, without_storage) if other in names), "")
 
 
 def asks_for(tag, declaration):
-    """Whether a declaration must tell of a tag."""
+    """Whether a declaration needs a tag."""
     member = "::" in declaration.name
     if tag == "missing":
         return member or any(CELLS.search(kind) for kind in declaration.types)
@@ -91,7 +91,7 @@ def asks_for(tag, declaration):
 
 
 def _nearest(tag, declaration, comments):
-    """The tag in the nearest comment in which it holds for a declaration."""
+    """The tag from the nearest comment in which it applies to a declaration."""
     can_be_about = tag not in NEEDS_PARAMETER or asks_for("empty" if tag == "missing" else tag, declaration)
     return next((block.tags[tag] for block in comments.nearest_first()
                  if tag in block.tags and (can_be_about or block is comments.function)), None)
@@ -100,8 +100,8 @@ def _nearest(tag, declaration, comments):
 def read_unit(text, unit):
     """The contracts of the functions that the text of a header exports.
 
-    A flat form takes the tags of its function, but for those in the `///` comment ahead of it. Where the overloads of
-    its function differ in a tag it has none but its own.
+    A flat form takes the tags of its function, except for those in its own `///` comment. If the overloads of its
+    function differ in a tag, only its own counts.
     """
     held = comments_by_line(text)
     declarations = read_header(text, unit + ".h")
@@ -152,7 +152,7 @@ def _units(root):
 
 
 def unused_tags(text, unit_contracts):
-    """The lines of a header with a tag that holds for no function."""
+    """The lines of a header whose tag applies to no function."""
     used = frozenset().union(*(contract.lines for contract in unit_contracts))
     lines = [re.sub(r"^ *//+", "", line) if line.strip().startswith("//") else "" for line in text.split("\n")]
     return [number for number, line in enumerate(lines)
@@ -174,7 +174,7 @@ def check(root):
 
 
 def shown_names(group, unit_contracts):
-    """The names of a group; a signature where other overloads of the name are in another group."""
+    """The names of a group; signatures for names with overloads in another group."""
     inside = [contract.declaration for contract in group]
     outside = {contract.declaration.name for contract in unit_contracts} \
         & {contract.declaration.name for contract in unit_contracts if contract.declaration not in inside}

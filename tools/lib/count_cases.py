@@ -2,8 +2,8 @@
 """count_cases.py DIRECTORY: prints how many test cases passed and failed.
 
 The directory holds ctest's report, ctest.junit, and <test>.xml for each test that is a GoogleTest program. A test
-without such a report counts as one case. So does a test that fails although no case of its report did (a leak found at
-the end, a crash), as a failed one.
+without such a report counts as one case. A test that fails although no case in its report did (a leak found at the end,
+a crash) counts as one failed case.
 """
 
 import sys

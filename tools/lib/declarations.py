@@ -1,7 +1,7 @@
 """Reads what the library's headers export.
 
 A reader for the plain C++ of these headers, not for all of C++: it knows comments, preprocessor lines, extern "C",
-namespaces, classes, inline bodies, default arguments and default member values. What it cannot read it reports.
+namespaces, classes, inline bodies, default arguments and default member values. It reports what it cannot read.
 """
 
 import re
@@ -20,8 +20,8 @@ class Declaration:
     name: str         # `M_ProductAB`, `matrix::vbget`
     linkage: str      # `C` or `C++`
     returns: str      # empty for constructors and destructors
-    types: tuple      # parameter types without names, in one spelling
-    names: tuple      # parameter names, empty where a parameter has none
+    types: tuple      # parameter types without names, in canonical spelling
+    names: tuple      # parameter names, empty for unnamed parameters
     header: str       # path below the library's folder
     line: int
 
@@ -34,7 +34,7 @@ class HeaderError(Exception):
 
 
 def one_spelling(type_text):
-    """The type in one spelling: `const char*`, `matrix*&`, `std::vector<void*>&`."""
+    """The type in canonical spelling: `const char*`, `matrix*&`, `std::vector<void*>&`."""
     text = re.sub(r"\s+", " ", type_text.strip())
     text = re.sub(r"^(.*?)\bconst\b\s*(?=[*&]|$)", r"const \1", text) if not text.startswith("const ") else text
     text = re.sub(r"\s*([*&<>,])\s*", r"\1", text)
@@ -42,7 +42,7 @@ def one_spelling(type_text):
 
 
 def split_parameters(text):
-    """Splits a parameter list at the commas that stand outside of brackets."""
+    """Splits a parameter list at the commas outside brackets."""
     parts, depth, current = [], 0, ""
     for char in text:
         if char in "(<[{":
@@ -101,7 +101,7 @@ class _Scope:
 
 
 def _function(statement, scopes, header, line):
-    """The declaration that a statement makes, or None where it exports nothing."""
+    """The declaration in a statement, or None if it exports nothing."""
     inside = scopes[-1] if scopes and scopes[-1].kind == "class" else None
     marked = re.search(rf"\b{MARK}\b", statement) is not None
     by_class = inside is not None and inside.exported and inside.public
@@ -143,7 +143,7 @@ def _function(statement, scopes, header, line):
 
 
 def read_header(text, header):
-    """All exported functions that the text of a header declares. Raises HeaderError where it can't tell."""
+    """All exported functions declared in the text of a header. Raises HeaderError if it cannot read them."""
     text = without_comments(text)
     declarations, scopes, start, position = [], [], 0, 0
 
@@ -180,7 +180,7 @@ def read_header(text, header):
                 found = None
                 # an initialiser belongs to the statement, which its semicolon ends; a body ends a function
                 if "(" in statement and not re.match(r"^(enum|union|class|struct|template)\b", statement):
-                    body_of = re.sub(r"\)\s*:[^:].*$", ")", statement, flags=re.S)  # constructor initialisers go
+                    body_of = re.sub(r"\)\s*:[^:].*$", ")", statement, flags=re.S)  # drop constructor initialisers
                     found = _function(body_of, scopes, header, line)
                 elif statement.startswith("template") and MARK in statement:
                     raise HeaderError(f"{header}:{line}: a template is marked {MARK}")

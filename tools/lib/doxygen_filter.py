@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""doxygen_filter.py FILE: prints a header as Doxygen is to read it.
+"""doxygen_filter.py FILE: prints a header in the form that Doxygen reads.
 
-In these headers one comment describes all functions that follow it, and a flat form is often described by the heading of
-its section alone. Doxygen takes a comment for the one declaration behind it: so each exported function gets the comment
-and the tags that hold for it, each tag as a paragraph with a title, and the comment at the top becomes that of the file.
-Other files are printed as they are.
+In these headers one comment describes all functions that follow it, and a flat form is often described only by the
+heading of its section. Doxygen attaches a comment to the next declaration only: so each exported function gets the
+comment and the tags that apply to it, each tag as a paragraph with a title, and the comment at the top becomes that of
+the file. Other files are printed unchanged.
 """
 
 import re
@@ -15,18 +15,18 @@ from contracts import ROOT, base_of, read_unit
 from declarations import MARK, HeaderError
 from header_comments import TITLES, TagError, comments_by_line, read_block
 
-# What Doxygen would take for a command of its own.
+# What Doxygen would mistake for one of its commands.
 SPECIAL = re.compile(r"([@\\<>&#])")
 
 
 def quoted(line):
-    """The line with nothing special left in it, but for code, which Doxygen takes as it is."""
+    """The line with special characters escaped, except in code, which Doxygen leaves alone."""
     parts = re.split(r"(`[^`]*`)", line)
     return "".join(part if part.startswith("`") else SPECIAL.sub(r"\\\1", part) for part in parts)
 
 
 def as_comment(lines, indent=""):
-    """The lines of a comment for Doxygen. Lines set in by four blanks more, but for those of a list, are tables."""
+    """The lines of a comment for Doxygen. Lines indented by four more blanks, except in a list, are tables."""
     out, in_list, in_table = [], False, False
     for line in lines:
         is_in = line.startswith("     ")
@@ -40,7 +40,7 @@ def as_comment(lines, indent=""):
 
 
 def without_rule(lines):
-    """A heading without its rule: the title, then what is told below it."""
+    """A heading without its rule: the title, then the text below it."""
     if not lines:
         return ()
     text = re.sub(r"^ ?-{3,} ?| ?-{3,}$", "", lines[0])
@@ -60,7 +60,7 @@ def as_paragraphs(tags, indent=""):
 
 
 def told(contract, owner, names):
-    """The prose for a function that has no comment of its own; the comment in force is that of `owner`."""
+    """The prose for a function without its own comment; the current comment is that of `owner`."""
     comments, base = contract.prose, base_of(contract.declaration.name, names)
     lines = [f" The flat form of `{base}`."] if base else []
     if comments.function.prose:
@@ -72,14 +72,14 @@ def told(contract, owner, names):
 
 
 def documented(text, name):
-    """The text of a header with a comment ahead of each exported function."""
+    """The text of a header with a comment before each exported function."""
     header = comments_by_line(text)[-1].header
     lines = text.split("\n")
     contracts = {contract.declaration.line - 1: contract for contract in read_unit(text, name.removesuffix(".h"))}
     names = {contract.declaration.name for contract in contracts.values()}
     out = ["/// @file", *as_comment(header.prose),
            *as_paragraphs({tag: value.text for tag, value in header.tags.items()})]
-    block, owner = [], None  # the lines of a `///` comment, and the function behind it
+    block, owner = [], None  # the lines of a `///` comment, and the function after it
     for number, line in enumerate(lines):
         indent = re.match(r" *", line).group()
         if line.strip().startswith("///"):

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""flat_calls.py FILE: writes the table that Tests/support/flat_calls/calls.h declares.
+"""flat_calls.py FILE: writes the table declared in Tests/support/flat_calls/calls.h.
 
-It comes from exports.tsv and arguments.tsv, and is written only where it differs, so that nothing is built again for
-nothing. Exits with 1, and tells why, where the two lists do not fit together.
+It is made from exports.tsv and arguments.tsv, and written only if it changes, to avoid needless rebuilds. Exits with 1,
+and says why, if the two lists are inconsistent.
 """
 
 import sys
@@ -57,7 +57,7 @@ DOMAINS = {"-": "none", "missing or number": "missingOrNumber", "seed flag": "se
 
 
 class Places:
-    """Where the arguments of a call stand, for expressions in C++."""
+    """The places of a call's arguments, for expressions in C++."""
 
     def __init__(self, call):
         self.place = {argument.name: k for k, argument in enumerate(call.arguments)}

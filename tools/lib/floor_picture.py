@@ -1,9 +1,8 @@
 #!/usr/bin/env python3
-"""floor_picture.py [--check]: draws the floors of the library, and what they include of each other.
+"""floor_picture.py [--check]: draws the floors of the library, and the includes between them.
 
-Writes Docs/images/floors.svg with Graphviz' dot. With --check draws nothing, and exits with 1 where the picture shows
-other includes than the sources have now (what it was drawn from stands in it), or Docs/layout.md has another order of
-the floors.
+Writes Docs/images/floors.svg with Graphviz' dot. With --check draws nothing, and exits with 1 if the picture is out of
+date (it records the includes it was drawn from), or Docs/layout.md has another order of the floors.
 """
 
 import re
@@ -18,11 +17,11 @@ DOCS = floors.ROOT.parents[2] / "Docs"
 PICTURE = DOCS / "images/floors.svg"
 PAGE = DOCS / "layout.md"
 
-# The floors that all others stand on. What is included of these stands in the boxes: as arrows it would hide the rest.
+# The floors that all others build on. Includes of these are listed in the boxes: as arrows they would hide the rest.
 GROUND = [floor for floor in floors.FLOORS if floors.ORDER[floor] <= floors.ORDER["frame"]]
 ROOF = "umbrella"
 
-# By the classes that nodes and edges have below: on light paper, on dark paper.
+# By the classes of nodes and edges below: light background, dark background.
 COLOURS = {
     ".paper": ("fill", "#ffffff", "#16191d"),
     ".node path": ("fill", "#eef4fa", "#1e2a36"),
@@ -30,7 +29,7 @@ COLOURS = {
     ".node path, .cluster path": ("stroke", "#7d8b99", "#6b7885"),
     ".cluster path": ("fill", "none", "none"),
     "text": ("fill", "#1f2328", "#e6e8eb"),
-    ".edge text": ("stroke", "#ffffff", "#16191d"),  # a rim, where a number stands on an arrow
+    ".edge text": ("stroke", "#ffffff", "#16191d"),  # an outline for numbers on arrows
     ".edge path, .edge polygon": ("stroke", "#5b7f9f", "#7fa8cc"),
     ".edge polygon": ("fill", "#5b7f9f", "#7fa8cc"),
     ".up path, .up polygon": ("stroke", "#c2261a", "#ff7b6b"),
@@ -39,7 +38,7 @@ COLOURS = {
 
 
 def box(floor, edges):
-    """A node: the name of the floor, what is in it, and how often it includes each floor of the ground."""
+    """A node: the name of the floor, its contents, and how often it includes each floor of the ground."""
     lines = [f"<B>{floor}</B>", f'<FONT POINT-SIZE="10">{escape(floors.FLOORS[floor])}</FONT>']
     if floor not in GROUND:
         below = [f"{e.target}\u00a0{e.count}" for e in edges if e.source == floor and e.target in GROUND]
@@ -49,7 +48,7 @@ def box(floor, edges):
 
 
 def arrow(edge):
-    kind = "class=up constraint=false" if edge.is_upward else "class=down"  # whatever runs upwards, the rows stay
+    kind = "class=up constraint=false" if edge.is_upward else "class=down"  # upward includes must not move the rows
     return (f'"{edge.source}" -> "{edge.target}" [{kind} label="{edge.count}" '
             f"penwidth={1 + min(edge.count, 40) / 20:g}]")
 
@@ -61,7 +60,7 @@ def drawn(edge):
 
 
 def dot_text(edges):
-    """What dot is given: a row for each floor, an arrow for what it includes below it."""
+    """The input of dot: a row for each floor, an arrow for its includes of lower floors."""
     subjects = [floor for floor in floors.FLOORS if floor not in GROUND and floor != ROOF]
     lines = ["digraph floors {",
              'graph [rankdir=TB ranksep=0.45 nodesep=0.4 fontname="Helvetica" newrank=true]',
@@ -77,7 +76,7 @@ def dot_text(edges):
 
 
 def sheet():
-    """The style of the picture on light paper, and on dark."""
+    """The style of the picture on a light and on a dark background."""
 
     def rules(theme):
         return [f"{selector} {{ {name}: {themes[theme]}; }}" for selector, (name, *themes) in COLOURS.items()]

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""floors.py [FOLDER]: the floors of the library, and which of them include which, read from its sources.
+"""floors.py [FOLDER]: the floors of the library, and the includes between them, read from its sources.
 
-A floor is a folder of the library, or a part of its root. It includes only what stands on itself or below. Without an
-option the edges are printed, one a line: the floor that includes, the floor that is included, how many includes there
-are, and `up` where they run against the order.
+A floor is a folder of the library, or a part of its root. It includes only files on its own floor or lower ones. The
+edges are printed, one per line: the including floor, the included floor, the number of includes, and `up` if they run
+against the order.
 """
 
 import posixpath
@@ -59,7 +59,7 @@ class Edge:
 
 
 def floor_of(path):
-    """The floor on which a file stands, None where there is no such floor."""
+    """The floor of a file; None if there is no such floor."""
     if path == UMBRELLA:
         return "umbrella"
     folder, slash, _ = path.partition("/")
@@ -84,7 +84,7 @@ def read_files(folder=ROOT):
 
 
 def read_includes(files):
-    """The includes of files of the library among themselves; those of the standard library have other brackets."""
+    """The includes between files of the library; those of the standard library have other brackets."""
     found = []
     for path, text in files.items():
         for number, line in enumerate(text.split("\n"), start=1):
@@ -104,7 +104,7 @@ def graph(includes):
 
 
 def cycles(edges):
-    """The groups of two floors or more that reach one another, each from the ground up."""
+    """The groups of two or more floors that reach one another, each from the ground up."""
     above = {floor: {e.target for e in edges if e.source == floor} for floor in FLOORS}
 
     def reached(start):
@@ -138,8 +138,8 @@ def check_order(includes, exceptions):
 
 
 def check_private(files, includes):
-    """No public header includes a private one, and VecMat.h includes every public one. So what is installed stands
-    alone, and is the whole."""
+    """No public header includes a private one, and VecMat.h includes every public one. So the
+    installation is self-contained and complete."""
     wrong = [f"{i.source}:{i.line}: a public header includes the private {i.target}" for i in includes
              if is_header(i.source) and not is_private(i.source) and is_private(i.target)]
     wrong += [f"{i.source}:{i.line}: {i.target} does not exist" for i in includes if i.target not in files]
@@ -149,7 +149,7 @@ def check_private(files, includes):
 
 
 def check(files, exceptions=None):
-    """What is wrong with the includes, a line each."""
+    """What is wrong with the includes, one per line."""
     includes = read_includes(files)
     known = EXCEPTIONS if exceptions is None else exceptions
     wrong = check_order(includes, known) + check_private(files, includes)

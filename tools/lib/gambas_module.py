@@ -1,12 +1,12 @@
-"""Writes Bindings/gambas: VecMat.module, the flat functions in Gambas, and the declarations that it calls.
+"""Writes Bindings/gambas: VecMat.module, the flat functions in Gambas, and the declarations that it uses.
 
-Each function calls its guarded form, and a failure is an error of the language. Before the call every array is held
-against the length that arguments.tsv tells: too short a one is an error that names the argument.
+Each function calls its guarded form, and a failure raises an error in Gambas. Before the call the length of every
+array is checked against arguments.tsv: an array that is too short is an error that names the argument.
 """
 
 from arguments import read_calls
 
-# How an argument is declared: to the user, and to the library.
+# How an argument is declared: for the user, and for the library.
 TYPES = {
     "double": ("Float", "Float"),
     "int": ("Integer", "Integer"),
@@ -22,7 +22,7 @@ TYPES = {
 RESULTS = {"double": "Float", "int": "Integer", "short": "Short", "wchar_t*": "String"}
 PLACES = {"double": "Float", "int": "Integer", "short": "Short", "wchar_t*": "Pointer"}
 
-# Names of parameters that mean something in Gambas, or in the module (it doesn't tell upper from lower case).
+# Parameter names with a meaning in Gambas or in the module (case is ignored).
 TAKEN = set("""
     to in is if then else for next step select case default do while until repeat wend loop break continue return quit
     stop goto sub function procedure property public private static const dim as new null true false me super last with
@@ -34,7 +34,7 @@ TAKEN = set("""
     flags components missing done need packed wide bstr textof within
     """.split())
 
-# More external functions than these, a module cannot have.
+# The most external functions that a module can have.
 MOST_EXTERNALS = 200
 
 EXTERNALS_HEAD = """\
@@ -49,17 +49,17 @@ HEAD = """\
 ' Gambas module file
 
 ' The functions of VecMat that take plain arrays. Written by tools/bindings from exports.tsv and arguments.tsv: change
-' those, not this module. What each function does is told in the pages below Docs/contracts; Docs/hosts/gambas.md shows
-' a first call.
+' those, not this module. Docs/contracts describes what each function does; Docs/hosts/gambas.md shows a first
+' call.
 '
 '   tables      A Float[] of one dimension holds a table column after column: cell (i, j), from 0, is at i + rows * j.
-'   Booleans    Masks are Boolean[]. A single one goes in and comes back as -1 or 0.
-'   results     A function writes them into arrays that the caller has made: an Integer[1] for a single number.
+'   Booleans    Masks are Boolean[]. A single one is passed and returned as -1 or 0.
+'   results     A function writes them to arrays created by the caller: an Integer[1] for a single number.
 '   strings     are strings, and String[].
-'   columns     A table of columns is a VecMatColumns, the class beside this module.
-'   Null        may stand where the contract lets an argument be absent.
+'   columns     A table of columns is a VecMatColumns, the class that comes with this module.
+'   Null        may be passed where the contract allows an argument to be absent.
 '
-' An array that is missing or too short is an error that names it, and so is a lack of memory.
+' An array that is missing or too short raises an error that names it; running out of memory raises an error, too.
 
 Library "libVecMatGuarded:1"
 
@@ -331,7 +331,7 @@ class Module:
         return []
 
     def turned(self):
-        """What is passed for each argument, and the lines before and behind the call."""
+        """What is passed for each argument, and the lines before and after the call."""
         passed, before, behind, variables = [], [], [], []
         for argument in self.call.arguments:
             name = self.names[argument.name]

@@ -1,14 +1,14 @@
-"""Which comments of a header, and which tags in them, hold for a declaration in it.
+"""Which comments of a header, and which tags in them, apply to a declaration in it.
 
 A comment ends in tagged lines, one for each part of the contract:
 
     /// Sum of the cells.
     /// @missing left out (equality)
     /// @empty 0.0; a long text goes on
-    ///     in lines set in like this one
+    ///     in lines indented like this one
 
-Tags in the comment at the top hold for the file, in a plain comment for its section, in a `///` comment for the functions
-behind it. Of two tags of one name the nearest holds; a tag that is `-` takes an outer one back.
+Tags in the comment at the top apply to the file, in a plain comment to its section, in a `///` comment to the functions
+after it. Of two tags of one name the nearest wins; a tag that is `-` cancels an outer one.
 """
 
 import re
@@ -30,7 +30,7 @@ class TagError(Exception):
 @dataclass(frozen=True)
 class Tag:
     text: str
-    line: int  # of the header, from 0: tells apart tags of one text
+    line: int  # of the header, from 0: distinguishes tags with the same text
 
 
 @dataclass(frozen=True)
@@ -42,8 +42,8 @@ class Block:
 
 @dataclass(frozen=True)
 class Comments:
-    """The comments that hold for a line, each an empty block where there is none."""
-    header: Block    # ahead of the code
+    """The comments that apply to a line, each an empty block if there is none."""
+    header: Block    # before the code
     of_class: Block
     heading: Block   # the last `// ----`
     section: Block   # the last other plain comment since
@@ -54,7 +54,7 @@ class Comments:
 
 
 def read_block(lines, first=0):
-    """The block that the lines of a comment make, of which the first is line `first` of its header."""
+    """The block formed by the lines of a comment, whose first line is line `first` of the header."""
     prose, tags, name = [], {}, None
     for number, line in enumerate(lines, start=first):
         match = TAG.match(line)
@@ -80,11 +80,11 @@ def read_block(lines, first=0):
 
 
 def comments_by_line(text):
-    """For each line of a header, the comments that hold for a declaration on it.
+    """For each line of a header, the comments that apply to a declaration on it.
 
-    A `///` comment holds for all declarations behind it, to the next comment. But in a section that opens with a
-    declaration of no such comment, for which the heading is enough, each holds for the one behind it alone. A `///`
-    comment of tags alone leaves the prose in force and always holds to the next comment.
+    A `///` comment applies to all declarations after it, up to the next comment. But in a section that opens with a
+    declaration without one, for which the heading is enough, each applies to the next declaration only. A `///`
+    comment of tags alone leaves the prose in force and always applies up to the next comment.
     """
     none = Block()
     now = {"header": none, "of_class": none, "heading": none, "section": none, "function": none}
@@ -118,7 +118,7 @@ def comments_by_line(text):
         stripped = line.strip()
         if stripped.startswith("//"):
             if block and is_function != stripped.startswith("///"):
-                close()  # a comment of a function and a plain one that touch are two
+                close()  # a function's comment and a plain one next to it are two
             if not block:
                 start = number
             is_function = stripped.startswith("///")

@@ -1,4 +1,4 @@
-"""Compares the interface list (exports.tsv), the headers and the symbols of the built library, all ways round."""
+"""Compares the interface list (exports.tsv), the headers and the symbols of the built library, in every direction."""
 
 import re
 import subprocess
@@ -26,7 +26,7 @@ class Row:
         return f"{self.name}({', '.join(self.types)})"
 
     def key(self):
-        """What may not stand twice: a name with C linkage, a signature with C++ linkage."""
+        """What must be unique: a name with C linkage, a signature with C++ linkage."""
         return self.name if self.linkage == "C" else self.signature()
 
 
@@ -74,17 +74,17 @@ def one_symbol_spelling(symbol):
 
 
 def moved_names(row, declaration):
-    """Parameters that the header has under a name that the list gives to another position.
+    """Parameters whose name in the header is that of another position in the list.
 
-    A header may call a parameter what it likes, but `int rows, int cols` for the list's `int cols, int rows` has the
-    same types and another meaning.
+    A header is free to name its parameters, but `int rows, int cols` for the list's `int cols, int rows` has the same
+    types and another meaning.
     """
     return [name for position, name in enumerate(declaration.names)
             if name in row.names and row.names[position] != name]
 
 
 def read_symbols(library, nm="nm", demangler="c++filt"):
-    """The names that a shared library defines for others: with C linkage as they are, else demangled."""
+    """The names that a shared library exports: with C linkage unchanged, otherwise demangled."""
     out = subprocess.run([nm, "-D", "--defined-only", "--format=posix", library],
                          check=True, capture_output=True, text=True).stdout
     symbols = sorted({line.split(" ")[0] for line in out.splitlines() if line})
@@ -94,7 +94,7 @@ def read_symbols(library, nm="nm", demangler="c++filt"):
 
 
 def read_windows_symbols(library, objdump="x86_64-w64-mingw32-objdump", demangler="c++filt"):
-    """The same of a DLL, whose export table objdump prints."""
+    """The same for a DLL, whose export table objdump prints."""
     out = subprocess.run([objdump, "-p", library], check=True, capture_output=True, text=True).stdout
     table = out.partition("[Ordinal/Name Pointer] Table")[2].partition("\n\n")[0]
     symbols = sorted(re.findall(r"^\s*\[ *\d+\] (?:\+base\[ *\d+\] +\w+ )?(\S+)$", table, flags=re.M))
@@ -104,7 +104,7 @@ def read_windows_symbols(library, objdump="x86_64-w64-mingw32-objdump", demangle
 
 
 def windows_imports(library, objdump="x86_64-w64-mingw32-objdump"):
-    """What a DLL takes from other DLLs: a set of names for each."""
+    """What a DLL imports from other DLLs: a set of names for each."""
     out = subprocess.run([objdump, "-p", library], check=True, capture_output=True, text=True).stdout
     found = {}
     for part in out.split("DLL Name: ")[1:]:
@@ -114,9 +114,9 @@ def windows_imports(library, objdump="x86_64-w64-mingw32-objdump"):
 
 
 def open_calls(library, readelf="readelf", demangler="c++filt"):
-    """Names that the library defines and nevertheless looks up when it is loaded.
+    """Names that the library defines and still looks up when it is loaded.
 
-    Another library in the process that has the same name (`ddot`, `dscal`) would be called in its place.
+    Another library in the process with the same name (`ddot`, `dscal`) would be called instead.
     """
     out = subprocess.run([readelf, "--relocs", "--wide", library], check=True, capture_output=True, text=True).stdout
     wanted = set(re.findall(r"^[0-9a-f]+ +[0-9a-f]+ +R_\w+ +[0-9a-f]+ +([A-Za-z_]\w*)", out, flags=re.M))
@@ -126,7 +126,7 @@ def open_calls(library, readelf="readelf", demangler="c++filt"):
 
 
 def compare(rows, declarations, symbols):
-    """What is wrong, and which rows are not in the library yet, be they declared already or not."""
+    """What is wrong, and which rows are not yet in the library, declared or not."""
     wrong = []
     by_signature = {row.signature(): row for row in rows}
     names = {row.name: row for row in rows}

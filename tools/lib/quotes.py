@@ -1,18 +1,18 @@
 #!/usr/bin/env python3
-"""Keeps what the documents quote equal to the files they quote it from.
+"""Keeps quotations in the documents identical to the quoted files.
 
     quotes.py [--check]
 
-A quotation stands between two comments in a document:
+A quotation is enclosed by two comments in a document:
 
-    <!-- quote FILE -->                        all of a file
+    <!-- quote FILE -->                        a whole file
     <!-- quote FILE FUNCTION -->               one function of a source in C or C++, with the comment above it
     <!-- quote FILE.md rows NAME... -->        the rows of a table whose first cell is one of these
     <!-- quote FILE.md rows NAME... columns TITLE... -->
     <!-- end of quote -->
 
-Paths are those of the repository; names with blanks stand in double quotes. Renews all quotations, or with --check
-names the documents whose quotations are not up to date and exits with 1.
+Paths are relative to the repository; names with blanks are in double quotes. Updates all quotations, or with --check
+names the documents whose quotations are out of date and exits with 1.
 """
 
 import re
@@ -27,11 +27,11 @@ QUOTATION = re.compile(r"(<!-- quote (.*?) -->\n)(.*?)(<!-- end of quote -->)", 
 
 
 class QuoteError(Exception):
-    """A quotation of what isn't there."""
+    """A quotation whose source does not exist."""
 
 
 def function(text, name):
-    """The lines of a function that starts and ends at the left margin, from the comment above it on."""
+    """The lines of a function that starts and ends at the left margin, including the comment above it."""
     lines = text.splitlines()
     starts = [i for i, line in enumerate(lines) if re.match(rf"\w[^;]*\b{re.escape(name)}\(", line)]
     if len(starts) != 1:
@@ -50,7 +50,7 @@ def cells(line):
 
 
 def table(text, names, titles):
-    """Rows of the first table that has the first of them, in the order asked for, with its head."""
+    """Rows of the first table that has the first of them, in the order requested, with its header."""
     lines = text.splitlines()
     place = next((i for i, line in enumerate(lines) if line.startswith("|") and cells(line)[0] == names[0]), None)
     if place is None:
@@ -84,7 +84,7 @@ def quoted(root, specification):
 
 
 def renewed(root, text):
-    """The text of a document with all of its quotations as they should be."""
+    """The text of a document with all its quotations up to date."""
 
     def replacement(match):
         opening, specification, body, end = match.groups()
@@ -102,7 +102,7 @@ def renewed(root, text):
 
 
 def faults(root, check):
-    """What is wrong with the documents; without `check` what can be renewed is."""
+    """What is wrong with the documents; without `check` updates them as far as possible."""
     found, quotations = [], 0
     for document in sorted({path for pattern in DOCUMENTS for path in root.glob(pattern)}):
         text = document.read_text(encoding="utf-8")

@@ -1,10 +1,10 @@
-"""The expressions and shapes of arguments.tsv: read, evaluated, and put into other languages.
+"""The expressions and shapes of arguments.tsv: read, evaluated, and translated to other languages.
 
-The grammar is told in Docs/arguments.md. An expression becomes a tree of tuples:
+Docs/arguments.md describes the grammar. An expression becomes a tree of tuples:
 
     ("number", 3)   ("name", "rows")   ("binary", "+", left, right)   ("call", "max", [tree, ...])
 
-Whole numbers have no bounds here; `/` and `%` round towards zero, as in C.
+Integers are unbounded here; `/` and `%` round towards zero, as in C.
 """
 
 import math
@@ -31,7 +31,7 @@ MISSING = -float.fromhex("0x1.fffffffffffe2p+1023")
 
 
 class ShapeError(ValueError):
-    """A text that is no expression, no shape or no domain."""
+    """A text that is not an expression, a shape or a domain."""
 
 
 # ---- read -----------------------------------------------------------------------------------------------------------
@@ -111,7 +111,7 @@ def read_expression(text):
 
 
 def names_of(tree):
-    """The names in the tree: those of numbers, and those of arrays with the type that each must have."""
+    """The names in the tree: those of numbers, and those of arrays with their required types."""
     numbers, arrays = set(), {}
     _collect(tree, numbers, arrays)
     return numbers, arrays
@@ -135,7 +135,7 @@ def _collect(tree, numbers, arrays):
 
 
 def evaluate(tree, values):
-    """The whole number that the expression stands for; `values` has a number or an array for each name."""
+    """The integer value of the expression; `values` has a number or an array for each name."""
     kind = tree[0]
     if kind == "number":
         return tree[1]

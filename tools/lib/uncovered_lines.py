@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""uncovered_lines.py LINES.json: prints each line of source that gcovr's report counts as never run."""
+"""uncovered_lines.py LINES.json: prints each source line that gcovr reports as never run."""
 
 import json
 import sys

@@ -1,6 +1,6 @@
-"""Writes the modules for macros: VecMat, with what all need, and VecMatCalls1, 2, ... with the declarations.
+"""Writes the modules for macros: VecMat, with the shared part, and VecMatCalls1, 2, ... with the declarations.
 
-An editor of macros takes no more than 64 KB in a module. Each has three blocks: for a Mac, for 64-bit Windows, and for
+The macro editor limits a module to 64 KB. Each has three blocks: for a Mac, for 64-bit Windows, and for
 a Mac with a host from before VBA7.
 """
 
@@ -14,8 +14,8 @@ LONGEST = 60_000  # of a module, in characters
 
 BLOCKS = ("#If Mac And VBA7 Then", "#ElseIf Win64 Then", "#ElseIf Mac Then")
 
-# How a macro declares a parameter. Numbers by value are themselves; an array, or a variable for a result, is handed
-# over by reference to its first element. Pointers to what only a macro can take the address of are plain numbers.
+# How a macro declares a parameter. Numbers are passed by value; an array, or a variable for a result, by reference to
+# its first element. Pointers that a macro has to take itself (VarPtr, StrPtr) are plain numbers.
 PARAMETERS = {
     "int": "ByVal {} As Long",
     "double": "ByVal {} As Double",
@@ -30,10 +30,10 @@ PARAMETERS = {
 }
 RESULTS = {"int": "Long", "double": "Double", "short": "Integer", "wchar_t*": "LongPtr", "void": None}
 
-# The one 16-bit result that is no Boolean: 1 is a value of it.
+# The one 16-bit result that is not a Boolean: it can be 1.
 INTEGER_RESULTS = {"status"}
 
-# Words of the language that parameters are called in C++ (it doesn't tell upper from lower case).
+# Keywords of the language used as parameter names in C++ (case is ignored).
 WORDS = {"input", "len", "open", "select", "to"}
 
 CALLS_HEAD = """\
@@ -47,31 +47,32 @@ HEAD = """\
 Attribute VB_Name = "VecMat"
 Option Explicit
 
-' What the modules VecMatCalls1, 2, ... need, which declare the functions of VecMat that take plain arrays, for macros on
-' a Mac and on 64-bit Windows. Import all of them.
+' Shared by the modules VecMatCalls1, 2, ..., which declare the functions of VecMat that take plain arrays, for
+' macros on a Mac and on 64-bit Windows. Import all of them.
 ' Written by tools/bindings from exports.tsv and arguments.tsv: change those, not these modules.
 '
-' What each function does, and how it treats missing cells, masks, weights and empty inputs, is told in the
-' pages below Docs/contracts. What goes across the border is told in Docs/border.md, in short:
+' Docs/contracts describes what each function does, and how it treats missing cells, masks, weights and empty
+' inputs. Docs/border.md describes how arguments are passed; in short:
 '
-'   numbers       An array is handed over by its first element: VB_V_Mean2(v(0), n). Tables are stored column
+'   numbers       An array is passed by its first element: VB_V_Mean2(v(0), n). Tables are stored column
 '                 after column, as VBA stores an array (row, column). Give arrays the sizes that the function
-'                 tells: nothing is checked.
-'   Booleans      A single one goes in and comes back as an Integer, -1 or 0. An array is one of Booleans.
-'   strings       An array of strings is handed over by VarPtr(labels(0)). Let the strings that a function will
-'                 replace be empty: the library never frees one. A single string goes in as StrPtr(text) on
-'                 Windows, and on a Mac as the array of its characters' numbers, each a Long, with a 0 behind
-'                 the last: text(0). SimplifyRange and Increase1Col take StrPtr(text) everywhere. A string that comes back is a pointer, which the caller owns.
-'   columns       A table of columns is a VecMatTable, handed over by VarPtr(table).
+'                 requires: nothing is checked.
+'   Booleans      A single one is passed and returned as an Integer, -1 or 0. An array is one of Booleans.
+'   strings       An array of strings is passed as VarPtr(labels(0)). Strings that a function will replace must
+'                 be empty: the library never frees one. A single string is passed as StrPtr(text) on Windows,
+'                 and on a Mac as an array of character codes, each a Long, with a 0 after the last: text(0).
+'                 SimplifyRange and Increase1Col take StrPtr(text) everywhere. A returned string is a pointer,
+'                 which the caller owns.
+'   columns       A table of columns is a VecMatTable, passed as VarPtr(table).
 '   missing       A cell without a value holds VecMatMissing.
-'   absent        Where the contract lets an array be absent, as most masks and weights, it is declared As Any: hand over
-'                 its first element, or ByVal VecMatNothing.
-'   the library   On Windows VecMat.dll is found beside the host, on the path, or where VecMatFrom has told. On a Mac its
-'                 place is written in the declarations: see tools/bindings --library.
+'   absent        Where the contract allows an array to be absent, as with most masks and weights, it is declared
+'                 As Any: pass its first element, or ByVal VecMatNothing.
+'   the library   On Windows VecMat.dll is found beside the host, on the path, or in the folder given to VecMatFrom.
+'                 On a Mac its path is part of the declarations: see tools/bindings --library.
 
 Public Const VecMatMissing As Double = -1.79769313486231E+308
 
-' One column of a table of columns: of its two arrays fill the one that the function reads.
+' One column of a table of columns: fill the one of its two arrays that the function reads.
 Public Type VecMatColumn
     Numbers() As Double
     Strings() As String
@@ -91,7 +92,7 @@ Public Const VecMatNothing As Long = 0
 Private Declare PtrSafe Function LoadLibraryExW Lib "kernel32" ( _
     ByVal path As LongPtr, ByVal file As LongPtr, ByVal flags As Long) As LongPtr
 
-' Loads the library from a folder, which has the companions, too: VecMatFrom ThisWorkbook.Path. Call it before any
+' Loads the library from a folder that also contains the companions: VecMatFrom ThisWorkbook.Path. Call it before any
 ' function of the library; True if it was found.
 Public Function VecMatFrom(ByVal folder As String) As Boolean
     Dim path As String
@@ -108,7 +109,7 @@ def is_flat(function):
 
 
 def names_for(function):
-    """Names for the parameters that differ when upper and lower case don't."""
+    """Parameter names that are distinct even if case is ignored."""
     names = []
     for _, name in function.parameters:
         if name.lower() in WORDS:
@@ -127,7 +128,7 @@ def nullable_arguments():
 
 def form_of(function, kind, name, nullable, block):
     if block == 1 and kind == "const wchar_t*":
-        return "ByVal {} As LongPtr"  # characters have 16 bits there, as the string has them
+        return "ByVal {} As LongPtr"  # characters have 16 bits there, as in the string
     if kind in ("double*", "int*", "short*") and (function.name, name) in nullable:
         return "ByRef {} As Any"
     if kind == "short*" and name in INTEGER_RESULTS:
@@ -152,7 +153,7 @@ def declaration(function, block, library, nullable):
 
 
 def chunks(units, libraries, nullable):
-    """The functions in lists that fit into a module, with the declarations of each: one for each block."""
+    """The functions in lists that fit into a module, with their declarations: one for each block."""
     current, size = [], 0
     for unit, functions in units:
         for function in filter(is_flat, functions):

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """windows_exports.py LIST NM LIBRARY DEFINITION OBJECT...: writes what a Windows library exports.
 
-There no visibility decides: the linker is told in a module definition file. It gets the functions of the interface
-list (exports.tsv) and nothing else, under the names by which the object files define them. Exit status 1 where a
-function of the list is defined nowhere.
+Windows has no symbol visibility: a module definition file lists the exports. It contains the functions of the interface
+list (exports.tsv) and nothing else, under the names by which the object files define them. Exit status 1 if a function
+of the list is not defined anywhere.
 """
 
 import subprocess
@@ -14,7 +14,7 @@ import interface
 
 
 def defined_symbols(nm, objects):
-    """The functions that the object files define for others, as the linker calls them."""
+    """The external functions defined in the object files, by their linker names."""
     out = subprocess.run([nm, "--defined-only", "--extern-only", "--format=posix", *objects],
                          check=True, capture_output=True, text=True).stdout
     fields = (line.split(" ") for line in out.splitlines())
