@@ -450,8 +450,10 @@ def _keys(keys: Any, n: int) -> tuple[NDArray[np.int64], Any]:
         place = np.searchsorted(names, v) if names.size else np.zeros(v.size, dtype=np.int64)
         place = np.where(v == MISSING, -1, place)
     except TypeError:
-        found, names = codes(keys)
-        place = np.where(np.isnan(found), -1, found)
+        cells = _one_column(keys).cells
+        names = categories(list(dict.fromkeys(cells))).names
+        places = {name: k for k, name in enumerate(names)}
+        place = np.array([places.get(cell or "", -1) for cell in cells], dtype=np.int64)
     if place.size != n:
         raise ValueError(f"keys: expected {n} keys, got {place.size}")
     return place.astype(np.int64), names
