@@ -77,7 +77,7 @@ TableHandle identity(int n)
     return table;
 }
 
-/// What `metricOf` returns for the identity, without its eigenvalues: those routines catch a failed allocation, and
+/// What `metricOf` returns for the identity, without computing eigenvalues: that would swallow a failed allocation, and
 /// with a root of zeros the iteration would never end.
 Metric identityMetric(int n)
 {

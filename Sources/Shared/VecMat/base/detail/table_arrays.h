@@ -50,7 +50,7 @@ void copyArrays(const Table& src, Table& table)
     }
 }
 
-/// Frees what a table owns.
+/// Frees the arrays owned by a table.
 template <class Table>
 void deleteArrays(Table& table)
 {
