@@ -120,7 +120,7 @@ class Rules(unittest.TestCase):
         for old, new, message in (("// @empty 0.0", "// @emtpy 0.0", "no tag @emtpy"),
                                   ("// @empty 0.0", "// @empty 0.0\n// @empty 1.0", "@empty twice"),
                                   ("// @empty 0.0", "// @empty", "without a text"),
-                                  ("///     its row", "/// its row", "prose behind a tag")):
+                                  ("///     its row", "/// its row", "prose after a tag")):
             with self.assertRaisesRegex(TagError, message):
                 contracts.read_unit(HEADER.replace(old, new, 1), "missing/sums")
 

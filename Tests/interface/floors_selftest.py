@@ -56,10 +56,10 @@ class Floors(unittest.TestCase):
     def test_a_kernel_that_includes_a_table(self):
         self.found(with_line("kernels/sums.kernel.cpp", '#include "../matrix.h"'), "kernels/sums.kernel.cpp:2")
 
-    def test_folders_in_a_circle(self):
-        self.found(with_line("elementary/sums.cpp", '#include "../fitting/lines.h"'), "circle: elementary, fitting")
+    def test_folders_in_a_cycle(self):
+        self.found(with_line("elementary/sums.cpp", '#include "../fitting/lines.h"'), "cycle: elementary, fitting")
 
-    def test_a_circle_over_several_folders(self):
+    def test_a_cycle_over_several_folders(self):
         edges = [floors.Edge("base", "missing", 1, True), floors.Edge("missing", "fitting", 1, True),
                  floors.Edge("fitting", "base", 1, False), floors.Edge("access", "base", 1, False)]
         self.assertEqual(floors.cycles(edges), [("base", "missing", "fitting")])

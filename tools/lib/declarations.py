@@ -114,7 +114,7 @@ def _function(statement, scopes, header, line):
     if text.startswith("template"):
         raise HeaderError(f"{where}: a template is marked {MARK}")
     if any(scope.kind == "namespace" for scope in scopes):
-        raise HeaderError(f"{where}: exported names are global, this one stands in a namespace: {text}")
+        raise HeaderError(f"{where}: exported names are global, this one is in a namespace: {text}")
     linkage = "C" if any(scope.kind == "C" for scope in scopes) else "C++"
     text, count = re.subn(r'\bextern "C"\s*', "", text)
     if count:

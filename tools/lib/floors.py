@@ -126,9 +126,9 @@ def check_order(includes, exceptions):
     for i in includes:
         source, target = floor_of(i.source), floor_of(i.target)
         if source is None or target is None:
-            wrong.append(f"{i.source}:{i.line}: {i.source if source is None else i.target} stands on no floor")
+            wrong.append(f"{i.source}:{i.line}: {i.source if source is None else i.target} is on no floor")
         elif ORDER[source] < ORDER[target] and (i.source, i.target) not in exceptions:
-            wrong.append(f"{i.source}:{i.line}: {source} includes {i.target}, which stands above it")
+            wrong.append(f"{i.source}:{i.line}: {source} includes {i.target}, which is above it")
     used = {(i.source, i.target) for i in includes if floor_of(i.source) in ORDER and floor_of(i.target) in ORDER
             and ORDER[floor_of(i.source)] < ORDER[floor_of(i.target)]}
     wrong += [f"the exception for {source} -> {target} is not needed" for source, target in sorted(set(exceptions) - used)]
@@ -155,7 +155,7 @@ def check(files, exceptions=None):
     wrong = check_order(includes, known) + check_private(files, includes)
     allowed = {(floor_of(source), floor_of(target)) for source, target in known}
     groups = cycles([e for e in graph(includes) if (e.source, e.target) not in allowed])
-    return wrong + [f"these floors stand in a circle: {', '.join(group)}" for group in groups]
+    return wrong + [f"these floors stand in a cycle: {', '.join(group)}" for group in groups]
 
 
 def main():
@@ -163,7 +163,7 @@ def main():
     edges = graph(read_includes(files))
     for e in edges:
         print(f"{e.source}\t{e.target}\t{e.count}" + ("\tup" if e.is_upward else ""))
-    print(f"{sum(e.count for e in edges if e.is_upward)} includes run upwards, {len(cycles(edges))} circles")
+    print(f"{sum(e.count for e in edges if e.is_upward)} includes run upwards, {len(cycles(edges))} cycles")
 
 
 if __name__ == "__main__":

@@ -73,7 +73,7 @@ def read_block(lines, first=0):
         elif line.startswith("     "):
             tags[name] = Tag(f"{tags[name].text} {line.strip()}", tags[name].line)
         elif line.strip():
-            raise TagError(where + "prose behind a tag; a tag goes on in lines set in by four blanks more")
+            raise TagError(where + "prose after a tag; a tag continues on lines indented by four more blanks")
     while prose and not prose[-1].strip():
         prose.pop()
     return Block(tuple(prose), tags)

@@ -79,7 +79,7 @@ class _Reader:
             self.take(")")
             return tree
         if not re.fullmatch(r"[A-Za-z_]\w*", token):
-            raise ShapeError(f"{token} in the place of an operand: {self.text}")
+            raise ShapeError(f"{token} where an operand is expected: {self.text}")
         if self.peek() != "(":
             return ("name", token)
         return self.call(token)
@@ -106,7 +106,7 @@ def read_expression(text):
     reader = _Reader(text)
     tree = reader.expression()
     if reader.peek():
-        raise ShapeError(f"{reader.peek()} behind the end of: {text}")
+        raise ShapeError(f"{reader.peek()} after the end of: {text}")
     return tree
 
 
