@@ -155,7 +155,7 @@ def check(files, exceptions=None):
     wrong = check_order(includes, known) + check_private(files, includes)
     allowed = {(floor_of(source), floor_of(target)) for source, target in known}
     groups = cycles([e for e in graph(includes) if (e.source, e.target) not in allowed])
-    return wrong + [f"these floors stand in a cycle: {', '.join(group)}" for group in groups]
+    return wrong + [f"these floors form a cycle: {', '.join(group)}" for group in groups]
 
 
 def main():
