@@ -1,45 +1,16 @@
 Attribute VB_Name = "VecMatExample"
 Option Explicit
 
-' A macro that calls VecMat: numbers, tables, Booleans, strings, tables of columns and random draws.
+' A macro that calls VecMat: numbers, tables, Booleans, a range's values, strings, tables of columns and
+' random draws.
 ' Import the other modules first, then run ShowVecMat; what it prints stands beside each line.
 
-' Gives back the string of which the library has handed over the pointer. The string is moved, not copied:
-' the variable frees it from then on.
-#If Mac And VBA7 Then
-Private Declare PtrSafe Function MoveBytes CDecl Lib "/usr/lib/libSystem.dylib" Alias "memmove" ( _
-    ByVal target As LongPtr, ByVal source As LongPtr, ByVal size As LongPtr) As LongPtr
-#ElseIf Win64 Then
-Private Declare PtrSafe Sub MoveBytes Lib "kernel32" Alias "RtlMoveMemory" ( _
-    ByVal target As LongPtr, ByVal source As LongPtr, ByVal size As LongPtr)
-#ElseIf Mac Then
-Private Declare Function MoveBytes CDecl Lib "/usr/lib/libSystem.dylib" Alias "memmove" ( _
-    ByVal target As Long, ByVal source As Long, ByVal size As Long) As Long
-#End If
-
-#If VBA7 Then
-Private Function TakenString(ByVal bstr As LongPtr) As String
-#Else
-Private Function TakenString(ByVal bstr As Long) As String
-#End If
-    Dim text As String
-    MoveBytes VarPtr(text), VarPtr(bstr), LenB(bstr)
-    TakenString = text
-End Function
-
-' The characters of a text as the numbers that a single string goes in as, with a 0 behind the last.
-Private Function Characters(ByVal text As String) As Long()
-    Dim numbers() As Long, i As Long
-    ReDim numbers(0 To Len(text))
-    For i = 1 To Len(text)
-        numbers(i - 1) = AscW(Mid$(text, i, 1)) And &HFFFF&
-    Next i
-    Characters = numbers
-End Function
+#If Mac Or Win64 Then    ' where the library is
 
 Public Sub ShowVecMat()
     ShowNumbers
     ShowTables
+    ShowValues
     ShowStrings
     ShowColumns
     ShowDraws
@@ -65,35 +36,50 @@ Private Sub ShowTables()
     Debug.Print product(1, 1); product(1, 2); product(2, 1); product(2, 2)    ' 2 1 4 3
 End Sub
 
+Private Sub ShowValues()
+    Dim values(1 To 4, 1 To 2) As Variant, numbers() As Double, back As Variant    ' as Range("A1:B4").Value gives them
+    values(1, 1) = 4: values(2, 1) = Empty: values(3, 1) = 5: values(4, 1) = 90
+    values(1, 2) = True: values(2, 2) = "none": values(3, 2) = CVErr(2042): values(4, 2) = 3
+    numbers = VecMatNumbers(values)
+    Debug.Print VB_V_Mean2(numbers(0), 4); VB_V_Mean2(numbers(4), 4)                   ' 33 2: three cells are missing
+    back = VecMatValues(numbers, 4, 2, CVErr(2042))
+    Debug.Print back(1, 1); IsError(back(2, 1)); back(4, 2)                           ' 4 True 3
+End Sub
+
 Private Sub ShowStrings()
-    Dim labels(0 To 3) As String, weights(0 To 3) As Double, filled(0 To 1) As String, text() As Long, i As Long
-    labels(0) = "north": labels(1) = "south": labels(2) = "": labels(3) = "south"
+    Dim labels As VecMatTexts, filled As VecMatTexts, weights(0 To 3) As Double, none(0 To 1) As String, i As Long
+    Dim texts() As String
+    VecMatGiveTexts labels, Array("north", "south", Empty, "south")
     For i = 0 To 3
         weights(i) = 1
     Next i
-    Debug.Print TakenString(VB_V_Mode(VarPtr(labels(0)), 4, 0, weights(0)))    ' south
+    Debug.Print VecMatTakeString(VB_V_Mode(VarPtr(labels.Pointers(0)), 4, 0, weights(0)))    ' south
+    VecMatGiveTexts filled, none
 #If Mac Then
-    text = Characters("none")
-    VB_V_SetToValueStr VarPtr(filled(0)), 2, text(0)
+    Dim characters() As Long
+    characters = VecMatCharacters("none")
+    VB_V_SetToValueStr VarPtr(filled.Pointers(0)), 2, characters(0)
 #Else
-    VB_V_SetToValueStr VarPtr(filled(0)), 2, StrPtr("none")
+    VB_V_SetToValueStr VarPtr(filled.Pointers(0)), 2, StrPtr("none")
 #End If
-    Debug.Print filled(0); " "; filled(1)                                      ' none none
-    Debug.Print TakenString(SimplifyRange(StrPtr("'S'!$B:$B,'S'!$A:$A")))      ' 'S'!$A:$B
+    texts = VecMatTakeTexts(filled)
+    Debug.Print texts(0); " "; texts(1)                                                      ' none none
+    Debug.Print VecMatTakeString(SimplifyRange(StrPtr("'S'!$B:$B,'S'!$A:$A")))               ' 'S'!$A:$B
 End Sub
 
 Private Sub ShowColumns()
-    Dim table As VecMatTable, mask(0 To 2) As Boolean, smallest(0 To 1) As Double, largest(0 To 1) As Double, i As Long
-    ReDim table.Columns(0 To 1)
-    ReDim table.Columns(0).Numbers(0 To 2)
-    ReDim table.Columns(1).Numbers(0 To 2)
-    For i = 0 To 2
-        table.Columns(0).Numbers(i) = i
-        table.Columns(1).Numbers(i) = 10 - i
-    Next i
+    Dim table As VecMatTable, mask(0 To 2) As Boolean, smallest(0 To 1) As Double, largest(0 To 1) As Double
+    table = VecMatNumberTable(Array(Array(0, 1, 2), Array(10, 9, 8)))
     mask(0) = True
     VB_M_MinMaxSPV VarPtr(table), 3, 2, smallest(0), largest(0), mask(0), 0
     Debug.Print smallest(0); largest(0); smallest(1); largest(1)    ' 1 2 8 9
+
+    Dim given As VecMatTextTable, copied As VecMatTextTable, names As Variant
+    VecMatGiveTextTable given, Array(Array("a", "b"), Array("c", Empty))
+    VecMatGiveTextTable copied, Array(Array("", ""), Array("", ""))
+    VB_M_DuplicateStrSPV VarPtr(given), 2, 2, VarPtr(copied)
+    names = VecMatTakeTextTable(copied)
+    Debug.Print names(0)(0); names(0)(1); names(1)(0)               ' abc
 End Sub
 
 Private Sub ShowDraws()
@@ -103,3 +89,5 @@ Private Sub ShowDraws()
     Debug.Print VB_V_Sum2Dbl(chosen(0), 10)                            ' 4
     VB_GenerateRandomIndicator chosen(0), 10, 4, nextSeed, -1, seed    ' the series goes on
 End Sub
+
+#End If

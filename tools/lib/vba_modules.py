@@ -1,4 +1,5 @@
 """Writes the modules for macros: VecMat, with the shared part, and VecMatCalls1, 2, ... with the declarations.
+VecMatHelpers and VecMatExample, beside them, are written by hand.
 
 The macro editor limits a module to 64 KB. Each has three blocks: for a Mac, for 64-bit Windows, and for
 a Mac with a host from before VBA7.
@@ -6,6 +7,7 @@ a Mac with a host from before VBA7.
 
 import re
 import textwrap
+from pathlib import PurePosixPath
 
 from arguments import read_calls
 
@@ -58,13 +60,15 @@ Option Explicit
 '                 after column, as VBA stores an array (row, column). Give arrays the sizes that the function
 '                 requires: nothing is checked.
 '   Booleans      A single one is passed and returned as an Integer, -1 or 0. An array is one of Booleans.
-'   strings       An array of strings is passed as VarPtr(labels(0)). Strings that a function will replace must
-'                 be empty: the library never frees one. A single string is passed as StrPtr(text) on Windows,
-'                 and on a Mac as an array of character codes, each a Long, with a 0 after the last: text(0).
-'                 SimplifyRange and Increase1Col take StrPtr(text) everywhere. A returned string is a pointer,
-'                 which the caller owns.
-'   columns       A table of columns is a VecMatTable, passed as VarPtr(table).
-'   missing       A cell without a value holds VecMatMissing.
+'   strings       An array of strings is passed as an array of pointers. VecMatGiveTexts and VecMatTakeTexts, in
+'                 VecMatHelpers, make it, and free what the library makes. A single string is passed as
+'                 StrPtr(text) on Windows, and on a Mac as the first element of VecMatCharacters(text).
+'                 SimplifyRange and Increase1Col take StrPtr(text) everywhere. A returned string is a pointer:
+'                 VecMatTakeString gives its text and frees it.
+'   columns       A table of columns is a VecMatTable, passed as VarPtr(table): see VecMatNumberTable in
+'                 VecMatHelpers, and VecMatTextTable for strings.
+'   missing       A cell without a value holds VecMatMissing. VecMatNumbers turns a range's values into numbers,
+'                 and VecMatValues turns numbers into values.
 '   absent        Where the contract allows an array to be absent, as with most masks and weights, it is declared
 '                 As Any: pass its first element, or ByVal VecMatNothing.
 '   the library   On Windows VecMat.dll is found beside the host, on the path, or in the folder given to VecMatFrom.
@@ -88,7 +92,20 @@ Public Const VecMatNothing As LongPtr = 0
 Public Const VecMatNothing As Long = 0
 #End If
 
-#If Win64 Then
+' Frees a string where the library has it from. VecMatHelpers calls it: see VecMatTakeString there.
+#If Mac And VBA7 Then
+Public Declare PtrSafe Sub VecMatFreeString CDecl Lib "{companion}" Alias "SysFreeString2" ( _
+    ByVal bstr As LongPtr)
+#ElseIf Mac Then
+Public Declare Sub VecMatFreeString CDecl Lib "{companion}" Alias "SysFreeString2" ( _
+    ByVal bstr As Long)
+#ElseIf VBA7 Then
+Public Declare PtrSafe Sub VecMatFreeString Lib "oleaut32" Alias "SysFreeString" (ByVal bstr As LongPtr)
+#Else
+Public Declare Sub VecMatFreeString Lib "oleaut32" Alias "SysFreeString" (ByVal bstr As Long)
+#End If
+
+#If Win64 And Not Mac Then
 Private Declare PtrSafe Function LoadLibraryExW Lib "kernel32" ( _
     ByVal path As LongPtr, ByVal file As LongPtr, ByVal flags As Long) As LongPtr
 
@@ -183,7 +200,8 @@ def calls_module(name, members):
 
 def modules(units, mac_library, windows_library):
     """The texts of the modules, by name."""
-    texts = {"VecMat": HEAD}
+    companion = PurePosixPath(mac_library).with_name("libCompanionRuntime.dylib").as_posix()
+    texts = {"VecMat": HEAD.replace("{companion}", companion)}
     libraries = (mac_library, windows_library, mac_library)
     for number, members in enumerate(chunks(units, libraries, nullable_arguments()), start=1):
         name = f"VecMatCalls{number}"
