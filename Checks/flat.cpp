@@ -39,13 +39,14 @@ std::vector<Plan> plansFor(const Call& call)
     std::vector<Plan> plans;
     std::uint64_t seed = 1;
     for (const Size& size : smallSizes)
-        for (const Style style : {Style::plain, Style::gaps, Style::ties, Style::constant, Style::special})
+        for (const Style style :
+             {Style::plain, Style::gaps, Style::ties, Style::constant, Style::special, Style::digits})
             plans.push_back({.size = size, .seed = ++seed, .style = style, .outside = !drawsSeeds && seed % 3 == 0});
     for (const Size& size : largeSizes)
-        for (const Style style : {Style::plain, Style::gaps, Style::special})
+        for (const Style style : {Style::digits, Style::gaps, Style::special})
             plans.push_back({.size = size, .seed = ++seed, .style = style});
     for (const Size& size : tallSizes)
-        for (const Style style : {Style::plain, Style::gaps})
+        for (const Style style : {Style::digits, Style::gaps})
             plans.push_back({.size = size, .seed = ++seed, .style = style});
     return plans;
 }

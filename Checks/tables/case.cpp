@@ -94,7 +94,7 @@ double Case::cell(flat::Steps& steps, const Cells& cells) const
 {
     switch (cells.content) {
     case Content::weights:
-        return steps.onceIn(6) ? 0.0 : steps.between(1, 12) / 4.0;
+        return steps.onceIn(6) ? 0.0 : 1.5 + steps.withAllDigits();
     case Content::zeros:
         return 0.0;
     case Content::whole:
@@ -110,7 +110,7 @@ double Case::cell(flat::Steps& steps, const Cells& cells) const
     case Style::special:
         return steps.onceIn(4) ? special(steps) : steps.between(-40, 40) / 8.0;
     default:
-        return steps.between(-4000, 4000) / 64.0;
+        return 30.0 * steps.withAllDigits();
     }
 }
 
@@ -131,7 +131,7 @@ std::vector<double> Case::numbers(const char* name, int rows, int cols, const Ce
     const double heavy = style_ == Style::ties ? 1.0 : 4.0 * rows; // with ties nothing promises to be definite
     for (int j = 0; j < cols; ++j)
         for (int i = j; i < rows; ++i) {
-            const double number = i == j ? heavy + steps.between(0, 3) : steps.between(-8, 8) / 4.0;
+            const double number = (i == j ? heavy : 0.0) + 2.0 * steps.withAllDigits();
             numbers[count(rows, j) + static_cast<std::size_t>(i)] = number;
             if (i < cols && cells.content == Content::definite)
                 numbers[count(rows, i) + static_cast<std::size_t>(j)] = number;

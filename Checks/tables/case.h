@@ -25,7 +25,7 @@ namespace vecmat::digest {
 /// What the cells of an argument are like.
 enum class Content {
     data,     // by the style of the case
-    weights,  // quarters, 0.0 now and then
+    weights,  // 0.0 now and then
     definite, // symmetric, with a heavy diagonal
     lower,    // a triangular table with a diagonal of its own
     zeros,

@@ -218,7 +218,7 @@ std::string Arguments::text() const
 
 std::string textOf(const Plan& plan)
 {
-    constexpr const char* styles[] = {"plain", "gaps", "ties", "constant", "special"};
+    constexpr const char* styles[] = {"plain", "gaps", "ties", "constant", "special", "digits"};
     return "count " + std::to_string(plan.size.count) + ", rows " + std::to_string(plan.size.rows) + ", columns " +
            std::to_string(plan.size.columns) + (plan.size.mixed ? ", mixed" : "") + ", seed " +
            std::to_string(plan.seed) + ", " + styles[static_cast<int>(plan.style)] + (plan.outside ? ", outside" : "");

@@ -32,6 +32,8 @@ double dataCell(Steps& steps, Style style)
         return steps.onceIn(12) ? missing : 2.5;
     case Style::special:
         return steps.onceIn(4) ? special(steps) : steps.between(-40, 40) / 8.0;
+    case Style::digits:
+        return steps.onceIn(12) ? missing : 30.0 * steps.withAllDigits();
     default:
         return steps.between(-4000, 4000) / 64.0;
     }
@@ -41,6 +43,8 @@ double weight(Steps& steps, Style style)
 {
     if (style == Style::constant)
         return 1.0;
+    if (style == Style::digits)
+        return 1.5 + steps.withAllDigits();
     if (style == Style::special && steps.onceIn(5))
         return special(steps);
     return steps.onceIn(6) ? 0.0 : steps.between(1, 12) / 4.0;
@@ -50,11 +54,14 @@ double weight(Steps& steps, Style style)
 std::vector<double> symmetric(Steps& steps, const Filling& filling)
 {
     const long long n = filling.rows;
-    const double heavy = filling.plan.style == Style::plain ? static_cast<double>(4 * n) : 1.0;
+    const bool isHeavy = filling.plan.style == Style::plain || filling.plan.style == Style::digits;
+    const double heavy = isHeavy ? static_cast<double>(4 * n) : 1.0;
     std::vector<double> cells(static_cast<std::size_t>(n * filling.cols), 0.0);
     for (long long j = 0; j < filling.cols; ++j)
         for (long long i = j; i < n; ++i) {
             double cell = i == j ? heavy + steps.between(0, 3) : steps.between(-8, 8) / 4.0;
+            if (filling.plan.style == Style::digits)
+                cell += steps.withAllDigits();
             if (filling.plan.style == Style::gaps && steps.onceIn(40))
                 cell = missing;
             if (filling.plan.style == Style::special && steps.onceIn(20))

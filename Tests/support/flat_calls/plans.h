@@ -17,7 +17,14 @@ struct Size
 };
 
 /// What the cells of data are like.
-enum class Style { plain, gaps, ties, constant, special };
+enum class Style {
+    plain,
+    gaps,
+    ties,
+    constant,
+    special,
+    digits, // all digits of a double: a sum depends on its order
+};
 
 inline constexpr std::size_t noArgument = static_cast<std::size_t>(-1);
 

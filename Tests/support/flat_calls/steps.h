@@ -28,6 +28,13 @@ public:
     /// True once in `times`.
     bool onceIn(int times) { return between(1, times) == 1; }
 
+    /// From -1 to 1, with all 53 digits.
+    double withAllDigits()
+    {
+        constexpr std::int64_t half = std::int64_t{1} << 53;
+        return static_cast<double>(static_cast<std::int64_t>(next() >> 10) - half) / static_cast<double>(half);
+    }
+
 private:
     std::uint64_t state_;
 };
