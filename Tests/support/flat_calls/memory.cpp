@@ -1,7 +1,11 @@
 #include "support/flat_calls/memory.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <sys/mman.h>
 #include <unistd.h>
+#endif
 
 #include <cstdlib>
 #include <new>
@@ -11,11 +15,58 @@ namespace vecmat::flat {
 
 namespace {
 
+#ifdef _WIN32
+
+std::size_t pageBytes()
+{
+    SYSTEM_INFO system;
+    GetSystemInfo(&system);
+    return system.dwPageSize;
+}
+
+/// Pages that can be neither read nor written, or null.
+void* reservePages(std::size_t bytes)
+{
+    return VirtualAlloc(nullptr, bytes, MEM_RESERVE | MEM_COMMIT, PAGE_NOACCESS);
+}
+
+bool allow(void* pages, std::size_t bytes, bool writing)
+{
+    DWORD before;
+    return VirtualProtect(pages, bytes, writing ? PAGE_READWRITE : PAGE_READONLY, &before) != 0;
+}
+
+void releasePages(void* pages, std::size_t /*bytes*/)
+{
+    VirtualFree(pages, 0, MEM_RELEASE);
+}
+
+#else
+
 std::size_t pageBytes()
 {
     static const auto bytes = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     return bytes;
 }
+
+/// Pages that can be neither read nor written, or null.
+void* reservePages(std::size_t bytes)
+{
+    void* const pages = mmap(nullptr, bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    return pages != MAP_FAILED ? pages : nullptr;
+}
+
+bool allow(void* pages, std::size_t bytes, bool writing)
+{
+    return mprotect(pages, bytes, writing ? PROT_READ | PROT_WRITE : PROT_READ) == 0;
+}
+
+void releasePages(void* pages, std::size_t bytes)
+{
+    munmap(pages, bytes);
+}
+
+#endif
 
 } // namespace
 
@@ -30,11 +81,8 @@ Block::Block(std::size_t bytes, Placement placement, std::string label) : size_(
     const std::size_t page = pageBytes();
     const std::size_t inside = (bytes + page - 1) / page * page;
     mappedBytes_ = inside + 2 * page;
-    void* const mapped = mmap(nullptr, mappedBytes_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (mapped == MAP_FAILED)
-        throw std::bad_alloc();
-    mapped_ = static_cast<unsigned char*>(mapped);
-    if (inside > 0 && mprotect(mapped_ + page, inside, PROT_READ | PROT_WRITE) != 0)
+    mapped_ = static_cast<unsigned char*>(reservePages(mappedBytes_));
+    if (mapped_ == nullptr || (inside > 0 && !allow(mapped_ + page, inside, true)))
         throw std::bad_alloc();
     data_ = placement == Placement::behindGuard ? mapped_ + page : mapped_ + page + inside - bytes;
 }
@@ -58,7 +106,7 @@ Block& Block::operator=(Block&& other) noexcept
 Block::~Block()
 {
     if (mapped_ != nullptr)
-        munmap(mapped_, mappedBytes_);
+        releasePages(mapped_, mappedBytes_);
     else
         std::free(data_);
 }
@@ -67,7 +115,7 @@ void Block::forbidWriting()
 {
     const std::size_t page = pageBytes();
     if (mapped_ != nullptr && mappedBytes_ > 2 * page)
-        mprotect(mapped_ + page, mappedBytes_ - 2 * page, PROT_READ);
+        allow(mapped_ + page, mappedBytes_ - 2 * page, false);
 }
 
 bool Block::isNear(const void* address) const
