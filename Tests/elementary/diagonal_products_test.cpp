@@ -87,18 +87,18 @@ TEST(ProductDiagVA, FollowsThePlainLoopInBothStorages)
 {
     forCases(caseCount, [](Cases& c) {
         const int rows = c.count(), cols = c.count();
-        const auto v = c.operand(rows, 1), a = c.operand(rows, cols);
-        auto columns = c.columnOperand(rows, cols);
-        auto out = c.existing(rows, cols), expected = copyOf(out);
-        auto outColumns = c.columnResult(rows, cols), expectedColumns = copyOf(outColumns);
-        M_ProductDiagVA(v.get(), rows, a.get(), cols, out.get());
-        M_ProductDiagVASPV(v.get(), rows, columns, cols, outColumns);
-        fillByRows(expected.get(), rows, cols,
-                   [&](int i, int j) { return unlessMissing(at(v.get(), i, 1), at(a.get(), i, j)); });
-        fillByRows(expectedColumns.get(), rows, cols,
-                   [&](int i, int j) { return unlessMissing(at(v.get(), i, 1), at(columns.get(), i, j)); });
-        expectSame(out, expected);
-        expectSame(outColumns, expectedColumns);
+        const auto v = c.operand(rows, 1);
+        const auto expectCellsOf = [&](auto product, auto storage) {
+            SCOPED_TRACE(storage.name);
+            auto a = storage.operand(c, rows, cols);
+            auto out = storage.existing(c, rows, cols), expected = copyOf(out);
+            product(v, rows, a, cols, out);
+            fillByRows(expected.get(), rows, cols,
+                       [&](int i, int j) { return unlessMissing(at(v.get(), i, 1), at(a.get(), i, j)); });
+            expectSame(out, expected);
+        };
+        expectCellsOf(M_ProductDiagVA, TableStorage{});
+        expectCellsOf(M_ProductDiagVASPV, ColumnStorage{});
     });
 }
 
@@ -113,17 +113,17 @@ TEST(ProductADiagV, FollowsThePlainLoopInBothStorages)
 {
     forCases(caseCount, [](Cases& c) {
         const int rows = c.count(), cols = c.count();
-        const auto v = c.operand(cols, 1), a = c.operand(rows, cols);
-        auto columns = c.columnOperand(rows, cols);
-        auto out = c.existing(rows, cols), expected = copyOf(out);
-        auto outColumns = c.columnResult(rows, cols), expectedColumns = copyOf(outColumns);
-        M_ProductADiagV(a.get(), rows, cols, v.get(), out);
-        M_ProductADiagVSPV(columns, rows, cols, v.get(), outColumns);
-        fillByRows(expected.get(), rows, cols, [&](int i, int j) { return at(a.get(), i, j) * at(v.get(), j, 1); });
-        fillByRows(expectedColumns.get(), rows, cols,
-                   [&](int i, int j) { return at(columns.get(), i, j) * at(v.get(), j, 1); });
-        expectSame(out, expected);
-        expectSame(outColumns, expectedColumns);
+        const auto v = c.operand(cols, 1);
+        const auto expectCellsOf = [&](auto product, auto storage) {
+            SCOPED_TRACE(storage.name);
+            auto a = storage.operand(c, rows, cols);
+            auto out = storage.existing(c, rows, cols), expected = copyOf(out);
+            product(a, rows, cols, v, out);
+            fillByRows(expected.get(), rows, cols, [&](int i, int j) { return at(a.get(), i, j) * at(v.get(), j, 1); });
+            expectSame(out, expected);
+        };
+        expectCellsOf(M_ProductADiagV, TableStorage{});
+        expectCellsOf(M_ProductADiagVSPV, ColumnStorage{});
     });
 }
 
@@ -141,19 +141,19 @@ TEST(ProductDiagV1ADiagV2, IsOneProductAfterTheOther)
 {
     forCases(caseCount, [](Cases& c) {
         const int rows = c.count(), cols = c.count();
-        const auto va = c.operand(rows, 1), vb = c.operand(cols, 1), a = c.operand(rows, cols);
-        auto columns = c.columnOperand(rows, cols);
-        auto out = c.existing(rows, cols), expected = copyOf(out);
-        auto outColumns = c.columnResult(rows, cols), expectedColumns = copyOf(outColumns);
-        M_ProductDiagV1ADiagV2(va.get(), rows, a.get(), cols, vb.get(), out);
-        M_ProductDiagV1ADiagV2SPV(va.get(), rows, columns, cols, vb.get(), outColumns);
-        const auto cell = [&](auto x, int i, int j) {
-            return unlessMissing(at(va.get(), i, 1), at(x, i, j)) * at(vb.get(), j, 1);
+        const auto va = c.operand(rows, 1), vb = c.operand(cols, 1);
+        const auto expectCellsOf = [&](auto product, auto storage) {
+            SCOPED_TRACE(storage.name);
+            auto a = storage.operand(c, rows, cols);
+            auto out = storage.existing(c, rows, cols), expected = copyOf(out);
+            product(va, rows, a, cols, vb, out);
+            fillByRows(expected.get(), rows, cols, [&](int i, int j) {
+                return unlessMissing(at(va.get(), i, 1), at(a.get(), i, j)) * at(vb.get(), j, 1);
+            });
+            expectSame(out, expected);
         };
-        fillByRows(expected.get(), rows, cols, [&](int i, int j) { return cell(a.get(), i, j); });
-        fillByRows(expectedColumns.get(), rows, cols, [&](int i, int j) { return cell(columns.get(), i, j); });
-        expectSame(out, expected);
-        expectSame(outColumns, expectedColumns);
+        expectCellsOf(M_ProductDiagV1ADiagV2, TableStorage{});
+        expectCellsOf(M_ProductDiagV1ADiagV2SPV, ColumnStorage{});
     });
 }
 

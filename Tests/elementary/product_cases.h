@@ -124,6 +124,20 @@ inline void put(matrix** a, int i, int j, double value)
     a[j - 1]->vbset(i, 1, value);
 }
 
+/// The storages of an operand and of a result, for tests of several forms of one function.
+struct TableStorage
+{
+    static constexpr const char* name = "in tables";
+    static Owned<matrix> operand(Cases& c, int rows, int cols) { return c.operand(rows, cols); }
+    static Owned<matrix> existing(Cases& c, int rows, int cols) { return c.existing(rows, cols); }
+};
+struct ColumnStorage
+{
+    static constexpr const char* name = "in columns";
+    static Columns<matrix> operand(Cases& c, int rows, int cols) { return c.columnOperand(rows, cols); }
+    static Columns<matrix> existing(Cases& c, int rows, int cols) { return c.columnResult(rows, cols); }
+};
+
 /// The sum of term(1) to term(n), in this order, from +0.0 on.
 template <class Term>
 double sumOf(int n, Term term)
@@ -172,7 +186,7 @@ inline void expectSame(const Columns<matrix>& actual, const Columns<matrix>& exp
     EXPECT_THAT(actual.cells(), SameBits(expected.cells()));
 }
 
-/// A caller's array with the cells of a table, and whether it has come to hold those of another one.
+/// A caller's array with the cells of a table, and whether it holds those of another one after a call.
 inline Guarded<double> flat(const Owned<matrix>& table)
 {
     return Guarded<double>(cellsOf(table));

@@ -1,4 +1,4 @@
-// Ranks of few and many values against the rules written down once more.
+// Ranks of few and many values against the rules written out again.
 #include "sorting/ranks.h"
 
 #include "sorting/many_keys.h"
@@ -17,7 +17,7 @@ struct Ranked
     int nTies = 0;
 };
 
-/// Places, and the runs of ties with ranks of their own, which `settle(first, behind, ranks)` gives them.
+/// Ranks by place; `settle(first, end, ranks, records)` then gives each run of ties its ranks.
 template <class Tied, class Settle>
 Ranked rankedByRecords(const std::vector<double>& x, Tied tied, Settle settle)
 {
@@ -54,53 +54,50 @@ protected:
     testing::ScopedTrace trace{__FILE__, __LINE__, random.seed()};
     const std::vector<Keys> kinds = keysOfManyKinds(random, n);
     std::vector<double> weights = random.weights(count, 0.1);
+
+    /// Expects what `rank` writes, over tie sizes that are all `tieSize`, to be the ranks and ties by the records.
+    template <class Rank, class Tied, class Settle>
+    void expectRanks(Rank rank, double tieSize, Tied tied, Settle settle)
+    {
+        for (Keys keys : kinds) {
+            SCOPED_TRACE(testing::Message() << keys);
+            const Ranked expected = rankedByRecords(keys.cells, tied, settle);
+            Ranked actual{std::vector<double>(count, 0.5), std::vector<double>(count, tieSize), -7};
+            rank(keys.cells.data(), n, weights.data(), actual.ranks.data(), &actual.nTies, actual.tieSizes.data());
+            EXPECT_THAT(actual.ranks, SameBits(expected.ranks));
+            EXPECT_THAT(actual.tieSizes, SameBits(expected.tieSizes));
+            EXPECT_EQ(actual.nTies, expected.nTies);
+        }
+    }
 };
 
 TEST_P(RanksOfManyValues, weightedMeansOfPlaces)
 {
-    for (Keys keys : kinds) {
-        SCOPED_TRACE(testing::Message() << keys);
-        const Ranked expected = rankedByRecords(
-            keys.cells, [](double value, double other) { return std::fabs(value - other) < 1e-15; },
-            [&](std::size_t first, std::size_t behind, std::vector<double>& ranks, const auto& records) {
-                const auto weight = [&](std::size_t k) {
-                    return weights[static_cast<std::size_t>(records[k].position) - 1];
-                };
-                double weightSum = weight(0);
-                double rankSum = ranks[first] * weight(0);
-                for (std::size_t k = first + 1; k < behind; ++k) {
-                    weightSum += weight(k);
-                    rankSum += ranks[k] * weight(k);
-                }
-                std::fill(ranks.begin() + static_cast<std::ptrdiff_t>(first),
-                          ranks.begin() + static_cast<std::ptrdiff_t>(behind), rankSum / weightSum);
-            });
-        Ranked actual{std::vector<double>(count, 0.5), std::vector<double>(count, 0.5), -7};
-        VB_V_GetRanksTiesDbl(keys.cells.data(), n, weights.data(), actual.ranks.data(), &actual.nTies,
-                             actual.tieSizes.data());
-        EXPECT_THAT(actual.ranks, SameBits(expected.ranks));
-        EXPECT_THAT(actual.tieSizes, SameBits(expected.tieSizes));
-        EXPECT_EQ(actual.nTies, expected.nTies);
-    }
+    expectRanks(
+        VB_V_GetRanksTiesDbl, 0.5, [](double value, double other) { return std::fabs(value - other) < 1e-15; },
+        [&](std::size_t first, std::size_t end, std::vector<double>& ranks, const auto& records) {
+            const auto weight = [&](std::size_t k) {
+                return weights[static_cast<std::size_t>(records[k].position) - 1];
+            };
+            double weightSum = weight(0);
+            double rankSum = ranks[first] * weight(0);
+            for (std::size_t k = first + 1; k < end; ++k) {
+                weightSum += weight(k);
+                rankSum += ranks[k] * weight(k);
+            }
+            std::fill(ranks.begin() + static_cast<std::ptrdiff_t>(first),
+                      ranks.begin() + static_cast<std::ptrdiff_t>(end), rankSum / weightSum);
+        });
 }
 
 TEST_P(RanksOfManyValues, lowestPlaces)
 {
-    for (Keys keys : kinds) {
-        SCOPED_TRACE(testing::Message() << keys);
-        const Ranked expected = rankedByRecords(
-            keys.cells, [](double value, double other) { return value == other; },
-            [](std::size_t first, std::size_t behind, std::vector<double>& ranks, const auto&) {
-                for (std::size_t k = first; k < behind; ++k)
-                    ranks[k] = ranks[first];
-            });
-        Ranked actual{std::vector<double>(count, 0.5), std::vector<double>(count, 0.0), -7};
-        VB_V_GetRanksTiesIntDbl(keys.cells.data(), n, weights.data(), actual.ranks.data(), &actual.nTies,
-                                actual.tieSizes.data());
-        EXPECT_THAT(actual.ranks, SameBits(expected.ranks));
-        EXPECT_THAT(actual.tieSizes, SameBits(expected.tieSizes));
-        EXPECT_EQ(actual.nTies, expected.nTies);
-    }
+    expectRanks(
+        VB_V_GetRanksTiesIntDbl, 0.0, [](double value, double other) { return value == other; },
+        [](std::size_t first, std::size_t end, std::vector<double>& ranks, const auto&) {
+            for (std::size_t k = first; k < end; ++k)
+                ranks[k] = ranks[first];
+        });
 }
 
 TEST_P(RanksOfManyValues, sharedRanks)
