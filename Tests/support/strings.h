@@ -1,4 +1,4 @@
-// Strings as a macro caller has them: BSTRs, 16-bit characters behind their length.
+// Strings as a macro caller has them: BSTRs, 16-bit characters after their length.
 #pragma once
 
 #include <cstddef>

@@ -85,8 +85,8 @@ void writeAt(std::ptrdiff_t distance)
 
 TEST(Guarded, ReportsAWriteOutside)
 {
-    EXPECT_NONFATAL_FAILURE(writeAt(16), "behind the end");
-    EXPECT_NONFATAL_FAILURE(writeAt(271), "behind the end");
+    EXPECT_NONFATAL_FAILURE(writeAt(16), "past the end");
+    EXPECT_NONFATAL_FAILURE(writeAt(271), "past the end");
     EXPECT_NONFATAL_FAILURE(writeAt(-1), "before the start");
     EXPECT_NONFATAL_FAILURE(writeAt(-256), "before the start");
     writeAt(15);
@@ -235,6 +235,40 @@ TEST(FailingAllocation, ReportsAnExceptionThatIsSwallowedOrExchanged)
                                 },
                                 Failure::mayBeCaught),
                             "another exception");
+}
+
+TEST(FallbackAtEachFailure, ChecksTheRunWithEveryRefusal)
+{
+    int sum = 0;
+    int checks = 0;
+    const auto withBuffers = [&] {
+        sum = 0;
+        for (int k = 0; k < 2; ++k) {
+            void* const buffer = ::operator new(8, std::nothrow);
+            sum += buffer != nullptr ? 1 : 10;
+            ::operator delete(buffer);
+        }
+    };
+    const int failures = expectFallbackAtEachFailure(withBuffers, [&] {
+        ++checks;
+        EXPECT_EQ(sum, allocationState().returnedNull ? 11 : 2);
+    });
+    EXPECT_EQ(failures, 2);
+    EXPECT_EQ(checks, 4) << "the first run, two refusals and the run that meets none";
+}
+
+TEST(FallbackAtEachFailure, ReportsACallWithoutAFallback)
+{
+    static const auto ignore = [] {};
+    EXPECT_NONFATAL_FAILURE(expectFallbackAtEachFailure([] { delete new double(1.0); }, ignore),
+                            "no request was answered with a null");
+    static const auto throwing = [] {
+        void* const buffer = ::operator new(8, std::nothrow);
+        if (buffer == nullptr)
+            throw std::bad_alloc();
+        ::operator delete(buffer);
+    };
+    EXPECT_NONFATAL_FAILURE(expectFallbackAtEachFailure(throwing, ignore), "an exception came of a null");
 }
 
 TEST(FailingAllocation, LetsABufferBeRefused)

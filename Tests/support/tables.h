@@ -20,7 +20,7 @@ namespace vecmat::test {
 template <class Table>
 using Cell = std::remove_pointer_t<decltype(Table::X)>;
 
-/// Owns a table, also one that a function puts in its place, and goes wherever a table is expected:
+/// Owns a table, also one that a function puts in its place, and converts to whatever kind of table is expected:
 ///
 ///     Owned<matrix> out;               // null, for a function that makes its result
 ///     M_ProductAB(byRows({{1, 2}, {3, 4}}), 2, 2, column({1, 2}), 1, out);
