@@ -69,7 +69,7 @@ TEST(IsLong, IsZeroForFractions)
         EXPECT_EQ(IsLong(fraction), 0) << shown(fraction);
 }
 
-TEST(IsLong, IsZeroForWhatIsNoNumber)
+TEST(IsLong, IsZeroForNaNAndInfinity)
 {
     EXPECT_EQ(IsLong(infinity), 0);
     EXPECT_EQ(IsLong(-infinity), 0);

@@ -19,7 +19,7 @@ namespace {
 constexpr double inf = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// What a call asks for; nothing but `kept` limits `selected` in the defaults.
+/// What a call requests; nothing but `kept` limits `selected` in the defaults.
 struct Request
 {
     short drop = 1;
@@ -197,7 +197,7 @@ TEST(FilterEigen, SelectsUpToThePercentageReached)
     EXPECT_EQ(selectedFrom(eig, {.cumPercent = notANumber}).selected, 4);
 }
 
-TEST(FilterEigen, SelectsAtMostTheCountAskedFor)
+TEST(FilterEigen, SelectsAtMostTheGivenCount)
 {
     const std::vector<double> eig = {5, 3, 1, 1};
     EXPECT_EQ(selectedFrom(eig, {.maxCount = 2}).selected, 2);
@@ -212,7 +212,7 @@ TEST(FilterEigen, CountsEveryKeptEigenvalueBelowTheLeastValue)
     // A small one in front counts as much as one at the end: it is a count, not a cut.
     EXPECT_EQ(selectedFrom({0.5, 3, 2, 0.5}, {.minValue = 1}).selected, 2);
     EXPECT_EQ(selectedFrom({0.5, 0.5}, {.minValue = 1}).selected, 0);
-    // Those that were taken off are not looked at.
+    // Those that were removed are not read.
     EXPECT_EQ(selectedFrom({3, 2, 0.5}, {.floor = 1, .minValue = 1}).selected, 2);
     // The bound carries 1e-12.
     EXPECT_EQ(selectedFrom({3, 1}, {.minValue = 1}).selected, 1);

@@ -173,7 +173,7 @@ TEST(MCholDecompPrinc, TakesOnlyTheRowBeforeIntoTheEstimate)
     EXPECT_EQ(factor.perm, (std::vector<int>{1, 2, 4, 3}));
 }
 
-TEST(MCholDecompPrinc, KeepsThePermutedTableOnlyWhereAsked)
+TEST(MCholDecompPrinc, KeepsThePermutedTableOnlyOnRequest)
 {
     const std::vector<double> cells{1, 0.5, 0.5, 4};
     EXPECT_THAT(pivoted(cells, 2, 0).a, SameBits(cells));

@@ -1,4 +1,4 @@
-// Cholesky factors step by step in the order in which they are told, on checked cells.
+// Cholesky factors step by step in the prescribed order, on checked cells.
 #pragma once
 
 #include "matrix.h"

@@ -78,7 +78,7 @@ void expectOrder(const std::vector<double>& R, int mode, const Order& order)
     EXPECT_EQ(flat3.values(), cellsOf(table3));
 }
 
-/// Descending, ties in the order they had.
+/// Descending, ties in their original order.
 Order orderBy(const std::vector<double>& score)
 {
     Order order(score.size());

@@ -1,4 +1,4 @@
-// Crout's method and the inverse built on it, step by step in the order in which they are told, on checked cells.
+// Crout's method and the inverse built on it, step by step in the published order, on checked cells.
 #pragma once
 
 #include "matrix.h"

@@ -140,7 +140,7 @@ TEST(MDeterminant, ComputesUpToALogarithmOf709)
     expectResult(determinant(column({-above}), 1), positiveTwin, -1);
 }
 
-TEST(MDeterminant, GivesTheSignedLogarithmBeyondTheLimitWhereAsked)
+TEST(MDeterminant, GivesTheSignedLogarithmBeyondTheLimitOnRequest)
 {
     const double above = exponential(709.0) * 1.5;
     expectResult(determinant(column({above}), 1, -1), logarithm(above), 0);

@@ -1,4 +1,4 @@
-// Householder reduction and QL iteration step by step in the order in which they are told, with numbers from 1, on
+// Householder reduction and QL iteration step by step in the published order, with indices from 1, on
 // plain vectors; and the variations of the published method from which it departs.
 #pragma once
 

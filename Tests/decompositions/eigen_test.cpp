@@ -41,7 +41,7 @@ TEST(Eigen, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(Eigen, HasThoseBitsForCellsOfAnySizeAndForCellsThatAreNoNumbers)
+TEST(Eigen, HasThoseBitsForCellsOfAnySizeAndForNaNAndInfinity)
 {
     RandomData data(8102);
     SCOPED_TRACE(data);
@@ -70,7 +70,7 @@ TEST(Eigen, HasThoseBitsForCellsOfAnySizeAndForCellsThatAreNoNumbers)
 
 TEST(Eigen, PassesARowOverOnlyWhereItIsExactlyZero)
 {
-    // A row of denormal numbers is reflected, though what stands beside the diagonal is negligible: the vectors
+    // A row of denormal numbers is reflected, although the element beside the diagonal is negligible: the vectors
     // show it.
     const std::vector<double> tiny = symmetricOf(3, {1, 0, 2, 0, 1e-310, 3});
     const Decomposition reflected = decomposed(3, tiny);
@@ -181,11 +181,11 @@ TEST(Eigen, RefusesAMissingCellAnywhereWithNothingTouched)
 
 TEST(Eigen, TakesOnlyTheMissingValueItselfForMissing)
 {
-    // Neighbours of the missing value and values that are no numbers enter the computation.
+    // Neighbours of the missing value, NaN and infinities enter the computation.
     for (const double x : {std::nextafter(M, 0.0), std::nextafter(M, -inf), positiveTwin, -inf, notANumber})
         EXPECT_EQ(decomposed(1, {x}).status, 0) << x;
     EXPECT_EQ(decomposed(1, {M}).status, -1);
-    // Outside the corner in use nothing is looked at.
+    // Nothing is read outside the corner in use.
     Owned<matrix> values;
     Owned<matrix> vectors;
     EXPECT_EQ(M_Eigen(byRows({{1, 0, M}, {0, 2, M}, {M, M, M}}), values, vectors, 2, 0), 0);
@@ -257,7 +257,7 @@ TEST(Eigen, GivesUpAtTheTwentyNinthPass)
     }
 }
 
-TEST(Eigen, GivesUpOnCellsThatAreNoNumbers)
+TEST(Eigen, GivesUpOnNaNAndInfinity)
 {
     const std::vector<double> cells = symmetricOf(3, {1, notANumber, 2, 0, 1, 3});
     EXPECT_EQ(decomposed(3, cells, -1).status, -1);
@@ -268,7 +268,7 @@ TEST(Eigen, GivesUpOnCellsThatAreNoNumbers)
     EXPECT_THAT(diagonal.values, SameBits({notANumber, 1}));
 }
 
-TEST(Eigen, SortsVectorsWithTheirValuesWhereSomeAreNoNumbers)
+TEST(Eigen, SortsVectorsWithTheirValuesWhereSomeAreNaN)
 {
     const std::vector<double> diagonal = {notANumber, 1, notANumber, 3, -inf, 2, inf};
     const auto n = diagonal.size();

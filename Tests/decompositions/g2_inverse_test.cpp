@@ -159,7 +159,7 @@ TEST(MInverseG2Selective, SweepsWhereTheEntryIsExactlyOne)
     EXPECT_THAT(cellsOf(a), SameBits({4, 6, 2, 8}));
 }
 
-TEST(MInverseG2Selective, ZeroesTheOthersWhereAskedByExactlyMinusOne)
+TEST(MInverseG2Selective, ZeroesTheOthersForExactlyMinusOne)
 {
     const Owned<matrix> a = byRows({{4, 2}, {6, 8}});
     const Owned<matrix> out = filled(2, 2, 77.0);

@@ -68,7 +68,7 @@ TEST(Inverse1, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
-TEST(Inverse1, HasThoseBitsForCellsThatAreNoNumbersToo)
+TEST(Inverse1, HasThoseBitsForNaNAndInfinityToo)
 {
     RandomData data(702);
     SCOPED_TRACE(data);
@@ -165,7 +165,7 @@ TEST(Inverse1, OfNothingSucceeds)
     EXPECT_EQ(inverse.status, 5);
 }
 
-TEST(Inverse1, DropsWhatTheResultHasNoRoomFor)
+TEST(Inverse1, DropsCellsThatDoNotFitTheResult)
 {
     const Owned<matrix> a = byRows({{2, 0, 0}, {0, 4, 0}, {0, 0, 8}});
     const Owned<matrix> out = filled(3, 2, 0.0);

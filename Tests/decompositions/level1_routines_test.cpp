@@ -313,7 +313,7 @@ TEST(Kernels, ReadMinusOneAndWriteNothingOutside)
     EXPECT_THAT(cellsOf(x), SameBits({5, 12}));
     M_SwapVectors(3, x, 1, y, 1, 1, 1);
     EXPECT_THAT(cellsOf(x), SameBits({6, 8}));
-    EXPECT_THAT(cellsOf(y), SameBits({5, 12, -1, 3})) << "the third cell takes the -1.0 that stands for nothing";
+    EXPECT_THAT(cellsOf(y), SameBits({5, 12, -1, 3})) << "the third cell takes the -1.0 of a read outside";
 }
 
 TEST(Kernels, SurviveExtremePlaces)

@@ -97,7 +97,7 @@ TEST(MLUDecomp, LeavesTheTableWhereARowIsAllZeros)
     EXPECT_THAT(lu.cells, SameBits({1, 0, 2, -0.0}));
     EXPECT_EQ(lu.index, (std::vector<int>{0, 0}));
     EXPECT_THAT(lu.d, SameBits(1.0));
-    // A NaN is passed over in the search for the largest cell.
+    // A NaN is skipped in the search for the largest cell.
     EXPECT_EQ(factored(byRows({{1, 2}, {notANumber, 0}})).status, -1);
     EXPECT_EQ(factored(byRows({{notANumber, notANumber}, {1, 2}})).status, -1);
 }

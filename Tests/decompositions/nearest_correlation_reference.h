@@ -1,4 +1,4 @@
-// The nearest correlation matrix step by step in the order in which it is told, on plain vectors: nothing of the
+// The nearest correlation matrix step by step in the prescribed order, on plain vectors: nothing of the
 // library enters. The weights are the identity, whose root and whose inverse are the identity too.
 #pragma once
 

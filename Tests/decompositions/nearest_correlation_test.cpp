@@ -52,7 +52,7 @@ Owned<matrix> identityTable(int n)
     return w;
 }
 
-/// The projection on the cone from the functions it is told by.
+/// The projection on the cone by the functions that define it.
 std::vector<double> projectedBySteps(matrix* a, int n, matrix* w)
 {
     Owned<matrix> root;
@@ -229,7 +229,7 @@ TEST(CorrMatFromSymMat, RefusesAMissingCellAndLeavesTheTable)
         }
 }
 
-TEST(CorrMatFromSymMat, EndsForCellsThatAreNoNumbersAndForNoCells)
+TEST(CorrMatFromSymMat, EndsForNaNAndInfinityAndForNoCells)
 {
     for (const double x : {notANumber, inf}) {
         const Owned<matrix> a = byRows({{1, x}, {x, 1}});
@@ -288,7 +288,7 @@ TEST(CorrMatFromSymMat, HasTheSameBitsInEveryStorage)
 
 // ---- the projections ----
 
-TEST(SProject, HasTheBitsOfTheFunctionsItIsToldBy)
+TEST(SProject, HasTheBitsOfTheFunctionsThatDefineIt)
 {
     RandomData data(8605);
     SCOPED_TRACE(data);

@@ -77,7 +77,7 @@ TEST(Rank, CountsValuesAboveAnAbsoluteBound)
     EXPECT_EQ(M_Rank(byRows({{std::nextafter(1e-12, 1.0)}}), 1, 1), 1);
 }
 
-TEST(Rank, IsMinusOneWhereTheValuesCannotBeHad)
+TEST(Rank, IsMinusOneWhereTheSingularValuesAreNotFound)
 {
     EXPECT_EQ(M_Rank(byRows({{1, notANumber}, {2, 3}}), 2, 2), -1);
     EXPECT_EQ(M_Rank(byRows({{1, std::numeric_limits<double>::infinity()}, {2, 3}}), 2, 2), -1);

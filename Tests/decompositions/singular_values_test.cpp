@@ -60,7 +60,7 @@ TEST(SVDecomp, HasThoseBitsWhereValuesVanishOnTheWay)
     EXPECT_GT(turnsWithoutPass, 50) << "deflations and splits were among them";
 }
 
-TEST(SVDecomp, HasThoseBitsForCellsOfAnySizeAndForCellsThatAreNoNumbers)
+TEST(SVDecomp, HasThoseBitsForCellsOfAnySizeAndForNaNAndInfinity)
 {
     RandomData data(8203);
     SCOPED_TRACE(data);

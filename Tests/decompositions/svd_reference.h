@@ -1,4 +1,4 @@
-// The singular value decomposition step by step in the order in which it is told, with numbers from 1, on checked
+// The singular value decomposition step by step in the published order, with indices from 1, on checked
 // cells; and the variations of the published method from which it departs.
 #pragma once
 

@@ -106,7 +106,7 @@ TEST(MSweep, HasThoseBitsInLongRowsToo)
 
 TEST(MSweep, TurnsAPositivePivotNegativeAndScalesItsRow)
 {
-    // (4, 2; 2, 6): the Schur complement 6 - 2*2/4 stands at (2, 2).
+    // (4, 2; 2, 6): the Schur complement 6 - 2*2/4 is at (2, 2).
     EXPECT_THAT(swept({4, 2, 6}, 2, 1), SameBits({-0.25, 0.5, 5}));
     EXPECT_THAT(swept({4, 2, 6}, 2, 2), SameBits({4 + (2 * (1.0 / 6)) * -2, 2 * (1.0 / 6), -1.0 / 6}));
 }

@@ -1,4 +1,4 @@
-// The inverse of a triangular table, step by step in the order in which the steps are told.
+// The inverse of a triangular table, step by step in the prescribed order.
 #pragma once
 
 #include "matrix.h"

@@ -124,14 +124,14 @@ TEST(VVarIfW, LetsAZeroWeightInUnlikeTheMean)
     // Ahead of all others it divides 0 by 0; the mean passes it over.
     EXPECT_TRUE(std::isnan(varIfW({5, 1, 3}, {1, 1, 1}, {0, 1, 1}, 1, 0)));
     EXPECT_THAT(meanIfW({5, 1, 3}, {1, 1, 1}, {0, 1, 1}, 1), SameBits(2.0));
-    // Behind another weight it adds nothing; a weight below 0, or none, does not enter.
+    // After another weight it adds nothing; a weight below 0, or none, does not enter.
     EXPECT_THAT(varIfW({1, 5, 3, 9, 9}, {1, 1, 1, 1, 1}, {1, 0, 1, -1, notANumber}, 1, 0), SameBits(1.0));
     EXPECT_THAT(varIfW({5}, {1}, {0}, 1, 0), SameBits(M));
     EXPECT_THAT(varIfW({5}, {1}, {1}, 1, -1), SameBits(M));
     EXPECT_THAT(varIfW({5, 6}, {1, 1}, {0.25, 0.25}, 1, -1), SameBits(M));
 }
 
-TEST(ConditionalMoments, ReadMinusOneBehindTheEndOfTheTables)
+TEST(ConditionalMoments, ReadMinusOnePastTheEndOfTheTables)
 {
     EXPECT_THAT(V_MeanIf(column({5}), 2, column({1, 1}), 1), SameBits(2.0));
     EXPECT_THAT(V_MeanIf(column({5, 6}), 2, column({2}), -1.0), SameBits(6.0));

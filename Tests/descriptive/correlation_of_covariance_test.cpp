@@ -121,7 +121,7 @@ TEST(MCorrMatFromCovMat, DoesNotPrepareItsResult)
     // (2, 1) and (1, 2) are both the second cell; (2, 2) lies outside and is dropped.
     M_CorrMatFromCovMat(byRows({{4, 2}, {2, 4}}), 2, small, 0);
     EXPECT_THAT(cellsOf(small), SameBits({1, 0.5}));
-    // Behind S it reads -1.0: here both variances but the first.
+    // Past the end of S it reads -1.0: here both variances but the first.
     Owned<matrix> T = filled(2, 2, 7.0);
     M_CorrMatFromCovMat(column({4}), 2, T, 0);
     EXPECT_THAT(cellsOf(T), SameBits({1, M, M, M}));

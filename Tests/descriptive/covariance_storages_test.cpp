@@ -133,7 +133,7 @@ TEST(MCovCorr3, GivesTheBitsOfThePlainFormFromRowsAndFromColumns)
         }
 }
 
-TEST(MCovCorr3, ReadsMinusOneBehindARowOrColumn)
+TEST(MCovCorr3, ReadsMinusOnePastARowOrColumn)
 {
     const Observations data = observations({{1, 3, -1}, {2, 6, -1}});
     const std::vector<double> expected = plain(data, {});

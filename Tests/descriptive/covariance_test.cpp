@@ -188,7 +188,7 @@ TEST(MCovCorr, ReadsTheCornerOfALargerTable)
     EXPECT_THAT(cellsOf(C), SameBits({1, 2, 2, 4}));
 }
 
-TEST(MCovCorr, BehindTheTableItReadsMinusOne)
+TEST(MCovCorr, PastTheTableItReadsMinusOne)
 {
     // Row 2 of column 1 is cell (1, 2); row 2 of column 2 lies outside, as do the rows from 3 on.
     Owned<matrix> X = byColumns({{1}, {3}}), C;
@@ -224,7 +224,7 @@ TEST(VBMCovCorr, LeavesTheTableAsItWasAndFallsBackToTheMissingValue)
     EXPECT_EQ(VB_M_CovCorr(nullptr, 0, 0, nullptr, 1, nullptr, nullptr, 0, -1), 0);
 }
 
-// The table goes back last: of a result that reaches into it only what lies behind it stays.
+// The table is copied back last: of a result that reaches into it only the part after it remains.
 TEST(VBMCovCorr, LeavesTheTableAsItWasBelowAResult)
 {
     RandomData random(634);

@@ -246,7 +246,7 @@ TEST(MCovCorrAndMeanStDevVar, PreparesItsResults)
     EXPECT_THAT(cellsOf(S), SameBits({1, 2, 0, 2, 4, 9, 9, 9, 9}));
 }
 
-TEST(MCovCorrAndMeanStDevVar, BehindTheTableItReadsMinusOneAndWritesNothing)
+TEST(MCovCorrAndMeanStDevVar, PastTheTableItReadsMinusOneAndWritesNothing)
 {
     // Row 2 of column 1 is cell (1, 2), so that standardising column 1 changes what later pairs read.
     Owned<matrix> X = byColumns({{1}, {3}}), C, mean, stdev, var;

@@ -155,7 +155,7 @@ TEST(MCorrMatMat, TheDivisorIsNotTested)
     EXPECT_THAT(corrMatMat(light, both, {1, 0, {-1, -1}, 1})[1], SameBits(notANumber));
 }
 
-TEST(MCorrMatMat, KeepsALargerResultAndReadsMinusOneBehindATable)
+TEST(MCorrMatMat, KeepsALargerResultAndReadsMinusOnePastATable)
 {
     Owned<matrix> C = filled(3, 2, 9.0);
     M_CorrMatMat(byColumns({{1, 3}, {2, 6}}), 2, 2, column({1, 5}), 1, C, nullptr, column({1, 1}), 0, 0, 0, 0, 0);
@@ -256,7 +256,7 @@ TEST(CorrelPearson, WithoutCrossProductIsZero)
     EXPECT_TRUE(std::isnan(pearson({1, inf, 2}, {2, 6, 4})));
 }
 
-TEST(CorrelPearson, BehindAVectorItReadsMinusOne)
+TEST(CorrelPearson, PastAVectorItReadsMinusOne)
 {
     EXPECT_THAT(CorrelPearson(column({1}), column({2, 8}), 2, nullptr, column({1, 1}), 0, 0, 0), SameBits(-1.0));
 }

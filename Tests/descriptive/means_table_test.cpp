@@ -97,7 +97,7 @@ TEST(MMean, PassesOverAZeroWeightWhereMean2DividesZeroByZero)
     EXPECT_THAT(meansOf(byColumns({{9, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
     EXPECT_THAT(meansOf(byColumns({{inf, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
     EXPECT_TRUE(std::isnan(means2Of(byColumns({{9, 1, 3}}), 3, 1, {0, 1, 1})[0]));
-    // Behind another weight a zero adds nothing; ahead of all others on a missing cell it is not reached.
+    // After another weight a zero adds nothing; ahead of all others, on a missing cell, it is not reached.
     EXPECT_THAT(means2Of(byColumns({{1, 9, 3}}), 3, 1, {1, 0, 1}), SameBits({2.0}));
     EXPECT_THAT(means2Of(byColumns({{M, 1, 3}}), 3, 1, {0, 1, 1}), SameBits({2.0}));
 }
@@ -160,7 +160,7 @@ TEST(MMeans, TheDimensionsPassedDriveTheLoops)
     Owned<matrix> mean;
     M_Mean(X.get(), 2, 2, mean, column({1, 1}));
     EXPECT_THAT(cellsOf(mean), SameBits({2.0, 7.0}));
-    // One row more than the table has: it slides into the next column, and reads -1.0 behind the last one. An array of
+    // One row more than the table has: it reads from the next column, and -1.0 after the last one. An array of
     // columns does not slide.
     const auto small = byColumns({{1, 3}, {5, 9}});
     Owned<matrix> slid;

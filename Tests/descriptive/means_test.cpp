@@ -75,7 +75,7 @@ TEST(VMean, IsMissingWhereTheWeightsCancelOut)
     EXPECT_THAT(mean({3, 4}, {0, 0}, {0, 0}), SameBits(M));
 }
 
-TEST(VMean, ReadsMinusOneBehindTheEndOfTheTables)
+TEST(VMean, ReadsMinusOnePastTheEndOfTheTables)
 {
     std::vector<short> mask(3, 0);
     EXPECT_THAT(V_Mean(column({5, 7}), 3, mask.data(), column({1, 1, 2})), SameBits(10.0 / 4.0));

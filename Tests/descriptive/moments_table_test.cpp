@@ -141,7 +141,7 @@ TEST(ColumnMoments, ARowOfNoWeightIsLeftOutByOneFamilyAndCountedByTheOther)
     const Data d = columnData({1, 7, 3}, {2, 0, 2});
     EXPECT_THAT(meanStDev(d, {-1, 0, 0}), SameBits({2.0, std::sqrt(4.0 / 2.0)}));
     EXPECT_THAT(meanStDevVar(d, {-1, 0, 0}), SameBits({2.0, std::sqrt(4.0 / (4.0 - 4.0 / 3)), 4.0 / (4.0 - 4.0 / 3)}));
-    // The weight is looked at before the cell is used.
+    // The weight is read before the cell is used.
     EXPECT_THAT(meanStDev(columnData({1, inf, 3}, {2, 0, 2}), {0, 0, 0}), SameBits({2.0, 1.0}));
     EXPECT_THAT(meanStDevVar(columnData({1, inf, 3}, {2, 0, 2}), {0, 0, 0}), SameBits({2.0, 1.0, 1.0}));
 }
@@ -259,7 +259,7 @@ TEST(ColumnMoments, TheDimensionsPassedDriveTheLoops)
     M_MeanStDev(byColumns({{1, 3, 90}, {5, 9, 90}, {90, 90, 90}}), 2, 2, mean, stdev, mask.data(), column({1, 1}), 0, 0,
                 0);
     EXPECT_THAT(joined(cellsOf(mean), cellsOf(stdev)), SameBits({2.0, 7.0, 1.0, 2.0}));
-    // A row too many slides into the next column of a table, and reads -1.0 behind an end.
+    // A row too many is read from the next column of a table, and as -1.0 past the end.
     M_MeanStDev(byColumns({{1, 3}, {5, 9}}), 3, 2, mean, stdev, mask.data(), column({1, 1, 1}), 0, 0, 0);
     EXPECT_THAT(cellsOf(mean), SameBits({3.0, 7.0 + (-8.0 * 1.0) / 3.0}));
     Columns<matrix> X(2, 2, {1, 3, 5, 9});
@@ -268,7 +268,7 @@ TEST(ColumnMoments, TheDimensionsPassedDriveTheLoops)
     // A short table of weights reads -1.0 as well.
     M_MeanStDev(column({1, 3, 5}), 3, 1, mean, stdev, mask.data(), column({1, 2}), 0, 0, 0);
     EXPECT_THAT(cornerOf(mean, 1, 1), SameBits({(1.0 + (2.0 * 2.0) / 3.0) + (5.0 - (1.0 + 4.0 / 3.0)) * -1.0 / 2.0}));
-    // Nothing asked for.
+    // Nothing requested.
     EXPECT_EQ(M_MeanStDev(column({1}), 1, 0, mean, stdev, mask.data(), column({1}), 0, 0, 0), 0);
     EXPECT_EQ(M_MeanStDev(column({1}), -1, -1, mean, stdev, mask.data(), nullptr, 0, 0, 0), 0);
 }

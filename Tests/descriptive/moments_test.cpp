@@ -174,7 +174,7 @@ TEST(VMeanVar, GuardsWhatTheVarianceAloneDoesNot)
     EXPECT_THAT(meanVar(unweighted({}), 0, 0), SameBits({0.0, 0.0}));
     EXPECT_THAT(meanVar(unweighted({}), -1, -1), SameBits({0.0, 0.0}));
     EXPECT_THAT(meanVar({{M, 4}, {0, 3}, {1, 1}}, -1, 0), SameBits({0.0, 0.0}));
-    // A single row, or equal ones, before the divisor is looked at.
+    // A single row, or equal ones, before the divisor is read.
     EXPECT_THAT(meanVar(unweighted({5}), -1, -1), SameBits({5.0, 0.0}));
     EXPECT_THAT(meanVar(unweighted({5}), -1, 0), SameBits({5.0, 0.0}));
     EXPECT_THAT(meanVar({{5}, {0}, {0}}, 0, 0), SameBits({0.0, 0.0}));
@@ -189,7 +189,7 @@ TEST(VVar, ANullMaskKeepsEveryRow)
     EXPECT_THAT(V_Var(column({1, 3}), 2, nullptr, column({1, 1}), 0, 0), SameBits(1.0));
 }
 
-TEST(VVar, ReadsMinusOneBehindTheEndOfTheTables)
+TEST(VVar, ReadsMinusOnePastTheEndOfTheTables)
 {
     std::vector<short> mask(2, 0);
     EXPECT_THAT(V_Var(column({1}), 2, mask.data(), column({1, 1}), 0, 0), SameBits(1.0));

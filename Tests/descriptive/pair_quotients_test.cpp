@@ -143,7 +143,7 @@ TEST(PairQuotients, ACellThatOverflowsTheMean)
         Observations data = withMissing(random, 120, 9);
         data.cells[2 * 120 + 110] = large;
         data.cells[5 * 120 + 3] = -large;
-        // An infinite mean is no number any more one row later.
+        // An infinite mean becomes NaN one row later.
         data.cells[7 * 120 + 119] = large;
         data.w.back() = 3.0;
         expectPlainResults(data);

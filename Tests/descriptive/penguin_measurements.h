@@ -10,7 +10,7 @@
 
 namespace vecmat::test {
 
-/// Column after column, as they stand in the published table; two birds were not measured.
+/// Column after column, as in the published table; two birds were not measured.
 inline const std::vector<std::vector<double>> penguins{
     {39.1, 39.5, 40.3, M,    36.7, 39.3, 38.9, 39.2, 34.1, 42,   37.8, 37.8, 41.1, 38.6, 34.6, 36.6, 38.7, 42.5, 34.4,
      46,   37.8, 37.7, 35.9, 38.2, 38.8, 35.3, 40.6, 40.5, 37.9, 40.5, 39.5, 37.2, 39.5, 40.9, 36.4, 39.2, 38.8, 42.2,

@@ -79,7 +79,7 @@ TEST(VQuantiles13, GivesTheFirstElementBeforeThePositionOne)
 TEST(VQuantiles13, OfNothingReadsTheTable)
 {
     EXPECT_THAT(thirteen({}), SameBits(std::vector<double>(13, -1.0)));
-    // The first cell stands for every position before 1; the whole position 0 of p = 0.5 lies outside.
+    // The first cell serves for every position before 1; the whole position 0 of p = 0.5 lies outside.
     Owned<matrix> out = filled(13, 1, 77.0);
     V_Quantiles13(column({8, 3}), 0, out);
     std::vector<double> expected(13, 8.0);

@@ -73,7 +73,7 @@ TEST(VQuantileW, FollowsTheWalkToTheLastBit)
 
 TEST(VQuantileW, TiesKeepTheOrderOfTheInput)
 {
-    // Equal keys of either sign: the weights stand as they came, 1, 2, 1, and the hit at C = 1 lies between them.
+    // Equal keys of either sign: the weights keep their order, 1, 2, 1, and the hit at C = 1 lies between them.
     EXPECT_THAT(weighted({0.0, -0.0, 5}, {1, 2, 1}, 0.25), SameBits(0.0));
     EXPECT_THAT(weighted({0.0, -0.0, 5}, {1, 2, 1}, 0.2), SameBits(0.0));
     EXPECT_THAT(weighted({-0.0, 0.0, 5}, {1, 2, 1}, 0.2), SameBits(-0.0));
@@ -112,7 +112,7 @@ TEST(VQuantileW, IsMissingWhereNothingCounts)
 
 TEST(VQuantileW, DoesNotRemoveMissingValues)
 {
-    // Sorted M, 1, 2 with 5, 1, 2: the target 2.4 of 8 is passed behind the first.
+    // Sorted M, 1, 2 with 5, 1, 2: the target 2.4 of 8 is passed after the first.
     EXPECT_THAT(weighted({1, M, 2}, {1, 5, 2}, 0.3), SameBits(M));
     EXPECT_THAT(masked({1, M, 2}, {0, 0, 0}, {1, 5, 2}, 0.3), SameBits(1.0));
 }

@@ -82,7 +82,7 @@ TEST(VMedianAbsDev, StepsWhereTheWeightsDiffer)
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9}, 2, {0, 0, 0, 0}, {1, 1, 1, 3}), SameBits(5.5));
     // The weights are equal only without the masked row: asked of all of them first, of those left by the quantile.
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9}, 2, {0, 0, 0, 1}, {1, 1, 1, 3}), SameBits(1.0));
-    // Equal weights go to the unweighted median, also where they are all 0.
+    // Equal weights lead to the unweighted median, even if all are 0.
     EXPECT_THAT(medianAbsDev({1, 2, 6, 9}, 2, {0, 0, 0, 0}, {0, 0, 0, 0}), SameBits(2.5));
 }
 

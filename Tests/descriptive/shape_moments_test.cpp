@@ -77,7 +77,7 @@ TEST(ShapeMoments, FrequencyWeightsStandForRepeatedRows)
     EXPECT_NEAR(s.seKurt, 1.1908743922772955, tolerance);
 }
 
-TEST(ShapeMoments, PopulationFormsAreDividedByThePowerOfTheVarianceAskedFor)
+TEST(ShapeMoments, PopulationFormsAreDividedByThePowerOfTheGivenVariance)
 {
     const double tolerance = 1e-13;
     const Shape s = shape(sampleData, -1, -1);

@@ -189,7 +189,7 @@ TEST(MMinMaxSPVT, ColumnJHasJCellsLess)
 
 TEST(MMinMaxSPVT, LooksAtNoCellBeyondItsLength)
 {
-    // Longer columns than a triangle has: what lies behind rows - j cells is not read.
+    // Longer columns than a triangle has: cells after the first rows - j are not read.
     Columns<matrix> columns({{5, 4, 3, -50}, {9, 8, -50, 50}, {7, 50}});
     auto min = filled(3, 1, 55.0);
     auto max = filled(3, 1, 66.0);

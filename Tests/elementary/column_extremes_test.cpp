@@ -26,7 +26,7 @@ std::vector<double> maxByColumn(const Owned<matrix>& a, int rows, int cols)
 
 // ---- M_Min, M_Max ---------------------------------------------------------------------------------------------------
 
-TEST(MMinMMax, MissingCellBehindTheFirstValueWinsTheMinimumOnly)
+TEST(MMinMMax, MissingCellAfterTheFirstValueWinsTheMinimumOnly)
 {
     EXPECT_THAT(minByColumn(column({2, M, 1}), 3, 1), SameBits({M}));
     EXPECT_THAT(maxByColumn(column({2, M, 1}), 3, 1), SameBits({2.0}));

@@ -82,7 +82,7 @@ TEST(ProductHorizAB2, AloneOfThePairKeepsMissingCells)
 
 // ---- the design of an interaction -----------------------------------------------------------------------------------
 
-/// The told steps on checked access.
+/// The plain steps on checked access.
 void referenceDesign(matrix* a, int rows, int* cols, matrix* b, int colsB, int mode, matrix* w, matrix* out)
 {
     const auto before = filled(rows, *cols, 0.0);

@@ -87,7 +87,7 @@ TEST(CopyMatrixRowToMatrixRow, CountsFromZeroAndKeepsTheStrides)
     EXPECT_THAT(cellsOf(dst), SameBits(cellsOf(byRows({{4, 5, M}, {2, 3, -1}, {1, 2, 3}}))));
 }
 
-TEST(CopyMatrixRowToMatrixRow, PreparesWhereAsked)
+TEST(CopyMatrixRowToMatrixRow, PreparesOnRequest)
 {
     Owned<matrix> made;
     CopyMatrixRowToMatrixRow(byRows({{1, 2}, {3, 4}}), 2, 0, made, 3, 2, 1);
@@ -112,7 +112,7 @@ TEST(CopyCol, CopiesAllCellsOfTheTable)
     EXPECT_THAT(cellsOf(dst), SameBits({7, 7, 1, 2}));
     CopyCol(src, 2, 1, 0, dst); // the third cell runs into column 1
     EXPECT_THAT(cellsOf(dst), SameBits({3, M, 5, 2}));
-    CopyCol(src, 2, 1, 1, dst); // and is dropped behind the last
+    CopyCol(src, 2, 1, 1, dst); // and is dropped past the last
     EXPECT_THAT(cellsOf(dst), SameBits({3, M, 3, M}));
 }
 

@@ -41,7 +41,7 @@ TEST(EuclidDist2, FollowsThePlainLoopBetweenColumns)
     });
 }
 
-TEST(EuclidDist2, FollowsThePlainLoopBetweenAsManyRowsAsToldLast)
+TEST(EuclidDist2, FollowsThePlainLoopBetweenAsManyRowsAsTheLastArgument)
 {
     forCases(caseCount, [](Cases& c) {
         const int rows = c.count(), cols = c.count();

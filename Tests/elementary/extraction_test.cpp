@@ -170,7 +170,7 @@ TEST(MExtractMatNeverySKSPV, WithoutASkipOneMoreRunOfEmptyStringsFollows)
     EXPECT_EQ(patternOf(4, 4, 2, 0, 1).texts, (Texts{L"1", L"2", L"3", L"4"}));
 }
 
-TEST(MExtractMatNeverySKSPV, AStartBehindTheColumnTakesOneEmptyRun)
+TEST(MExtractMatNeverySKSPV, AStartAfterTheColumnTakesOneEmptyRun)
 {
     const Pattern p = patternOf(3, 4, 2, 1, 5);
     EXPECT_EQ(p.texts, (Texts{L"", L"", L"-", L"-"}));

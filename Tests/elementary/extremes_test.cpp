@@ -106,7 +106,7 @@ TEST(VMinVMax, OnlyTheExactPatternIsMissing)
     EXPECT_THAT(maxOf({belowMissing, M}, {0, 0}), SameBits(belowMissing));
 }
 
-TEST(VMinVMax, NaNStaysWhereItComesFirstAndIsPassedOverLater)
+TEST(VMinVMax, NaNStaysWhereItComesFirstAndIsSkippedLater)
 {
     EXPECT_THAT(minOf({notANumber, 1}, {0, 0}), SameBits(notANumber));
     EXPECT_THAT(maxOf({notANumber, 1}, {0, 0}), SameBits(notANumber));

@@ -11,7 +11,7 @@ using namespace vecmat::test;
 
 namespace {
 
-/// The told steps on checked access, with marks and notes of the pivots.
+/// The plain steps on checked access, with marks and notes of the pivots.
 int referenceGauss(matrix* a, int n, int m, matrix* b, bool noSwap, bool noPivot)
 {
     std::vector<int> mark(n + 1, 0), rowOf(n + 1, 0), colOf(n + 1, 0);
@@ -76,7 +76,7 @@ int referenceGauss(matrix* a, int n, int m, matrix* b, bool noSwap, bool noPivot
     return 0;
 }
 
-TEST(Gauss, FollowsTheToldStepsInEveryMode)
+TEST(Gauss, FollowsThePlainStepsInEveryMode)
 {
     forCases(1500, [](Cases& c) {
         const int n = c.data.integer(0, 6), m = c.count();

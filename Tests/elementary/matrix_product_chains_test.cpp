@@ -172,7 +172,7 @@ TEST(ProductChains, OfThreeTables)
 
 // ---- a b c by structure ---------------------------------------------------------------------------------------------
 
-/// The told rule for one cell of p q, looked up cell by cell.
+/// The rule for one cell of p q, read cell by cell.
 double cellByStructure(const Read& p, int rows, int inner, const Read& q, int cols, int i, int j)
 {
     const auto everyOf = [](int n, const auto& holds) {

@@ -166,7 +166,7 @@ TEST(MIsConstant, MissingCellsAreLeftOutOrNot)
 TEST(MIsConstant, ReferenceIsAmongTheFirstCellsInLinearOrder)
 {
     auto none = byColumns({{M, M}, {1, 2}});
-    EXPECT_EQ(M_IsConstant(none, 2, -1), -1) << "nothing among the first two: the rest is not looked at";
+    EXPECT_EQ(M_IsConstant(none, 2, -1), -1) << "nothing among the first two: the rest is not read";
     auto second = byColumns({{M, 1}, {1, 2}});
     EXPECT_EQ(M_IsConstant(second, 2, -1), 0);
     // Cells beyond the rows of a flat table: the third of the first three is the top of column 2.

@@ -96,7 +96,7 @@ TEST(MRemoveCols2, MovesTheRestLeftAndKeepsTheShape)
     EXPECT_THAT(cellsOf(a), SameBits(cellsOf(byRows({{1, 4, 3, 4}, {5, M, 7, M}}))));
     M_RemoveCols2(a, 1, 4, 1, 1); // over one row only
     EXPECT_THAT(cellsOf(a), SameBits(cellsOf(byRows({{4, 3, 4, 4}, {5, M, 7, M}}))));
-    M_RemoveCols2(a, 2, 4, 3, 4); // nothing lies behind
+    M_RemoveCols2(a, 2, 4, 3, 4); // nothing follows
     M_RemoveCols2(a, 2, 4, 1, INT_MAX);
     EXPECT_THAT(cellsOf(a), SameBits(cellsOf(byRows({{4, 3, 4, 4}, {5, M, 7, M}}))));
 }
@@ -191,7 +191,7 @@ TEST(MRemoveRowsInList, AFlagOutsideItsTableIsMinusOne)
     EXPECT_THAT(cellsOf(out), SameBits({3, 2, 1, 7}));
 }
 
-TEST(MRemoveRowsInList, ATableSmallerThanAskedReadsMinusOne)
+TEST(MRemoveRowsInList, ATableSmallerThanGivenReadsMinusOne)
 {
     auto out = filled(2, 2, 7.0);
     EXPECT_EQ(M_RemoveRowsInList(column({1, 2}), 2, 2, intColumn({1, 0}), out), 1);

@@ -46,7 +46,7 @@ short isSymmetric(int n, Cells cells)
 
 Cells symmetrized(int n, Cells cells, int mode)
 {
-    // The functions return nothing: 0 stands for that.
+    // The functions return nothing, which 0 represents.
     allForms(
         cells, n, [=](matrix*& a) { return M_Symmetrize(a, n, mode), 0; },
         [=](matrix** a) { return M_SymmetrizeSPV(a, n, mode), 0; },

@@ -32,7 +32,7 @@ std::vector<double> transposedByTheCell(const Owned<matrix>& src, int rows, int 
     return result;
 }
 
-TEST(MTranspose, MakesTheTransposeOfTheAskedCorner)
+TEST(MTranspose, MakesTheTransposeOfTheGivenCorner)
 {
     Owned<matrix> out;
     transpose(byRows({{1, 2, 3}, {4, M, 6}}), 2, 3, out);

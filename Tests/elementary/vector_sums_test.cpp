@@ -97,7 +97,7 @@ TEST(VSum2, AddsIntsAsDoubles)
 
 TEST(VSum2, FlatIntFormIsOneElementLate)
 {
-    Guarded<int> x({100, 2, 3, 4}); // three elements and the one behind them
+    Guarded<int> x({100, 2, 3, 4}); // three elements and the one after them
     EXPECT_THAT(V_Sum2(x, 3), SameBits(9.0));
     EXPECT_THAT(V_Sum2(x, 0), SameBits(0.0));
     EXPECT_THAT(V_Sum2(x, -2), SameBits(0.0));

@@ -113,7 +113,7 @@ TEST(ComputeCosines, DoNotPrepareTheirResult)
     EXPECT_THAT(cellsOf(smaller), SameBits({9.0 / 25.0}));
 }
 
-TEST(ComputeCosines, InAResultWithFewerRowsTheLastPointWrittenStands)
+TEST(ComputeCosines, InAResultWithFewerRowsTheLastPointWrittenRemains)
 {
     auto out = filled(2, 2, 7.0); // cell (3, 1) is cell (1, 2), cell (3, 2) lies outside
     cComputeCosines(byRows({{3, 4}, {5, 12}, {1, 0}}), 3, 2, out);
@@ -177,7 +177,7 @@ TEST(BoldCosines, DropColumnNumbersOutOfRange)
 TEST(BoldCosines, BeyondTheListTheColumnNumberIsMinusOne)
 {
     auto flags = intTable(2, 2, {0, 0, 0, 0});
-    // Point 5 in column -1 stands two columns to the left of cell (5, 1): at the first one.
+    // Point 5 in column -1 lies two columns to the left of cell (5, 1): at the first one.
     M_BoldCosines(intColumn({9, 9, 9, 9}), 5, flags);
     EXPECT_EQ(cellsOf(flags), (std::vector<int>{-1, 0, 0, 0}));
 }

@@ -12,7 +12,7 @@ namespace {
 const std::vector<std::vector<int>> layouts = {{1, 1, 0, 0, 0}, {0, 1, 0, 1, 0}, {0, 0, 0, 0, 2},
                                                {2, 0, 0, 0, 0}, {0, 0, 2, 0, 0}, {1, 0, 0, 0, 1}};
 
-TEST(OLSBasic2Lg, IsTheFitFromOneTableWhereverTheColumnsStand)
+TEST(OLSBasic2Lg, IsTheFitFromOneTableWhereverTheColumnsAre)
 {
     for (const short noIntercept : {0, 1}) {
         Problem problem = small();
@@ -133,14 +133,14 @@ TEST(OLSBasic2Lg, HasAMissingCorrelationAcrossBlocksWithoutSpread)
         EXPECT_THAT(fit.se[1], SameBits(0.0));
         EXPECT_NEAR(fit.beta[0], within.beta[0], 1e-14);
     }
-    // With a tolerance below 0 the one is swept on 0, which leaves no number; the other is still not above it.
+    // With a tolerance below 0 the one is swept on 0, which leaves NaN; the other is still not above it.
     Problem all = problem;
     all.tol = -1.0;
     EXPECT_TRUE(std::isnan(fittedByBlocks(all, {2, 0, 0, 0, 0}).se[0]));
     EXPECT_FALSE(std::isnan(fittedByBlocks(all, {1, 1, 0, 0, 0}).se[0]));
 }
 
-TEST(OLSBasic2Lg, HasNoNumbersForAConstantResponseAcrossBlocks)
+TEST(OLSBasic2Lg, HasNaNForAConstantResponseAcrossBlocks)
 {
     // One table, or one block with the response in it, has correlations of 0.0.
     const Problem problem = Problem::of({x1, x2}, std::vector<double>(8, 5.0));

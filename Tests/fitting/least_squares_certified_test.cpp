@@ -32,7 +32,7 @@ double fewestDigits(const std::vector<double>& actual, const std::vector<double>
     return fewest;
 }
 
-// ---- Longley: six columns that nearly explain one another -----------------------------------------------------------
+// ---- Longley: six nearly collinear columns --------------------------------------------------------------------------
 
 /// Employment of the United States, 1947 to 1962: the deflator of prices, the gross national product, unemployed, armed
 /// forces, population, year; then the employed. (Longley, J. W. (1967), An appraisal of least squares programs for the
@@ -53,7 +53,7 @@ Problem longley()
          70551});
 }
 
-/// The certified values name the intercept first; it stands last here.
+/// The certified values list the intercept first; here it is last.
 const std::vector<double> longleyCoefficients = {15.0618722713733,  -0.358191792925910E-01, -2.02022980381683,
                                                  -1.03322686717359, -0.511041056535807E-01, 1829.15146461355,
                                                  -3482258.63459582};

@@ -142,7 +142,7 @@ TEST(OLSBasic3, MakesNoProductsAtDegreeOne)
     EXPECT_EQ(fit.beta.size(), 3u);
     expectSameFit(fit, plain);
 
-    // Callers reserve for one product all the same: the intercept stands at m + 1, not last.
+    // Callers reserve for one product all the same: the intercept is at m + 1, not last.
     Guarded<double> X(problem.X), y(problem.y), w(problem.w), beta(4, 77.0), values(8, 77.0);
     EXPECT_EQ(RunOLSBasic(8, 2, X, y, w, 1, -1, 0, 1e-8, beta, values), 0);
     EXPECT_THAT(beta.values(), SameBits({plain.beta[0], plain.beta[1], plain.beta[2], 0.0}));
@@ -177,7 +177,7 @@ TEST(OLSBasic3, MakesProductsOnlyForMinusOne)
         problem.interactions = interactions;
         EXPECT_EQ(modelSize(problem), 4);
         EXPECT_EQ(fitted(problem).mean.size(), 5u);
-        // Callers reserve no more: anything behind would fail the guards.
+        // Callers reserve no more: anything past that would fail the guards.
         Guarded<double> X(problem.X), y(problem.y), w(problem.w), beta(5, 77.0), values(8, 77.0);
         EXPECT_EQ(RunOLSBasic(8, 2, X, y, w, 2, interactions, 0, 1e-8, beta, values), 0);
     }

@@ -44,7 +44,7 @@ Problem drawn(RandomData& data)
     return problem;
 }
 
-TEST(OLSBasic3, FollowsTheToldStepsBitByBit)
+TEST(OLSBasic3, FollowsThePlainStepsBitByBit)
 {
     int dropped = 0, entered = 0;
     for (std::uint64_t seed = 1; seed <= 4000 && !HasFailure(); ++seed) {
@@ -140,7 +140,7 @@ std::vector<int> widthsOf(RandomData& data, int p)
     return widths;
 }
 
-TEST(OLSBasic2Lg, FollowsTheToldStepsBitByBit)
+TEST(OLSBasic2Lg, FollowsThePlainStepsBitByBit)
 {
     for (std::uint64_t seed = 1; seed <= 3000 && !HasFailure(); ++seed) {
         RandomData data(seed);

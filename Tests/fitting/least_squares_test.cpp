@@ -92,7 +92,7 @@ TEST(OLSBasic3, LetsDivisorsOfZeroThrough)
     Problem two = Problem::of({{1, 2, 4, 8, 16, 32}, {3, 1, 4, 1, 5, 9}}, {1, 3, 2, 5, 4, 4});
     two.w.assign(6, 0.5);
     EXPECT_THAT(fitted(two).se[2], SameBits(0.0));
-    // Below that s is negative, and the root of it no number.
+    // Below that s is negative, and its root NaN.
     one.w.assign(4, 0.375); // W = 1.5
     EXPECT_TRUE(std::isnan(fitted(one).se[1]));
 }

@@ -264,7 +264,7 @@ Outcome reference(const Call& call)
     return outcome;
 }
 
-TEST(NewtonRaphson, FollowsTheToldStepsBitByBit)
+TEST(NewtonRaphson, FollowsThePlainStepsBitByBit)
 {
     int converged = 0;
     for (std::uint64_t seed = 1; seed <= 2000 && !HasFailure(); ++seed) {

@@ -27,7 +27,7 @@ int impute(const Owned<matrix>& X, const Owned<matrix>& w, int components, Limit
     return NIPALS(X->nRows, X->nCols, X, w, tol, components, limits.column, limits.total);
 }
 
-/// Expects the outcome, and a table with the bits that it had.
+/// Expects the outcome, and a table whose bits are unchanged.
 void expectUnchanged(Owned<matrix> X, const Owned<matrix>& w, int components, int outcome, Limits limits = {})
 {
     const std::vector<double> before = cellsOf(X);
@@ -69,7 +69,7 @@ TEST(NIPALS, TheSpreadHasTheDivisorOfTheWeightsMinusOne)
     expectUnchanged(byRows({{0}, {1.74e-6}}), column({2, 2}), 1, 0);
 }
 
-TEST(NIPALS, ASpreadThatIsNoNumberIsNotConstant)
+TEST(NIPALS, ASpreadOfNaNIsNotConstant)
 {
     auto X = byRows({{1, M}, {2, M}, {4, M}});
     EXPECT_EQ(impute(X, column({1, 1, 1}), 0), 0);
@@ -111,7 +111,7 @@ TEST(NIPALS, TheShareOfTheTableIsMultipliedByTheRowsAndThenByTheColumns)
                     {1.0, 1.0 / 3});
 }
 
-TEST(NIPALS, AShareThatIsNoNumberIsNoLimit)
+TEST(NIPALS, AShareOfNaNIsNoLimit)
 {
     auto X = byRows({{M, 5}, {2, 4}, {4, 6}, {5, 1}});
     EXPECT_EQ(impute(X, column({1, 1, 1, 1}), 0, {notANumber, notANumber}), 0);
@@ -224,7 +224,7 @@ TEST(NIPALS, OnlyTheMissingValueItselfIsMissing)
     }
 }
 
-TEST(NIPALS, NumbersThatAreNoneEndAfterTheSecondPass)
+TEST(NIPALS, NaNAndInfinityEndAfterTheSecondPass)
 {
     auto X = byRows({{notANumber, 3}, {M, 4}, {4, 6}});
     EXPECT_EQ(impute(X, column({1, 1, 1}), 1), 0);

@@ -64,7 +64,7 @@ inline int packedPlace(int i, int j)
     return i >= j ? i * (i - 1) / 2 + j : packedPlace(j, i);
 }
 
-/// The columns of the model, in the order told.
+/// The columns of the model, in the order of the fit.
 inline std::vector<std::vector<double>> modelColumns(const Problem& problem)
 {
     const auto x = [&](int i, int j) { return problem.X.at(static_cast<std::size_t>(i - 1 + (j - 1) * problem.n)); };

@@ -35,7 +35,7 @@ int place(int i, int j)
     return i < j ? place(j, i) : i * (i - 1) / 2 + j;
 }
 
-/// The steps in the order told, all numbers from 1.
+/// The steps in their order, all indices from 1.
 Answer reference(const Question& q)
 {
     const int p = q.p;
@@ -172,7 +172,7 @@ Question drawn(RandomData& data)
     return q;
 }
 
-TEST(CheckTolerance, FollowsTheToldStepsBitByBit)
+TEST(CheckTolerance, FollowsThePlainStepsBitByBit)
 {
     int kept = 0, constant = 0, collinear = 0;
     for (std::uint64_t seed = 1; seed <= 5000 && !HasFailure(); ++seed) {

@@ -108,13 +108,13 @@ TEST(CheckTolerance, GivesTheVarianceInflationOfLongleysColumns)
 
 TEST(CheckTolerance, MarksAMemberWhoseToleranceFallsBelow)
 {
-    // 1 - 0.8^2 = 0.36: the first to be visited is the first that fails, and the other then stands alone.
+    // 1 - 0.8^2 = 0.36: the first to be visited is the first that fails, and the other is then alone.
     Question question{.p = 2, .corr = correlations(2, {0.8}), .tol = 0.5};
     const Answer first = check(question);
     EXPECT_EQ(first.status, (std::vector<int>{60000, -1}));
     EXPECT_NEAR(first.tolerance[0], 0.36, 1e-15);
     EXPECT_THAT(first.vif[0], SameBits(1.0 / first.tolerance[0]));
-    // Nothing was left to be swept for it: what came in stands.
+    // Nothing was left to be swept for it: the values passed in remain.
     EXPECT_THAT(first.tolerance[1], SameBits(77.0));
     EXPECT_THAT(first.vif[1], SameBits(77.0));
 
@@ -383,7 +383,7 @@ TEST(CheckTolerance, SweepsOtherGroupsOnlyForMinusOne)
 
 TEST(CheckTolerance, SearchesTheGroupTableWhateverTheCountOfVariables)
 {
-    // Six entries, of which only the first two are of variables: the group that is found behind them has no members.
+    // Six entries, of which only the first two are of variables: the group that is found after them has no members.
     const Owned<matrix> corr = table(2, 2, correlations(2, {0.5})), tolerance = filled(2, 1, 77.0),
                         vif = filled(2, 1, 77.0);
     const Owned<matrixInt> status = intColumn({55, 55});

@@ -119,7 +119,7 @@ TEST(StatusMemory, IsAboutWhatIsHeldNotAboutWhatIsFree)
         EXPECT_EQ(touched[bytes - 1], 1);
         EXPECT_EQ(GetStatusMemory(figure), 1) << "less is free now, and the answer has become yes";
     }
-    // About 2.4 gigabytes are asked for: far more than this program holds, whatever the machine has.
+    // About 2.4 gigabytes are requested: far more than this program holds, whatever the machine has.
     EXPECT_EQ(GetStatusMemory(2000000000), 0);
 }
 

@@ -63,7 +63,7 @@ std::size_t count(int rows, int cols = 1)
     return static_cast<std::size_t>(rows) * static_cast<std::size_t>(cols);
 }
 
-/// Sizes that leave a rest behind every block of every instruction set.
+/// Sizes that leave a remainder after the blocks of every instruction set.
 constexpr int rows = 517;
 constexpr int cols = 37;
 

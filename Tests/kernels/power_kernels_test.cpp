@@ -90,7 +90,7 @@ TEST(PowerKernels, MomentsOfDeviationsWhoseCubesLieInTheMiddle)
     expectPlainSums(x, w);
 }
 
-// Powers that overflow, vanish or are no numbers, and those whose rounding is in doubt, are expanded exactly.
+// Powers that overflow, vanish or are NaN, and those whose rounding is in doubt, are expanded exactly.
 TEST(PowerKernels, MomentsOfCellsOfAllMagnitudes)
 {
     for (const double scale :

@@ -80,7 +80,7 @@ TEST(RemoveRowsWithMissing, WorksOnTheCornerThatIsNamed)
 
 TEST(RemoveRowsWithMissing, RowsBeyondTheTable)
 {
-    // In a vector, a row behind the end reads as -1.0 and is kept, as an empty string it is dropped.
+    // In a vector, a row past the end reads as -1.0 and is kept; as an empty string it is dropped.
     auto a = column({M, 2});
     Flags mask = {0, 0, 0};
     RemoveRowsWithMissing(a, 3, 1, mask);
@@ -205,12 +205,12 @@ TEST(InsertMissing, KeepsStridesAndCellsThatAreNotNamed)
     EXPECT_THAT(cellsOf(untouched), SameBits({70.0}));
 }
 
-TEST(InsertMissing, MaskWithTooFewMarksReadsOnBehindTheData)
+TEST(InsertMissing, MaskWithTooFewMarksReadsOnPastTheData)
 {
     Flags mask = {0, 0, 0};
     auto out = table(3, 2, RandomData(458).leftovers(6));
     M_InsertMissing(byRows({{1, 10}, {2, 20}}), 2, 2, mask, 1, out);
-    // Row 3 of the data is row 1 of the next column, and behind the last -1.0.
+    // Row 3 of the data is row 1 of the next column, and after the last -1.0.
     EXPECT_THAT(cellsOf(out), SameBits({1.0, 2.0, 10.0, 10.0, 20.0, -1.0}));
     auto ints = intTable(3, 1, RandomData(459).intLeftovers(3));
     M_InsertMissingLng(intColumn({1, 2}), 2, 1, mask, 1, ints);

@@ -137,7 +137,7 @@ TEST(ProductABMissing, PreparesItsResult)
     const matrix* const kept = large.get();
     M_ProductABMissing(byRows({{1, 2}, {3, 4}}), 2, 2, byRows({{1, 0}, {0, 1}}), 2, large);
     EXPECT_EQ(large.get(), kept);
-    // The first four cells of the block are cleared; the results stand in the corner.
+    // The first four cells of the block are cleared; the results are in the corner.
     EXPECT_THAT(cellsOf(large), SameBits({1.0, 3.0, 0.0, 2.0, 4.0, 77.0, 77.0, 77.0, 77.0}));
 }
 

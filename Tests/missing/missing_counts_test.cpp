@@ -108,7 +108,7 @@ TEST(NbMissing, VectorWalksATableInLinearOrder)
 
 // ---- tables ---------------------------------------------------------------------------------------------------------
 
-// The counts as they are told, cell by cell through the checked read.
+// The counts by their definition, cell by cell through the checked read.
 int countOfMissing(matrix* a, int i, int rows, int j, int cols)
 {
     int count = 0;
@@ -200,7 +200,7 @@ TEST(NbMissing, TableOfStrings)
     EXPECT_EQ(M_NbMissing2(a, 0, 3), 0);
     M_NbMissing(a, 0, 3, counts);
     EXPECT_THAT(counts.values(), ElementsAre(0, 0, 0));
-    // A row below the table is one of the next column, and behind the last there is none.
+    // A row below the table is one of the next column, and after the last there is none.
     M_NbMissing(a, 3, 3, counts);
     EXPECT_THAT(counts.values(), ElementsAre(1, 1, 2));
 }

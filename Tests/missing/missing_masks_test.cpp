@@ -391,7 +391,7 @@ TEST(MissingOffDiagonal, AgreesWithTheDefinition)
             }
         found += expected ? 1 : 0;
         EXPECT_EQ(missingOffDiagonal(n, cells), expected ? -1 : 0);
-        // The triangle's cell below the diagonal stands for the one above it.
+        // The triangle's cell below the diagonal represents the one above it.
         for (int i = 0; i < n; ++i)
             for (int j = i + 1; j < n; ++j)
                 cells[static_cast<std::size_t>(j + n * i)] = cells[static_cast<std::size_t>(i + n * j)];

@@ -43,14 +43,14 @@ NeighbourTable filled(Texts p, const Parts& parts)
     return filledTexts(c);
 }
 
-// ---- the row passed over --------------------------------------------------------------------------------------------
+// ---- the row that is skipped ----------------------------------------------------------------------------------------
 
 TEST(NearestNeighbourRules, RowNumberedAsTheColumnIsPassedOverInTheSecondBlock)
 {
     const Numbers cells = {10, 20, M, /**/ 5, 9, 5}; // row 1 is the nearest to row 3
     EXPECT_THAT(filled({.mask = {0, 0, -1}, .colsY = 2, .y = cells}).y, SameBits({10, 20, 20, 5, 9, 5}));
     EXPECT_THAT(filled({.mask = {0, 0, -1}, .colsX = 2, .x = cells}).x, SameBits({10, 20, 10, 5, 9, 5}));
-    // In column 2 it is row 2 that is passed over.
+    // In column 2 it is row 2 that is skipped.
     EXPECT_THAT(filled({.mask = {0, 0, -1}, .colsY = 2, .y = {9, 5, 5, /**/ 10, 20, M}}).y,
                 SameBits({9, 5, 5, 10, 20, 10}));
     EXPECT_THAT(filled({.mask = {0, 0, -1}, .colsY = 2, .y = {5, 9, 5, /**/ 10, 20, M}}).y,
@@ -156,7 +156,7 @@ TEST(NearestNeighbourRules, RejectsAllTheSameWhereTheColumnHasNoVariance)
 
 TEST(NearestNeighbourRules, StringSearchExemptsTheColumnOfTheSecondBlockWithItsNumber)
 {
-    // Row 2 agrees in one string of two, row 4 in none. Row 1 is passed over for column 1.
+    // Row 2 agrees in one string of two, row 4 in none. Row 1 is skipped for column 1.
     const Texts s = {L"x", L"near", L"", L"far", /**/ L"k", L"k", L"k", L"z", /**/ L"k", L"m", L"k", L"m"};
     Parts parts = {.mask = {0, 0, -1, 0}, .colsY = 2, .y = {7, M, 7, 7, /**/ 8, 8, 8, 8}, .colsS = 3, .s = s};
     EXPECT_EQ(filled(parts).s[2], L"near");
@@ -173,7 +173,7 @@ TEST(NearestNeighbourRules, ExemptColumnStillGivesItsTerm)
 
 TEST(NearestNeighbourRules, PrimaryBlockTakesNoPartInTheOtherSearches)
 {
-    // By Y and S row 2 is the nearest to row 3 (row 1 is passed over); by X it is far away, or would be rejected.
+    // By Y and S row 2 is the nearest to row 3 (row 1 is skipped); by X it is far away, or would be rejected.
     for (const double x : {1000.0, M}) {
         const NeighbourTable numbers = filled(
             {.mask = {0, 0, -1, 0}, .colsX = 1, .x = {0, x, 1, 1}, .colsY = 2, .y = {9, 20, M, 40, /**/ 1, 5, 5, 6}});

@@ -103,7 +103,7 @@ TEST(NearestNeighbour, FilledRowIsNeverANeighbour)
 TEST(NearestNeighbour, FilledCellEntersTheDistancesThatFollow)
 {
     NeighbourCase c = neighbourCase({0, 0, -1, 0});
-    // Column 2 of row 3 is filled from row 4 (row 2 is passed over there). By that row 2 is four away; without it, next
+    // Column 2 of row 3 is filled from row 4 (row 2 is skipped there). By that row 2 is four away; without it, next
     // to nothing.
     addY(c, 2, {1000, 9, 5, 5, /**/ 4, 8, M, 0});
     addS(c, 2, {L"x", L"row 2", L"", L"row 4", /**/ L"k", L"k", L"k", L"z"});

@@ -22,7 +22,7 @@ struct Result
     Cells covariances;
 };
 
-/// The steps as they are told, over square arrays; Q is `rows` by `cols`, both column after column.
+/// The plain steps, over square arrays; Q is `rows` by `cols`, both column after column.
 Result plainly(int rows, int cols, const Cells& Q, const Cells& C)
 {
     const auto q = [&](int i, int j) { return Q[static_cast<std::size_t>(i + rows * j)]; };
@@ -165,7 +165,7 @@ TEST(ComputeNewVar, OppositeCombinationsLeaveTheHalfSum)
     EXPECT_THAT(result.covariances[2], SameBits(half));
 }
 
-// t is (limit, 1) or just above: a negligible first coefficient opens no term of its own, and yet stands in the cross
+// t is (limit, 1) or just above: a negligible first coefficient opens no term of its own, and yet appears in the cross
 // term of the second.
 TEST(ComputeNewVar, NegligibleCoefficientKeepsItsTermsInLaterColumns)
 {

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 using Flags = Guarded<short>;
 
-/// The walk as it is told: number by number, against every other row.
+/// The plain walk: number by number, against every other row.
 void walk(std::vector<std::wstring>& labels, std::vector<short>& mask, const std::wstring& prefix)
 {
     int number = 0;
@@ -43,7 +43,7 @@ TEST(ReplaceMissingObsLabels, PassesOverANumberThatIsTaken)
     EXPECT_THAT(mask.values(), Each(0));
 }
 
-TEST(ReplaceMissingObsLabels, RowsBehindCountAsWellAsRowsBefore)
+TEST(ReplaceMissingObsLabels, RowsAfterCountAsWellAsRowsBefore)
 {
     auto labels = stringColumn({L"", L"", L"P1", L"P3"});
     Flags mask = {-1, -1, 0, 0};
@@ -83,7 +83,7 @@ TEST(ReplaceMissingObsLabels, LabelOfAFlaggedRowCountsUntilItIsReplaced)
     Flags mask = {-1, 0, -1};
     ReplaceMissingObsLabels(later, 3, mask, L"P");
     EXPECT_THAT(cellsOf(later), ElementsAre(L"P2", L"", L"P3"));
-    // Row 1 gives P2 up before row 2 asks for it.
+    // Row 1 gives P2 up before row 2 needs it.
     auto earlier = stringColumn({L"P2", L""});
     Flags both = {-1, -1};
     ReplaceMissingObsLabels(earlier, 2, both, L"P");

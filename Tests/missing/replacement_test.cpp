@@ -202,7 +202,7 @@ TEST(SetWeightsToZero, OneColumnOfDataWithSeveralOfWeights)
     auto weights = byRows({{1, 2}, {3, 4}});
     M_SetWeightsToZeroForMissing(column({1, M}), 2, 1, weights, 2);
     EXPECT_THAT(cellsOf(weights), SameBits({1.0, 0.0, 2.0, 4.0}));
-    // More columns of data than of weights: what has no weight is dropped.
+    // More columns of data than of weights: columns without a weight are dropped.
     M_SetWeightsToZeroForMissing(byRows({{M, 1, M}, {1, M, M}}), 2, 3, weights, 2);
     EXPECT_THAT(cellsOf(weights), SameBits({0.0, 0.0, 2.0, 0.0}));
 }

@@ -191,7 +191,8 @@ TEST(GetMaxCat, EachColumnAndTheLargest)
     EXPECT_EQ(cellsOf(counts), (Ints{3, 2, 1, 77}));
     EXPECT_EQ(GetMaxCat(data, 2, 2, counts), 2) << "a corner";
     EXPECT_EQ(cellsOf(counts), (Ints{2, 1, 1, 77}));
-    EXPECT_EQ(GetMaxCat(data, 4, 3, counts), 3) << "the row behind the last slides on: a, then the empty text";
+    EXPECT_EQ(GetMaxCat(data, 4, 3, counts), 3)
+        << "the row after the last reads on into the next column: a, then the empty text";
     EXPECT_EQ(cellsOf(counts), (Ints{3, 3, 1, 77}));
 }
 
@@ -256,7 +257,7 @@ TEST(CheckUniqueCatByVar, FindsALabelAtALaterPlace)
     EXPECT_EQ(repeats(2, 2, {L"a", L"c", L"b", L"d"}, {2, 2}), 0);
 }
 
-TEST(CheckUniqueCatByVar, TheSamePlaceInTwoRowsGoesUnnoticed)
+TEST(CheckUniqueCatByVar, TheSamePlaceInTwoRowsIsNotDetected)
 {
     EXPECT_EQ(repeats(2, 2, {L"a", L"a", L"b", L"c"}, {2, 2}), 0);
     EXPECT_EQ(repeats(3, 2, {L"x", L"y", L"z", L"b", L"b", L"b"}, {2, 2, 2}), 0);

@@ -1,4 +1,4 @@
-// Look-ups among many categories against the plain walks that they stand for.
+// Look-ups among many categories against the linear searches that they replace.
 #include "qualitative/disjunctive_tables.h"
 #include "qualitative/distinct.h"
 #include "qualitative/modes.h"

@@ -60,7 +60,7 @@ TEST(CategorySort, LeadingNumberIsEnough)
         << "0 x1 is still 0, so the list is one of texts";
 }
 
-TEST(CategorySort, ValueThatVanishesInSinglePrecisionIsNoNumber)
+TEST(CategorySort, ValueThatVanishesInSinglePrecisionIsNotNumeric)
 {
     EXPECT_EQ(sorted({L"10", L"9", L"1e-60"}), (Texts{L"10", L"1e-60", L"9"})) << "also as 1e-601";
     EXPECT_EQ(sorted({L"10", L"9", L"1e-30"}), (Texts{L"1e-30", L"9", L"10"}));
@@ -77,7 +77,7 @@ TEST(CategorySort, NumbersThatAgreeInSinglePrecisionKeepTheirOrder)
 
 TEST(CategorySort, ExchangeCarriesACategoryPastItsEquals)
 {
-    // 2 changes places with 1 and so comes to stand behind its equal: a stable sort would keep 2 before 2.0.
+    // 2 changes places with 1 and so ends up after its equal: a stable sort would keep 2 before 2.0.
     EXPECT_EQ(sorted({L"2", L"2.0", L"1"}), (Texts{L"1", L"2.0", L"2"}));
     EXPECT_EQ(sorted({L"2", L"2.0", L"2.00", L"1"}), (Texts{L"1", L"2.0", L"2.00", L"2"}));
 }

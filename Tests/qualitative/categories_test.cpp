@@ -60,7 +60,7 @@ TEST(InfoQuali, ComparesPlainStrings)
     EXPECT_EQ(categoriesOf(summary, 1, 5), (Texts{L"1", L"1.0", L"a", L"A", L"a "}));
 }
 
-TEST(InfoQuali, SkipsEmptyCellsWhereverTheyStand)
+TEST(InfoQuali, SkipsEmptyCellsWhereverTheyAre)
 {
     const SummaryTables summary = columnSummary({L"", L"a", L"", L"b", L"b", L""}, {1, 2, 4, 8, 16, 32});
     EXPECT_EQ(cellsOf(summary.nCats), Ints{2});
@@ -104,7 +104,7 @@ TEST(InfoQuali, ColumnWithoutDataTakesTheFirstCellOfTheNext)
     EXPECT_EQ(cellsOf(summary.nCats), (Ints{1, 2, 1}));
     EXPECT_EQ(categoriesOf(summary, 1, 2), (Texts{L"x", L""}));
     EXPECT_THAT(weightsOf(summary, 1, 2), SameBits({-1, 0}));
-    EXPECT_EQ(categoriesOf(summary, 3, 2), (Texts{L"", L""})) << "nothing stands behind the last column";
+    EXPECT_EQ(categoriesOf(summary, 3, 2), (Texts{L"", L""})) << "nothing follows the last column";
     EXPECT_THAT(weightsOf(summary, 3, 2), SameBits({-1, 0}));
     EXPECT_EQ(cellsOf(summary.modes), (Texts{L"x", L"y", L""}));
     EXPECT_THAT(cellsOf(summary.modeWeights), SameBits({-1, 4, -1}));
@@ -127,7 +127,7 @@ TEST(InfoQuali, OneRowWithAnEmptyCellInTheLastColumn)
     EXPECT_THAT(cellsOf(summary.catWeights), SameBits({7, -1}));
 }
 
-TEST(InfoQuali, WeightBehindTheLastRowIsReadWhereThereIsOne)
+TEST(InfoQuali, WeightAfterTheLastRowIsReadWhereThereIsOne)
 {
     const SummaryTables summary = summaryOf(stringsByColumns({{L"", L""}, {L"x", L"y"}}), 2, 2, column({3, 4, 5}));
     EXPECT_THAT(cellsOf(summary.modeWeights), SameBits({5, 4}));
@@ -135,7 +135,7 @@ TEST(InfoQuali, WeightBehindTheLastRowIsReadWhereThereIsOne)
 
 TEST(InfoQuali, CornerOfATable)
 {
-    // Two rows of three: the cell behind the two is the column's own third.
+    // Two rows of three: the cell after the two is the column's own third.
     const SummaryTables summary =
         summaryOf(stringsByColumns({{L"", L"", L"third"}, {L"x", L"x", L"y"}}), 2, 2, column({3, 4}));
     EXPECT_EQ(cellsOf(summary.modes), (Texts{L"third", L"x"}));
@@ -146,7 +146,7 @@ TEST(InfoQuali, CornerOfATable)
 TEST(InfoQuali, NoRowsAndNoColumns)
 {
     const SummaryTables noRows = summaryOf(stringsByColumns({{L"a", L"b"}}), 0, 1, column({5}));
-    EXPECT_EQ(cellsOf(noRows.nCats), Ints{1}) << "the search stands one place past no row";
+    EXPECT_EQ(cellsOf(noRows.nCats), Ints{1}) << "the search stops one place past no row";
     EXPECT_EQ(noRows.categories->nElems, 0u);
     EXPECT_EQ(cellsOf(noRows.modes), Texts{L""});
     EXPECT_THAT(cellsOf(noRows.modeWeights), SameBits({-1}));

@@ -101,7 +101,7 @@ TEST(IsDisjTable, WithoutARowToCompareTheLastRowIsTheReference)
 
 TEST(IsDisjTable, SumsAreComparedWithTheTruncatedSum)
 {
-    EXPECT_EQ(verdict(2, 2, {0.5, 0.75, 1, 0.75}, {0, 0}), (Verdict{0, 1})) << "both sums are 1.5, and 1 is asked for";
+    EXPECT_EQ(verdict(2, 2, {0.5, 0.75, 1, 0.75}, {0, 0}), (Verdict{0, 1})) << "both sums are 1.5 where 1 is required";
     EXPECT_EQ(verdict(2, 2, {0.5, 0.75, 1, 0.25}, {0, 0}), (Verdict{-1, 1}));
     EXPECT_EQ(verdict(2, 2, {-0.5, -0.75, -1, -0.25}, {0, 0}), (Verdict{-1, -1})) << "towards zero";
     EXPECT_EQ(verdict(2, 1, {1, 1 + 5e-13}, {0, 0}), (Verdict{-1, 1}));

@@ -120,7 +120,7 @@ TEST(GroupByRandom, IsThePlainWalk)
         RandomData random(seed);
         SCOPED_TRACE(random);
         const Case c(random);
-        // The result may be larger than the rows and columns asked for, and holds something.
+        // The result may be larger than the rows and columns required, and is not empty.
         const int outRows = c.nRows + (random.chance(0.3) ? random.integer(1, 2) : 0);
         const int outCols = c.nCols + (random.chance(0.3) ? 1 : 0);
         const PlainTable out{outRows, random.leftovers(count(outRows, outCols))};

@@ -61,7 +61,7 @@ TEST(GroupBy, GroupsComeByAscendingKeyAndRowsStayInOrderWithin)
     const auto data = byRows({{10, 3}, {20, 1}, {30, 2}, {40, 1}, {50, 3}});
     const Groups sums = grouped(data, 2, 0);
     EXPECT_EQ(sums.count, 3);
-    // Below the groups stands what the sort left: the rows 10 and 50 of key 3.
+    // Below the groups remain the rows that the sort left there: 10 and 50 of key 3.
     EXPECT_THAT(sums.cells, SameBits({60, 30, 60, 10, 50, 1, 2, 3, 3, 3}));
     const Groups firsts = grouped(data, 2, 3);
     EXPECT_THAT(firsts.cells, SameBits({20, 30, 10, 10, 50, 1, 2, 3, 3, 3}));
@@ -125,11 +125,11 @@ TEST(GroupBy, RowAfterTheOnlyGroupIsTheTopOfTheNextColumn)
 {
     const Groups groups = grouped(byRows({{10, 20, 30, 7}, {11, 21, 31, 7}}), 4, 4);
     EXPECT_EQ(groups.count, 1);
-    EXPECT_THAT(groups.cells, SameBits({20, 11, 30, 21, 7, 31, 7, 7})) << "the key stands behind the third column";
-    EXPECT_THAT(grouped(byRows({{7, 10}, {7, 11}}), 1, 4).cells, SameBits({7, 7, -1, 11})) << "behind the table";
+    EXPECT_THAT(groups.cells, SameBits({20, 11, 30, 21, 7, 31, 7, 7})) << "the key lies after the third column";
+    EXPECT_THAT(grouped(byRows({{7, 10}, {7, 11}}), 1, 4).cells, SameBits({7, 7, -1, 11})) << "after the table";
 }
 
-TEST(GroupBy, RowAfterTheLastGroupReadsTheNextColumnAsItThenStands)
+TEST(GroupBy, RowAfterTheLastGroupReadsTheNextColumnAsItIsThen)
 {
     // The top of the third column is 30 after the sort, and 31 once the first group is written.
     const Groups groups = grouped(byRows({{1, 20, 30}, {2, 21, 31}}), 1, 4);

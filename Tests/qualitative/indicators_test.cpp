@@ -67,7 +67,7 @@ TEST(Indicators, MissingCells)
     EXPECT_EQ(answersOn({M, 0.5}), (Answers{0, -1, 0, 0}));
 }
 
-TEST(Indicators, NumbersThatAreNone)
+TEST(Indicators, NaNAndInfinity)
 {
     EXPECT_EQ(answersOn({NaN, 1}), (Answers{0, 0, 0, 0})) << "the sum is not above 0";
     EXPECT_EQ(answersOn({infinity, 1}), (Answers{0, -1, 0, 0}));

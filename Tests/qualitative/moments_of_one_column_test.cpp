@@ -34,7 +34,8 @@ TEST(MeanStDevVarOneInMat, DivisorsOfTheVariance)
     const auto w = column({1, 1, 2});
     // Mean 3.5, sum of squares 11; W = 4, three rows.
     EXPECT_THAT(moments(x, 3, 1, w, 0, 0), SameBits({3.5, std::sqrt(2.75), 2.75}));
-    EXPECT_THAT(moments(x, 3, 1, w, 1, -1), SameBits({3.5, std::sqrt(2.75), 2.75})) << "only -1 asks for a correction";
+    EXPECT_THAT(moments(x, 3, 1, w, 1, -1), SameBits({3.5, std::sqrt(2.75), 2.75}))
+        << "only -1 requests the correction";
     EXPECT_THAT(moments(x, 3, 1, w, -1, -1), SameBits({3.5, std::sqrt(11.0 / 3.0), 11.0 / 3.0}));
     const double byMeanWeight = 11.0 / (4.0 - 4.0 / 3);
     EXPECT_THAT(moments(x, 3, 1, w, -1, 0), SameBits({3.5, std::sqrt(byMeanWeight), byMeanWeight}));

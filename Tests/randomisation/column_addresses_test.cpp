@@ -121,7 +121,7 @@ TEST(AreContiguous, ZAndAAAreNotButZAndAAre)
     EXPECT_EQ(::AreContiguous(L"ZZ", L"AA"), -1);
 }
 
-// ---- what comes out of a list ---------------------------------------------------------------------------------------
+// ---- the result for a list ------------------------------------------------------------------------------------------
 
 TEST(SimplifyRange, LeavesATextWithoutSeparator)
 {
@@ -151,7 +151,7 @@ TEST(SimplifyRange, ClosesRunsWithADollar)
     EXPECT_EQ(simplified(columnsListed({L"A", L"B"})), L"'S'!$A:$B");
     EXPECT_EQ(simplified(columnsListed({L"A", L"B", L"C"})), L"'S'!$A:$C");
     EXPECT_EQ(simplified(columnsListed({L"A", L"B", L"D", L"E", L"G"})), L"'S'!$A:$B,'S'!$D:$E,'S'!$G:$G");
-    // behind a run the next pair is the piece that begins and the one behind it
+    // after a run the next pair is the piece that begins and the one that follows it
     EXPECT_EQ(simplified(columnsListed({L"A", L"B", L"D", L"F"})), L"'S'!$A:$B,'S'!$D:D,'S'!$F:$F");
     EXPECT_EQ(simplified(columnsListed({L"A", L"B", L"D", L"F", L"G"})), L"'S'!$A:$B,'S'!$D:D,'S'!$F:$G");
 }
@@ -200,7 +200,7 @@ TEST(SimplifyRange, RowNumbersEndTheReadingButNotTheRoutine)
 {
     EXPECT_EQ(simplified(L"'S'!$1:$5,'S'!$7:$9"), L"'S'!$:$");
     EXPECT_EQ(simplified(L"'S'!$A:$A,'S'!$1:$5"), L"'S'!$:,'S'!$A:$A");
-    EXPECT_EQ(simplified(L"'S'!$1:$5,'S'!$A:$A"), L"'S'!$:$") << "nothing behind the digit is read";
+    EXPECT_EQ(simplified(L"'S'!$1:$5,'S'!$A:$A"), L"'S'!$:$") << "nothing after the digit is read";
     EXPECT_EQ(simplified(L"'S'!$0:$5,'S'!$A:$A"), L"'S'!$:$");
     EXPECT_EQ(simplified(L"'S'!$9:$5,'S'!$A:$A"), L"'S'!$:$");
 }

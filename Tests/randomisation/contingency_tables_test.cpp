@@ -13,7 +13,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// What comes out of a call over tables: R starts with cells of 9, the flags with 7.
+/// The results of a call over tables: R starts with cells of 9, the flags with 7.
 struct Cleaned
 {
     Owned<matrix> r;
@@ -48,7 +48,7 @@ TEST(CheckForMarginalSums, ClosesUpTheNeighboursOfAnEmptyRow)
     EXPECT_THAT(cellsOf(c.zeroRows), ElementsAre(1, 7, 1, 7));
 }
 
-TEST(CheckForMarginalSums, LeavesWhatStandsBehindTheLinesKept)
+TEST(CheckForMarginalSums, LeavesTheCellsAfterTheLinesKept)
 {
     // The second column of R is never written; the rows move up as copies.
     const Cleaned c(byRows({{0, 0}, {5, 0}}), 2, 2);
@@ -84,7 +84,7 @@ TEST(CheckForMarginalSums, SumsWithoutMissingCellsAndDropsALineOfThem)
     EXPECT_THAT(cornerOf(c.r, 2, 1), SameBits({1, 2}));
 }
 
-TEST(CheckForMarginalSums, KeepsALineWhoseSumIsNoNumber)
+TEST(CheckForMarginalSums, KeepsALineWhoseSumIsNaN)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const Cleaned c(byRows({{nan, 0}, {1, 0}}), 2, 2);
@@ -147,7 +147,7 @@ TEST(CheckForMarginalSums, OverArraysWritesInPlace)
     EXPECT_THAT(counts.values(), ElementsAre(2, 2));
     EXPECT_THAT(zeroRows.values(), ElementsAre(1, 7, 7));
     EXPECT_THAT(zeroCols.values(), ElementsAre(7, 1, 7));
-    // Three rows each: the two moved up, and behind them the third as it was copied.
+    // Three rows each: the two moved up, followed by the third as it was copied.
     EXPECT_THAT(r.values(), SameBits({1, 3, 3, 2, 4, 4, 9, 9, 9}));
 }
 

@@ -265,7 +265,7 @@ TEST(IntervalSampling, SpansOverlap)
 
 TEST(IntervalSampling, SpansGoOnToTheEndOfThePopulation)
 {
-    // Step 1, margin 4, from row 2: nine spans for a sample of seven. All nine labels are there; the rows behind the
+    // Step 1, margin 4, from row 2: nine spans for a sample of seven. All nine labels are there; the rows after the
     // sample are the next column's in a table.
     const Population S = population(10, 2);
     const BothStorages sample = drawnInBothStorages(eachInterval, S, 7, labels(10), Cells(9, 0.0));
@@ -318,7 +318,7 @@ TEST(IntervalSampling, OneSeriesWhateverTheFlag)
         EXPECT_EQ(drawn(eachInterval, S, 2, labels(3), {0.9, 0.1}, flag).cells, rowsOf(S, {1, 3}));
 }
 
-TEST(IntervalSampling, StartBehindThePopulationDrawsNothing)
+TEST(IntervalSampling, StartAfterThePopulationDrawsNothing)
 {
     EXPECT_THAT(drawn(eachInterval, population(0, 2), 2, {}, {}).cells, Each(before));
     for (const int N : {0, -1, -7, least}) { // no cell of ids is one of the population

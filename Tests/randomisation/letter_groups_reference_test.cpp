@@ -18,7 +18,7 @@ namespace {
 
 using Texts = std::vector<std::wstring>;
 
-/// Numbers from 1, so that the steps read as they are told.
+/// Indexed from 1, so that the steps read as published.
 template <class T>
 class From1
 {
@@ -199,7 +199,7 @@ TEST(BuildGroupingForDiffs, GivesWhatTheStepsGiveWhereAllPairsAreListed)
 
 TEST(BuildGroupingForDiffs, GivesWhatTheStepsGiveForAnyTableOfPairs)
 {
-    // Pairs that repeat or stand nowhere, places that share an item, rows that do not count, items without a number:
+    // Pairs that repeat or match nothing, places that share an item, rows that do not count, items without a number:
     // what a look-up finds then depends on the one before.
     RandomData data(742);
     SCOPED_TRACE(data);

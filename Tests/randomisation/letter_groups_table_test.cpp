@@ -18,7 +18,7 @@ namespace {
 using testing::Each;
 using testing::ElementsAre;
 
-/// What comes out of a call with the items' means in the first column of X.
+/// The results of a call with the items' means in the first column of X.
 struct Compared
 {
     Owned<matrix> x;

@@ -119,7 +119,7 @@ TEST(BuildGroupingForDiffs, ANewLetterGoesBackOverThePlacesThatDoNotDiffer)
     EXPECT_EQ(g.lines(), (Lines{L"A-", L"AB", L"-B"}));
 }
 
-TEST(BuildGroupingForDiffs, WarnsWhereAPlaceBehindTheBreakDoesNotDiffer)
+TEST(BuildGroupingForDiffs, WarnsWhereAPlaceAfterTheBreakDoesNotDiffer)
 {
     const Grouped g = grouped({10, 20, 30}, {{2, 1}});
     EXPECT_EQ(g.clean, 0);
@@ -135,7 +135,7 @@ TEST(BuildGroupingForDiffs, ItemsThatAllDifferHaveALetterEach)
     EXPECT_EQ(g.lines(), (Lines{L"A--", L"-B-", L"--C"}));
 }
 
-TEST(BuildGroupingForDiffs, GoesBackToThePlaceBehindTheLastThatDiffers)
+TEST(BuildGroupingForDiffs, GoesBackToThePlaceAfterTheLastThatDiffers)
 {
     // The fourth differs from the first and the second, the fifth from all but the fourth.
     const Grouped g = grouped({1, 2, 3, 4, 5}, {{4, 1}, {4, 2}, {5, 1}, {5, 2}, {5, 3}});
@@ -181,7 +181,7 @@ TEST(BuildGroupingForDiffs, TheTwentySeventhLetterIsAA)
     EXPECT_EQ(g.labels->vbget(28, 28), L"AB");
 }
 
-TEST(BuildGroupingForDiffs, EndsAtTheGroupBehindTheLastPossibleOne)
+TEST(BuildGroupingForDiffs, EndsAtTheGroupAfterTheLastPossibleOne)
 {
     const Grouped full = grouped(firstNumbers(256), allPairs(256));
     EXPECT_EQ(full.nGroups, 256);
@@ -266,7 +266,7 @@ TEST(BuildGroupingForDiffs, KeepsTheOrderWhereItIsSaidToBeSorted)
     }
 }
 
-TEST(BuildGroupingForDiffs, CarriesTheColumnsOfTheMeansThatItIsTold)
+TEST(BuildGroupingForDiffs, CarriesTheGivenColumnsOfTheMeans)
 {
     const Comparisons comparisons(3, {{2, 1}});
     for (const int carried : {0, 1, 2}) {
@@ -296,7 +296,7 @@ TEST(BuildGroupingForDiffs, MissingMeansComeFirstWithoutALetter)
     EXPECT_EQ(g.lines(), (Lines{L".-", L".-", L"A-", L"-B"}));
 }
 
-TEST(BuildGroupingForDiffs, BehindAMissingFirstMeanTheLetterIsTheOneBeforeA)
+TEST(BuildGroupingForDiffs, AfterAMissingFirstMeanTheLetterIsTheOneBeforeA)
 {
     const Grouped g = grouped({M, 1, 2}, {});
     EXPECT_EQ(g.nGroups, 1);
@@ -307,13 +307,13 @@ TEST(BuildGroupingForDiffs, BehindAMissingFirstMeanTheLetterIsTheOneBeforeA)
     EXPECT_EQ(opened.lines(), (Lines{L".", L"@", L"A", L"A"}));
 }
 
-TEST(BuildGroupingForDiffs, AMissingMeanBehindOthersOpensNoLetter)
+TEST(BuildGroupingForDiffs, AMissingMeanAfterOthersOpensNoLetter)
 {
     const Grouped differing({3, 2, M}, Comparisons(3, allPairs(3)), 0, -1);
     EXPECT_EQ(differing.nGroups, 2);
     EXPECT_EQ(differing.lines(), (Lines{L"A-", L"-B", L"-."}));
 
-    // The mean behind the missing one opens the third letter.
+    // The mean after the missing one opens the third letter.
     const Grouped between({3, 2, M, 1}, Comparisons(4, allPairs(4)), -1);
     EXPECT_EQ(between.nGroups, 3);
     EXPECT_EQ(between.lines(), (Lines{L"A--", L"-B-", L"-.-", L"--C"}));
@@ -370,7 +370,7 @@ TEST(BuildGroupingForDiffs, FindsAPairInEitherOrderAndInAnyRow)
     EXPECT_EQ(LookedUp(byRows({{3, 1}, {2, 1}, {2, 3}}), {1, 0, 0}).labels, oneAndThreeDiffer);
 }
 
-TEST(BuildGroupingForDiffs, TakesTheColumnsToldAndAnyItemNumbers)
+TEST(BuildGroupingForDiffs, TakesTheGivenColumnsAndAnyItemNumbers)
 {
     const auto pairs = byRows({{0, 40, 1, -7}, {0, 9, 1, -7}, {0, 9, 1, 40}});
     // The first two columns mark each row as counting.
@@ -397,7 +397,7 @@ TEST(BuildGroupingForDiffs, APairInNoRowTakesTheOutcomeOfTheLookUpBefore)
     // Pair (1, 3) takes what was found for (1, 2).
     EXPECT_EQ(LookedUp(byRows({{2, 1}, {3, 2}, {0, 0}}), {0, 0, 1}).labels, (Lines{L"A", L"A", L"A"}));
     EXPECT_EQ(LookedUp(byRows({{2, 1}, {3, 2}, {0, 0}}), {1, 1, 0}).clean, -1) << "taken as differing";
-    // Behind the last pair of rows that were given no row is read.
+    // No row is read after the last pair that was given.
     EXPECT_EQ(LookedUp(byRows({{0, 0}, {0, 0}, {0, 0}, {2, 1}}), {0, 0, 0, 1}).labels, (Lines{L"A", L"A", L"A"}));
 }
 

@@ -76,7 +76,7 @@ inline Texts textsOf(const ArrayOfColumns& array)
     return all;
 }
 
-/// What stands in every cell of the sample before a design is called.
+/// The value of every cell of the sample before the call.
 inline const std::wstring before = L"before";
 
 /// Calls `call(function, population, sample, ids)` for each form, with a sample of `n` rows, and checks that each flat

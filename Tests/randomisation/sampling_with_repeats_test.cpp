@@ -29,7 +29,7 @@ TEST(SamplingWithReplacement, ComesInTheOrderOfThePopulation)
     EXPECT_EQ(sample.cells, rowsOf(S, {1, 3, 5}));
 }
 
-TEST(SamplingWithReplacement, RepeatsStandBesideEachOther)
+TEST(SamplingWithReplacement, RepeatsAreAdjacent)
 {
     const Population S = population(4, 3);
     const Sample sample = drawn(withReplacement, S, 6, Cells(6, 0.0), {0.8, 0.3, 0.99, 0.3, 0.0, 0.75});
@@ -91,7 +91,7 @@ TEST(SamplingWithReplacement, WorksOnTheCornerNamed)
     EXPECT_THAT(cellsOf(ids), SameBits({1.0, 2.0, 9.0}));
 }
 
-TEST(SamplingWithReplacement, RowBehindTheLast)
+TEST(SamplingWithReplacement, RowAfterTheLast)
 {
     // 1.0 is more than a generator may give: the row is the next column's in a table, and outside in an array.
     const BothStorages sample = drawnInBothStorages(withReplacement, population(2, 2), 1, {M}, {1.0});
@@ -200,7 +200,7 @@ TEST(SampleUserDefined, SumBelowOneGivesNoSample)
         EXPECT_TRUE(counted(population(2, 2), freq, 0).ids.empty());
 }
 
-TEST(SampleUserDefined, CountsThatAreNoNumbersOfCopies)
+TEST(SampleUserDefined, CountsThatAreNotValid)
 {
     const auto S = stringColumn({L"1", L"2", L"3", L"4", L"5", L"6"});
     const auto Z = stringColumn({L"p", L"q", L"r"});

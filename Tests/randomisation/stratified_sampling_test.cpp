@@ -191,7 +191,7 @@ TEST(StratifiedSampling, EqualLabelsKeepTheOrderOfTheKeys)
     EXPECT_THAT(sampled(survey, {0.7, 0.9, 0.2}, {3}).cells, ElementsAre(L"a3", L"a1", L"a2"));
 }
 
-TEST(StratifiedSampling, RowsOfAStratumMayStandAnywhere)
+TEST(StratifiedSampling, RowsOfAStratumMayBeAnywhere)
 {
     // Sorted by stratum: rows 2, 4, 6 and then 1, 3, 5, each in the order of the input.
     const Survey survey{population(6, 2), {2, 1, 2, 1, 2, 1}, {3, 3}, {1, 2}, 3};
@@ -374,7 +374,7 @@ TEST(StratifiedSampling, MissingTables)
     EXPECT_THAT(cellsOf(outIds), SameBits({-1.0, M}));
 }
 
-TEST(StratifiedSampling, QuotasThatAreNoNumbersOfRows)
+TEST(StratifiedSampling, QuotasThatAreNotValid)
 {
     // None of them takes a row, nor does the last stratum then: its number is out of range, too.
     constexpr double infinity = std::numeric_limits<double>::infinity();
@@ -391,7 +391,7 @@ TEST(StratifiedSampling, QuotasThatAreNoNumbersOfRows)
     }
 }
 
-TEST(StratifiedSampling, SizesThatAreNoNumbersOfRows)
+TEST(StratifiedSampling, SizesThatAreNotValid)
 {
     // A stratum of so few rows that there are none has empty ones, whose labels are found nowhere.
     for (const double size : {M, std::numeric_limits<double>::quiet_NaN(), -4.0}) {

@@ -1,4 +1,4 @@
-// Vectors of keys of many kinds, and the sort by records as it is told, which every faster way is held against.
+// Vectors of keys of many kinds, and the plain sort by records, with which every faster one is compared.
 #pragma once
 
 #include "support/bits.h"

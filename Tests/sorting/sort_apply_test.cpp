@@ -92,7 +92,7 @@ TEST(SortApply, preparesItsResultAndKeepsALargerOne)
     EXPECT_THAT(cellsOf(small), SameBits({2, 1}));
 }
 
-TEST(SortApply2, worksInPlaceOnTheCornerTold)
+TEST(SortApply2, worksInPlaceOnTheGivenCorner)
 {
     auto doubles = byRows({{1, 4, 7}, {2, M, 8}, {3, 6, 9}});
     SortApply2(doubles.get(), 2, 2, column({2, 2}));

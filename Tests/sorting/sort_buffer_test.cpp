@@ -1,4 +1,4 @@
-// The sort asks for its buffer by the form of new that does not throw. Here that form gives none.
+// The sort requests its buffer by the form of new that does not throw. Here that form returns null.
 //
 // This program replaces the operators new and delete, which serves the library too.
 #include "sorting/sort.h"
@@ -69,7 +69,7 @@ protected:
         buffersAreRefused = true;
         sort();
         buffersAreRefused = false;
-        EXPECT_GT(refusals, 0) << "the sort never asked for a buffer";
+        EXPECT_GT(refusals, 0) << "the sort never requested a buffer";
     }
 };
 

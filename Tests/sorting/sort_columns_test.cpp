@@ -51,7 +51,7 @@ TEST(SortQMatrixCol, intsAreExactAtTheEndsOfTheRange)
     EXPECT_EQ(cellsOf(table), (std::vector<int>{lowest, 0, highest - 1, highest, 3, 2, 4, 1}));
 }
 
-TEST(SortQMatrixCol, aKeyColumnBehindTheColumnsThatMoveIsSortedToo)
+TEST(SortQMatrixCol, aKeyColumnAfterTheColumnsThatMoveIsSortedToo)
 {
     auto table = byColumns({{1, 2, 3}, {4, 5, 6}, {3, 2, 1}});
     SortQMatrixCol(table.reference(), 3, 1, 3, 1, 3, 0);
@@ -138,7 +138,7 @@ TEST(SortQVector, sortsARangeInPlace)
     EXPECT_EQ(k.values(), (std::vector<int>{5, 2, 3, 4, 1}));
 }
 
-TEST(SortQVector, elementsBehindTheVectorTakePartAsMinusOne)
+TEST(SortQVector, elementsPastTheVectorTakePartAsMinusOne)
 {
     Guarded<double> x({-3, 2, -2});
     double* start = x;

@@ -193,7 +193,7 @@ TEST(SortQ, nanKeysLoseNoRowAndTouchNothingOutside)
     }
 }
 
-// ---- descending is exactly -1 in every member -------------------------------------------------------------------
+// ---- descending is exactly -1 in every member -----------------------------------------------------------------------
 
 class OtherThanMinusOne : public testing::TestWithParam<short>
 {
@@ -343,9 +343,9 @@ TEST(SortQStrings, onlyMinusOneWritesTheKeys)
     }
 }
 
-// ---- columns by a key ---------------------------------------------------------------------------------------------
+// ---- columns by a key -----------------------------------------------------------------------------------------------
 
-TEST(SortQByCol, movesAsManyRowsAsToldAndOnlyColumnsOfTheRange)
+TEST(SortQByCol, movesTheGivenNumberOfRowsAndOnlyColumnsOfTheRange)
 {
     auto data = byRows({{1, 2, 3, 4}, {5, 6, 7, 8}, {9, 10, 11, 12}});
     auto key = column({0, 3, 2, 2});

@@ -303,7 +303,7 @@ TEST(MatrixMatCheck, ViewThatIsTooSmallIsDropped)
     EXPECT_TRUE(callers.untouched());
 }
 
-TEST(MatrixMatCheck, NothingAskedForLeavesTheCells)
+TEST(MatrixMatCheck, NothingRequestedLeavesTheCells)
 {
     auto t = filled(2, 2, 7);
     matrix::matCheck(t.reference(), 0, 2, 0.0);

@@ -173,7 +173,7 @@ struct Structure
 
 using Flags = std::array<bool, 4>;
 
-/// Entries that must not be written start as told by `before`.
+/// Entries that must not be written start as `before`.
 Structure structureOf(matrix* t, int rows, int cols, int row0, int col0, bool before)
 {
     Structure s;
@@ -191,7 +191,7 @@ TEST(CalcStrucInfo, SquareBlock)
         const Structure s = structureOf(t, 3, 3, 0, 0, before);
         EXPECT_EQ(s.colZero, (Flags{false, true, false, before}));
         EXPECT_EQ(s.rowZero, (Flags{false, false, true, before}));
-        EXPECT_EQ(s.diag, (Flags{true, false, false, before})) << "the diagonal cell itself is not looked at";
+        EXPECT_EQ(s.diag, (Flags{true, false, false, before})) << "the diagonal cell itself is not read";
     }
 }
 

@@ -192,7 +192,7 @@ TEST(CalcDescStat, CellsOutOfRangeTakePartAsMinusOne)
     EXPECT_THAT(t->X[3], SameBits(4.0));
 }
 
-TEST(GetDesc, ComputesForTheModeAsked)
+TEST(GetDesc, ComputesForTheGivenMode)
 {
     auto t = table(3, 2, {1, 2, 3, 2, 4, 6});
     EXPECT_THAT(t->getDescSigma(1, -1), SameBits(2.0));
