@@ -1,6 +1,7 @@
 // The members of `matrix` that keep column statistics in the table, or centre and reduce it by them.
 #include "access/cells.h"
 #include "base/detail/numbers.h"
+#include "base/detail/running_moments.h"
 #include "base/missing_value.h"
 #include "matrix.h"
 
@@ -10,36 +11,29 @@ using vecmat::countOf;
 using vecmat::isMissing;
 using vecmat::missingValue;
 using vecmat::onBlocks;
+using vecmat::RunningVariance;
+using vecmat::ZeroWeight;
+
+namespace update = vecmat::update;
 
 namespace {
 
 /// What the getters return for a column that does not exist.
 constexpr double noSuchColumn = -1.0;
 
-/// Weighted mean and sum of squares about it, by running updates.
+/// Rows of weight 0 lower the corrected weight, and nothing else.
 /// Source: West, D. H. D. (1979), Updating mean and variance estimates: an improved method, Comm. ACM 22 (9), 532-535.
-struct WeightedMoments
+using WeightedMoments = RunningVariance<update::Weighted, ZeroWeight::counted>;
+
+double correctedWeight(const WeightedMoments& moments)
 {
-    double weight = 0.0;  ///< sum of the weights
-    double squares = 0.0; ///< weighted sum of squares about the mean
-    double mean = 0.0;
-    int rows = 0; ///< rows present, including those of weight 0: they lower the corrected weight, and nothing else
+    return moments.weights - moments.weights / moments.rows;
+}
 
-    void add(double x, double w)
-    {
-        weight += w;
-        ++rows;
-        if (w == 0.0)
-            return;
-        const double d = x - mean;
-        squares += d * d * (w - w * w / weight);
-        mean += d * w / weight;
-    }
-
-    double correctedWeight() const { return weight - weight / rows; }
-
-    double deviation(double divisor) const { return divisor > 0.0 ? sqr2(squares / divisor) : missingValue; }
-};
+double deviation(const WeightedMoments& moments, double divisor)
+{
+    return divisor > 0.0 ? sqr2(moments.squares / divisor) : missingValue;
+}
 
 template <class Cells>
 WeightedMoments momentsOf(Cells x, int col, int rows, const double* weights)
@@ -76,9 +70,9 @@ void matrix::calcDescStat(short mode)
                 descMu[j] = missingValue;
                 descSigma[j] = missingValue;
                 if (moments.rows > 0) {
-                    weightcorr[j] = mode == -1 ? moments.correctedWeight() : moments.weight;
+                    weightcorr[j] = mode == -1 ? correctedWeight(moments) : moments.weights;
                     descMu[j] = moments.mean;
-                    descSigma[j] = moments.deviation(weightcorr[j]);
+                    descSigma[j] = deviation(moments, weightcorr[j]);
                 }
             }
         },
@@ -114,9 +108,9 @@ int matrix::Normalize()
                 norMu[j] = 0.0;
                 norSigma[j] = 0.0;
                 if (moments.rows > 0) {
-                    weightcorr[j] = moments.correctedWeight();
+                    weightcorr[j] = correctedWeight(moments);
                     norMu[j] = moments.mean;
-                    norSigma[j] = moments.deviation(weightcorr[j]);
+                    norSigma[j] = deviation(moments, weightcorr[j]);
                 }
                 const double divisor = norSigma[j] == 0.0 ? 1.0 : norSigma[j];
                 for (int i = 0; i < nRows; ++i)

@@ -8,6 +8,8 @@
 // is stored; a write outside is dropped.
 #pragma once
 
+#include "../base/detail/numbers.h"
+#include "adaptors.h"
 #include "cells.h"
 
 #include <algorithm>
@@ -15,70 +17,28 @@
 
 namespace vecmat {
 
-// ---- numbers of rows and columns ------------------------------------------------------------------------------------
-
-/// Sum of two numbers of rows or columns. It wraps: a nonsensical number then fails the table's bound check.
-constexpr int shifted(int number, int by)
-{
-    return static_cast<int>(static_cast<unsigned>(number) + static_cast<unsigned>(by));
-}
-
-/// How many numbers the range contains, both ends included; 0 if it ends before it starts.
-constexpr int countFromTo(int from, int to)
-{
-    return to < from ? 0 : static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from) + 1u);
-}
-
 // ---- windows --------------------------------------------------------------------------------------------------------
 
-/// Cells relative to the corner (row, col) of their storage, both from 0.
+/// Cells relative to the corner (row, col) of their storage, both from 0. It knows the storage, so that a copy can tell
+/// whether source and target overlap.
 template <class Cells>
-class Window
+class Window : public Shifted<Cells>
 {
 public:
-    using Value = typename Cells::Value;
     using Read = typename Cells::Read;
 
     /// `height` is the row number at which a column of the storage ends and the next one begins in memory.
     Window(Cells cells, int row, int col, const void* storage, int height)
-        : cells_(cells), row_(row), col_(col), storage_(storage), height_(height)
+        : Shifted<Cells>(cells, row, col), storage_(storage), height_(height)
     {
-    }
-
-    Read get(int i, int j) const { return cells_.get(shifted(row_, i), shifted(col_, j)); }
-    template <class V>
-    void set(int i, int j, V&& value) const
-    {
-        cells_.set(shifted(row_, i), shifted(col_, j), std::forward<V>(value));
-    }
-    auto column(int j) const requires requires(const Cells& cells) { cells.column(0); }
-    {
-        return cells_.column(col_ + j) + row_;
-    }
-
-    bool covers(int rows, int cols) const
-    {
-        constexpr int most = std::numeric_limits<int>::max();
-        return row_ >= 0 && col_ >= 0 && row_ <= most - rows && col_ <= most - cols &&
-               cells_.covers(row_ + rows, col_ + cols);
-    }
-    auto plain() const
-    {
-        using Plain = decltype(cells_.plain());
-        return Window<Plain>(cells_.plain(), row_, col_, storage_, height_);
     }
 
     /// Can two cells of a block of `rows` rows be the same cell of the storage?
-    bool folds(int rows) const { return row_ < 0 || static_cast<long long>(row_) + rows > height_; }
+    bool foldsRows(int rows) const { return this->row() < 0 || static_cast<long long>(this->row()) + rows > height_; }
     /// The table, or the array of columns, that contains the cells.
     const void* storage() const { return storage_; }
-    int row() const { return row_; }
-    int col() const { return col_; }
 
 private:
-    Cells cells_;
-    int row_;
-    int col_;
     const void* storage_;
     int height_;
 };
@@ -125,13 +85,13 @@ bool mayRunDownColumns(const Source& source, const Target& target, int rows, int
 {
     if (cols == 1)
         return true;
-    if (target.folds(rows))
+    if (target.foldsRows(rows))
         return false;
     if (source.storage() != target.storage())
         return true;
     if constexpr (std::is_same_v<Source, Target>)
         // Along one axis only, each line of the other axis is independent.
-        return !source.folds(rows) && (source.row() == target.row() || source.col() == target.col());
+        return !source.foldsRows(rows) && (source.row() == target.row() || source.col() == target.col());
     else
         return false;
 }

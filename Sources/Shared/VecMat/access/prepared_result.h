@@ -27,10 +27,4 @@ template <class Table>
     return replaced;
 }
 
-/// The product of two counts in wrapping arithmetic.
-constexpr int timesCount(int a, int b)
-{
-    return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
-}
-
 } // namespace vecmat

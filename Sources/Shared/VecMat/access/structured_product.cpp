@@ -1,8 +1,9 @@
 #include "structured_product.h"
 
 #include "../matrix.h"
+#include "adaptors.h"
+#include "cells.h"
 #include "cellwise.h"
-#include "operands.h"
 
 #include <algorithm>
 #include <functional>

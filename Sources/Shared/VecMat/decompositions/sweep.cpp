@@ -1,7 +1,7 @@
 #include "sweep.h"
 
 #include "../access/cells.h"
-#include "../access/operands.h"
+#include "../access/packed_cells.h"
 #include "../base/detail/local_array.h"
 #include "../base/missing_value.h"
 #include "../kernels/update_kernels.h"

@@ -1,7 +1,7 @@
 #include "conditional_moments.h"
 
 #include "../access/cells.h"
-#include "detail/running_moments.h"
+#include "../base/detail/running_moments.h"
 
 using namespace vecmat;
 

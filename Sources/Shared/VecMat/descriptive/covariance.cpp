@@ -1,6 +1,7 @@
 #include "covariance.h"
 
-#include "../access/operands.h"
+#include "../access/adaptors.h"
+#include "../access/cells.h"
 #include "../base/detail/local_array.h"
 #include "../base/detail/numbers.h"
 #include "detail/covariance_pass.h"

@@ -2,8 +2,8 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/running_moments.h"
 #include "../elementary/predicates.h"
-#include "detail/running_moments.h"
 #include "quantiles.h"
 
 #include <cmath>

@@ -4,8 +4,8 @@
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "../base/detail/mathematics/mathematics.h"
+#include "../base/detail/running_moments.h"
 #include "../kernels/power_kernels.h"
-#include "detail/running_moments.h"
 
 using namespace vecmat;
 

@@ -3,8 +3,8 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/running_moments.h"
 #include "../frame/detail/handles.h"
-#include "detail/running_moments.h"
 
 #include <cmath>
 #include <memory>

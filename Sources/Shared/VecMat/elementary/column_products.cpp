@@ -14,7 +14,7 @@ namespace {
 /// The new column, from 0, for column i of the first and column j of the second table.
 int pairedColumn(int i, int j, int colsB)
 {
-    return static_cast<int>(static_cast<unsigned>(timesCount(i, colsB)) + static_cast<unsigned>(j));
+    return static_cast<int>(static_cast<unsigned>(wrappingProduct(i, colsB)) + static_cast<unsigned>(j));
 }
 
 // The counts are multiplied without an overflow check, so these loops stay with checked access.
@@ -93,7 +93,7 @@ void M_ProductHorizAB(matrix* a, int rows, int cols, matrix* b, int colsB, matri
 
 void M_ProductHorizAB2(matrix* a, int rows, int* cols, matrix* b, int colsB)
 {
-    const int total = timesCount(*cols, colsB);
+    const int total = wrappingProduct(*cols, colsB);
     matrix products(rows, total, 0.0);
     mapColumnPairs(a, rows, *cols, b, colsB, &products, productUnlessMissing);
     mapCells(rows, total, cells(a), std::identity(), cells(&products));
@@ -104,7 +104,7 @@ void M_ProductDesignAB2(matrix* a, int rows, int* cols, matrix* b, int colsB, in
 {
     constexpr int balanced = 3;
     codeInteraction(a, rows, *cols, b, colsB);
-    *cols = timesCount(*cols, colsB);
+    *cols = wrappingProduct(*cols, colsB);
     for (int c = 0; c < *cols; ++c) {
         const LevelWeights sums = levelWeights(a, rows, c, w);
         if (mode == balanced && sums.negative > negligible)

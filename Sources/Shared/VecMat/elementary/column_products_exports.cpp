@@ -13,18 +13,18 @@ void VB_M_ProductByElement(double* a, int rows, int cols, double* b, double* out
 
 void VB_M_ProductHorizAB(double* a, int rows, int cols, double* b, int colsB, double* out)
 {
-    auto result = viewed(out, rows, timesCount(cols, colsB));
+    auto result = viewed(out, rows, wrappingProduct(cols, colsB));
     M_ProductHorizAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB, result.reference());
 }
 
 void VB_M_ProductHorizAB2(double* a, int rows, int* cols, double* b, int colsB)
 {
-    M_ProductHorizAB2(viewed(a, rows, timesCount(*cols, colsB)), rows, cols, viewed(b, rows, colsB), colsB);
+    M_ProductHorizAB2(viewed(a, rows, wrappingProduct(*cols, colsB)), rows, cols, viewed(b, rows, colsB), colsB);
 }
 
 void VB_M_ProductDesignAB2(double* a, int rows, int* cols, double* b, int colsB, int mode, double* w, double* out)
 {
-    const int total = timesCount(*cols, colsB);
+    const int total = wrappingProduct(*cols, colsB);
     auto result = viewed(out, total, 1);
     M_ProductDesignAB2(viewed(a, rows, total), rows, cols, viewed(b, rows, colsB), colsB, mode, viewed(w, rows, 1),
                        result.reference());

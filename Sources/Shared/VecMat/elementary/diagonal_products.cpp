@@ -1,8 +1,8 @@
 #include "diagonal_products.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/cellwise.h"
-#include "../access/operands.h"
 #include "../access/prepared_result.h"
 #include "../access/tiled_product.h"
 

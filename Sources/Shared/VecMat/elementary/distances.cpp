@@ -1,7 +1,7 @@
 #include "distances.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
-#include "../access/operands.h"
 #include "../base/detail/companions.h"
 #include "../base/missing_value.h"
 

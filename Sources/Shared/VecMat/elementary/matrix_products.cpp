@@ -1,7 +1,7 @@
 #include "matrix_products.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
-#include "../access/operands.h"
 #include "../access/prepared_result.h"
 #include "../access/structured_product.h"
 #include "../access/tiled_product.h"

@@ -1,7 +1,8 @@
 #include "packed_products.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
-#include "../access/operands.h"
+#include "../access/packed_cells.h"
 #include "../access/tiled_product.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/numbers.h"

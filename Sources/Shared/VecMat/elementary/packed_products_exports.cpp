@@ -1,6 +1,6 @@
+#include "../access/packed_cells.h"
 #include "packed_products.h"
 
-#include "../access/operands.h"
 #include "../frame/detail/handles.h"
 
 using namespace vecmat;

@@ -1,5 +1,6 @@
 #include "predicates.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"

@@ -1,6 +1,9 @@
+#include "predicates.h"
+
+#include "../access/adaptors.h"
+#include "../access/cells.h"
 #include "../frame/detail/handles.h"
 #include "detail/constancy.h"
-#include "predicates.h"
 
 using vecmat::booleanOf;
 using vecmat::cells;

@@ -14,9 +14,10 @@
 using vecmat::copyCells;
 using vecmat::countFromTo;
 using vecmat::fresh;
-using vecmat::shifted;
 using vecmat::TableHandle;
 using vecmat::window;
+using vecmat::wrappingDifference;
+using vecmat::wrappingSum;
 using vecmat::zeroBased;
 
 namespace {
@@ -30,14 +31,14 @@ class Skipping
 {
 public:
     using Value = typename Cells::Value;
-    using Read = typename Cells::Read;
 
     Skipping(Cells cells, int row, int col) : cells_(cells), row_(row), col_(col) {}
 
-    Read get(int i, int j) const { return cells_.get(i < row_ ? i : i + 1, j < col_ ? j : j + 1); }
+    decltype(auto) get(int i, int j) const { return cells_.get(i < row_ ? i : i + 1, j < col_ ? j : j + 1); }
     bool covers(int rows, int cols) const
     {
-        return cells_.covers(row_ == noPlace ? rows : shifted(rows, 1), col_ == noPlace ? cols : shifted(cols, 1));
+        return cells_.covers(row_ == noPlace ? rows : wrappingSum(rows, 1),
+                             col_ == noPlace ? cols : wrappingSum(cols, 1));
     }
     auto plain() const { return Skipping<decltype(cells_.plain())>(cells_.plain(), row_, col_); }
     const void* storage() const { return cells_.storage(); }
@@ -57,7 +58,7 @@ int placeToSkip(int number, int count)
 template <class Table>
 void moveRowsUp(Table* a, int rows, int cols, int from, int to)
 {
-    const int next = shifted(to, 1);
+    const int next = wrappingSum(to, 1);
     copyCells(window(a, to, 0), window(a, zeroBased(from), 0), countFromTo(next, rows), cols);
 }
 
@@ -71,12 +72,6 @@ void sortByFlags(matrix*& table, int rows, int cols, Flags* flags)
     SortQ(table, rows, cols, 1, rows, key.reference(), companion.reference(), 1, 0, 0);
 }
 
-/// Number left. It wraps if the flags sum to nonsense.
-int without(int count, int removed)
-{
-    return static_cast<int>(static_cast<unsigned>(count) - static_cast<unsigned>(removed));
-}
-
 template <class Flags>
 int removeRows(matrix* a, int rows, int cols, Flags* flags, matrix* out)
 {
@@ -85,7 +80,7 @@ int removeRows(matrix* a, int rows, int cols, Flags* flags, matrix* out)
     M_CopyBlock(a, 1, rows, 1, cols, sorted.reference());
     sortByFlags(sorted.reference(), rows, cols, flags);
     if (removed < rows)
-        M_CopyBlock(sorted, 1, without(rows, removed), 1, cols, out);
+        M_CopyBlock(sorted, 1, wrappingDifference(rows, removed), 1, cols, out);
     return removed;
 }
 
@@ -99,7 +94,7 @@ int removeColumns(matrix* a, int rows, int cols, Flags* flags, matrix* out)
     TableHandle sorted = fresh(rows, cols);
     M_Transpose(transposed.reference(), cols, rows, sorted.reference());
     if (removed < cols)
-        M_CopyBlock(sorted, 1, rows, 1, without(cols, removed), out);
+        M_CopyBlock(sorted, 1, rows, 1, wrappingDifference(cols, removed), out);
     return removed;
 }
 
@@ -126,7 +121,7 @@ void M_MoveRow(matrix*& a, int cols, int r1, int r2)
 
 void M_RemoveCols2(matrix*& a, int rows, int cols, int from, int to)
 {
-    const int next = shifted(to, 1);
+    const int next = wrappingSum(to, 1);
     copyCells(window(a, 0, to), window(a, 0, zeroBased(from)), rows, countFromTo(next, cols));
 }
 

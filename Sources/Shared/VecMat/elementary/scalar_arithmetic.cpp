@@ -1,8 +1,8 @@
 #include "scalar_arithmetic.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/cellwise.h"
-#include "../access/operands.h"
 #include "../access/prepared_result.h"
 #include "../base/detail/numbers.h"
 #include "../base/detail/table_arrays.h"

@@ -1,8 +1,8 @@
 #include "sums_and_norms.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/cellwise.h"
-#include "../access/operands.h"
 #include "../access/product.h"
 #include "../base/missing_value.h"
 

@@ -1,7 +1,7 @@
 #include "symmetry.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
-#include "../access/transposed.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
 

@@ -1,8 +1,8 @@
 #include "vector_products.h"
 
+#include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/cellwise.h"
-#include "../access/operands.h"
 #include "../access/prepared_result.h"
 #include "../access/product.h"
 #include "../base/detail/numbers.h"
@@ -67,7 +67,7 @@ void V_ProductV1TrV2(matrix* a, int n, matrix* b, matrix* out)
 
 void V_ProductHorizV1V22(matrix* a, int* n, matrix* b, int m)
 {
-    const int length = timesCount(*n, m);
+    const int length = wrappingProduct(*n, m);
     matrix products(length, 1, 0.0);
     unsigned next = 0;
     for (int i = 0; i < *n; ++i)

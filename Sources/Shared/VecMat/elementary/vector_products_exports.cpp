@@ -38,7 +38,7 @@ void VB_V_ProductHorizV1V2(double* a, int n, double* b, int m, double* out)
 
 void VB_V_ProductHorizV1V22(double* a, int* n, double* b, int m)
 {
-    V_ProductHorizV1V22(viewed(a, timesCount(*n, m), 1), n, viewed(b, m, 1), m);
+    V_ProductHorizV1V22(viewed(a, wrappingProduct(*n, m), 1), n, viewed(b, m, 1), m);
 }
 
 double VB_V_Product1toNDbl(double* x, int n)

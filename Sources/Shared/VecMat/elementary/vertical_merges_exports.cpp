@@ -8,14 +8,14 @@ using namespace vecmat;
 
 void VB_VMergeVectorsDbl(double* a, int nA, double* b, int nB, double* out)
 {
-    TableHandle result = fresh(shifted(nA, nB), 1);
+    TableHandle result = fresh(wrappingSum(nA, nB), 1);
     VMergeVectors(viewed(a, nA, 1), nA, viewed(b, nB, 1), nB, result.reference());
     handBack(result, out);
 }
 
 void VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB)
 {
-    const TableHandle table = copied(a, shifted(nA, nB), 1, nA, 1);
+    const TableHandle table = copied(a, wrappingSum(nA, nB), 1, nA, 1);
     VMergeVectors2(table, nA, viewed(b, nB, 1), nB);
     handBack(table, a);
 }
@@ -24,35 +24,35 @@ void VB_VMergeVectorsStr(wchar_t** a, int nA, wchar_t** b, int nB, wchar_t** out
 {
     // The second table always has a row, but an array without elements is not read for it.
     const StringTableHandle second = nB > 0 ? copied(b, nB, 1) : freshStrings(1, 1);
-    StringTableHandle result = freshStrings(shifted(nA, nB), 1);
+    StringTableHandle result = freshStrings(wrappingSum(nA, nB), 1);
     VMergeVectors(copied(a, nA, 1), nA, second, nB, result.reference());
     handBack(result, out);
 }
 
 void VB_VMergeVectorsStr2(wchar_t** a, int nA, wchar_t** b, int nB)
 {
-    const StringTableHandle table = copied(a, shifted(nA, nB), 1, nA, 1);
+    const StringTableHandle table = copied(a, wrappingSum(nA, nB), 1, nA, 1);
     VMergeVectors2(table, nA, copied(b, nB, 1), nB);
     handBack(table, a);
 }
 
 void VB_VMergeVectorsBool2(short* a, int nA, short* b, int nB)
 {
-    const TableHandle table = copied(a, shifted(nA, nB), 1);
+    const TableHandle table = copied(a, wrappingSum(nA, nB), 1);
     VMergeVectorsBool2(table, nA, copied(b, nB, 1), nB);
     handBack(table, a);
 }
 
 void VB_VMergeTablesDbl(double* a, int r1, int c1, double* b, int r2, int c2, double* out)
 {
-    TableHandle result = fresh(shifted(r1, r2), std::max(c1, c2));
+    TableHandle result = fresh(wrappingSum(r1, r2), std::max(c1, c2));
     VMergeTables(viewed(a, r1, c1), r1, c1, viewed(b, r2, c2), r2, c2, result.reference());
     handBack(result, out);
 }
 
 void Cpp_VMergeTablesDblSPV(SAFEARRAY** a, int r1, int c1, double* b, int r2, int c2, double* out)
 {
-    TableHandle result = fresh(shifted(r1, r2), std::max(c1, c2));
+    TableHandle result = fresh(wrappingSum(r1, r2), std::max(c1, c2));
     VMergeTablesSPV(columns(a, c1, r1), r1, c1, viewed(b, r2, c2), r2, c2, result.reference());
     handBack(result, out);
 }

@@ -1,7 +1,7 @@
 #include "tolerance_check.h"
 
 #include "../access/cells.h"
-#include "../access/operands.h"
+#include "../access/packed_cells.h"
 #include "../base/missing_value.h"
 #include "../decompositions/sweep.h"
 

@@ -37,13 +37,13 @@ void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemo
 void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out)
 {
     M_InsertMissing(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
-                    viewed(out, vecmat::shifted(nRows, nInsert), nCols));
+                    viewed(out, vecmat::wrappingSum(nRows, nInsert), nCols));
 }
 
 void Cpp_M_InsertMissingLng(int* data, int nRows, int nCols, short* mask, int nInsert, int* out)
 {
     M_InsertMissingLng(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
-                       viewed(out, vecmat::shifted(nRows, nInsert), nCols));
+                       viewed(out, vecmat::wrappingSum(nRows, nInsert), nCols));
 }
 
 void Cpp_MatToVect_NoMissing(double* data, int nRows, int nCols, double* counts, double* emptyCols, double* out)

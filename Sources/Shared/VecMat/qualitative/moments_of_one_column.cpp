@@ -2,7 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
-#include "../descriptive/detail/running_moments.h"
+#include "../base/detail/running_moments.h"
 
 using namespace vecmat;
 

@@ -1,6 +1,7 @@
 #include "sort.h"
 
-#include "../access/transposed.h"
+#include "../access/adaptors.h"
+#include "../access/cells.h"
 #include "detail/column_moves.h"
 #include "detail/sort_by_key.h"
 #include "detail/stable_order.h"

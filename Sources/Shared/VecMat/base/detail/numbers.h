@@ -30,6 +30,29 @@ constexpr unsigned linearIndex(int i, int j, int nRows)
     return static_cast<unsigned>(i) + static_cast<unsigned>(j) * static_cast<unsigned>(nRows);
 }
 
+/// Sums, differences and products of numbers of rows or columns. They wrap: a nonsensical number then fails the table's
+/// bound check.
+constexpr int wrappingSum(int a, int b)
+{
+    return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
+}
+
+constexpr int wrappingDifference(int a, int b)
+{
+    return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
+}
+
+constexpr int wrappingProduct(int a, int b)
+{
+    return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+}
+
+/// How many numbers the range contains, both ends included; 0 if it ends before it starts.
+constexpr int countFromTo(int from, int to)
+{
+    return to < from ? 0 : static_cast<int>(static_cast<unsigned>(to) - static_cast<unsigned>(from) + 1u);
+}
+
 /// The callers' Boolean: -1 for true, 0 for false, never 1.
 constexpr short booleanOf(bool answer)
 {

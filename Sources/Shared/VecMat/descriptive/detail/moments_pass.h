@@ -2,26 +2,11 @@
 // `covariance_with_moments.h`. Internal to the library.
 #pragma once
 
-#include "../../access/operands.h"
+#include "../../access/packed_cells.h"
 #include "../../base/detail/companions.h"
 #include "covariance_pass.h"
 
 namespace vecmat {
-
-/// A packed result, by row and column: cells (i, j) and (j, i), from 0, are the same.
-class PackedResult
-{
-public:
-    explicit PackedResult(matrix* table) : cells_(linear(table)) {}
-
-    double get(int i, int j) const { return cells_.get(position(i, j)); }
-    void set(int i, int j, double value) const { cells_.set(position(i, j), value); }
-
-private:
-    static int position(int i, int j) { return static_cast<int>(static_cast<unsigned>(packedPosition(i, j))); }
-
-    VectorCells<matrix> cells_;
-};
 
 /// Where the moments of the columns are written.
 struct ColumnMoments

@@ -10,8 +10,8 @@
 #include "../../access/cells.h"
 #include "../../base/detail/companions.h"
 #include "../../base/detail/masks.h"
+#include "../../base/detail/running_moments.h"
 #include "column_strips.h"
-#include "running_moments.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 // Running means and variances of several columns by the vector kernels. Internal to the library.
 #pragma once
 
+#include "../../base/detail/running_moments.h"
 #include "../../kernels/moment_kernels.h"
 #include "row_block.h"
-#include "running_moments.h"
 
 #include <algorithm>
 #include <type_traits>

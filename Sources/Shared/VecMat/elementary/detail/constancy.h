@@ -2,7 +2,6 @@
 // arrays.
 #pragma once
 
-#include "../../access/cells.h"
 #include "../../base/missing_value.h"
 
 namespace vecmat {
@@ -42,19 +41,5 @@ bool presentCellsAgree(Vector x, int n)
             return false;
     return true;
 }
-
-/// One column of an accessor by row and column, as a vector.
-template <class Cells>
-class ColumnOf
-{
-public:
-    ColumnOf(Cells cells, int column) : cells_(cells), column_(column) {}
-
-    double get(int i) const { return cells_.get(i, column_); }
-
-private:
-    Cells cells_;
-    int column_;
-};
 
 } // namespace vecmat

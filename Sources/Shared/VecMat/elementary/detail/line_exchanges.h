@@ -1,7 +1,7 @@
 // Exchanges of two rows or columns of a block, over accessors.
 #pragma once
 
-#include "../../access/transposed.h"
+#include "../../access/adaptors.h"
 
 namespace vecmat {
 

@@ -1,7 +1,8 @@
 // The explanatory columns of a linear model, wherever they are stored. Internal to the library.
 #pragma once
 
-#include "../../access/operands.h"
+#include "../../access/adaptors.h"
+#include "../../access/cells.h"
 #include "../../base/detail/local_array.h"
 #include "../../frame/detail/handles.h"
 #include "../../matrix.h"

@@ -4,7 +4,7 @@
 // Variables are numbered from 0 here: the columns of the model, then the response.
 #pragma once
 
-#include "../../access/operands.h"
+#include "../../access/packed_cells.h"
 #include "../../frame/detail/handles.h"
 #include "model_columns.h"
 

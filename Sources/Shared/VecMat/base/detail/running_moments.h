@@ -5,8 +5,8 @@
 // three choices: the update rule, the effect of a weight of zero, and the test for a missing cell.
 #pragma once
 
-#include "../../base/detail/companions.h"
-#include "../../base/missing_value.h"
+#include "../missing_value.h"
+#include "companions.h"
 
 namespace vecmat {
 
