@@ -8,12 +8,14 @@
 // is stored; a write outside is dropped.
 #pragma once
 
+#include "../Smatrix.h"
 #include "../base/detail/numbers.h"
 #include "adaptors.h"
 #include "cells.h"
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 
 namespace vecmat {
 

@@ -1,6 +1,7 @@
 // Results that depend on one cell of each operand.
 #pragma once
 
+#include "../base/missing_value.h"
 #include "cells.h"
 #include "product.h"
 

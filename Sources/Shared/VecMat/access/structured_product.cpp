@@ -1,5 +1,6 @@
 #include "structured_product.h"
 
+#include "../base/detail/numbers.h"
 #include "../matrix.h"
 #include "adaptors.h"
 #include "cells.h"

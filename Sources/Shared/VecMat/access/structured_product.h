@@ -1,6 +1,7 @@
 // Products that detect structure in their operands, to skip work.
 #pragma once
 
+#include "cells.h"
 #include "product.h"
 
 #include <memory>

@@ -2,8 +2,11 @@
 // `product.h`, which is still used for small products and wherever the order of the results is observable.
 #pragma once
 
+#include "../base/detail/numbers.h"
 #include "../base/detail/scratch.h"
+#include "../base/missing_value.h"
 #include "../kernels/tile_kernels.h"
+#include "cells.h"
 #include "overlap.h"
 #include "product.h"
 

@@ -2,11 +2,15 @@
 
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
+#include "../base/detail/scratch.h"
 #include "../elementary/detail/line_exchanges.h"
 #include "../frame/detail/handles.h"
+#include "../kernels/substitution_kernels.h"
 #include "detail/cholesky_strips.h"
 #include "detail/retained_block.h"
 
+#include <cstddef>
 #include <optional>
 #include <utility>
 #include <vector>

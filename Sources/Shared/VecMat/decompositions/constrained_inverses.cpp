@@ -1,6 +1,7 @@
 #include "constrained_inverses.h"
 
 #include "../base/missing_value.h"
+#include "../frame/detail/handles.h"
 #include "detail/retained_block.h"
 #include "determinants.h"
 #include "g2_inverse.h"

@@ -1,6 +1,7 @@
 #include "correlation_order.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../descriptive/moments.h"
 #include "../elementary/extremes.h"
 #include "../elementary/transposition.h"

@@ -3,6 +3,7 @@
 #include "../base/detail/companions.h"
 #include "../base/detail/mathematics/mathematics.h"
 #include "../base/missing_value.h"
+#include "detail/crout.h"
 #include "detail/lu_factors.h"
 
 #include <optional>

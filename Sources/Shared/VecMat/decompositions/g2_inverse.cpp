@@ -1,6 +1,7 @@
 #include "g2_inverse.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../sorting/copy_block.h"
 
 #include <cmath>

@@ -1,6 +1,8 @@
 #include "inversion.h"
 
+#include "../access/cells.h"
 #include "../base/missing_value.h"
+#include "detail/crout.h"
 #include "detail/crout_panels.h"
 #include "detail/triangular_inverse.h"
 #include "detail/unit_solutions.h"

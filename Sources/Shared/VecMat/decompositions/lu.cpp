@@ -1,5 +1,6 @@
 #include "lu.h"
 
+#include "detail/crout.h"
 #include "detail/crout_panels.h"
 #include "detail/lu_factors.h"
 

@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../access/overlap.h"
 #include "../frame/detail/handles.h"
+#include "detail/strided_vector.h"
 #include "detail/svd_iteration.h"
 #include "detail/svd_workspace.h"
 

@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../access/packed_cells.h"
 #include "../base/detail/local_array.h"
+#include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
 #include "../kernels/update_kernels.h"
 

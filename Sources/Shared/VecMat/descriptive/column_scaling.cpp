@@ -1,6 +1,8 @@
 #include "column_scaling.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../frame/detail/handles.h"
 #include "moments.h"
 

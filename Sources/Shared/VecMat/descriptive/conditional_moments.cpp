@@ -2,6 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/running_moments.h"
+#include "../base/missing_value.h"
 
 using namespace vecmat;
 

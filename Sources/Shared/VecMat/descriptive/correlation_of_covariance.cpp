@@ -1,5 +1,6 @@
 #include "correlation_of_covariance.h"
 
+#include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "detail/pair_pass.h"
 

@@ -5,6 +5,7 @@
 #include "../base/detail/local_array.h"
 #include "../base/detail/numbers.h"
 #include "detail/covariance_pass.h"
+#include "detail/pair_pass.h"
 
 #include <memory>
 

@@ -1,8 +1,13 @@
 #include "covariance_with_moments.h"
 
+#include "../access/cells.h"
+#include "../access/packed_cells.h"
 #include "../base/detail/companions.h"
+#include "../base/detail/masks.h"
+#include "../base/missing_value.h"
 #include "../elementary/packed_storage.h"
 #include "detail/moments_pass.h"
+#include "detail/pair_pass.h"
 
 using namespace vecmat;
 

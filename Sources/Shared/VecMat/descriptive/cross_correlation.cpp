@@ -1,5 +1,6 @@
 #include "cross_correlation.h"
 
+#include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "detail/pair_pass.h"
 

@@ -1,6 +1,7 @@
 #include "forecast_errors.h"
 
 #include "../access/cells.h"
+#include "../base/missing_value.h"
 #include "means.h"
 
 #include <cmath>

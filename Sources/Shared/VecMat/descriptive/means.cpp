@@ -4,6 +4,7 @@
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
 #include "../base/detail/mathematics/mathematics.h"
+#include "../base/detail/running_moments.h"
 #include "detail/side_by_side_moments.h"
 
 #include <cmath>

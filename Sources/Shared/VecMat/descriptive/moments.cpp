@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/running_moments.h"
 #include "detail/side_by_side_moments.h"
 
 #include <memory>

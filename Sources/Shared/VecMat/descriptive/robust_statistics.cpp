@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
 #include "../base/detail/running_moments.h"
+#include "../base/missing_value.h"
 #include "../elementary/predicates.h"
 #include "quantiles.h"
 

@@ -3,10 +3,13 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
 #include "../base/detail/running_moments.h"
+#include "../base/missing_value.h"
 #include "../frame/detail/handles.h"
 
 #include <cmath>
+#include <cstddef>
 #include <memory>
 
 using namespace vecmat;

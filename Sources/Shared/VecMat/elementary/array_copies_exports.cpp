@@ -1,6 +1,8 @@
 #include "array_copies.h"
 
+#include "../Smatrix.h"
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 
 #include <algorithm>

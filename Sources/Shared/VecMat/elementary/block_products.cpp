@@ -3,6 +3,7 @@
 #include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/prepared_result.h"
+#include "../access/product.h"
 #include "../access/structured_product.h"
 #include "../access/tiled_product.h"
 #include "../base/detail/numbers.h"

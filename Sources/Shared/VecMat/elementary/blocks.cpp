@@ -1,6 +1,7 @@
 #include "blocks.h"
 
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 
 using vecmat::copyCells;
 using vecmat::countFromTo;

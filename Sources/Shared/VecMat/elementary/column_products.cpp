@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../access/cellwise.h"
 #include "../access/prepared_result.h"
+#include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
 
 #include <functional>

@@ -1,6 +1,7 @@
 #include "column_products.h"
 
 #include "../access/prepared_result.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 
 using namespace vecmat;

@@ -1,6 +1,8 @@
 #include "columns_and_rows.h"
 
 #include "../access/block_copy.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 using vecmat::copyCells;
 using vecmat::window;

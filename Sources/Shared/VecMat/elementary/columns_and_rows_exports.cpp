@@ -1,4 +1,5 @@
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "columns_and_rows.h"
 

@@ -1,6 +1,7 @@
 #include "conditional_aggregates.h"
 
 #include "../access/cells.h"
+#include "../base/missing_value.h"
 
 using namespace vecmat;
 

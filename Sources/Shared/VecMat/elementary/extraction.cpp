@@ -1,6 +1,8 @@
 #include "extraction.h"
 
 #include "../access/block_copy.h"
+#include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 #include <cstdint>
 

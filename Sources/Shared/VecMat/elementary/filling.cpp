@@ -1,6 +1,7 @@
 #include "filling.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 #include <algorithm>
 #include <numeric>

@@ -1,6 +1,7 @@
 #include "horizontal_merges.h"
 
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 
 #include <algorithm>
 

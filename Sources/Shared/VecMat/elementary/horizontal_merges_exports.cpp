@@ -1,4 +1,5 @@
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "horizontal_merges.h"
 

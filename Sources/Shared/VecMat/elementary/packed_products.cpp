@@ -3,6 +3,7 @@
 #include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../access/packed_cells.h"
+#include "../access/product.h"
 #include "../access/tiled_product.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/numbers.h"

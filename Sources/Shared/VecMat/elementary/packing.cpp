@@ -1,6 +1,8 @@
 #include "packing.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 using vecmat::block;
 using vecmat::cells;

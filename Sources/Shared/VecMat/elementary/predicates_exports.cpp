@@ -2,6 +2,8 @@
 
 #include "../access/adaptors.h"
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../frame/detail/handles.h"
 #include "detail/constancy.h"
 

@@ -2,6 +2,7 @@
 
 #include "../access/block_copy.h"
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"

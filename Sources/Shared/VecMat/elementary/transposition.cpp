@@ -1,6 +1,7 @@
 #include "transposition.h"
 
 #include "../access/block_copy.h"
+#include "../access/cells.h"
 
 #include <algorithm>
 

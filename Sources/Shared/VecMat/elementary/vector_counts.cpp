@@ -1,6 +1,7 @@
 #include "vector_counts.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/missing_value.h"
 
 #include <algorithm>
 

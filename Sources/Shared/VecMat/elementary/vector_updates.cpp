@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/masks.h"
+#include "../base/missing_value.h"
 #include "vector_sums.h"
 
 using namespace vecmat;

@@ -4,6 +4,8 @@
 #include "../access/prepared_result.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/mathematics/mathematics.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../elementary/scalar_arithmetic.h"
 #include "../elementary/sums_and_norms.h"
 #include "../frame/detail/handles.h"

@@ -1,9 +1,12 @@
 #include "least_squares.h"
 
+#include "../base/detail/numbers.h"
 #include "../descriptive/covariance_with_moments.h"
 #include "../descriptive/moments.h"
 #include "../elementary/horizontal_merges.h"
 #include "../elementary/vector_sums.h"
+#include "../frame/detail/handles.h"
+#include "detail/model_columns.h"
 #include "detail/regression.h"
 
 #include <vector>

@@ -1,12 +1,17 @@
 #include "least_squares_blocks.h"
 
+#include "../access/packed_cells.h"
+#include "../base/detail/numbers.h"
 #include "../descriptive/covariance_with_moments.h"
 #include "../descriptive/cross_correlation.h"
 #include "../descriptive/moments.h"
 #include "../elementary/horizontal_merges.h"
 #include "../elementary/vector_sums.h"
+#include "../frame/detail/handles.h"
+#include "detail/model_columns.h"
 #include "detail/regression.h"
 
+#include <cstddef>
 #include <vector>
 
 using namespace vecmat;

@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
 #include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../kernels/regression_kernels.h"
 
 #include <algorithm>

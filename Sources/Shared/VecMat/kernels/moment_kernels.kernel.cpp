@@ -1,6 +1,7 @@
 #include "moment_kernels.h"
 
 #include "../base/missing_value.h"
+#include "lanes.h"
 #include "quotients.h"
 #include "tile_shape.h"
 

@@ -1,5 +1,6 @@
 #include "tile_kernels.h"
 
+#include "lanes.h"
 #include "tile_shape.h"
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {

@@ -3,8 +3,11 @@
 #include "../access/block_copy.h"
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 #include <limits>
+#include <string>
 
 using vecmat::block;
 using vecmat::cells;

@@ -1,6 +1,7 @@
 #include "complete_rows.h"
 
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/array_copies.h"
 #include "../frame/detail/handles.h"
 

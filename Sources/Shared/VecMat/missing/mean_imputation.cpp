@@ -3,6 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../descriptive/means.h"
 #include "../frame/detail/handles.h"
 

@@ -2,7 +2,9 @@
 
 #include "../access/cells.h"
 #include "../access/prepared_result.h"
+#include "../access/product.h"
 #include "../access/tiled_product.h"
+#include "../base/missing_value.h"
 
 using vecmat::block;
 using vecmat::cells;

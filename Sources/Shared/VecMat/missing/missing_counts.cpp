@@ -1,6 +1,8 @@
 #include "missing_counts.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../kernels/missing_kernels.h"
 
 #include <algorithm>

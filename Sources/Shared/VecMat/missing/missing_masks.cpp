@@ -2,6 +2,8 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 using vecmat::block;
 using vecmat::booleanOf;

@@ -2,7 +2,11 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 #include "../frame/detail/handles.h"
+
+#include <string>
 
 using vecmat::booleanOf;
 using vecmat::cells;

@@ -1,6 +1,7 @@
 #include "nearest_neighbour.h"
 
 #include "../access/cells.h"
+#include "../base/detail/masks.h"
 #include "../descriptive/moments.h"
 #include "../frame/detail/handles.h"
 #include "../qualitative/categories.h"

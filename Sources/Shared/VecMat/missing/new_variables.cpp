@@ -2,6 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
 
 #include <cmath>
 #include <cstddef>

@@ -1,6 +1,7 @@
 #include "replacement.h"
 
 #include "../access/cells.h"
+#include "../base/missing_value.h"
 
 using vecmat::block;
 using vecmat::cells;

@@ -1,6 +1,7 @@
 #include "categories.h"
 
 #include "../access/cells.h"
+#include "../elementary/detail/text_table.h"
 #include "detail/category_lists.h"
 #include "detail/category_order.h"
 

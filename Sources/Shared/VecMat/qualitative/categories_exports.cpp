@@ -3,6 +3,7 @@
 #include "detail/category_lists.h"
 
 #include <algorithm>
+#include <string>
 
 using namespace vecmat;
 

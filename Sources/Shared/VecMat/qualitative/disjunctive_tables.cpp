@@ -2,11 +2,13 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/detail/text_table.h"
 #include "detail/category_lists.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <string_view>
 #include <utility>
 #include <vector>

@@ -1,6 +1,7 @@
 #include "group_by.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../descriptive/means.h"
 #include "../descriptive/quantiles.h"
 #include "../elementary/extremes.h"

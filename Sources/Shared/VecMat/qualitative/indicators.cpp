@@ -1,6 +1,7 @@
 #include "indicators.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/predicates.h"
 #include "../elementary/vector_sums.h"
 

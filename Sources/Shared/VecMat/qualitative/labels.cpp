@@ -4,6 +4,7 @@
 #include "../elementary/detail/text_table.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>

@@ -1,9 +1,14 @@
 #include "modes.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
+#include "../base/missing_value.h"
+#include "../elementary/detail/text_table.h"
 #include "detail/category_lists.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
 using namespace vecmat;

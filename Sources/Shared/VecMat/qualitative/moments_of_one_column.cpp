@@ -2,6 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/companions.h"
+#include "../base/detail/numbers.h"
 #include "../base/detail/running_moments.h"
 
 using namespace vecmat;

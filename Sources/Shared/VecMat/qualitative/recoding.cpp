@@ -2,9 +2,12 @@
 
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
+#include "../base/missing_value.h"
+#include "../elementary/detail/text_table.h"
 #include "detail/category_lists.h"
 
 #include <cmath>
+#include <string_view>
 
 using namespace vecmat;
 

@@ -7,6 +7,8 @@
 #include "../matrix.h"
 #include "../sorting/sort.h"
 
+#include <cstddef>
+
 namespace {
 
 using namespace vecmat;

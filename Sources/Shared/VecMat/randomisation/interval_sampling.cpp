@@ -1,6 +1,7 @@
 #include "interval_sampling.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "detail/random_series.h"
 #include "detail/sampled_rows.h"

@@ -1,6 +1,7 @@
 #include "permutations.h"
 
 #include "../access/cells.h"
+#include "../base/detail/checked_cells.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"

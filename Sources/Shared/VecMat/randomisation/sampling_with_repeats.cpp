@@ -2,7 +2,9 @@
 
 #include "../access/cells.h"
 #include "../base/detail/memory_ranges.h"
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
+#include "../sorting/sort.h"
 #include "detail/sampled_rows.h"
 #include "permutations.h"
 

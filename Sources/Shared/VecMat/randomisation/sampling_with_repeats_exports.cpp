@@ -1,5 +1,6 @@
 #include "../base/detail/numbers.h"
 #include "../elementary/vector_sums.h"
+#include "../frame/detail/handles.h"
 #include "detail/sampling_call.h"
 #include "sampling_with_repeats.h"
 

@@ -1,6 +1,7 @@
 #include "stratified_sampling.h"
 
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/blocks.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"

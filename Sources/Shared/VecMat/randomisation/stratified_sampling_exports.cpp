@@ -1,3 +1,4 @@
+#include "../frame/detail/handles.h"
 #include "detail/sampling_call.h"
 #include "stratified_sampling.h"
 

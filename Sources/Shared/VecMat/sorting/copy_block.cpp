@@ -1,6 +1,7 @@
 #include "copy_block.h"
 
 #include "../access/block_copy.h"
+#include "../base/detail/numbers.h"
 
 namespace {
 

@@ -4,11 +4,13 @@
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "detail/key_order.h"
 #include "detail/stable_order.h"
 #include "sort.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <memory>
 #include <vector>
 

@@ -2,7 +2,9 @@
 
 #include "../access/adaptors.h"
 #include "../access/cells.h"
+#include "../base/detail/numbers.h"
 #include "detail/column_moves.h"
+#include "detail/digit_passes.h"
 #include "detail/sort_by_key.h"
 #include "detail/stable_order.h"
 

@@ -3,8 +3,12 @@
 #include "../access/cells.h"
 #include "../base/detail/memory_ranges.h"
 #include "../base/detail/numbers.h"
+#include "../base/detail/scratch.h"
 #include "copy_block.h"
 #include "detail/column_moves.h"
+#include "detail/key_order.h"
+
+#include <string>
 
 namespace {
 

@@ -1,8 +1,12 @@
 #include "sort.h"
 
+#include "../access/cells.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/in_place.h"
+#include "detail/column_moves.h"
+#include "detail/digit_passes.h"
 #include "detail/sort_by_key.h"
+#include "detail/stable_order.h"
 
 #include <cstddef>
 #include <type_traits>

@@ -5,6 +5,7 @@
 #include "../../access/overlap.h"
 #include "../../access/tiled_product.h"
 #include "../../base/detail/companions.h"
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/scratch.h"
 #include "../../base/missing_value.h"
 #include "../../kernels/substitution_kernels.h"

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "../../access/cells.h"
+#include "../../base/detail/numbers.h"
 #include "../../elementary/detail/line_exchanges.h"
 
 #include <cmath>

@@ -2,6 +2,7 @@
 // in `crout.h`, which is still used for small tables and wherever the order of the columns is observable.
 #pragma once
 
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/scratch.h"
 #include "../../kernels/substitution_kernels.h"
 #include "../../kernels/tile_kernels.h"

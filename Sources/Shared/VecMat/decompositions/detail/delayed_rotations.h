@@ -1,6 +1,9 @@
 // Rotations of the columns of a workspace, carried out some time after they are requested.
 #pragma once
 
+#include "../../base/detail/numbers.h"
+#include "../../base/detail/scratch.h"
+#include "../../kernels/column_kernels.h"
 #include "column_workspace.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "../../access/cells.h"
+#include "../../base/detail/numbers.h"
 #include "../../frame/detail/handles.h"
 
 #include <vector>

@@ -4,7 +4,9 @@
 #pragma once
 
 #include "../../access/cells.h"
+#include "../../base/detail/checked_cells.h"
 #include "../../base/detail/companions.h"
+#include "../../base/detail/numbers.h"
 
 #include <cmath>
 #include <cstddef>

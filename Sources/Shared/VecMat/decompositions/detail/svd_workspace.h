@@ -2,8 +2,12 @@
 // over the tables, and the same bits.
 #pragma once
 
+#include "../../base/detail/numbers.h"
+#include "../../base/detail/scratch.h"
+#include "../../kernels/column_kernels.h"
 #include "column_workspace.h"
 #include "delayed_rotations.h"
+#include "strided_vector.h"
 #include "svd_iteration.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "../../access/cells.h"
+#include "../../kernels/column_kernels.h"
 #include "column_workspace.h"
 #include "delayed_rotations.h"
 #include "symmetric_ql.h"

@@ -3,6 +3,7 @@
 
 #include "../../access/overlap.h"
 #include "../../access/tiled_product.h"
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/scratch.h"
 #include "../../kernels/substitution_kernels.h"
 

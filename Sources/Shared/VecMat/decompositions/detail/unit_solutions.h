@@ -2,6 +2,7 @@
 // Flannery, Teukolsky, Vetterling: Numerical Recipes, 1st edition).
 #pragma once
 
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/scratch.h"
 #include "../../kernels/substitution_kernels.h"
 #include "crout.h"

@@ -5,10 +5,17 @@
 // deviations, each result the same sum in the same order as for its pair alone.
 #pragma once
 
+#include "../../base/detail/masks.h"
+#include "../../base/detail/numbers.h"
+#include "../../base/detail/scratch.h"
+#include "../../base/missing_value.h"
+#include "../../kernels/moment_kernels.h"
+#include "../../kernels/tile_kernels.h"
 #include "column_panels.h"
 #include "pair_pass.h"
 #include "row_block.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 

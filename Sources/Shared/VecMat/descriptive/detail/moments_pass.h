@@ -2,9 +2,11 @@
 // `covariance_with_moments.h`. Internal to the library.
 #pragma once
 
+#include "../../access/cells.h"
 #include "../../access/packed_cells.h"
 #include "../../base/detail/companions.h"
 #include "covariance_pass.h"
+#include "pair_pass.h"
 
 namespace vecmat {
 

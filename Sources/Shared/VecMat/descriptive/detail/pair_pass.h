@@ -10,7 +10,10 @@
 #include "../../access/cells.h"
 #include "../../base/detail/companions.h"
 #include "../../base/detail/masks.h"
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/running_moments.h"
+#include "../../base/detail/scratch.h"
+#include "../../kernels/pair_kernels.h"
 #include "column_strips.h"
 
 #include <algorithm>

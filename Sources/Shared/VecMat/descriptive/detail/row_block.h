@@ -4,6 +4,7 @@
 #include "../../base/detail/numbers.h"
 
 #include <array>
+#include <cstddef>
 
 namespace vecmat {
 

@@ -1,5 +1,9 @@
 #include "model_columns.h"
 
+#include "../../base/detail/numbers.h"
+
+#include <cstddef>
+
 namespace vecmat {
 
 std::optional<PlainModelCells> PlainModelCells::of(const ModelColumns& columns, int n)

@@ -4,9 +4,11 @@
 #include "../../access/adaptors.h"
 #include "../../access/cells.h"
 #include "../../base/detail/local_array.h"
+#include "../../base/detail/numbers.h"
 #include "../../frame/detail/handles.h"
 #include "../../matrix.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 

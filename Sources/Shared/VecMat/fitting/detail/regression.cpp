@@ -1,10 +1,13 @@
 #include "regression.h"
 
+#include "../../access/cells.h"
 #include "../../base/detail/companions.h"
+#include "../../base/detail/numbers.h"
 #include "../../base/missing_value.h"
 #include "../../decompositions/sweep.h"
 #include "../../descriptive/detail/column_panels.h"
 #include "../../descriptive/detail/moments_pass.h"
+#include "../../kernels/tile_kernels.h"
 #include "../../kernels/update_kernels.h"
 #include "../tolerance_check.h"
 

@@ -3,10 +3,12 @@
 // In a table of categories row j is the list of variable j, and its places are the columns. Places are 0-based here.
 #pragma once
 
+#include "../../Smatrix.h"
 #include "../../access/cells.h"
 #include "../../elementary/detail/text_table.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <limits>
 #include <string_view>
 #include <vector>

@@ -1,8 +1,10 @@
 #include "category_order.h"
 
+#include "../../access/cells.h"
 #include "../../base/detail/companions.h"
 #include "category_lists.h"
 
+#include <cstddef>
 #include <optional>
 #include <set>
 #include <string>

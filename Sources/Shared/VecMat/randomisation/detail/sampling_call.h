@@ -1,7 +1,9 @@
 // Common frame of the calls of the sampling designs.
 #pragma once
 
+#include "../../Smatrix.h"
 #include "../../frame/detail/handles.h"
+#include "../../frame/super_matrices.h"
 
 namespace vecmat {
 

@@ -7,12 +7,15 @@
 
 #include "../../access/overlap.h"
 #include "../../base/detail/memory_ranges.h"
+#include "../../base/detail/numbers.h"
 #include "../../base/detail/scratch.h"
+#include "digit_passes.h"
 #include "key_order.h"
 #include "stable_order.h"
 
 #include <cstddef>
 #include <cstring>
+#include <type_traits>
 #include <utility>
 
 namespace vecmat {

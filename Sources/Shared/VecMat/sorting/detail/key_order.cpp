@@ -1,6 +1,7 @@
 #include "key_order.h"
 
 #include "../../base/detail/scratch.h"
+#include "../../base/missing_value.h"
 
 #include <algorithm>
 #include <numeric>

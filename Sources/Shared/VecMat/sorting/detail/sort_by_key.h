@@ -1,9 +1,15 @@
 // Sorts of rows by a vector of keys, and of the elements of a vector.
 #pragma once
 
+#include "../../access/cells.h"
+#include "../../base/detail/numbers.h"
 #include "column_moves.h"
+#include "digit_passes.h"
+#include "key_order.h"
 #include "stable_order.h"
 
+#include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace vecmat {

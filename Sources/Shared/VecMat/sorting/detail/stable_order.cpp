@@ -1,6 +1,7 @@
 #include "stable_order.h"
 
 #include "../../base/detail/scratch.h"
+#include "digit_passes.h"
 
 #include <cstdint>
 #include <memory>

@@ -16,6 +16,7 @@
 
 #include "../../access/cells.h"
 #include "../../base/detail/numbers.h"
+#include "digit_passes.h"
 #include "key_order.h"
 
 #include <algorithm>
