@@ -72,6 +72,10 @@ class Includes(unittest.TestCase):
     def test_an_include_that_a_header_brings_along_does_not_count(self):
         self.assert_finds("int f(double* x) { return V_Sum(x, 1); }\n", "V_Sum", first='#include "sums_exports.h"\n')
 
+    def test_a_source_whose_own_header_is_not_the_first(self):
+        files = FILES | {"elementary/sums_exports.cpp": '#include "../base/detail/all.h"\n' + FILES["elementary/sums_exports.cpp"]}
+        self.assertEqual(includes.check(files), ["elementary/sums_exports.cpp: elementary/sums.h first, which then stands alone"])
+
     def test_members_variables_parameters_and_templates_of_the_same_name(self):
         self.assert_silent("int f(const T& x) { return x.truncated(1.0); }\n")
         self.assert_silent("int f(int (*truncated)(double)) { return 1; }\n")

@@ -3,7 +3,8 @@
 
 A name that a header of the library declares, and a name of the standard library that the table below has, is used only
 where a header that declares it is included: by the file itself, or by its own header, as `sums.h` is that of `sums.cpp`
-and of `sums_exports.cpp`. What a header happens to bring along does not count. Exit status 1 where a header is missing.
+and of `sums_exports.cpp`. What a header happens to bring along does not count. A source includes its own header first.
+Exit status 1 where that is not so.
 """
 
 import re
@@ -95,6 +96,9 @@ def check(files):
         own = own_header(path, files)
         direct = included[path] | (included[own] if own else set()) | {path}
         headers = system[path] | (system[own] if own else set())
+        first = next((include.target for include in read_includes({path: text})), None)
+        if own and own != "matrix.h" and first != own:
+            wrong.append(f"{path}: {own} first, which then stands alone")
         code = re.sub(r"^\s*#\s*include.*$", "", code_of(text), flags=re.M)
         local = declared_names(text) | set(re.findall(r"^class (\w+);", code, flags=re.M))
         for name in sorted(set(re.findall(r"(?<![\w.>:])(?:vecmat::|::)?([A-Za-z_]\w*)\b", code))):

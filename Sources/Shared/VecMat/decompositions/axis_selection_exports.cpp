@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "axis_selection.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -6,8 +6,7 @@ using namespace vecmat;
 
 int VB_M_CholDecomp(double* a, int n, double* l)
 {
-    auto factor = viewed(l, n, n);
-    return M_CholDecomp(copied(a, n, n), n, factor.reference());
+    return M_CholDecomp(copied(a, n, n), n, viewed(l, n, n).reference());
 }
 
 int VB_M_CholDecompPrinc(double* a, int n, double* l, int* perm, short keep)

@@ -6,14 +6,13 @@ using namespace vecmat;
 
 int CleanConstraintsAndInvert(int n, int* constraints, double* a, double* out)
 {
-    auto result = viewed(out, n, n);
-    return cCleanConstraintsAndInvert(n, viewed(constraints, n, 1), viewed(a, n, n), result.reference());
+    return cCleanConstraintsAndInvert(n, viewed(constraints, n, 1), viewed(a, n, n), viewed(out, n, n).reference());
 }
 
 int CleanConstraintsAndInvertTriang(int n, int* constraints, double* a, short lower, double* out)
 {
-    auto result = viewed(out, n, n);
-    return cCleanConstraintsAndInvertTriang(n, viewed(constraints, n, 1), viewed(a, n, n), lower, result.reference());
+    return cCleanConstraintsAndInvertTriang(n, viewed(constraints, n, 1), viewed(a, n, n), lower,
+                                            viewed(out, n, n).reference());
 }
 
 double VB_M_DeterminantCleaned(double* a, int n, int* constraints, short* status)

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "eigen.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -6,8 +6,7 @@ using namespace vecmat;
 
 void VB_M_ProductTrAinvBA(double* a, int rows, int cols, double* b, double* out)
 {
-    auto result = viewed(out, cols, cols);
-    M_ProductTrAinvBA(viewed(a, rows, cols), rows, cols, viewed(b, rows, rows), result.reference());
+    M_ProductTrAinvBA(viewed(a, rows, cols), rows, cols, viewed(b, rows, rows), viewed(out, cols, cols).reference());
 }
 
 double VB_M_ProductTrVinvBV(double* v, int n, double* b)
@@ -17,6 +16,5 @@ double VB_M_ProductTrVinvBV(double* v, int n, double* b)
 
 void VB_M_ProductAinvBTrA(double* a, int rows, int cols, double* b, double* out)
 {
-    auto result = viewed(out, rows, rows);
-    M_ProductAinvBTrA(viewed(a, rows, cols), rows, cols, viewed(b, cols, cols), result.reference());
+    M_ProductAinvBTrA(viewed(a, rows, cols), rows, cols, viewed(b, cols, cols), viewed(out, rows, rows).reference());
 }

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "nearest_correlation.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "singular_values.h"
+
+#include "../frame/detail/handles.h"
 
 #include <algorithm>
 

@@ -6,6 +6,5 @@ using namespace vecmat;
 
 int Cpp_M_SquareRoot(double* a, int n, double* out)
 {
-    auto root = viewed(out, n, n);
-    return M_SquareRoot(viewed(a, n, n), n, root.reference());
+    return M_SquareRoot(viewed(a, n, n), n, viewed(out, n, n).reference());
 }

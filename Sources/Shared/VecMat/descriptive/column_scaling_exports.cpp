@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "column_scaling.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 
@@ -19,8 +20,7 @@ void VB_M_CenterW(double* X, int n, int p, double* w, double* Z)
 
 void VB_M_Center2(double* X, int n, int p)
 {
-    auto table = viewed(X, n, p);
-    M_Center2(table.reference(), n, p);
+    M_Center2(viewed(X, n, p).reference(), n, p);
 }
 
 void VB_M_Center2SPV(SAFEARRAY** X, int n, int p)
@@ -30,8 +30,7 @@ void VB_M_Center2SPV(SAFEARRAY** X, int n, int p)
 
 void VB_M_CenterW2(double* X, int n, int p, double* w)
 {
-    auto table = viewed(X, n, p);
-    M_CenterW2(table.reference(), n, p, viewed(w, n, 1));
+    M_CenterW2(viewed(X, n, p).reference(), n, p, viewed(w, n, 1));
 }
 
 void VB_M_Reduce(double* X, int n, int p, double* Z, short sample, short freqWeights)
@@ -50,20 +49,17 @@ void VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample, s
 
 void VB_M_Reduce2(double* X, int n, int p, short sample)
 {
-    auto table = viewed(X, n, p);
-    M_Reduce2(table.reference(), n, p, sample);
+    M_Reduce2(viewed(X, n, p).reference(), n, p, sample);
 }
 
 void VB_M_ReduceW2(double* X, int n, int p, double* w, short sample, short freqWeights)
 {
-    auto table = viewed(X, n, p);
-    M_ReduceW2(table.reference(), n, p, viewed(w, n, 1), sample, freqWeights);
+    M_ReduceW2(viewed(X, n, p).reference(), n, p, viewed(w, n, 1), sample, freqWeights);
 }
 
 void VB_M_Standardize2(double* X, int n, int p, short sample)
 {
-    auto table = viewed(X, n, p);
-    M_Standardize2(table.reference(), n, p, sample);
+    M_Standardize2(viewed(X, n, p).reference(), n, p, sample);
 }
 
 void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample)
@@ -73,28 +69,25 @@ void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample)
 
 void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, short sample, short freqWeights)
 {
-    auto table = viewed(X, n, p);
     TableHandle means = fresh(p, 1);
     TableHandle deviations = fresh(p, 1);
-    M_Standardize3(table.reference(), n, p, means.reference(), deviations.reference(), sample, freqWeights);
+    M_Standardize3(viewed(X, n, p).reference(), n, p, means.reference(), deviations.reference(), sample, freqWeights);
     handBack(means, mean);
     handBack(deviations, stdev);
 }
 
 void VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample, short freqWeights)
 {
-    auto table = viewed(X, n, p);
-    M_StandardizeW2(table.reference(), n, p, viewed(w, n, 1), sample, freqWeights);
+    M_StandardizeW2(viewed(X, n, p).reference(), n, p, viewed(w, n, 1), sample, freqWeights);
 }
 
 void VB_M_StandardizeW3(double* X, int n, int p, double* w, double* mean, double* stdev, short sample,
                         short freqWeights)
 {
-    auto table = viewed(X, n, p);
     TableHandle means = fresh(p, 1);
     TableHandle deviations = fresh(p, 1);
-    M_StandardizeW3(table.reference(), n, p, viewed(w, n, 1), means.reference(), deviations.reference(), sample,
-                    freqWeights);
+    M_StandardizeW3(viewed(X, n, p).reference(), n, p, viewed(w, n, 1), means.reference(), deviations.reference(),
+                    sample, freqWeights);
     handBack(means, mean);
     handBack(deviations, stdev);
 }

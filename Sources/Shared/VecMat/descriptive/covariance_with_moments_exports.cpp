@@ -14,12 +14,9 @@ int covCorrAndMoments(Computing computing, double* X, int n, int p, View<matrix>
                       short reduce)
 {
     TableHandle data = copied(X, n, p);
-    auto means = viewed(mean, p, 1);
-    auto deviations = viewed(stdev, p, 1);
-    auto variances = viewed(var, p, 1);
-    const int status =
-        computing(data.reference(), n, p, C.reference(), means.reference(), deviations.reference(),
-                  variances.reference(), corr, mask, viewed(w, n, 1), sample, freqWeights, center, reduce, 0);
+    const int status = computing(data.reference(), n, p, C.reference(), viewed(mean, p, 1).reference(),
+                                 viewed(stdev, p, 1).reference(), viewed(var, p, 1).reference(), corr, mask,
+                                 viewed(w, n, 1), sample, freqWeights, center, reduce, 0);
     if (center == -1 || reduce == -1)
         handBack(data, X);
     return status;

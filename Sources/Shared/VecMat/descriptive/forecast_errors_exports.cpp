@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "forecast_errors.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

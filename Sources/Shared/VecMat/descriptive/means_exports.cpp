@@ -35,8 +35,7 @@ void Cpp_V_GMeanGSD(double* v, int n, short* mask, double* w, double* gmean, dou
 
 int VB_M_Mean(double* X, int n, int p, double* mean, int /*ignored*/, double* w)
 {
-    auto result = viewed(mean, p, 1);
-    return M_Mean(viewed(X, n, p), n, p, result.reference(), viewed(w, n, 1));
+    return M_Mean(viewed(X, n, p), n, p, viewed(mean, p, 1).reference(), viewed(w, n, 1));
 }
 
 int Cpp_M_Mean2(double* X, int n, int p, double* w, double* mean)

@@ -1,13 +1,11 @@
 #include "moments.h"
 
-#include "../base/detail/companions.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 
 #include <vector>
 
 using vecmat::countOf;
-using vecmat::squareRoot;
 using vecmat::TableHandle;
 using vecmat::viewed;
 
@@ -29,8 +27,7 @@ double Cpp_V_Var2(double* v, int n, short sample, short freqWeights)
 
 double VB_V_Stdev(double* v, int n, short* mask, double* w, short sample, short freqWeights)
 {
-    const double variance = V_Var(viewed(v, n, 1), n, mask, viewed(w, n, 1), sample, freqWeights);
-    return variance == 0.0 ? 0.0 : squareRoot(variance);
+    return V_Stdev(viewed(v, n, 1), n, mask, viewed(w, n, 1), sample, freqWeights);
 }
 
 void VB_V_MeanVar(double* v, int n, double* mean, double* var, short* mask, double* w, short sample, short freqWeights)
@@ -41,28 +38,21 @@ void VB_V_MeanVar(double* v, int n, double* mean, double* var, short* mask, doub
 void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, short* mask, double* w, short sample,
                     short freqWeights)
 {
-    double variance = 0.0;
-    V_MeanVar(viewed(v, n, 1), n, mean, &variance, mask, viewed(w, n, 1), sample, freqWeights);
-    *stdev = squareRoot(variance);
+    V_MeanStdev(viewed(v, n, 1), n, mean, stdev, mask, viewed(w, n, 1), sample, freqWeights);
 }
 
 int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* stdev, short* mask, double* w, short sample,
                    short freqWeights, short ignoreMask)
 {
-    auto means = viewed(mean, p, 1);
-    auto deviations = viewed(stdev, p, 1);
-    return M_MeanStDev(viewed(X, n, p), n, p, means.reference(), deviations.reference(), mask, viewed(w, n, 1), sample,
-                       freqWeights, ignoreMask);
+    return M_MeanStDev(viewed(X, n, p), n, p, viewed(mean, p, 1).reference(), viewed(stdev, p, 1).reference(), mask,
+                       viewed(w, n, 1), sample, freqWeights, ignoreMask);
 }
 
 int VB_M_MeanStDevVar(double* X, int n, int p, double* mean, double* stdev, double* var, short* mask, double* w,
                       short sample, short freqWeights)
 {
-    auto means = viewed(mean, p, 1);
-    auto deviations = viewed(stdev, p, 1);
-    auto variances = viewed(var, p, 1);
-    return M_MeanStDevVar(viewed(X, n, p), n, p, means.reference(), deviations.reference(), variances.reference(), mask,
-                          viewed(w, n, 1), sample, freqWeights);
+    return M_MeanStDevVar(viewed(X, n, p), n, p, viewed(mean, p, 1).reference(), viewed(stdev, p, 1).reference(),
+                          viewed(var, p, 1).reference(), mask, viewed(w, n, 1), sample, freqWeights);
 }
 
 int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, double* w, short sample,
@@ -70,8 +60,6 @@ int VB_M_MeanStDevByRow(double* X, int n, int p, double* mean, double* stdev, do
 {
     // Both results have one cell per row. If the callee needs more, it replaces the view with a table of its own, and
     // the caller's array is unchanged.
-    auto means = viewed(mean, n, 1);
-    auto deviations = viewed(stdev, n, 1);
-    return M_MeanStDevByRow(viewed(X, n, p), n, p, means.reference(), deviations.reference(), viewed(w, p, 1), sample,
-                            freqWeights);
+    return M_MeanStDevByRow(viewed(X, n, p), n, p, viewed(mean, n, 1).reference(), viewed(stdev, n, 1).reference(),
+                            viewed(w, p, 1), sample, freqWeights);
 }

@@ -1,14 +1,14 @@
+#include "rescaling.h"
+
 #include "../frame/detail/handles.h"
 #include "detail/masked_columns.h"
-#include "rescaling.h"
 
 using namespace vecmat;
 
 void VB_M_Normalize(double* X, int n, int p, double* norms, short* mask, double* w)
 {
-    auto table = viewed(X, n, p);
     TableHandle lengths = fresh(p, 1);
-    M_Normalize(table.reference(), n, p, lengths.reference(), mask, viewed(w, n, 1));
+    M_Normalize(viewed(X, n, p).reference(), n, p, lengths.reference(), mask, viewed(w, n, 1));
     handBack(lengths, norms);
 }
 

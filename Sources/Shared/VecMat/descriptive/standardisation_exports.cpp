@@ -1,6 +1,7 @@
+#include "standardisation.h"
+
 #include "../frame/detail/handles.h"
 #include "detail/masked_columns.h"
-#include "standardisation.h"
 
 using namespace vecmat;
 
@@ -29,10 +30,9 @@ void VB_M_StandardizeW(double* X, int n, int p, double* w, short sample, short f
 void VB_M_StandardizeKnownMeansStDev(double* X, int n, int p, double* mean, double* Z, double* stdev, double* var,
                                      short* mask)
 {
-    auto table = viewed(X, n, p);
     TableHandle result;
-    M_StandardizeKnownMeansStDev(table.reference(), n, p, viewed(mean, p, 1), result.reference(), viewed(stdev, p, 1),
-                                 viewed(var, p, 1), mask);
+    M_StandardizeKnownMeansStDev(viewed(X, n, p).reference(), n, p, viewed(mean, p, 1), result.reference(),
+                                 viewed(stdev, p, 1), viewed(var, p, 1), mask);
     handBack(result, Z);
 }
 

@@ -1,8 +1,9 @@
+#include "blocks.h"
+
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
-#include "blocks.h"
 
 using namespace vecmat;
 

@@ -23,8 +23,7 @@ double Cpp_M_SquareRootAij2(double* a, int rows, int cols)
 
 void VB_M_LogMatrix(double* a, int rows, int cols, short* mask)
 {
-    auto table = viewed(a, rows, cols);
-    M_LogMatrix(table.reference(), rows, cols, mask);
+    M_LogMatrix(viewed(a, rows, cols).reference(), rows, cols, mask);
 }
 
 void VB_M_Log10Matrix(double* a, int rows, int cols)

@@ -8,14 +8,13 @@ using namespace vecmat;
 
 void VB_M_ProductByElement(double* a, int rows, int cols, double* b, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_ProductByElement(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), result.reference());
+    M_ProductByElement(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), viewed(out, rows, cols).reference());
 }
 
 void VB_M_ProductHorizAB(double* a, int rows, int cols, double* b, int colsB, double* out)
 {
-    auto result = viewed(out, rows, wrappingProduct(cols, colsB));
-    M_ProductHorizAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB, result.reference());
+    M_ProductHorizAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB,
+                     viewed(out, rows, wrappingProduct(cols, colsB)).reference());
 }
 
 void VB_M_ProductHorizAB2(double* a, int rows, int* cols, double* b, int colsB)
@@ -26,7 +25,6 @@ void VB_M_ProductHorizAB2(double* a, int rows, int* cols, double* b, int colsB)
 void VB_M_ProductDesignAB2(double* a, int rows, int* cols, double* b, int colsB, int mode, double* w, double* out)
 {
     const int total = wrappingProduct(*cols, colsB);
-    auto result = viewed(out, total, 1);
     M_ProductDesignAB2(viewed(a, rows, total), rows, cols, viewed(b, rows, colsB), colsB, mode, viewed(w, rows, 1),
-                       result.reference());
+                       viewed(out, total, 1).reference());
 }

@@ -1,7 +1,8 @@
+#include "columns_and_rows.h"
+
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "columns_and_rows.h"
 
 #include <algorithm>
 
@@ -9,8 +10,7 @@ using namespace vecmat;
 
 void VB_CopyMatrixColToMatrixCol(double* src, int n, int col, double* dst, int dstCol, short prepare)
 {
-    auto target = viewed(dst, n, dstCol);
-    CopyMatrixColToMatrixCol(viewed(src, n, col), n, col, target.reference(), dstCol, prepare);
+    CopyMatrixColToMatrixCol(viewed(src, n, col), n, col, viewed(dst, n, dstCol).reference(), dstCol, prepare);
 }
 
 void VB_CopyMatrixColToVector(double* src, int n, int col, double* v)
@@ -23,9 +23,8 @@ void VB_CopyMatrixColToVector(double* src, int n, int col, double* v)
 void VB_CopyMatrixRowToMatrixRow(double* src, int rows, int cols, int row, double* dst, int dstRows, int dstRow,
                                  short prepare)
 {
-    auto target = viewed(dst, dstRows, cols);
-    CopyMatrixRowToMatrixRow(viewed(src, rows, cols), cols, zeroBased(row), target.reference(), dstRows,
-                             zeroBased(dstRow), prepare);
+    CopyMatrixRowToMatrixRow(viewed(src, rows, cols), cols, zeroBased(row), viewed(dst, dstRows, cols).reference(),
+                             dstRows, zeroBased(dstRow), prepare);
 }
 
 void VB_CopyMatrixColToOneColMatStr(wchar_t** src, int n, int col, wchar_t** out)

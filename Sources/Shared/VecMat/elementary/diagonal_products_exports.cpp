@@ -6,26 +6,22 @@ using namespace vecmat;
 
 void VB_M_ProductADTrA(double* a, int rows, int cols, double* d, double* out)
 {
-    auto result = viewed(out, rows, rows);
-    M_ProductADTrA(viewed(a, rows, cols), rows, cols, viewed(d, cols, cols), result.reference());
+    M_ProductADTrA(viewed(a, rows, cols), rows, cols, viewed(d, cols, cols), viewed(out, rows, rows).reference());
 }
 
 void VB_M_ProductTrADA(double* a, int rows, int cols, double* d, double* out)
 {
-    auto result = viewed(out, cols, cols);
-    M_ProductTrADA(viewed(a, rows, cols), rows, cols, viewed(d, rows, rows), result.reference());
+    M_ProductTrADA(viewed(a, rows, cols), rows, cols, viewed(d, rows, rows), viewed(out, cols, cols).reference());
 }
 
 void VB_M_ProductADiag(double* a, int rows, int cols, double* d, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_ProductADiag(viewed(a, rows, cols), rows, cols, viewed(d, cols, cols), result.reference());
+    M_ProductADiag(viewed(a, rows, cols), rows, cols, viewed(d, cols, cols), viewed(out, rows, cols).reference());
 }
 
 void VB_M_ProductTrADiag(double* a, int rows, int cols, double* d, double* out)
 {
-    auto result = viewed(out, cols, rows);
-    M_ProductTrADiag(viewed(a, rows, cols), rows, cols, viewed(d, rows, rows), result.reference());
+    M_ProductTrADiag(viewed(a, rows, cols), rows, cols, viewed(d, rows, rows), viewed(out, cols, rows).reference());
 }
 
 void VB_M_ProductDiagVA(double* v, int rows, double* a, int cols, double* out)
@@ -35,15 +31,13 @@ void VB_M_ProductDiagVA(double* v, int rows, double* a, int cols, double* out)
 
 void VB_M_ProductDiagV1ADiagV2(double* va, int rows, double* a, int cols, double* vb, double* out)
 {
-    auto result = viewed(out, rows, cols);
     M_ProductDiagV1ADiagV2(viewed(va, rows, 1), rows, viewed(a, rows, cols), cols, viewed(vb, cols, 1),
-                           result.reference());
+                           viewed(out, rows, cols).reference());
 }
 
 void VB_M_ProductADiagV(double* a, int rows, int cols, double* v, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_ProductADiagV(viewed(a, rows, cols), rows, cols, viewed(v, cols, 1), result.reference());
+    M_ProductADiagV(viewed(a, rows, cols), rows, cols, viewed(v, cols, 1), viewed(out, rows, cols).reference());
 }
 
 void VB_M_ProductADiagVTrA(double* a, int rows, int cols, double* v, double* out)

@@ -1,7 +1,8 @@
+#include "extraction.h"
+
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "extraction.h"
 
 using namespace vecmat;
 

@@ -1,6 +1,7 @@
+#include "filling.h"
+
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "filling.h"
 
 #include <algorithm>
 #include <numeric>

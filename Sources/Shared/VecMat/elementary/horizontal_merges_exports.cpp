@@ -1,7 +1,8 @@
+#include "horizontal_merges.h"
+
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "horizontal_merges.h"
 
 #include <algorithm>
 

@@ -6,50 +6,44 @@ using namespace vecmat;
 
 int VB_M_ProductAB(double* a, int r, int c, double* b, int c2, double* out)
 {
-    auto result = viewed(out, r, c2);
-    return M_ProductAB(viewed(a, r, c), r, c, viewed(b, c, c2), c2, result.reference());
+    return M_ProductAB(viewed(a, r, c), r, c, viewed(b, c, c2), c2, viewed(out, r, c2).reference());
 }
 
 int VB_M_ProductBV(double* b, int rows, int cols, double* v, double* out)
 {
-    auto result = viewed(out, rows, 1);
-    return M_ProductBV(viewed(b, rows, cols), rows, cols, viewed(v, cols, 1), result.reference());
+    return M_ProductBV(viewed(b, rows, cols), rows, cols, viewed(v, cols, 1), viewed(out, rows, 1).reference());
 }
 
 void VB_M_ProductVB(double* v, int rows, double* b, int cols, double* out)
 {
-    auto result = viewed(out, cols, 1);
-    M_ProductVB(viewed(v, rows, 1), rows, viewed(b, rows, cols), cols, result.reference());
+    M_ProductVB(viewed(v, rows, 1), rows, viewed(b, rows, cols), cols, viewed(out, cols, 1).reference());
 }
 
 void VB_M_ProductTrAB(double* a, int rows, int cols, double* b, int colsB, double* out)
 {
-    auto result = viewed(out, cols, colsB);
-    M_ProductTrAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB, result.reference());
+    M_ProductTrAB(viewed(a, rows, cols), rows, cols, viewed(b, rows, colsB), colsB,
+                  viewed(out, cols, colsB).reference());
 }
 
 void VB_M_ProductATrB(double* a, int rows, int cols, double* b, int rowsB, double* out)
 {
-    auto result = viewed(out, rows, rowsB);
-    M_ProductATrB(viewed(a, rows, cols), rows, cols, viewed(b, rowsB, cols), rowsB, result.reference());
+    M_ProductATrB(viewed(a, rows, cols), rows, cols, viewed(b, rowsB, cols), rowsB,
+                  viewed(out, rows, rowsB).reference());
 }
 
 void VB_M_ProductTrAA(double* a, int rows, int cols, double* out)
 {
-    auto result = viewed(out, cols, cols);
-    M_ProductTrAA(viewed(a, rows, cols), rows, cols, result.reference());
+    M_ProductTrAA(viewed(a, rows, cols), rows, cols, viewed(out, cols, cols).reference());
 }
 
 void Cpp_M_ProductTrAALng(int* a, int rows, int cols, int* out)
 {
-    auto result = viewed(out, cols, cols);
-    M_ProductTrAA(viewed(a, rows, cols), rows, cols, result.reference());
+    M_ProductTrAA(viewed(a, rows, cols), rows, cols, viewed(out, cols, cols).reference());
 }
 
 void VB_M_ProductATrA(double* a, int rows, int cols, double* out)
 {
-    auto result = viewed(out, rows, rows);
-    M_ProductATrA(viewed(a, rows, cols), rows, cols, result.reference());
+    M_ProductATrA(viewed(a, rows, cols), rows, cols, viewed(out, rows, rows).reference());
 }
 
 void VB_M_ProductTrBV(double* b, int rows, int cols, double* v, double* out)

@@ -1,5 +1,6 @@
-#include "../access/packed_cells.h"
 #include "packed_products.h"
+
+#include "../access/packed_cells.h"
 
 #include "../frame/detail/handles.h"
 

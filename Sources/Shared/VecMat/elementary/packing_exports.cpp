@@ -1,6 +1,7 @@
+#include "packing.h"
+
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "packing.h"
 
 using namespace vecmat;
 

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "removal.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 
@@ -19,20 +20,17 @@ void VB_M_RemoveRow(double* a, int rows, int cols, int row, double* out)
 
 void VB_M_MoveRow(double* a, int rows, int cols, int r1, int r2)
 {
-    auto table = viewed(a, rows, cols);
-    M_MoveRow(table.reference(), cols, r1, r2);
+    M_MoveRow(viewed(a, rows, cols).reference(), cols, r1, r2);
 }
 
 void VB_M_RemoveCols2(double* a, int rows, int cols, int from, int to)
 {
-    auto table = viewed(a, rows, cols);
-    M_RemoveCols2(table.reference(), rows, cols, from, to);
+    M_RemoveCols2(viewed(a, rows, cols).reference(), rows, cols, from, to);
 }
 
 void VB_M_RemoveRows2(double* a, int rows, int cols, int from, int to)
 {
-    auto table = viewed(a, rows, cols);
-    M_RemoveRows2(table.reference(), rows, cols, from, to);
+    M_RemoveRows2(viewed(a, rows, cols).reference(), rows, cols, from, to);
 }
 
 void Cpp_M_RemoveRowsStr2(wchar_t** a, int rows, int cols, int from, int to)

@@ -6,32 +6,27 @@ using namespace vecmat;
 
 void VB_M_ScalarsA(double* a, int rows, int cols, double s, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_ScalarsA(viewed(a, rows, cols), rows, cols, s, result.reference());
+    M_ScalarsA(viewed(a, rows, cols), rows, cols, s, viewed(out, rows, cols).reference());
 }
 
 void VB_M_ScalarsA2(double* a, int rows, int cols, double s)
 {
-    auto table = viewed(a, rows, cols);
-    M_ScalarsA2(table.reference(), rows, cols, s);
+    M_ScalarsA2(viewed(a, rows, cols).reference(), rows, cols, s);
 }
 
 void VB_M_ScalarsTrA(double* a, int rows, int cols, double s, double* out)
 {
-    auto result = viewed(out, cols, rows);
-    M_ScalarsTrA(viewed(a, rows, cols), rows, cols, s, result.reference());
+    M_ScalarsTrA(viewed(a, rows, cols), rows, cols, s, viewed(out, cols, rows).reference());
 }
 
 void VB_M_Sums1As2B(double* a, int rows, int cols, double* b, double s1, double s2, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_Sums1As2B(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), s1, s2, result.reference());
+    M_Sums1As2B(viewed(a, rows, cols), rows, cols, viewed(b, rows, cols), s1, s2, viewed(out, rows, cols).reference());
 }
 
 void VB_M_APlusVal(double* a, int rows, int cols, double v, double* out)
 {
-    auto result = viewed(out, rows, cols);
-    M_APlusVal(viewed(a, rows, cols), rows, cols, v, result.reference());
+    M_APlusVal(viewed(a, rows, cols), rows, cols, v, viewed(out, rows, cols).reference());
 }
 
 void VB_M_APlusVal2(double* a, int rows, int cols, double v)

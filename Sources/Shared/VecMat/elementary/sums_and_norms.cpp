@@ -5,6 +5,9 @@
 #include "../access/cellwise.h"
 #include "../access/product.h"
 #include "../base/missing_value.h"
+#include "detail/sum_of_cells.h"
+
+#include <algorithm>
 
 using namespace vecmat;
 
@@ -91,6 +94,19 @@ void M_SumByCols(matrix* a, int rows, int cols, matrix* out)
 void M_SumByRows(matrix* a, int rows, int cols, matrix* out)
 {
     sumLines(transposed(cells(a)), cols, rows, out);
+}
+
+double vecmat::sumOfColumnSums(matrix* a, int rows, int cols)
+{
+    matrix columnSums(std::max({rows, cols, 0}), 1, 0.0);
+    M_SumByCols(a, rows, cols, &columnSums);
+    double sum = 0.0;
+    for (int j = 0; j < rows; ++j) {
+        if (isMissing(columnSums.X[j]))
+            return missingValue;
+        sum += columnSums.X[j];
+    }
+    return sum;
 }
 
 void M_SquaredRows(matrix* a, int rows, int cols, matrix*& out)

@@ -1,11 +1,7 @@
 #include "sums_and_norms.h"
 
-#include "../base/detail/numbers.h"
-#include "../base/missing_value.h"
 #include "../frame/detail/handles.h"
-
-#include <algorithm>
-#include <vector>
+#include "detail/sum_of_cells.h"
 
 using namespace vecmat;
 
@@ -31,25 +27,15 @@ void VB_M_SumByRows(double* a, int rows, int cols, double* out)
 
 void VB_M_SquaredRows(double* a, int rows, int cols, double* out)
 {
-    auto result = viewed(out, rows, 1);
-    M_SquaredRows(viewed(a, rows, cols), rows, cols, result.reference());
+    M_SquaredRows(viewed(a, rows, cols), rows, cols, viewed(out, rows, 1).reference());
 }
 
 void VB_M_SquaredColumns(double* a, int rows, int cols, double* out)
 {
-    auto result = viewed(out, cols, 1);
-    M_SquaredColumns(viewed(a, rows, cols), rows, cols, result.reference());
+    M_SquaredColumns(viewed(a, rows, cols), rows, cols, viewed(out, cols, 1).reference());
 }
 
 double VB_M_SumOfElem(double* a, int rows, int cols)
 {
-    std::vector<double> columnSums(countOf(std::max(rows, cols)), 0.0);
-    VB_M_SumByCols(a, rows, cols, columnSums.data());
-    double sum = 0.0;
-    for (int i = 0; i < rows; ++i) {
-        if (isMissing(columnSums[i]))
-            return missingValue;
-        sum += columnSums[i];
-    }
-    return sum;
+    return sumOfColumnSums(viewed(a, rows, cols), rows, cols);
 }

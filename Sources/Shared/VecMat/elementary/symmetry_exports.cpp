@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "symmetry.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 
@@ -15,8 +16,7 @@ short VB_M_IsSymmetricSPV(SAFEARRAY** a, int n)
 
 void VB_M_Symmetrize(double* a, int n, int mode)
 {
-    auto table = viewed(a, n, n);
-    M_Symmetrize(table.reference(), n, mode);
+    M_Symmetrize(viewed(a, n, n).reference(), n, mode);
 }
 
 void VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode)
@@ -26,8 +26,7 @@ void VB_M_SymmetrizeSPV(SAFEARRAY** a, int n, int mode)
 
 int VB_M_IsTriangular(double* a, int n, short fill)
 {
-    auto table = viewed(a, n, n);
-    return M_IsTriangular(table.reference(), n, fill);
+    return M_IsTriangular(viewed(a, n, n).reference(), n, fill);
 }
 
 int VB_M_IsTriangularSPV(SAFEARRAY** a, int n, short fill)
@@ -47,6 +46,5 @@ int VB_M_CheckIfSimOrDissimSPV(SAFEARRAY** a, int rows, int cols, int kind)
 
 void VB_M_TransformSimToDissim(double* a, int n)
 {
-    auto table = viewed(a, n, n);
-    M_TransformSimToDissim(table.reference(), n);
+    M_TransformSimToDissim(viewed(a, n, n).reference(), n);
 }

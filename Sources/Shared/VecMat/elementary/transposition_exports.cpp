@@ -1,21 +1,20 @@
-#include "../frame/detail/handles.h"
 #include "transposition.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 
 void VB_M_Transpose(double* a, int r, int c, double* out)
 {
-    auto table = viewed(a, r, c);
     TableHandle result = fresh(c, r);
-    M_Transpose(table.reference(), r, c, result.reference());
+    M_Transpose(viewed(a, r, c).reference(), r, c, result.reference());
     handBack(result, out);
 }
 
 void VB_M_TransposeLng(int* a, int r, int c, int* out)
 {
-    auto table = viewed(a, r, c);
     IntTableHandle result = freshInt(c, r);
-    M_Transpose(table.reference(), r, c, result.reference());
+    M_Transpose(viewed(a, r, c).reference(), r, c, result.reference());
     handBack(result, out);
 }
 
@@ -29,8 +28,7 @@ void VB_M_TransposeStr(wchar_t** a, int r, int c, wchar_t** out)
 
 void VB_M_Transpose2(double* a, int r, int c)
 {
-    auto table = viewed(a, r, c);
-    M_Transpose2(table.reference(), r, c);
+    M_Transpose2(viewed(a, r, c).reference(), r, c);
 }
 
 void VB_M_Transpose2Lng(int* a, int r, int c)

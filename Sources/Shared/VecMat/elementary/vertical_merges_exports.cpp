@@ -1,7 +1,8 @@
+#include "vertical_merges.h"
+
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "vertical_merges.h"
 
 #include <algorithm>
 

@@ -9,10 +9,9 @@ using namespace vecmat;
 void VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m, int k, double* eigen,
                         double factor, double alpha, double* obs, double* var)
 {
-    auto observations = viewed(obs, std::max(nA, 0) + std::max(nB, 0), k);
-    auto variables = viewed(var, m, k);
     BiplotTransData(viewed(rows, nA, k), nB > 0 ? viewed(sup, nB, k) : TableHandle(), viewed(cols, m, k), nA, nB, m, k,
-                    viewed(eigen, k, 1), factor, alpha, observations.reference(), variables.reference());
+                    viewed(eigen, k, 1), factor, alpha, viewed(obs, std::max(nA, 0) + std::max(nB, 0), k).reference(),
+                    viewed(var, m, k).reference());
 }
 
 void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m, int storedAxes,
@@ -29,8 +28,7 @@ void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int 
 
 void ComputeCosines(double* a, int n, int k, double* out)
 {
-    auto result = viewed(out, n, k);
-    cComputeCosines(viewed(a, n, k), n, k, result.reference());
+    cComputeCosines(viewed(a, n, k), n, k, viewed(out, n, k).reference());
 }
 
 void Cpp_M_BoldCosines(int* best, int n, int* flags, int cols)

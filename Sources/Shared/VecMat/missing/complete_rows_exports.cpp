@@ -21,8 +21,7 @@ int rowsLeft(int rows, int removed)
 void VB_RemoveRowsWithMissing(double* data, int nRows, int nCols, int nRemoved, short* mask, double* out)
 {
     const int cols = nCols == 0 ? 1 : nCols;
-    auto table = viewed(data, nRows, cols);
-    RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
+    RemoveRowsWithMissing(viewed(data, nRows, cols).reference(), nRows, cols, mask);
     VB_M_CopyResize(data, nRows, cols, out, rowsLeft(nRows, nRemoved), cols);
 }
 

@@ -17,9 +17,8 @@ void VB_EstimateRowsWithMissingMeanPred(double* statX, int nStat, double* X, int
                                         double* weights)
 {
     const int opened = std::max(nCols, 1);
-    auto table = viewed(X, nRows, opened);
-    EstimateRowsWithMissingMean(viewed(statX, nStat, opened), nStat, table.reference(), nRows, nCols, mask,
-                                viewed(weights, nStat, 1));
+    EstimateRowsWithMissingMean(viewed(statX, nStat, opened), nStat, viewed(X, nRows, opened).reference(), nRows, nCols,
+                                mask, viewed(weights, nStat, 1));
 }
 
 void VB_EstimateRowsWithMissingMeanSPV(SAFEARRAY** X, int n, int nCols, short* mask, double* weights)

@@ -16,7 +16,6 @@ double VB_V_SumIfNotMissing(double* x, int n, double* y)
 
 int VB_M_ProductABMissing(double* a, int nRows, int nInner, double* b, int nCols, double* c)
 {
-    auto result = viewed(c, nRows, nCols);
     return M_ProductABMissing(viewed(a, nRows, nInner), nRows, nInner, viewed(b, nInner, nCols), nCols,
-                              result.reference());
+                              viewed(c, nRows, nCols).reference());
 }

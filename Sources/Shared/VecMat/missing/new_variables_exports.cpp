@@ -6,7 +6,6 @@ using vecmat::viewed;
 
 void VB_ComputeNewVar(double* Q, int nRows, int nCols, double* C, double* variances, double* covariances)
 {
-    auto result = viewed(covariances, nRows, nRows);
     ComputeNewVar(viewed(Q, nRows, nCols), nRows, nCols, viewed(C, nCols, nCols), viewed(variances, nRows, 1),
-                  result.reference());
+                  viewed(covariances, nRows, nRows).reference());
 }

@@ -28,6 +28,6 @@ void Cpp_M_ReplaceByMissing(double* a, int nRows, int nCols, int* mask, int nMas
 
 void VB_M_SetWeightsToZeroForMissing(double* data, int nRows, int nCols, double* weights, int nWeightCols)
 {
-    auto table = viewed(weights, nRows, nWeightCols);
-    M_SetWeightsToZeroForMissing(viewed(data, nRows, nCols), nRows, nCols, table.reference(), nWeightCols);
+    M_SetWeightsToZeroForMissing(viewed(data, nRows, nCols), nRows, nCols,
+                                 viewed(weights, nRows, nWeightCols).reference(), nWeightCols);
 }

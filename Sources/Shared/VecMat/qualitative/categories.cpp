@@ -149,3 +149,24 @@ int GetMaxCat(Smatrix* table, int nRows, int nCols, matrixInt* counts)
     }
     return largest;
 }
+
+bool vecmat::labelsRepeat(Smatrix* labels, int nRows, int nCols, const int* counts)
+{
+    const int longest = nRows < 1 ? 0 : *std::max_element(counts, counts + nRows);
+    // The places beyond the table are empty, so the second already repeats the first.
+    const int visited = longest < 1 ? 0 : std::min(longest, std::max(nCols, 0) + 2);
+
+    // Place by place, so that a repeated label is found after its first place, or in another row at the same place.
+    TextPlaces places;
+    for (int place = 0; place < visited; ++place) {
+        for (int i = 0; i < nRows; ++i) {
+            if (place >= counts[i])
+                continue;
+            const std::wstring& label = cells(labels).get(i, place);
+            places.add(label, place, Repeated::firstCounts);
+            if (places.find(label) < place)
+                return true;
+        }
+    }
+    return false;
+}

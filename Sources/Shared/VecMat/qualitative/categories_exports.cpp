@@ -1,9 +1,7 @@
-#include "../frame/detail/handles.h"
 #include "categories.h"
-#include "detail/category_lists.h"
 
-#include <algorithm>
-#include <string>
+#include "../frame/detail/handles.h"
+#include "detail/category_lists.h"
 
 using namespace vecmat;
 
@@ -56,22 +54,5 @@ int Cpp_GetMaxCat(wchar_t** table, int nRows, int nCols, int* counts)
 
 int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts)
 {
-    const StringTableHandle labels = copied(table, nRows, nCols);
-    const int longest = nRows < 1 ? 0 : *std::max_element(counts, counts + nRows);
-    // The places beyond the table are empty, so the second already repeats the first.
-    const int visited = longest < 1 ? 0 : std::min(longest, std::max(nCols, 0) + 2);
-
-    // Place by place, so that a repeated label is found after its first place, or in another row at the same place.
-    TextPlaces places;
-    for (int place = 0; place < visited; ++place) {
-        for (int i = 0; i < nRows; ++i) {
-            if (place >= counts[i])
-                continue;
-            const std::wstring& label = cells<Smatrix>(labels).get(i, place);
-            places.add(label, place, Repeated::firstCounts);
-            if (places.find(label) < place)
-                return 1;
-        }
-    }
-    return 0;
+    return labelsRepeat(copied(table, nRows, nCols), nRows, nCols, counts) ? 1 : 0;
 }

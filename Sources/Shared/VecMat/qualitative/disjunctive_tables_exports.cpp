@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "disjunctive_tables.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

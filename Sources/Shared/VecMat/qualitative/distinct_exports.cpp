@@ -7,8 +7,7 @@ using vecmat::viewed;
 
 void VB_M_Dedupe(double* data, int nRows, int nCols, int* nKept, double* out)
 {
-    auto rows = viewed(out, nRows, nCols + 3);
-    M_Dedupe(viewed(data, nRows, nCols + 1), nRows, nCols, nKept, rows.reference());
+    M_Dedupe(viewed(data, nRows, nCols + 1), nRows, nCols, nKept, viewed(out, nRows, nCols + 3).reference());
 }
 
 void VB_V_ExtractDistinct(double* x, int n, double* distinct, int* count)

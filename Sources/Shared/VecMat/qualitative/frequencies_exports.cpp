@@ -1,6 +1,7 @@
+#include "frequencies.h"
+
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
-#include "frequencies.h"
 
 using vecmat::copied;
 using vecmat::truncated;

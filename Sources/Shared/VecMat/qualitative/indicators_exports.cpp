@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "indicators.h"
+
+#include "../frame/detail/handles.h"
 
 using vecmat::columns;
 using vecmat::viewed;

@@ -1,6 +1,7 @@
+#include "modes.h"
+
 #include "../base/detail/companions.h"
 #include "../frame/detail/handles.h"
-#include "modes.h"
 
 using vecmat::copied;
 using vecmat::viewed;

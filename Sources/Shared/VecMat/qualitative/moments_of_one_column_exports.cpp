@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "moments_of_one_column.h"
+
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

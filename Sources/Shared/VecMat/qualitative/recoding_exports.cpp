@@ -1,6 +1,7 @@
+#include "recoding.h"
+
 #include "../elementary/extremes.h"
 #include "../frame/detail/handles.h"
-#include "recoding.h"
 
 using vecmat::columns;
 using vecmat::copied;
@@ -19,17 +20,16 @@ int largestCount(int* nCats, int nCols)
 void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
 {
     // A view: cells without a match keep the caller's contents.
-    auto codes = viewed(out, nRows, nCols);
     M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());
+                        copied(categories, nCols, largestCount(nCats, nCols)), viewed(out, nRows, nCols).reference());
 }
 
 void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, short* mask,
                             int firstCode, double* out)
 {
-    auto codes = viewed(out, nRows, nCols);
     M_ReplaceStrByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode, codes.reference());
+                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode,
+                        viewed(out, nRows, nCols).reference());
 }
 
 void Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int /*ignored*/, double* out)

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "contingency_tables.h"
+
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,5 +1,6 @@
-#include "detail/sampling_call.h"
 #include "interval_sampling.h"
+
+#include "detail/sampling_call.h"
 
 using namespace vecmat;
 

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "kronecker_product.h"
+
+#include "../frame/detail/handles.h"
 
 using vecmat::viewed;
 

@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "letter_groups.h"
+
+#include "../frame/detail/handles.h"
 
 using namespace vecmat;
 

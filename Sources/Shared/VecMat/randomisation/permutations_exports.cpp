@@ -1,5 +1,6 @@
-#include "../frame/detail/handles.h"
 #include "permutations.h"
+
+#include "../frame/detail/handles.h"
 
 using vecmat::copied;
 using vecmat::freshStrings;
@@ -54,12 +55,10 @@ void Cpp_Random1toNDbl(int n, double* out, int* seed, short seedFlag, int* seedO
 
 void VB_GenerateRandomIndicator(double* out, int n, int k, int* seed, short seedFlag, int* seedOut)
 {
-    auto marks = viewed(out, n, 1);
-    GenerateRandomIndicator(marks.reference(), n, k, seed, seedFlag, seedOut);
+    GenerateRandomIndicator(viewed(out, n, 1).reference(), n, k, seed, seedFlag, seedOut);
 }
 
 void VB_GenerateIndicator(double* out, int n, int first, int last)
 {
-    auto marks = viewed(out, n, 1);
-    GenerateIndicator(marks.reference(), n, first, last);
+    GenerateIndicator(viewed(out, n, 1).reference(), n, first, last);
 }

@@ -1,8 +1,9 @@
+#include "sampling_with_repeats.h"
+
 #include "../base/detail/numbers.h"
 #include "../elementary/vector_sums.h"
 #include "../frame/detail/handles.h"
 #include "detail/sampling_call.h"
-#include "sampling_with_repeats.h"
 
 using namespace vecmat;
 

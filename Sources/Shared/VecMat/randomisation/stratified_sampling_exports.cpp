@@ -1,6 +1,7 @@
+#include "stratified_sampling.h"
+
 #include "../frame/detail/handles.h"
 #include "detail/sampling_call.h"
-#include "stratified_sampling.h"
 
 using namespace vecmat;
 

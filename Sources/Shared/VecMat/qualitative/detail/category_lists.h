@@ -62,6 +62,9 @@ inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeate
     return places;
 }
 
+/// Is one of the counts[i] labels of a row i at one place of a row and at a later place of any row?
+bool labelsRepeat(Smatrix* labels, int nRows, int nCols, const int* counts);
+
 /// Categories in order of first appearance, each with the sum of its weights. Keeps views of the texts it is given.
 class WeightedCategories
 {
