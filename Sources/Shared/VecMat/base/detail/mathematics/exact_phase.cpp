@@ -1,10 +1,16 @@
 #include "exact_phase.h"
 
+#include "bits.h"
 #include "quick_logarithm.h"
 #include "rounding.h"
 #include "wide.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 
 namespace vecmat::mathematics {

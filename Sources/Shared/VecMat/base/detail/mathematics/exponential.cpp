@@ -1,3 +1,4 @@
+#include "bits.h"
 #include "exact_phase.h"
 #include "mathematics.h"
 #include "quick_exponential.h"

@@ -1,7 +1,10 @@
+#include "bits.h"
+#include "double_double.h"
 #include "exact_phase.h"
 #include "mathematics.h"
 #include "quick_logarithm.h"
 
+#include <cstdint>
 #include <limits>
 
 namespace vecmat {

@@ -1,9 +1,12 @@
+#include "bits.h"
+#include "double_double.h"
 #include "exact_phase.h"
 #include "mathematics.h"
 #include "quick_exponential.h"
 #include "quick_logarithm.h"
 
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace vecmat {

@@ -10,6 +10,8 @@
 #include "double_double.h"
 #include "tables.h"
 
+#include <cstdint>
+
 namespace vecmat::mathematics {
 
 /// What `quickExponential` may be wrong by, relative to `scale`, with room for one rounding more of low.

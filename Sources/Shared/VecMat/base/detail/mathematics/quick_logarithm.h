@@ -11,6 +11,9 @@
 #include "double_double.h"
 #include "tables.h"
 
+#include <bit>
+#include <cstdint>
+
 namespace vecmat::mathematics {
 
 /// high + low, off by at most `error`, which has room for one rounding more of low; |low| is at most 2^-16 |high|.

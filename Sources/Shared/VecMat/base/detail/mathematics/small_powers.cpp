@@ -1,6 +1,10 @@
+#include "bits.h"
 #include "mathematics.h"
 #include "rounding.h"
 #include "wide.h"
+
+#include <array>
+#include <cstdint>
 
 namespace vecmat {
 
