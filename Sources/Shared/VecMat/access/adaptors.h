@@ -70,7 +70,7 @@ Shifted<Cells> shifted(Cells cells, int row0, int col0)
     return Shifted<Cells>(cells, row0, col0);
 }
 
-/// Cell (i, j) is cell (j, i) of what it holds.
+/// Cell (i, j) is cell (j, i) of the wrapped accessor.
 template <class Cells>
 class Transposed
 {
