@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 namespace vecmat::test {
@@ -69,18 +70,8 @@ struct Storages
     int n;
     std::vector<double> cells;
 
-    Decomposition columns(short sort) const
-    {
-        TableColumns a(n, n, cells);
-        TableColumns vectors(n, n, std::vector<double>(squareCount(n), 8.0));
-        Owned<matrix> values;
-        Decomposition result;
-        result.status = M_EigenSPV(a, values, vectors, n, sort);
-        EXPECT_THAT(a.cells(), SameBits(cells));
-        result.values = cellsOf(values);
-        result.vectors = vectors.cells();
-        return result;
-    }
+    Decomposition columns(short sort) const { return besideArgument(M_EigenSPV, TableColumns(n, n, cells), sort); }
+    Decomposition fromTriangle(short sort) const { return besideArgument(M_EigenSPV_T, triangle(n, cells), sort); }
     Decomposition inPlace(short sort) const
     {
         TableColumns a(n, n, cells);
@@ -91,20 +82,26 @@ struct Storages
         result.vectors = a.cells();
         return result;
     }
-    Decomposition fromTriangle(short sort) const
+
+private:
+    /// By a function that leaves its argument and writes the vectors into columns of their own.
+    template <class Function>
+    Decomposition besideArgument(Function function, TableColumns a, short sort) const
     {
-        TableColumns a = triangle(n, cells);
         const std::vector<double> before = a.cells();
         TableColumns vectors(n, n, std::vector<double>(squareCount(n), 8.0));
         Owned<matrix> values;
         Decomposition result;
-        result.status = M_EigenSPV_T(a, values, vectors, n, sort);
+        result.status = function(a, values, vectors, n, sort);
         EXPECT_THAT(a.cells(), SameBits(before));
         result.values = cellsOf(values);
         result.vectors = vectors.cells();
         return result;
     }
 };
+
+constexpr std::pair<const char*, Decomposition (Storages::*)(short) const> forms[] = {
+    {"columns", &Storages::columns}, {"in place", &Storages::inPlace}, {"from a triangle", &Storages::fromTriangle}};
 
 TEST(EigenOfColumns, HasTheBitsOfThePlainForm)
 {
@@ -117,9 +114,10 @@ TEST(EigenOfColumns, HasTheBitsOfThePlainForm)
                 n % 2 == 0 ? data.normals(squareCount(n)) : data.wholes(squareCount(n), -1, 1);
             const Decomposition plain = decomposed(n, cells, sort);
             const Storages storages{n, cells};
-            expectSame(storages.columns(sort), plain);
-            expectSame(storages.inPlace(sort), plain);
-            expectSame(storages.fromTriangle(sort), plain);
+            for (const auto& [name, form] : forms) {
+                SCOPED_TRACE(name);
+                expectSame((storages.*form)(sort), plain);
+            }
         }
 }
 
@@ -128,13 +126,12 @@ TEST(EigenOfColumns, GivesUpAtTheTwentyNinthPassToo)
     const Decomposition plain = decomposed(8, needs29(), -1);
     ASSERT_EQ(plain.status, -1);
     const Storages storages{8, needs29()};
-    expectSame(storages.columns(-1), plain);
-    expectSame(storages.inPlace(-1), plain);
-    expectSame(storages.fromTriangle(-1), plain);
     const Storages enough{6, needs28()};
-    EXPECT_EQ(enough.columns(0).status, 0);
-    EXPECT_EQ(enough.inPlace(0).status, 0);
-    EXPECT_EQ(enough.fromTriangle(0).status, 0);
+    for (const auto& [name, form] : forms) {
+        SCOPED_TRACE(name);
+        expectSame((storages.*form)(-1), plain);
+        EXPECT_EQ((enough.*form)(0).status, 0);
+    }
 }
 
 TEST(EigenOfColumns, RefusesAMissingCellWithNothingTouched)
