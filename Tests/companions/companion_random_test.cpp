@@ -122,7 +122,7 @@ int seedAfter(int seed, std::size_t draws)
     return next;
 }
 
-TEST(GetSeedUpdate, GoesOnReproducibly)
+TEST(GetSeedUpdate, ContinuesReproducibly)
 {
     for (std::size_t draws : {0u, 1u, 10u, 1000u}) {
         const int next = seedAfter(5, draws);

@@ -269,10 +269,10 @@ TEST(WideTextToNumber, StopsWhereTheNumberEnds)
     EXPECT_THAT(_wtof(L"1e5e3"), SameBits(1e5));
     EXPECT_THAT(_wtof(L"1d5"), SameBits(1.0));
     EXPECT_THAT(_wtof(L"0x10"), SameBits(0.0));
-    EXPECT_THAT(_wtof(L"1\u0660"), SameBits(1.0)) << "digits of other scripts are none";
+    EXPECT_THAT(_wtof(L"1\u0660"), SameBits(1.0)) << "digits of other scripts do not count";
 }
 
-TEST(WideTextToNumber, GivesZeroWhereNoNumberLeads)
+TEST(WideTextToNumber, GivesZeroWithoutALeadingNumber)
 {
     for (const wchar_t* text : {L"", L" ", L"-", L"+", L".", L"-.", L"e5", L".e5", L"+-1", L"--1", L"abc", L"a1",
                                 L"inf", L"-inf", L"Infinity", L"nan", L"NaN", L"$1", L"\u0661"})

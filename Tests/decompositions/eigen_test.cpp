@@ -262,7 +262,7 @@ TEST(Eigen, GivesUpOnNaNAndInfinity)
     const std::vector<double> cells = symmetricOf(3, {1, notANumber, 2, 0, 1, 3});
     EXPECT_EQ(decomposed(3, cells, -1).status, -1);
     EXPECT_EQ(decomposed(3, symmetricOf(3, {1, 2, 2, inf, 1, 3}), -1).status, -1);
-    // On the diagonal of a table without anything beside it no test comes upon it.
+    // On the diagonal of a diagonal table no test meets it.
     const Decomposition diagonal = decomposed(2, {notANumber, 0, 0, 1});
     EXPECT_EQ(diagonal.status, 0);
     EXPECT_THAT(diagonal.values, SameBits({notANumber, 1}));

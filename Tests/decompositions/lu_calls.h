@@ -37,7 +37,7 @@ inline Factors factored(Owned<matrix> a)
     return factored(std::move(a), n);
 }
 
-/// The steps in their order, with the index as the library hands it out.
+/// The steps in their order, with the index as the library returns it.
 inline Factors referenceOf(const Owned<matrix>& a, int n, Tie tie = Tie::last)
 {
     matrix w(*a.get());

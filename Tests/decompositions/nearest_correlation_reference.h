@@ -123,7 +123,7 @@ private:
         return true;
     }
 
-    /// The product that skips what the structure of its operands makes known.
+    /// The product that skips terms known from the structure of its operands.
     Square product(const Square& p, const Square& q) const
     {
         Square result(n_ * n_, 0.0);

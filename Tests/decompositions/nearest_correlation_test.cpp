@@ -129,7 +129,8 @@ TEST(CorrMatFromSymMat, CarriesTheCorrectionFromPassToPass)
 
 TEST(CorrMatFromSymMat, IsGivenUpWhereItDoesNotSettle)
 {
-    // Rounding beside cells so large makes the table swing for ever, and the ratio never falls to the tolerance.
+    // Next to cells this large, rounding makes the table oscillate for ever, and the ratio never falls to the
+    // tolerance.
     const std::vector<double> cells = {1, 1e11, 1e11, 1};
     const ReferenceNearest expected = nearestBySteps(cells, 2);
     ASSERT_EQ(expected.passes, 100000);

@@ -73,7 +73,7 @@ TEST(VonMises, HasTheBitsOfTheStepsInTheirOrder)
         const auto count = static_cast<std::size_t>(n * n);
         const std::vector<double> cells = round % 4 == 3 ? data.withSpecials(data.wholes(count, -2, 2), 0.1)
                                                          : data.uniforms(count, round % 2 == 0 ? 0.1 : -1.0, 1.0);
-        // A missing cell of the products would be kept as it is; none comes up in these.
+        // A missing cell of the products would be kept as it is; none occurs here.
         const ReferencePower expected = powerBySteps(cells, static_cast<std::size_t>(n));
         EXPECT_THAT(iterated(n, cells), SameBits(expected.v)) << round;
         converged = converged || (expected.turns > 1 && expected.turns < 1000);

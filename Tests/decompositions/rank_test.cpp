@@ -83,7 +83,7 @@ TEST(Rank, IsMinusOneWhereTheSingularValuesAreNotFound)
     EXPECT_EQ(M_Rank(byRows({{1, std::numeric_limits<double>::infinity()}, {2, 3}}), 2, 2), -1);
 }
 
-TEST(Rank, TakesAMissingCellForTheNumberThatItIs)
+TEST(Rank, TakesAMissingCellAsTheNumberItIs)
 {
     const std::vector<double> cells = {M, 0, 0, 1};
     EXPECT_EQ(M_Rank(table(2, 2, cells), 2, 2), rankBySteps(cells, 2, 2));

@@ -1,4 +1,4 @@
-// Singular values measured: residuals in the manner of LAPACK's own tests, and tables whose values are known.
+// The accuracy of singular values: residuals in the manner of LAPACK's own tests, and tables with known values.
 #include "decompositions/singular_values.h"
 
 #include "decompositions/residuals.h"

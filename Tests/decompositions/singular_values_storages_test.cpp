@@ -81,8 +81,8 @@ TEST(SVDecompOfColumns, NeedsNoArraysForWhatIsNotWanted)
 
 // ---- flat forms ----
 
-/// Are the results those of the plain form, and is what wasn't asked for as it was? `cellsOf` reads an array of the kind
-/// of x, u and v.
+/// Are the results those of the plain form, and is everything not requested unchanged? `cellsOf` reads an array of the
+/// kind of x, u and v.
 template <class Array, class CellsOf>
 void expectPlainForm(const Svd& plain, int job, int info, const Array& x, const Guarded<double>& s, const Array& u,
                      const Array& v, CellsOf cellsOf)

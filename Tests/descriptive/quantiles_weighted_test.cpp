@@ -28,7 +28,7 @@ double masked(const std::vector<double>& x, std::vector<short> mask, const std::
     return V_QuantileMW(column(x), static_cast<int>(x.size()), mask.data(), column(w), p);
 }
 
-/// The step rule written down once more, for p inside 0 to 1 and weights that differ.
+/// The step rule written out again, for p inside 0 to 1 and weights that differ.
 double plainStep(const std::vector<double>& x, const std::vector<double>& w, double p)
 {
     std::vector<std::size_t> order(x.size());

@@ -74,7 +74,7 @@ struct Found
     int steps, lastMultiple;
 };
 
-/// The search written down once more, with one function for a(b), its slope, and both sides of the equation.
+/// The search written out again, with one function for a(b), its slope, and both sides of the equation.
 Found plainSearch(const Search& s)
 {
     const double r = 1.0 - s.prob2, A = s.x2 * -2.0 + r * s.m;

@@ -100,7 +100,7 @@ TEST(VBMCopyBlockSPV, NumbersBelowOneReadMinusOne)
     EXPECT_THAT(dst.values(), SameBits({-1, -1, -1, 5}));
 }
 
-// The storages tell which function an export calls: SPV2 goes between arrays of columns, SPV3 from a flat array.
+// The storages show which function an export calls: SPV2 goes between arrays of columns, SPV3 from a flat array.
 TEST(CppMDuplicateDblSPV, WholeTablesInEveryStorage)
 {
     const std::vector<double> cells{1, 2, M, 4, 5, 6};

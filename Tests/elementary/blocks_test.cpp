@@ -23,7 +23,7 @@ std::ostream& operator<<(std::ostream& out, const Block& b)
                << ", " << b.dstCol << ")";
 }
 
-/// The plain loop that every copy is held against: rows outside, columns inside, each cell by the checked access.
+/// The plain loop with which every copy is compared: rows outside, columns inside, each cell by the checked access.
 template <class Get, class Set>
 void copyByTheCell(const Block& b, Get get, Set set)
 {
@@ -43,7 +43,7 @@ auto writes(Table* table)
     return [=](int i, int j, auto v) { table->vbset(i, j, v); };
 }
 
-/// Blocks around the edges of two tables, and wholly beside them.
+/// Blocks around the edges of two tables, and entirely outside them.
 Block anyBlock(RandomData& data, int largest)
 {
     return {data.integer(-1, largest),     data.integer(-1, largest),     data.integer(-2, largest + 2),

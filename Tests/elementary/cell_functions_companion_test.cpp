@@ -30,7 +30,7 @@ extern "C" VECMAT_API double sqr(double x)
 
 namespace {
 
-TEST(CellFunctions, Log10IsAskedAboutCellsOutsideToo)
+TEST(CellFunctions, Log10IsCalledForCellsOutsideToo)
 {
     asked.clear();
     auto a = byRows({{4, M, 9}});

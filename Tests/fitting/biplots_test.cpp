@@ -17,7 +17,7 @@ namespace {
 constexpr double inf = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// Observations, variables and eigenvalues, and what a call makes of them.
+/// Observations, variables and eigenvalues, and the results of a call on them.
 struct Map
 {
     Owned<matrix> obs;

@@ -1,5 +1,5 @@
 // Fits of many rows, which are worked on several columns and rows at a time, have the bits of the plain steps: at sizes
-// around the rows and columns taken at once, with missing cells, rows of no weight and numbers that are none.
+// around the rows and columns taken at once, with missing cells, rows of no weight, NaN and infinities.
 #include "fitting/regression_calls.h"
 
 #include "support/failing_new.h"

@@ -230,7 +230,7 @@ TEST(NIPALS, NaNAndInfinityEndAfterTheSecondPass)
     EXPECT_EQ(impute(X, column({1, 1, 1}), 1), 0);
     EXPECT_TRUE(std::isnan(X->vbget(2, 1)));
     EXPECT_THAT(X->vbget(2, 2), SameBits(4.0));
-    // So does a tolerance that is none.
+    // So does a tolerance of NaN.
     auto infinite = byRows({{M, 5, 1}, {0, 1, 7}, {2, 3, 0}}), none = byRows({{M, 5, 1}, {0, 1, 7}, {2, 3, 0}});
     EXPECT_EQ(impute(infinite, column({1, 1, 1}), 1, {}, inf), 0);
     EXPECT_EQ(impute(none, column({1, 1, 1}), 1, {}, notANumber), 0);

@@ -1,4 +1,4 @@
-// The steps of the least squares fit, written down plainly a second time. All numbers are 1-based.
+// The steps of the least squares fit, written out plainly. All indices are 1-based.
 #pragma once
 
 #include "decompositions/sweep.h"

@@ -60,7 +60,7 @@ TEST(RemoveRowsWithMissing, Strings)
     }
 }
 
-TEST(RemoveRowsWithMissing, NothingOrEverythingGoes)
+TEST(RemoveRowsWithMissing, RemovesNothingOrEverything)
 {
     auto a = byRows({{1, 2}, {3, 4}});
     Flags mask = {-1, -1};

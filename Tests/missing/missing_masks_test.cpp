@@ -196,7 +196,7 @@ TEST(GetMissing, LastColumnAloneDecides)
     expectFlags(3, 1, {M, 1, 2}, {0, 0, 1}, {-1, 0, 0}); // a flag of 1 is not set
 }
 
-TEST(GetMissing, TableGoesByTheOrderTest)
+TEST(GetMissing, TableUsesTheOrderTest)
 {
     expectFlags(5, 1, {-inf, belowMissing, M, notANumber, positiveTwin}, {0, 0, 0, 0, 0}, {-1, -1, -1, 0, 0});
 }
@@ -329,7 +329,7 @@ TEST(MissingOffDiagonal, LowerTriangleIsNotRead)
     EXPECT_EQ(missingOffDiagonal(2, {1, M, 1, 1}), 0);
 }
 
-TEST(MissingOffDiagonal, OneCellGoesByEqualityTheOthersByOrder)
+TEST(MissingOffDiagonal, OneCellIsTestedByEqualityTheOthersByOrder)
 {
     EXPECT_EQ(missingOffDiagonal(2, {1, 1, -inf, 1}), 0);
     EXPECT_EQ(missingOffDiagonal(2, {1, 1, belowMissing, 1}), 0);

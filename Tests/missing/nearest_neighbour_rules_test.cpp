@@ -204,7 +204,7 @@ TEST(NearestNeighbourRules, EqualStringsAreNoTermButEqualNumbersAre)
     EXPECT_THAT(filled({.mask = {-1, 0, 0}, .colsX = 1, .x = {M, 2, 4}, .colsS = 1, .s = {L"a", L"a", L"a"}}).x[0],
                 SameBits(3));
     EXPECT_THAT(filled({.mask = {-1, 0, 0}, .colsX = 1, .x = {M, 2, 4}, .colsY = 1, .y = {1, 1, 5}}).x[0], SameBits(2));
-    // Equal numbers of a column without variance are none.
+    // In a column without variance even equal numbers give no distance.
     EXPECT_THAT(filled({.mask = {-1, 0, 0}, .colsX = 1, .x = {M, 2, 4}, .colsY = 1, .y = {1, 1, 1}}).x[0], SameBits(3));
 }
 

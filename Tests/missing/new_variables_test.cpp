@@ -182,7 +182,7 @@ TEST(ComputeNewVar, NegligibleCoefficientKeepsItsTermsInLaterColumns)
     EXPECT_THAT(counted.covariances[1], SameBits(sum - 0.5 * (counted.variances[0] + counted.variances[1])));
     EXPECT_FALSE(sameBits(counted.covariances[1], skipped.covariances[1]));
 
-    // As a later column it goes with all its cross terms.
+    // As a later column it is dropped with all its cross terms.
     const Cells second = {0.5, 0.5, -limit, 0.0};
     const Result dropped = newVariables(2, 2, second, {1.0, 1e10, 1e10, 1e20});
     const double half = 0.5 * (dropped.variances[0] + dropped.variances[1]);

@@ -96,7 +96,7 @@ TEST(InfoQualiValid, WeightsOfPlacesBeyondTheResultAreDropped)
 {
     const auto categories = stringsByRows({{L"a", L"b"}});
     const Weighed result = weighed(stringColumn({L"b", L"a"}), 2, 1, 1, {2}, categories, column({1, 2}));
-    EXPECT_EQ(result.invalid, 0) << "known all the same";
+    EXPECT_EQ(result.invalid, 0) << "known anyway";
     EXPECT_THAT(result.catWeights, SameBits({2}));
 }
 

@@ -140,7 +140,7 @@ TEST(BuildDisjunctiveTable, NothingToCode)
     EXPECT_THAT(cellsOf(out), SameBits({0, 0}));
 }
 
-/// The walk over every place of every cell.
+/// The plain search over every place of every cell.
 void plainBuild(Smatrix* data, int nRows, int nCols, int totalCats, matrixInt* nCats, Smatrix* categories, matrix* freq,
                 matrix*& out, int coding, int keepBaseline)
 {

@@ -48,7 +48,7 @@ TEST(VFreq, MissingValueIsAValue)
 {
     EXPECT_THAT(frequency({M, 1, M}, {1, 2, 4}, M, 0.5), SameBits(5));
     EXPECT_THAT(frequency({M, 1}, {M, 2}, 1, 0.5), SameBits(2));
-    EXPECT_THAT(frequency({M, 1}, {1, M}, 1, 0.5), SameBits(M)) << "nor is a weight tested";
+    EXPECT_THAT(frequency({M, 1}, {1, M}, 1, 0.5), SameBits(M)) << "weights are not tested either";
 }
 
 TEST(VFreq, NaNMatchesNothing)

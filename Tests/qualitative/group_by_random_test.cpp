@@ -53,7 +53,7 @@ struct Case
     }
 };
 
-/// Tells what the cases have been, so that no kind of them is absent.
+/// Counts the kinds of cases, so that none is absent.
 struct Seen
 {
     std::array<int, 11> aggregates{};

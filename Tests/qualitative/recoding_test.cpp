@@ -35,7 +35,7 @@ Doubles codesOf(const Texts& cells, int rows, int cols, Ints counts, Smatrix* ca
 TEST(ReplaceCatByCodes, PlacesFromOne)
 {
     EXPECT_THAT(placesOf(words, 4, 2, twoEach, knownWords()), SameBits({2, 77, 1, 77, 2, 1, 77, 1}))
-        << "what matches nothing stays as it was";
+        << "a value that matches nothing is unchanged";
 }
 
 TEST(ReplaceStrByCodes, PlacesFromZeroPlusTheFirstCode)

@@ -334,7 +334,7 @@ TEST(BuildGroupingForDiffs, MissingIsWhatIsNotAboveTheMissingValue)
         EXPECT_EQ(grouped({mean, 1}, {{2, 1}}).lines(), (Lines{L".", L"A"}));
     EXPECT_EQ(grouped({above, 1}, {{2, 1}}).lines(), (Lines{L"A-", L"-B"}));
 
-    // A NaN is neither at or below the missing value nor above it.
+    // A NaN compares neither at or below the missing value nor above it.
     const double nan = std::numeric_limits<double>::quiet_NaN();
     const Comparisons differing(2, {{2, 1}});
     EXPECT_EQ(Grouped({nan, 1}, differing, -1).lines(), (Lines{L"A-", L"-B"}));
@@ -343,7 +343,7 @@ TEST(BuildGroupingForDiffs, MissingIsWhatIsNotAboveTheMissingValue)
 
 // ---- looking up a pair ----------------------------------------------------------------------------------------------
 
-/// Three items in sorted order over a table of pairs; what they share, "A" or "AB", tells what the look-up found.
+/// Three items in sorted order over a table of pairs; what they share, "A" or "AB", shows what the look-up found.
 struct LookedUp
 {
     short clean = 7;

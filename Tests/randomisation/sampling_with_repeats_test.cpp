@@ -135,7 +135,7 @@ TEST(SamplingWithReplacement, AgreesWithAPlainSecondForm)
 constexpr Forms byCounts{M_SampleUserDefined, M_SampleUserDefinedSPV, VB_M_SampleUserDefined,
                          VB_M_SampleUserDefinedSPV};
 
-/// `freq` reaches the flat forms as an array of the caller's, which stays as it was.
+/// `freq` reaches the flat forms as an array of the caller's, which they leave unchanged.
 BothStorages countedInBothStorages(const Population& S, const Cells& freq, int n)
 {
     script.begin({});
@@ -177,7 +177,7 @@ TEST(SampleUserDefined, CountsAreTruncatedOneByOne)
     EXPECT_THAT(sample.cells, ElementsAre(L"a1", L"a3", before));
 }
 
-TEST(SampleUserDefined, MissingCountIsNone)
+TEST(SampleUserDefined, MissingCountMakesNoCopy)
 {
     const Population S = population(4, 1);
     expectSame(counted(S, {M, 1, M, 2}, 3), {rowsOf(S, {2, 4, 4}), {2.0, 4.0, 4.0}});

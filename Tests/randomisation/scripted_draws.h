@@ -34,8 +34,8 @@ struct Series
     }
 };
 
-/// What the generator will draw and what it was asked. Opening a series changes the caller's seed by 5000 unless the
-/// flag is -1; closing the k-th series stores 1000 k and the number of its draws.
+/// What the generator will draw and the calls that it received. Opening a series changes the caller's seed by 5000
+/// unless the flag is -1; closing the k-th series stores 1000 k and the number of its draws.
 class Script
 {
 public:

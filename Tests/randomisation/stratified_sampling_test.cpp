@@ -419,7 +419,7 @@ TEST(StratifiedSampling, WorksOnTheCornerNamed)
 
 // ---- against a plain second form ------------------------------------------------------------------------------------
 
-/// A row of the population; number 0 is none.
+/// A row of the population; 0 for none.
 struct Row
 {
     double label;

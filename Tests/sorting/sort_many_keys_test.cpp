@@ -47,7 +47,7 @@ protected:
     }
 };
 
-/// Cells that tell where they came from, and the same with the rows of a range in the order of its records.
+/// Cells that show where they came from, and the same with the rows of a range in the order of its records.
 std::vector<double> numbered(std::size_t count)
 {
     std::vector<double> cells(count);

@@ -99,7 +99,7 @@ inline Ending runWithFailure(const std::function<void()>& body, int failingAlloc
 }
 
 /// Runs `body` with its first, second, ... allocation failing, until it runs through because it makes no more. Checks
-/// each time that the exception came out as it was thrown (a request by the form of new that returns null needs no
+/// each time that the exception passed out unchanged (a request by the form of new that returns null needs no
 /// exception) and that the body released all it had made. Returns the number of failures tried, for the test to see
 /// that there were some; stops at the first check that fails. The body should consist of the calls under test, release
 /// what they hand over, and assert nothing while an allocation may fail.

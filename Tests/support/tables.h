@@ -227,7 +227,7 @@ std::vector<std::vector<T>> triangleOf(int order, const std::vector<T>& cells)
     return columns;
 }
 
-/// The array of column tables that a super-matrix is; goes wherever `matrix**` (`Smatrix**`) is expected. It owns the
+/// The array of column tables that a super-matrix is; passes wherever `matrix**` (`Smatrix**`) is expected. It owns the
 /// tables, also those that a function puts in their place.
 template <class Table>
 class Columns

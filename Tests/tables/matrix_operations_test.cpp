@@ -94,7 +94,7 @@ TEST(VInnerProdWeighted, MultipliesEachSquare)
 {
     auto t = table(3, 1, {1, 2, 4});
     auto other = table(3, 1, {1, M, 1});
-    EXPECT_THAT(t->VInnerProdWeighted(0, false, 0, other), SameBits(17.0)) << "unit weights where there are none";
+    EXPECT_THAT(t->VInnerProdWeighted(0, false, 0, other), SameBits(17.0)) << "unit weights by default";
     ASSERT_NE(t->weights, nullptr);
     double w[] = {3, 100, -2};
     t->weighting(w);

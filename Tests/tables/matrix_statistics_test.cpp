@@ -147,7 +147,7 @@ TEST(CalcDescStat, RunsAgainOnlyForAnotherMode)
     t->calcDescStat(0);
     t->vbset(1, 1, 100.0);
     t->calcDescStat(0);
-    EXPECT_THAT(t->descMu[0], SameBits(2.0)) << "a change of the cells goes unnoticed";
+    EXPECT_THAT(t->descMu[0], SameBits(2.0)) << "a change of the cells is not detected";
     t->calcDescStat(-1);
     EXPECT_THAT(t->descMu[0], SameBits(reference({100, 2, 3}, {1, 1, 1}, true).mean));
 }

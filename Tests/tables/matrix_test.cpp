@@ -280,7 +280,7 @@ TEST(MatrixDestructor, LeavesTheCallersCellsAndReleasesTheRest)
     EXPECT_TRUE(callers.untouched());
 }
 
-TEST(MatrixDestructor, GoesByTheFlagAndByNull)
+TEST(MatrixDestructor, FollowsTheFlagAndSkipsNull)
 {
     const std::unique_ptr<double[]> kept(new double[2]{1, 2});
     {

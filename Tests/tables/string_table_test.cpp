@@ -21,7 +21,7 @@ using testing::ElementsAre;
 
 constexpr int lowestInt = std::numeric_limits<int>::min();
 
-// Longer than any string keeps in itself, so that each has a block of its own.
+// Too long for a string's own storage, so that each has a block of its own.
 const std::wstring longText = L"a text that does not fit into the string itself";
 
 TEST(StringTableFields, AreAPlainClassInTheSettledOrder)

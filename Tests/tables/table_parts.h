@@ -25,7 +25,7 @@ void expectShape(const Owned<Table>& t, int rows, int cols)
     expectShape(t.get(), rows, cols);
 }
 
-/// No moments, and no flag that tells of any.
+/// No moments, and no flag for any.
 template <class Table>
 void expectNoMoments(const Table& t)
 {

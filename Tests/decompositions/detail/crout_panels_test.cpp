@@ -1,5 +1,5 @@
-// Tables that are large enough for panels are factored to the bits of the plain steps: at orders around the edges of a
-// tile and of a strip, with ties, zeros of both signs and numbers that are none.
+// Tables large enough for panels are factored to the bits of the plain steps: at orders around the edges of a
+// tile and of a strip, with ties, zeros of both signs, NaN and infinities.
 #include "decompositions/determinants.h"
 
 #include "decompositions/crout_cases.h"

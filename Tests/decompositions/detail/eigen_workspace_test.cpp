@@ -1,6 +1,6 @@
-// Tables that are large enough for the workspace have the bits of the plain steps: at orders around the edges
-// of vectors, groups of columns and panels of rows, with NaN and infinite cells, where reflections are skipped,
-// where results overlap and where memory for the workspace is short.
+// Tables large enough for the workspace have the bits of the plain steps: at orders around the edges of vectors, groups
+// of columns and panels of rows, with NaN and infinite cells, where reflections are skipped, where results overlap and
+// where memory for the workspace is short.
 #include "access/cells.h"
 #include "decompositions/detail/symmetric_ql.h"
 

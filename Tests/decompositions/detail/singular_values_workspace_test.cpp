@@ -1,6 +1,6 @@
-// Tables that are large enough for the workspace have the bits of the plain steps: at sizes around the edges
-// of vectors, groups of columns and panels of rows, with NaN and infinite cells, where reflections leave columns
-// out, where tables overlap and where memory for the workspace is short.
+// Tables large enough for the workspace have the bits of the plain steps: at sizes around the edges of vectors, groups
+// of columns and panels of rows, with NaN and infinite cells, where reflections leave columns out, where tables overlap
+// and where memory for the workspace is short.
 #include "decompositions/detail/strided_vector.h"
 #include "decompositions/detail/svd_iteration.h"
 
@@ -68,7 +68,7 @@ TEST(SVDecompWorkspace, HasTheBitsOfTheStepsAtTheEdgesOfItsBlocks)
 
 TEST(SVDecompWorkspace, LeavesOutOrthogonalColumns)
 {
-    // Many inner products are exactly 0, of which the zeros of either sign tell.
+    // Many inner products are exactly 0, as zeros of either sign show.
     RandomData data(8221);
     SCOPED_TRACE(data);
     int turnsWithoutPass = 0;
