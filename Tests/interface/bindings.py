@@ -29,22 +29,9 @@ MACRO_RESULTS = {"int": ("Long", "Long"), "double": ("Double", "Double"), "short
 C_TYPES = {"void", "void*", "int", "double", "short", "wchar_t*", "int*", "double*", "short*", "const char*",
            "const wchar_t*", "const void*", "wchar_t**", "void**", "SAFEARRAY*", "SAFEARRAY**"}
 
-# Words that cannot be names: the language definition's statement and marker keywords, operators, reserved names and
-# types, literals, special forms and future words.
-RESERVED = set("""
-    call case close const declare defbool defbyte defcur defdate defdbl defint deflng deflnglng deflngptr defobj defsng
-    defstr defvar dim do else elseif end endif enum erase event exit for friend function get global gosub goto if
-    implements input let lock loop lset next on open option print private public put raiseevent redim resume return rset
-    seek select set static stop sub type unlock wend while with write any as byref byval each in new shared until
-    withevents optional paramarray preserve spc tab then to addressof and eqv imp is like mod not or typeof xor abs cbool
-    cbyte ccur cdate cdbl cdec cint clng clnglng clngptr csng cstr cvar cverr date debug doevents fix int len lenb me
-    pset scale sgn string array circle inputb lbound ubound boolean byte currency double integer long longlong longptr
-    single variant true false nothing empty null rem attribute lineinput cdecl decimal defdec""".split())
 # The blocks of a module of declarations: for a Mac, for Windows, and for a Mac with a host from before VBA7.
 CONDITIONS = ["#If Mac And VBA7 Then", "#ElseIf Win64 Then", "#ElseIf Mac Then", "#End If"]
 TITLES = ("Mac", "Windows", "before VBA7")
-LONGEST_MODULE = 64 * 1024
-LONGEST_LINE, MOST_CONTINUED, MOST_PARAMETERS, LONGEST_NAME = 1023, 24, 60, 255
 
 
 @dataclass(frozen=True)
@@ -62,25 +49,12 @@ class ModuleError(Exception):
 
 
 def statements(text):
-    """The statements of a module, without comments, each as one line; the limits of the language are held."""
-    if "\n" in text.replace("\r\n", ""):
-        raise ModuleError("a line does not end with carriage return and line feed")
-    found, current, continued = [], "", 0
-    for number, line in enumerate(text.split("\r\n"), start=1):
-        if len(line) > LONGEST_LINE or not line.isascii():
-            raise ModuleError(f"line {number} is too long or not ASCII")
-        current += line
-        if current.endswith(" _"):
-            current, continued = current[:-1], continued + 1
-            if continued > MOST_CONTINUED:
-                raise ModuleError(f"line {number}: more than {MOST_CONTINUED} lines are continued")
-            continue
-        code = re.sub(r"""^((?:[^"']|"[^"]*")*)'.*$""", r"\1", current).strip()
+    """The statements of a module, without comments, each as one line."""
+    found = []
+    for line in text.replace(" _\r\n", " ").split("\r\n"):
+        code = re.sub(r"""^((?:[^"']|"[^"]*")*)'.*$""", r"\1", line).strip()
         if code:
             found.append(re.sub(r"\s+", " ", code))
-        current, continued = "", 0
-    if current:
-        raise ModuleError("the module ends within a statement")
     return found
 
 
@@ -103,16 +77,12 @@ def macro_declaration(statement):
     names = [match["name"].lower()] + [name.lower() for _, name, _ in triples]
     if len(set(names)) != len(names):
         raise ModuleError(f"{match['name']}: two names differ in nothing but case")
-    if set(names) & RESERVED or max(map(len, names)) > LONGEST_NAME or len(triples) > MOST_PARAMETERS:
-        raise ModuleError(f"{match['name']}: a name is a word of the language, or there is too much of something")
     return MacroDeclaration(match["name"], match["safe"] is not None, match["cdecl"] is not None,
                             match["library"], tuple(triples), match["returns"])
 
 
 def module_declarations(text):
     """The declarations of a module in three lists: for a Mac, for Windows, and for a Mac from before VBA7."""
-    if len(text) > LONGEST_MODULE:
-        raise ModuleError("the module is longer than an editor takes")
     lines = statements(text)
     if [line for line in lines if line.startswith("#")] != CONDITIONS:
         raise ModuleError("there are not three blocks, for a Mac, for Windows, and for a Mac from before VBA7")
@@ -238,36 +208,3 @@ def compare_guarded_symbols(symbols, declarations):
     expected = {"vecmat_guarded_" + name for name in flat_in_c(declarations)} | {"vecmat_guarded_error"}
     return ([f"guarded: the library lacks {name}" for name in sorted(expected - symbols)]
             + [f"guarded: the library exports {name}, too" for name in sorted(symbols - expected)])
-
-
-def calls_in(text, names):
-    """Calls of the given functions in a module: pairs of a name and the count of its arguments."""
-    calls = []
-    for statement in statements(text):
-        for match in re.finditer(r"\b([A-Za-z]\w*)(\(| )", statement):
-            if match[1] not in names or statement.startswith(("Attribute", "Public Sub", "Private Sub")):
-                continue
-            if match[2] == " " and not statement.startswith(match[1]):
-                continue
-            depth, count, rest = 0, 1, statement[match.end():]
-            for char in re.sub(r'"[^"]*"', "x", rest):
-                depth += {"(": 1, ")": -1}.get(char, 0)
-                if depth < 0:
-                    break
-                count += char == "," and depth == 0
-            calls.append((match[1], 0 if not rest.strip(" )") else count))
-    return calls
-
-
-def compare_example(text, declarations):
-    """What is wrong with the calls of an example macro: it names what is not there, or counts arguments wrong."""
-    expected = expected_for_macros(declarations)
-    try:
-        calls = calls_in(text, expected)
-        named = set(re.findall(r"\b(?:VB|Cpp|M|V)_\w+", "\n".join(statements(text)))) - {"VB_Name"}
-    except ModuleError as error:
-        return [str(error)]
-    wrong = [f"example: {name} is not a function for macros" for name in sorted(named - set(expected))]
-    wrong += [f"example: {name} is called with {count} arguments, not {len(expected[name].types)}"
-              for name, count in calls if count != len(expected[name].types)]
-    return wrong + ([] if calls else ["example: nothing is called"])

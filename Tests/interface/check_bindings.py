@@ -29,10 +29,7 @@ def main():
     modules = [path.read_bytes().decode("ascii") for path in sorted((root / "Bindings/vba").glob("VecMatCalls*.bas"))]
     nullable = {(call.name, argument.name) for call in read_calls(root).values() for argument in call.arguments
                 if argument.null is not False}
-    example = (root / "Bindings/vba/VecMatExample.bas").read_bytes().decode("ascii")
     wrong += bindings.compare_macros(modules, declarations, nullable)
-    bindings.statements((root / "Bindings/vba/VecMat.bas").read_bytes().decode("ascii"))
-    wrong += bindings.compare_example(example, declarations)
     wrong += bindings.compare_c((root / "Bindings/c/VecMatFlat.h").read_text(encoding="ascii"), declarations)
     wrong += bindings.compare_guarded((root / "Bindings/c/VecMatGuarded.h").read_text(encoding="ascii"), declarations)
     if arguments.guarded:
