@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""check_vba.py DIRECTORY: does every host compile the modules of VBA there?
+"""check_vba.py DIRECTORY [PAGE...]: does every host compile the modules of VBA there, and what the pages show?
 
 Reads all of them as the language's definition has it, once for each host: VBA6 and VBA7, 32 and 64 bits, Windows and Mac.
 """
 
+import re
 import sys
 from pathlib import Path
 
@@ -13,6 +14,27 @@ from expressions import value_of
 from modules import ModuleParser
 from names import Project
 from source import HOSTS, VbaError, logical_lines, select, tokens_of
+
+
+# What the pages use of a host.
+SPREADSHEET = """\
+Attribute VB_Name = "Spreadsheet"
+Option Explicit
+Public Const xlErrNA As Long = 2042
+Public Function Range(ByVal address As String) As Object
+    Set Range = Nothing
+End Function
+""".replace("\n", "\r\n")
+
+
+def modules_of_page(title, text):
+    """The macros of a page, each as a module. They call the library, which 32-bit Windows does not have."""
+    modules = {}
+    for number, code in enumerate(re.findall(r"^```vb\n(.*?)^```$", text, re.MULTILINE | re.DOTALL), start=1):
+        name = f"{title}{number}"
+        lines = f'Attribute VB_Name = "{name}"\nOption Explicit\n#If Mac Or Win64 Then\n{code}#End If\n'
+        modules[name] = re.sub(r"^Sub ", "Private Sub ", lines, flags=re.MULTILINE).replace("\n", "\r\n")
+    return modules
 
 
 def parsed(lines, tokens, host):
@@ -75,9 +97,15 @@ def check_names(modules, host):
 def main():
     paths = sorted(Path(sys.argv[1]).glob("*.bas"))
     texts = {path.stem: path.read_bytes().decode("ascii", "replace") for path in paths}
-    wrong = check(texts)
+    shown = {}
+    for page in map(Path, sys.argv[2:]):
+        found = modules_of_page(page.stem, page.read_text(encoding="utf-8"))
+        if not found:
+            sys.exit(f"{page}: no macro is shown")
+        shown.update(found)
+    wrong = check({**texts, **shown, "Spreadsheet": SPREADSHEET})
     print("\n".join(f"WRONG: {line}" for line in wrong))
-    print(f"{len(texts)} modules for {len(HOSTS)} hosts, {len(wrong)} wrong")
+    print(f"{len(texts)} modules and {len(shown)} macros of pages for {len(HOSTS)} hosts, {len(wrong)} wrong")
     return 1 if wrong or not texts else 0
 
 

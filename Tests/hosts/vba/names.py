@@ -217,7 +217,8 @@ class Names(Types):
         if root[0] == "with" or root[1].lower() in OBJECTS:
             return
         symbol = self.find(root[1])
-        if symbol is None or symbol.kind not in ("variable", "property get", "property let"):
+        is_of_result = target[0] == "member" and getattr(symbol, "returns", "") in ("object", "variant")
+        if symbol is None or symbol.kind not in ("variable", "property get", "property let") and not is_of_result:
             raise VbaError(line, f"{root[1]} cannot be assigned to")
         if target[0] == "name" and symbol.kind == "variable" and symbol.is_fixed:
             raise VbaError(line, f"{root[1]} is an array with bounds, which is not assigned as a whole")

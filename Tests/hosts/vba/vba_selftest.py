@@ -67,6 +67,10 @@ Private Function Made() As Double()
     Made = numbers
 End Function
 
+Private Function Made2(ByVal i As Long) As Object
+    Set Made2 = Nothing
+End Function
+
 Private Sub Several(ParamArray rest() As Variant)
     Debug.Print UBound(rest); rest(0), "x"
 End Sub
@@ -125,6 +129,7 @@ Public Sub Everything()
     Erase v
     Move 0, ByVal 0&
     Good.Work
+    Made2(1).Value = 3
     If TypeOf list Is Collection Then Stop
     GoTo Done
 Failed:
@@ -201,6 +206,15 @@ class Selftest(unittest.TestCase):
         for message, texts in TEXTS:
             with self.subTest(message):
                 self.reject(message, *[text.replace("\n", "\r\n") for text in texts])
+
+    def test_pages(self):
+        page = "text\n```vb\nSub A()\n    Range(\"A1\").Value = 1\nEnd Sub\n```\n```vb\nSub A()\nEnd Sub\n```\n"
+        modules = check_vba.modules_of_page("x", page)
+        self.assertEqual(len(modules), 2)
+        self.assertEqual(check_vba.check({**modules, "Spreadsheet": check_vba.SPREADSHEET}), [])
+        wrong = check_vba.check({**check_vba.modules_of_page("x", page.replace("Range", "Rage")),
+                                 "Spreadsheet": check_vba.SPREADSHEET})
+        self.assertIn("Rage is not declared", wrong[0])
 
     def test_hosts(self):
         self.assertEqual(check_vba.check({"M": text_of("#If Win64 Then", "x = 1", "#End If")}),
