@@ -41,6 +41,7 @@ DECLARATIONS = [
     ("#Const takes a name", "#Const X"),
     ("no #If before #End If", "#End If"),
     ("#Else after #Else", "#If VBA7 Then\n#Else\n#Else\n#End If"),
+    ("no #If before #", "#"),
     ("not a directive", "#If VBA7 Then\n#Otherwise\n#End If"),
     ("no #End If", "#If VBA7 Then"),
 ]
@@ -91,6 +92,7 @@ BODIES = [
     ("does not take an array of a Type", "For Each v In rows\nNext v"),
     ("an array without bounds of its own", "ReDim fixed(0 To 3)"),
     ("an array without bounds of its own", "ReDim i(0 To 3)"),
+    ("ReDim takes all bounds", "ReDim a(, 0 To 3)"),
     ("ReDim does not change the type", "ReDim a(0 To 3) As Long"),
     ("Erase takes an array", "Erase i"),
     ("Work returns nothing", "Work = 1"),
@@ -103,6 +105,7 @@ BODIES = [
     ("Twice is called without x", "Twice = 2"),
     ("an array with bounds, which is not assigned", "fixed = a"),
     ("i is no procedure", "i 3"),
+    ("a value is no procedure", "With p\n.A 3\nEnd With"),
     ("+ takes no arrays", "v = a + 1"),
     ("& takes no arrays and no Types", 'v = "" & p'),
     ("i is no procedure", "v = AddressOf i"),

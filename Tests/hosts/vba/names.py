@@ -176,6 +176,8 @@ class Names(Types):
     def on_redim(self, tree, arguments, kind, line):
         self.visit(tree)
         for argument in arguments:
+            if argument.tree is None:
+                raise VbaError(line, "ReDim takes all bounds")
             self.visit(argument.tree)
         symbol = self.find(tree[1]) if tree[0] == "name" else None
         found = self.type_of(tree)
@@ -236,6 +238,8 @@ class Names(Types):
             self.check_arguments(procedure, arguments, line)
             return
         self.visit(target)
+        if self.type_of(target) is not None:
+            raise VbaError(line, "a value is no procedure")
         for argument in arguments:
             if argument.tree is not None:
                 self.visit(argument.tree)

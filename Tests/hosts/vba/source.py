@@ -108,7 +108,7 @@ def select(lines, host, value_of):
             if all(block[0] for block in open_blocks):
                 kept.append((number, line))
             continue
-        rest = tokens_of(number, line.strip()[1:])
+        rest = tokens_of(number, line.strip()[1:]) or [Token("end", "", number, False)]
         first = rest[0].word + (" if" if rest[0].word == "end" and len(rest) > 1 and rest[1].word == "if" else "")
         is_outer = all(block[0] for block in open_blocks[:-1])
         if first in ("if", "elseif"):
