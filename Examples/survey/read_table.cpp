@@ -39,7 +39,7 @@ struct Wanted
 
 std::string shown(char c)
 {
-    return c == '\t' ? "a tab" : "'" + std::string(1, c) + "'";
+    return c == '\t' ? "a tab" : std::string{'\'', c, '\''};
 }
 
 /// Reads one text.

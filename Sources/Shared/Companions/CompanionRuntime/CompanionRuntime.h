@@ -28,10 +28,10 @@ extern "C" {
 /// Makes a BSTR of the given length in bytes: the length before it and the NUL behind it written, the characters left
 /// to the caller where `characters` is null, else copied from there. Null where there is no memory. The form is that of
 /// OLE Automation's SysAllocStringByteLen.
-typedef wchar_t* (*BstrAllocate)(const char* characters, unsigned int bytes);
+using BstrAllocate = wchar_t* (*)(const char* characters, unsigned int bytes);
 
 /// Frees a BSTR, which is not null.
-typedef void (*BstrRelease)(wchar_t* bstr);
+using BstrRelease = void (*)(wchar_t* bstr);
 
 /// From now on strings are made by `allocate`, and `SysFreeString2` frees them by `release`, in all threads of the
 /// process. Two null pointers bring the allocator of the platform back. Returns -1, or 0 where just one of the two is
