@@ -20,6 +20,7 @@ extern "C" {
 /// column done back to the first.
 /// @failure -1; the columns before that pivot are done, the rest is 0.0. Otherwise 0
 /// @memory a table of the order and up to 32 columns, for large tables
+/// @weak the pivot is tested in absolute terms: a positive definite table fails where its cells are below about 1e-12
 VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 
 } // extern "C"
@@ -36,7 +37,7 @@ VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 /// @failure -1, with the columns before that pivot done. Otherwise 0
 /// @memory a copy of `a` and a column
 /// @weak this is not the complete pivoting of the literature (Higham, Accuracy and Stability of Numerical Algorithms):
-///     a table that it would factor may end in -1 here
+///     a table that it would factor may end in -1 here. The pivot is tested in absolute terms, as in `M_CholDecomp`
 VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrix* perm, short keep);
 VECMAT_API int M_CholDecompPrinc(matrix* a, int n, matrix* l, matrixInt* perm, short keep);
 

@@ -8,6 +8,8 @@
 // @mask `constraints`, n entries: above 0 removes row and column, exactly 0 keeps them; there are no other entries
 // @divisor a pivot up to 1e-8 is singular; a single kept cell of exactly 0 counts as 1e-12
 // @empty nothing kept is a success: 0
+// @weak pivots are tested in absolute terms: a regular block of small scale counts as singular, one of large scale that
+//     is singular may pass
 #pragma once
 
 #include "../base/api.h"
@@ -30,6 +32,7 @@ VECMAT_API int cCleanConstraintsAndInvertTriang(int n, matrixInt* constraints, m
 /// logarithms, and `*status` is not written.
 /// @divisor as `M_Determinant`
 /// @empty 1.0
+/// @weak -
 VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrix* constraints, short* status);
 VECMAT_API double M_DeterminantCleaned(matrix* a, int n, matrixInt* constraints, short* status);
 

@@ -6,6 +6,7 @@
 // @missing an ordinary number
 // @divisor a pivot up to 1e-12 gives a row of zeros
 // @empty nothing is written
+// @weak the limit of 1e-12 is absolute: a regular table of small scale becomes rows of zeros
 // @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
 #pragma once
 

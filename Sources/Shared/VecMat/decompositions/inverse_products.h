@@ -7,6 +7,8 @@
 // @divisor a pivot of `b` up to 1e-8 makes it singular: its inverse then counts as 0.0 throughout
 // @empty an empty sum is 0.0
 // @failure a singular `b` is not reported
+// @weak pivots are tested in absolute terms: a regular `b` of small scale counts as singular, and the result is 0.0
+//     throughout. Scale `b` to the order of 1
 #pragma once
 
 #include "../base/api.h"

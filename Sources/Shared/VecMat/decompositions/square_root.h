@@ -3,6 +3,8 @@
 // @missing -1 with `out` untouched (equality): there are no eigenvalues
 // @divisor an eigenvalue above -1e-12 and up to 0 counts as 0; one not above -1e-12 fails
 // @empty 0
+// @weak the limit is absolute: a table of small scale passes although it has negative eigenvalues, and out' out is then
+//     not `a`. Accuracy is that of `M_Eigen`
 #pragma once
 
 #include "../base/api.h"

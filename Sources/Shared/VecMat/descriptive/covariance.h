@@ -58,6 +58,7 @@ VECMAT_API int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, shor
 // that is the covariance of k and k + j, or -1.0 beyond the end of the column; in a longer column whatever is there.
 
 /// From one table, and from an array of observations, each a table of p cells.
+/// @weak correlations have other pairs' covariances as numerators, as told above: take them from a square result
 VECMAT_API int M_CovCorrSPV(matrix*& X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
                             short freqWeights, short zeroForMissing);
 VECMAT_API int M_CovCorrSPV_T(matrix** X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,

@@ -25,6 +25,9 @@ extern "C" {
 /// a column has another variance in each pair; the one used is that of its last pair: of each column of X with the last
 /// column of Y, and of each column of Y with the last column of X. With a nonzero `square` a correlation that is
 /// computed is squared. Returns 0.
+/// @weak the product of the variances is tested in absolute terms: the correlation of two columns whose deviations are
+///     below 1e-3 is missing. With missing cells it takes the variances of other pairs, and can exceed 1;
+///     `CorrelPearson` does neither
 VECMAT_API int M_CorrMatMat(matrix* X, int n, int p, matrix* Y, int q, matrix*& C, short* mask, matrix* w, short corr,
                             short square, short sample, short freqWeights, short zeroForMissing);
 VECMAT_API int M_CorrMatMatSPV(matrix** X, int n, int p, matrix* Y, int q, matrix*& C, short* mask, matrix* w,

@@ -4,6 +4,7 @@
 // @divisor the pivot; singular where it is exactly 0.0 or none is found
 // @empty 0, nothing changed
 // @failure -2 for a singular table; a and b are then left as the steps so far have made them
+// @weak a pivot is searched in absolute terms: a regular table whose cells are all within 1e-12 of 0 is singular
 // @source full pivoting: Golub and Van Loan, Matrix Computations, section 3.4
 #pragma once
 

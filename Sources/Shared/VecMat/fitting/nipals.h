@@ -41,7 +41,8 @@ extern "C" {
 ///
 /// The dimensions bound the loops; the table's own row count is its stride. A read outside a table yields -1.0, which
 /// takes part.
-/// @weak a component that does not settle, as with a negative `tol` or one below what the arithmetic can reach, is used
+/// @weak the limits for a constant column and for scores without length are absolute: a table in units so large that a
+///     deviation is 1e-6 or less ends with 1. A component that does not settle, as with a negative `tol` or one below what the arithmetic can reach, is used
 ///     as it is after 100000 passes, without notice
 VECMAT_API int NIPALS(int n, int p, matrix* X, matrix* w, double tol, int components, double maxColumnShare,
                       double maxTotalShare);
