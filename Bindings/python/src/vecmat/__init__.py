@@ -10,34 +10,41 @@ as NaN; infinities are numbers.
 4201.75
 """
 
-from vecmat import flat
+from vecmat import (components, covariance, data, decompositions, flat, groups, inverses, matrices, missing,
+                    qualitative, quantiles, ranks, regression, sampling, scaling, spread, univariate)
 from vecmat._results import PrecisionWarning, Result
-from vecmat.qualitative import *
-from vecmat.qualitative import __all__ as _categories
 from vecmat.components import *
-from vecmat.components import __all__ as _components
 from vecmat.covariance import *
-from vecmat.covariance import __all__ as _covariance
 from vecmat.data import *
-from vecmat.data import __all__ as _data
 from vecmat.decompositions import *
-from vecmat.decompositions import __all__ as _decompositions
+from vecmat.groups import *
+from vecmat.inverses import *
+from vecmat.matrices import *
 from vecmat.missing import *
-from vecmat.missing import __all__ as _missing
-from vecmat.univariate import *
-from vecmat.univariate import __all__ as _moments
+from vecmat.qualitative import *
 from vecmat.quantiles import *
-from vecmat.quantiles import __all__ as _quantiles
 from vecmat.ranks import *
-from vecmat.ranks import __all__ as _ranks
 from vecmat.regression import *
-from vecmat.regression import __all__ as _regression
 from vecmat.sampling import *
-from vecmat.sampling import __all__ as _sampling
 from vecmat.scaling import *
-from vecmat.scaling import __all__ as _scaling
+from vecmat.spread import *
+from vecmat.univariate import *
 
 __version__ = "1.0.0"
 __all__ = ["PrecisionWarning", "Result", "flat"]
-__all__ += _categories + _components + _covariance + _data + _decompositions + _missing + _moments + _quantiles + _ranks
-__all__ += _regression + _sampling + _scaling
+__all__ += components.__all__
+__all__ += covariance.__all__
+__all__ += data.__all__
+__all__ += decompositions.__all__
+__all__ += groups.__all__
+__all__ += inverses.__all__
+__all__ += matrices.__all__
+__all__ += missing.__all__
+__all__ += qualitative.__all__
+__all__ += quantiles.__all__
+__all__ += ranks.__all__
+__all__ += regression.__all__
+__all__ += sampling.__all__
+__all__ += scaling.__all__
+__all__ += spread.__all__
+__all__ += univariate.__all__

@@ -7,7 +7,7 @@ from typing import Any, Callable, Optional
 import numpy as np
 from numpy.typing import ArrayLike
 
-from vecmat._inputs import Floats, _labels, cells, is_vector, labelled, numbers, values
+from vecmat._inputs import Floats, cells, is_vector, labelled, labels_of, numbers, values
 
 
 def by_column(x: ArrayLike, axis: int, one: Callable[[Floats], float]) -> Any:
@@ -21,7 +21,7 @@ def by_column(x: ArrayLike, axis: int, one: Callable[[Floats], float]) -> Any:
         raise ValueError(f"x: expected one or two dimensions, got the shape {array.shape}")
     if axis not in (0, 1):
         raise ValueError(f"axis: expected 0 or 1, got {axis!r}")
-    labels = _labels(x)
+    labels = labels_of(x)
     table = cells(array if axis == 0 else array.T)
     result = np.array([one(table[:, j]) for j in range(table.shape[1])], dtype=np.float64)
     return labelled(values(result), labels.columns if axis == 0 else labels.index)

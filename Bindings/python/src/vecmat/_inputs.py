@@ -13,8 +13,9 @@ import vecmat.flat
 from vecmat._border import cells, is_vector, values
 from vecmat.flat import MISSING
 
-__all__ = ["MISSING", "Floats", "Labels", "Strings", "as_list", "cells", "column_vector", "flags", "untyped", "is_vector", "labelled",
-           "mask_of", "numbers", "strings", "table", "values", "vector", "weights_of", "whole"]
+__all__ = ["MISSING", "Floats", "Labels", "Strings", "as_list", "cells", "column_vector", "flags", "is_vector",
+           "labelled", "labels_of", "mask_of", "numbers", "one_column", "strings", "table", "untyped", "values",
+           "vector", "weights_of", "whole"]
 
 # Dimensions are handed over as shapes, which the types of these functions cannot follow.
 untyped: Any = vecmat.flat
@@ -47,7 +48,7 @@ class Strings(NamedTuple):
         return self.cells[j * self.rows:(j + 1) * self.rows]
 
 
-def _labels(given: Any) -> Labels:
+def labels_of(given: Any) -> Labels:
     index = getattr(given, "index", None)
     if index is None or callable(index):
         return Labels()
@@ -110,13 +111,13 @@ def table(given: ArrayLike, name: str = "x", *, square: bool = False, rows: Opti
         raise ValueError(f"{name}: expected {cols} columns, got {array.shape[1]}")
     if max(array.shape) > 2**31 - 1:
         raise ValueError(f"{name}: more rows or columns than the library counts, 2147483647")
-    return array, _labels(given)
+    return array, labels_of(given)
 
 
 def column_vector(given: ArrayLike, name: str = "x") -> tuple[Floats, Labels]:
     """A vector with its labels."""
     array = vector(given, name)
-    return array, _labels(given) if not is_vector(given) else Labels()
+    return array, labels_of(given) if not is_vector(given) else Labels()
 
 
 def weights_of(weights: Optional[ArrayLike], n: int) -> Floats:
@@ -146,7 +147,7 @@ def mask_of(exclude: Optional[ArrayLike], n: int) -> Optional[Flags]:
 
 def strings(given: Any, name: str = "x") -> Strings:
     """A table, or one column, of strings. Numbers become their text."""
-    labels = _labels(given)
+    labels = labels_of(given)
     to_numpy = getattr(given, "to_numpy", None)
     array = to_numpy(dtype=object) if to_numpy is not None and labels.index is not None else np.array(given, dtype=object)
     if array.ndim == 1:
@@ -155,6 +156,14 @@ def strings(given: Any, name: str = "x") -> Strings:
         raise ValueError(f"{name}: expected a column or a table of strings, got the shape {array.shape}")
     return Strings([None if _is_missing(value) else str(value) for value in array.ravel(order="F")],
                    array.shape[0], array.shape[1], labels)
+
+
+def one_column(x: Any) -> Strings:
+    """The strings of one column."""
+    given = strings(x)
+    if given.cols != 1:
+        raise ValueError(f"x: expected one column, got {given.cols}")
+    return given
 
 
 def as_list(given: Sequence[Optional[str]], rows: int, cols: int) -> NDArray[np.object_]:

@@ -11,8 +11,7 @@ from numpy.typing import ArrayLike
 
 from vecmat import flat
 from vecmat._documents import documented
-from vecmat._inputs import untyped
-from vecmat._inputs import MISSING, Floats, labelled, table, values, vector, weights_of, whole
+from vecmat._inputs import MISSING, Floats, labelled, table, untyped, values, vector, weights_of, whole
 from vecmat._results import Result
 from vecmat.covariance import corr, cov
 from vecmat.decompositions import eigh

@@ -11,8 +11,7 @@ from numpy.typing import ArrayLike
 from vecmat import flat
 from vecmat._columns import divisor_codes
 from vecmat._documents import documented
-from vecmat._inputs import untyped
-from vecmat._inputs import MISSING, Floats, labelled, mask_of, table, values, vector, weights_of
+from vecmat._inputs import MISSING, Floats, labelled, mask_of, table, untyped, values, vector, weights_of
 from vecmat._results import Result
 
 __all__ = ["CovarianceAndMoments", "corr", "corr_of_cov", "cov", "cov_and_moments", "cross_corr", "cross_cov", "pearson"]

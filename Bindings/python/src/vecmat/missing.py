@@ -9,9 +9,8 @@ from numpy.typing import ArrayLike, NDArray
 
 from vecmat import flat
 from vecmat._documents import documented
-from vecmat._inputs import untyped
-from vecmat._inputs import (MISSING, Floats, as_list, flags, is_vector, labelled, numbers, strings, table, values, vector,
-                            weights_of)
+from vecmat._inputs import (MISSING, Floats, as_list, flags, is_vector, labelled, numbers, strings, table, untyped,
+                            values, vector, weights_of)
 
 __all__ = ["complete_rows", "count_missing", "count_present", "drop_missing", "fill_missing", "impute_mean", "impute_mode",
            "impute_nearest", "insert_missing_rows", "is_missing", "matmul_missing", "set_missing", "zero_weights_of_missing"]

@@ -10,9 +10,9 @@ from numpy.typing import ArrayLike
 
 from vecmat import flat
 from vecmat._documents import documented
-from vecmat._inputs import untyped
-from vecmat._inputs import labelled, table, values, vector, whole
+from vecmat._inputs import labelled, table, untyped, values, vector, whole
 from vecmat._results import Result
+from vecmat.groups import places_of_keys
 
 __all__ = ["Drawn", "bootstrap_rows", "permutation", "random", "random_subset", "sample_stratified", "sample_systematic",
            "shuffle", "triangular_from_quantiles"]
@@ -255,10 +255,8 @@ def sample_stratified(strata: Any, size: int, *, seed: Optional[int] = None) -> 
     >>> vm.sample_stratified(["a"] * 6 + ["b"] * 3, 3, seed=1).values
     array([2, 5, 8])
     """
-    from vecmat.qualitative import _keys
-
     n = len(strata)
-    place, names = _keys(strata, n)
+    place, names = places_of_keys(strata, n)
     if (place < 0).any():
         raise ValueError("strata: a row has none")
     count = whole(size, "size", 1, n)

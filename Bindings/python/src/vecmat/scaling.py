@@ -11,8 +11,8 @@ from numpy.typing import ArrayLike
 from vecmat import flat
 from vecmat._columns import divisor_codes
 from vecmat._documents import documented
-from vecmat._inputs import untyped
-from vecmat._inputs import MISSING, Floats, Labels, column_vector, labelled, mask_of, numbers, table, values, vector, weights_of
+from vecmat._inputs import (MISSING, Floats, Labels, column_vector, labelled, mask_of, numbers, table, untyped, values,
+                            vector, weights_of)
 from vecmat._results import Result
 
 __all__ = ["Standardized", "apply_standardization", "center", "normalize", "rescale", "scale", "standardize",

@@ -15,10 +15,12 @@ import numpy as np
 from vecmat._inputs import Floats
 from vecmat.components import principal_components
 from vecmat.covariance import corr
+from vecmat.groups import group_by
 from vecmat.missing import count_missing
-from vecmat.qualitative import categories, group_by
+from vecmat.qualitative import categories
 from vecmat.quantiles import median, quantile
-from vecmat.univariate import moments, value_range
+from vecmat.spread import value_range
+from vecmat.univariate import moments
 
 __all__ = ["Table", "survey", "write_page"]
 
