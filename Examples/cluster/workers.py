@@ -100,7 +100,7 @@ class Workers:
         """The results in the order of the tasks given, in whatever order they finish."""
         progress = Progress(self._title, self._stream)
         for done, _ in enumerate(as_completed(self._submitted), start=1):
-            if self._kill_next and done < len(self._submitted):
+            if self._kill_next:
                 self._kill_busiest(progress)
             progress.show(done, len(self._submitted), len(self._client.nthreads()))
         return list(self._client.gather(list(futures)))
@@ -110,10 +110,11 @@ class Workers:
         return [process.pid for process in self._processes]
 
     def _kill_busiest(self, progress: Progress) -> None:
-        tasks = {address: len(keys) for address, keys in self._client.processing().items() if keys}
-        if not tasks:
-            return
-        address = max(tasks, key=lambda worker: tasks[worker])
+        # Where all tasks were quicker than this, one whose results are then lost, and computed again.
+        in_hand, thing = self._client.processing(), "task"
+        if not any(in_hand.values()):
+            in_hand, thing = self._client.has_what(), "result"
+        address = max(in_hand, key=lambda worker: len(in_hand[worker]))
         pid = self._client.run(os.getpid, workers=[address])[address]
         process = next(process for process in self._processes if process.pid == pid)
         process.kill()
@@ -121,7 +122,7 @@ class Workers:
         self._processes.remove(process)
         self._kill_next = False
         self.killed.append(pid)
-        progress.say(f"{self._title}: killed worker process {pid}, which had {counted(tasks[address], 'task')} in hand")
+        progress.say(f"{self._title}: killed worker process {pid}, which had {counted(len(in_hand[address]), thing)} in hand")
         # Until the scheduler has noticed, so that the line of progress shows it.
         deadline = time.monotonic() + 5.0
         while address in self._client.nthreads() and time.monotonic() < deadline:

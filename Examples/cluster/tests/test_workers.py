@@ -85,6 +85,6 @@ def test_the_program_kills_and_compares():
                           "--rows", "60"], capture_output=True, text=True, timeout=120)
     assert run.returncode == 0, run.stderr
     assert run.stdout.count("the same bits") == 2
-    assert len(re.findall(r"killed worker process \d+, which had \d+ tasks? in hand", run.stderr)) == 4
+    assert len(re.findall(r"killed worker process \d+, which had \d+ (?:task|result)s? in hand", run.stderr)) == 4
     assert "groups: 8 of 8 tasks" in run.stderr
     assert "Traceback" not in run.stderr
