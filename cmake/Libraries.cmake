@@ -1,8 +1,10 @@
 # The library and the three companion libraries that it imports.
 
-# A shared library with the rules that all of the project's libraries follow.
+# vecmat_shared_library(NAME [VERSIONED] SOURCE...): a shared library with the rules that all of the project's libraries
+# follow. VERSIONED gives its symbols the version node of the interface: see Docs/versions.md.
 function(vecmat_shared_library name)
-    add_library(${name} SHARED ${ARGN})
+    cmake_parse_arguments(PARSE_ARGV 1 library "VERSIONED" "" "")
+    add_library(${name} SHARED ${library_UNPARSED_ARGUMENTS})
     add_library(VecMat::${name} ALIAS ${name})
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
@@ -18,7 +20,12 @@ function(vecmat_shared_library name)
     endif()
     # The linker script keeps instantiations of the standard library's templates out of the exports: they carry
     # default visibility of their own and would otherwise appear under the library's name.
-    set(script ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    set(VECMAT_SYMBOL_NODE "")
+    if(library_VERSIONED)
+        set(VECMAT_SYMBOL_NODE "VECMAT_${PROJECT_VERSION_MAJOR} ")
+    endif()
+    set(script ${PROJECT_BINARY_DIR}/${name}.map)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/exports.map.in ${script} @ONLY)
     target_link_options(${name} PRIVATE -Wl,--version-script=${script})
     set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS ${script})
     # Calls inside a library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded; calls
@@ -49,6 +56,7 @@ foreach(companion IN LISTS VECMAT_COMPANIONS)
             INTERFACE_INCLUDE_DIRECTORIES ${companions_source})
     else()
         file(GLOB companion_sources CONFIGURE_DEPENDS ${companions_source}/${companion}/*.cpp)
+        # Without a version node: a caller of one would ask another build for that node, too.
         vecmat_shared_library(${companion} ${companion_sources})
         target_include_directories(${companion} PUBLIC
             $<BUILD_INTERFACE:${companions_source}>
@@ -67,7 +75,7 @@ endif()
 file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
 file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp)
 list(REMOVE_ITEM vecmat_sources ${vecmat_kernels} ${mathematics_sources})
-vecmat_shared_library(VecMat ${vecmat_sources})
+vecmat_shared_library(VecMat VERSIONED ${vecmat_sources})
 
 # The kernels are compiled once for each instruction set; the choice is made at run time. Loops with adjacent results
 # become vector instructions, provided the compiler knows that errno and the floating-point exception flags are never
@@ -116,7 +124,7 @@ target_include_directories(VecMat PUBLIC
 target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
 
 # The guarded calls are a separate library: VecMat's exports are fixed.
-vecmat_shared_library(VecMatGuarded Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)
+vecmat_shared_library(VecMatGuarded VERSIONED Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)
 target_include_directories(VecMatGuarded PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)

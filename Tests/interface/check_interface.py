@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""check_interface.py [--complete] LIST HEADERS LIBRARY: does the library export what the list and the headers say?
+"""check_interface.py [--complete] [--node NODE] LIST HEADERS LIBRARY: does the library export what the list and the headers say?
 
 Exit status 1 where anything that is there is wrong, with --complete also where anything is missing.
 """
@@ -26,6 +26,7 @@ def imports(library):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--complete", action="store_true", help="fail on what is missing, too")
+    parser.add_argument("--node", help="the version node that every exported symbol carries")
     parser.add_argument("list", help="the interface list, exports.tsv")
     parser.add_argument("headers", help="the folder of the library's headers")
     parser.add_argument("library", help="the shared library")
@@ -40,6 +41,9 @@ def main():
     wrong += disagreements
     wrong += imports(arguments.library) if is_windows else [
         f"the library calls its own {name} through the loader" for name in interface.open_calls(arguments.library)]
+    if arguments.node:
+        wrong += [f"the library exports {name} without the version {arguments.node}"
+                  for name in interface.unversioned_symbols(arguments.library, arguments.node)]
     umbrella = interface.check_umbrella(arguments.headers, declarations)
     if arguments.complete:
         wrong += umbrella + [f"missing: {row.signature()}" for row in missing]

@@ -85,12 +85,21 @@ def moved_names(row, declaration):
 
 def read_symbols(library, nm="nm", demangler="c++filt"):
     """The names that a shared library exports: with C linkage unchanged, otherwise demangled."""
-    out = subprocess.run([nm, "-D", "--defined-only", "--format=posix", library],
+    out = subprocess.run([nm, "-D", "--defined-only", "--without-symbol-versions", "--format=posix", library],
                          check=True, capture_output=True, text=True).stdout
-    symbols = sorted({line.split(" ")[0] for line in out.splitlines() if line})
+    # a version node is in the table, too, as an absolute symbol
+    symbols = sorted({line.split(" ")[0] for line in out.splitlines() if line and line.split(" ")[1] != "A"})
     demangled = subprocess.run([demangler], input="\n".join(symbols), check=True, capture_output=True,
                                text=True).stdout.splitlines()
     return {one_symbol_spelling(symbol) for symbol in demangled}
+
+
+def unversioned_symbols(library, node, nm="nm"):
+    """The exported names, mangled, that don't carry the given version node."""
+    out = subprocess.run([nm, "-D", "--defined-only", "--format=posix", library],
+                         check=True, capture_output=True, text=True).stdout
+    entries = [line.split(" ")[:2] for line in out.splitlines() if line]
+    return sorted(name for name, kind in entries if kind != "A" and not name.endswith(f"@@{node}"))
 
 
 def read_windows_symbols(library, objdump="x86_64-w64-mingw32-objdump", demangler="c++filt"):

@@ -5,6 +5,11 @@
 // the BLAS. Reads outside the table give -1.0, writes outside it are dropped. In the SPV forms `col` selects the table
 // of the array and the vector stays inside it; a column below 1 is outside.
 //
+// dscal, drotg, ddot, daxpy and drot are names of the BLAS, too, with other arguments. Most builds of a BLAS decorate
+// theirs (ddot_, cblas_ddot). Beside one on Linux that does not, VecMat's own steps stay VecMat's; a caller's reference
+// goes to the library that is loaded first, unless that BLAS has symbol versions. Open one of the two by dlopen with
+// RTLD_LOCAL, or link VecMat first and call the BLAS by decorated names: see Docs/versions.md.
+//
 // @missing an ordinary number
 // @empty nothing is changed
 #pragma once
