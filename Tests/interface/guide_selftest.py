@@ -73,6 +73,11 @@ class Programs(unittest.TestCase):
     def test_a_wrong_output_is_replaced(self):
         self.assertEqual(renewed(self.program("yes", "no")), self.program("yes", "yes"))
 
+    def test_a_header_is_there_for_the_programs_below(self):
+        page = fenced("c", "/* word.h: a word */", '#define WORD "yes"') + \
+            fenced("c", '#include "word.h"', "#include <stdio.h>", "int main(void) { puts(WORD); return 0; }") + fenced("text", "yes")
+        self.assertEqual(renewed(page), page)
+
     def test_a_program_that_fails_or_whose_output_is_not_shown_is_an_error(self):
         for page in (fenced("c", "int main(void) { return 1; }") + fenced("text"),
                      fenced("c", "int main(void) { return 0; }"),

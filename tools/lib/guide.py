@@ -3,7 +3,8 @@
 
     ```python    a session, `>>> ` before each statement; a warning is shown as a line of its own
     ```r         statements, `#> ` before each line that they print
-    ```c ```cpp  a whole program; the next ```text block is what it prints
+    ```c ```cpp  a whole program; the next ```text block is what it prints. A block that starts with a comment in which a
+                 name of a header comes first is that header, for the programs below
 
 The blocks of a page share one session for each language. A comment `<!-- check python` ... `-->`, also of r, is run like
 a block and shows nothing. Other blocks are left as they are.
@@ -31,6 +32,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 BLOCK = re.compile(r"^(?:```(?P<shown>\w+)|<!-- check (?P<hidden>\w+))\n(?P<body>.*?)^(?:```|-->)$", re.MULTILINE | re.DOTALL)
+HEADER = re.compile(r"(?:/\*|//) (\w+\.h)\b")
 COMPILERS = {"c": ("cc", "-std=c11"), "cpp": ("c++", "-std=c++20")}
 PEERS = {"#include <gsl/": ("-lgsl", "-lgslcblas")}  # what a program that includes them is linked with
 R_SESSION = Path(__file__).with_name("guide_session.R")
@@ -104,8 +106,10 @@ def run_r(blocks):
 
 # ---- programs ----
 
-def output_of(block, libraries):
+def output_of(block, headers, libraries):
     with tempfile.TemporaryDirectory() as folder:
+        for name, body in headers.items():
+            (Path(folder) / name).write_text(body, encoding="utf-8")
         source, program = Path(folder) / f"page.{block.language}", Path(folder) / "page"
         source.write_text(block.body, encoding="utf-8")
         peers = [option for include, options in PEERS.items() if include in block.body for option in options]
@@ -122,13 +126,17 @@ def output_of(block, libraries):
 
 def run_programs(blocks, libraries):
     """Pairs of a block of output and what it has to be."""
+    headers = {}
     for number, block in enumerate(blocks):
-        if block.language not in COMPILERS or "int main" not in block.body:
+        header = HEADER.match(block.body) if block.language in COMPILERS else None
+        if header:
+            headers[header[1]] = block.body
+        if header or block.language not in COMPILERS or "int main" not in block.body:
             continue
         shown = blocks[number + 1] if number + 1 < len(blocks) else None
         if shown is None or shown.language != "text":
             raise PageError(f"line {block.line}: what the program prints is not shown")
-        yield shown, output_of(block, libraries)
+        yield shown, output_of(block, headers, libraries)
 
 
 # ---- names ----
