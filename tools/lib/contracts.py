@@ -20,7 +20,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 from declarations import HeaderError, read_header
-from header_comments import NONE, TITLES, TagError, comments_by_line, read_block
+from header_comments import NONE, OF_THE_REFERENCE, TITLES, TagError, comments_by_line, read_block
 
 ROOT = Path(__file__).resolve().parents[2]
 HEADERS = "Sources/Shared/VecMat"
@@ -191,7 +191,7 @@ def page(family, units):
         for contract in found:
             groups.setdefault(tuple(contract.tags.get(tag, "") for tag in COLUMNS), []).append(contract)
             for tag, text in contract.tags.items():
-                if tag not in COLUMNS:
+                if tag not in COLUMNS and tag not in OF_THE_REFERENCE:
                     others.setdefault((tag, text), []).append(contract)
         lines += [f"## {unit}", "", f"[`{unit}.h`](../../{HEADERS}/{unit}.h)", "",
                   "| " + " | ".join(["Functions", *COLUMNS.values()]) + " |", "|---" * (len(COLUMNS) + 1) + "|"]

@@ -13,7 +13,7 @@ from pathlib import Path
 
 from contracts import ROOT, base_of, read_unit
 from declarations import MARK, HeaderError
-from header_comments import TITLES, TagError, comments_by_line, read_block
+from header_comments import OF_THE_REFERENCE, TITLES, TagError, comments_by_line, read_block
 
 # What Doxygen would mistake for one of its commands.
 SPECIAL = re.compile(r"([@\\<>&#])")
@@ -55,6 +55,8 @@ def as_paragraphs(tags, indent=""):
     """Tags, texts by name, as paragraphs with their titles."""
     out = []
     for name, text in tags.items():
+        if name in OF_THE_REFERENCE:
+            continue
         out += [f"{indent}///", f"{indent}/// @par {TITLES[name]}", f"{indent}/// {quoted(text)}"]
     return out
 

@@ -19,7 +19,9 @@ TAG = re.compile(r"^ ?@(\w+)(?:\s+(.*))?$")
 # Every tag, with the title that it has in the reference.
 TITLES = {"missing": "Missing cells", "mask": "Mask", "weights": "Weights", "divisor": "Divisor", "empty": "Empty input",
           "failure": "Failure", "memory": "Memory", "seed": "Random numbers", "source": "Source",
-          "weak": "Known weakness"}
+          "weak": "Known weakness", "formula": "Formula", "cost": "Cost"}
+# Tags that the reference shows in places of their own, and the pages of contracts not at all.
+OF_THE_REFERENCE = ("formula", "cost")
 NONE = "-"
 
 

@@ -18,6 +18,7 @@ extern "C" {
 
 /// L of order `n` into `l`, which goes through `matCheck` with 0.0. The terms of a cell are subtracted from the last
 /// column done back to the first.
+/// @formula A = L L^{\top}
 /// @failure -1; the columns before that pivot are done, the rest is 0.0. Otherwise 0
 /// @memory a table of the order and up to 32 columns, for large tables
 /// @weak the pivot is tested in absolute terms: a positive definite table fails where its cells are below about 1e-12
@@ -34,6 +35,7 @@ VECMAT_API int M_CholDecomp(matrix* a, int n, matrix*& l);
 /// rows before that one. Of equal candidates the first wins.
 ///
 /// A `keep` of exactly -1 replaces `a` by the permuted table, as far as the permutation has gone; any other leaves it.
+/// @formula P^{\top} A P = L L^{\top}
 /// @failure -1, with the columns before that pivot done. Otherwise 0
 /// @memory a copy of `a` and a column
 /// @weak this is not the complete pivoting of the literature (Higham, Accuracy and Stability of Numerical Algorithms):

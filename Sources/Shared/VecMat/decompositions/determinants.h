@@ -16,6 +16,7 @@ extern "C" {
 /// With S the sum of logarithms: 0.0 for S below -708; the determinant for S up to 709; beyond, `*status` is -1 and the
 /// result the positive twin of the missing value, but with `logOnOverflow` exactly -1 it is S with the sign of the
 /// determinant and `*status` stays 0. A NaN passes through.
+/// @formula \det A = \pm \exp \sum_j \ln |u_{jj}|, \quad P A = L U
 /// @divisor a pivot of 0 counts as 1e-20: a singular table without a row of zeros has status 0 and a tiny determinant
 ///     or 0.0
 /// @failure 0.0 with the `*status` of the factorisation where that is not 0, so -1 for a row of zeros. An exception,
@@ -25,11 +26,13 @@ VECMAT_API double M_Determinant(matrix* a, int n, short* status, short logOnOver
 /// Logarithm of a positive determinant. Unlike `M_Determinant` it continues where no pivot could be chosen, with
 /// whatever the table holds, and it has no limits. A pivot of exactly 0, which no finished factorisation has, gives
 /// 0.0. An exception is not caught.
+/// @formula \ln \det A = \sum_j \ln |u_{jj}|
 /// @divisor the missing value for a negative determinant and for a row of zeros
 /// @empty 0.0
 VECMAT_API double M_LogDeterminant(matrix* a, int n);
 
 /// Determinant of a triangular table: the product of its diagonal. There are no limits: it overflows to infinity.
+/// @formula \det A = \prod_j a_{jj}
 /// @divisor a diagonal cell of exactly 0 gives 0.0
 /// @failure `*status` is -1, with the positive twin as the result, only where the companion that finds the parity fails
 ///     with an exception. Otherwise 0

@@ -29,6 +29,7 @@ extern "C" {
 /// leaves. With `sort` exactly -1 the values come in descending order (by signed value; equal ones in the order found),
 /// otherwise in the order in which the iteration leaves them. Both results go through `matCheck`; in a kept larger
 /// table the top left corner is used. The input is left unchanged.
+/// @formula A V = V \operatorname{diag}(\lambda), \quad V^{\top} V = I
 VECMAT_API int M_Eigen(matrix* a, matrix*& values, matrix*& vectors, int n, short sort);
 
 /// The same over an array of columns; `vectors` are `n` columns of at least n cells that the caller supplies.
@@ -56,6 +57,7 @@ VECMAT_API int M_VonMises(matrix* a, matrix*& v, int n);
 
 /// 2-norm of a table: for one column the root of its sum of squares, otherwise the root of the largest eigenvalue of a
 /// a'.
+/// @formula \|A\|_2 = \sqrt{\lambda_{\max}(A A^{\top})}
 /// @missing an ordinary number: with several columns mostly NaN or infinite, as a a' overflows, and missing where a
 ///     cell of a a' is
 /// @empty 0.0

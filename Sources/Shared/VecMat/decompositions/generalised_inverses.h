@@ -19,11 +19,13 @@
 extern "C" {
 
 /// V inv(S) U', of a plain table and of `n` columns. The input is left unchanged.
+/// @formula A^{+} = V S^{+} U^{\top}, \quad A = U S V^{\top}
 VECMAT_API int M_InvGeneralized(matrix* a, int n, matrix* out, double tol, int* rank);
 VECMAT_API int M_InvGeneralizedSPV(matrix** a, int n, matrix* out, double tol, int* rank);
 
 /// U inv(S) U', for symmetric tables without negative eigenvalues. Where there is one, the columns of U and V have
 /// opposite signs, and this is not the inverse. Works on `a` itself, which is restored.
+/// @formula A^{+} = U S^{+} U^{\top}
 VECMAT_API int M_InvGeneralizedSym(matrix* a, int n, matrix* out, double tol, int* rank);
 
 /// Flat forms: n by n arrays, the result in place.

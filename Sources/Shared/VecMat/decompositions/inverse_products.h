@@ -17,13 +17,16 @@
 extern "C" {
 
 /// (a' inv(b)) a, `b` of order `rows`; out goes through `matCheck`, `cols` by `cols`.
+/// @formula A^{\top} B^{-1} A
 VECMAT_API void M_ProductTrAinvBA(matrix* a, int rows, int cols, matrix* b, matrix*& out);
 
 /// (v' inv(b)) v.
+/// @formula v^{\top} B^{-1} v
 VECMAT_API double M_ProductTrVinvBV(matrix* v, int n, matrix* b);
 
 /// (a inv(b)) a', `b` of order `cols`; out goes through `matCheck`, `rows` by `rows`. The second form writes to columns
 /// that exist.
+/// @formula A B^{-1} A^{\top}
 VECMAT_API void M_ProductAinvBTrA(matrix* a, int rows, int cols, matrix* b, matrix*& out);
 VECMAT_API void M_ProductAinvBTrASPV(matrix* a, int rows, int cols, matrix* b, matrix** out);
 

@@ -17,6 +17,7 @@ extern "C" {
 ///
 /// Crout's method with implicit scaled pivoting. Of equal candidates for a pivot the last wins. All access is checked:
 /// outside the table a read gives -1.0, which takes part, and a write is dropped.
+/// @formula P A = L U
 /// @failure `*status`: -1 where a row is all zeros (NaN counts as zero), with `a` untouched, `index` 0 and `*d` 1.0; 1
 ///     where no candidate of the first column compares, all being NaN, with the same. Otherwise 0
 /// @memory a table of the order and up to 16 columns, for large tables

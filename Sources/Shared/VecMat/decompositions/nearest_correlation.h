@@ -48,6 +48,7 @@ VECMAT_API void M_UProjectSPV_T(matrix* a, int n, matrix** out);
 
 /// Infinity norm: the largest row sum of absolute values. A cell outside the table counts as 1.0. In the triangular
 /// form a row runs over the whole symmetric row.
+/// @formula \|A\|_\infty = \max_i \sum_j |a_{ij}|
 /// @missing a cell not above it is left out (order); so are NaN and minus infinity
 /// @empty 0.0
 VECMAT_API double M_RowSumNorm(matrix* a, int rows, int cols);

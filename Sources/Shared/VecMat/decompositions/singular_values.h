@@ -32,6 +32,7 @@ extern "C" {
 /// restored.
 ///
 /// It departs from DSVDC in the number of passes, 60 for a singular value, and in what is zero or negligible.
+/// @formula X = U \operatorname{diag}(s)\, V^{\top}
 VECMAT_API void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info);
 
 /// The same over arrays of columns.

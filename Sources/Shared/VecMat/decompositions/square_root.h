@@ -15,6 +15,7 @@ extern "C" {
 /// With a = V D V' from `M_Eigen`, the eigenvalues in descending order: the table sqrt(D) V' of order `n` into `out`
 /// (`matCheck`). It is not the symmetric root: out' out gives `a` back. V enters through V'V, so its columns are
 /// brought to unit length once more and what is left off the diagonal of V'V stays in. The input is left unchanged.
+/// @formula R = \sqrt{D}\, V^{\top}, \quad A = V D V^{\top}, \quad R^{\top} R = A
 /// @failure -1 for such an eigenvalue, -2 for a column of V whose length is not above 0, both with `out` untouched;
 ///     that the eigenvalues did not converge is not tested. Otherwise 0
 VECMAT_API int M_SquareRoot(matrix* a, int n, matrix*& out);

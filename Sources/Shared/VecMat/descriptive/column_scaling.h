@@ -66,6 +66,7 @@ VECMAT_API void M_StandardizeW3SPV(matrix** X, int n, int p, matrix* w, matrix*&
                                    short freqWeights);
 
 /// Applies the given means and deviations, p cells each, in place.
+/// @formula x_{ij}' = \frac{x_{ij} - \mathrm{mean}_j}{\mathrm{stdev}_j}
 /// @missing computed like an ordinary number
 /// @divisor the given deviation; where that is not above 0 the whole column becomes missing
 /// @empty nothing is written

@@ -18,9 +18,11 @@ extern "C" {
 
 /// From S into R, both of order p; R must exist, is not prepared, and may be S. Only the upper triangle and the
 /// diagonal of S are read; R is symmetric.
+/// @formula r_{jk} = \frac{s_{jk}}{\sqrt{s_{jj}\, s_{kk}}}, \quad r_{jj} = 1
 VECMAT_API int M_CorrMatFromCovMat(matrix* S, int p, matrix* R, short zeroForMissing);
 
 /// In place in a triangle of p columns, column j holding pair (j, k) in cell k - j.
+/// @formula r_{jk} = \frac{s_{jk}}{\sqrt{s_{jj}\, s_{kk}}}, \quad r_{jj} = 1
 /// @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
 ///     is above 1e-12; elsewhere missing
 VECMAT_API int M_CorrMatFromCovMatSPV2_T(matrix** C, int p);

@@ -35,11 +35,15 @@ extern "C" {
 // C is p by p, prepared with `matCheck`. A product of variances that is a NaN is not 0: the correlation is computed.
 
 /// From one table.
+/// @formula s_{jk} = \frac{1}{D_{jk}} \sum_i w_i (x_{ij} - \bar x_j)(x_{ik} - \bar x_k), \quad r_{jk} =
+///     \frac{s_{jk}}{\sqrt{s_j^2\, s_k^2}}
 VECMAT_API int M_CovCorr(matrix*& X, int n, int p, matrix*& C, short corr, short* mask, matrix* w, short sample,
                          short freqWeights, short zeroForMissing);
 
 /// From an array of observations, each a table of p cells, and from an array of columns of n cells. C is passed by
 /// value: where it is null or too small to be kept, the result is lost and C is left unchanged.
+/// @formula s_{jk} = \frac{1}{D_{jk}} \sum_i w_i (x_{ij} - \bar x_j)(x_{ik} - \bar x_k), \quad r_{jk} =
+///     \frac{s_{jk}}{\sqrt{s_j^2\, s_k^2}}
 VECMAT_API int M_CovCorr3(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample,
                           short freqWeights, short zeroForMissing);
 VECMAT_API int M_CovCorr3SPV(matrix** X, int n, int p, matrix* C, short corr, short* mask, matrix* w, short sample,
@@ -58,6 +62,7 @@ VECMAT_API int VB_M_CovCorr(double* X, int n, int p, double* C, short corr, shor
 // that is the covariance of k and k + j, or -1.0 beyond the end of the column; in a longer column whatever is there.
 
 /// From one table, and from an array of observations, each a table of p cells.
+/// @formula s_{jk} = \frac{1}{D_{jk}} \sum_i w_i (x_{ij} - \bar x_j)(x_{ik} - \bar x_k), \quad j \le k
 /// @weak correlations have other pairs' covariances as numerators, as told above: take them from a square result
 VECMAT_API int M_CovCorrSPV(matrix*& X, int n, int p, matrix** C, short corr, short* mask, matrix* w, short sample,
                             short freqWeights, short zeroForMissing);

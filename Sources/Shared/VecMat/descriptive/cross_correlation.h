@@ -25,6 +25,7 @@ extern "C" {
 /// a column has another variance in each pair; the one used is that of its last pair: of each column of X with the last
 /// column of Y, and of each column of Y with the last column of X. With a nonzero `square` a correlation that is
 /// computed is squared. Returns 0.
+/// @formula c_{jk} = \frac{1}{D_{jk}} \sum_i w_i (x_{ij} - \bar x_j)(y_{ik} - \bar y_k)
 /// @weak the product of the variances is tested in absolute terms: the correlation of two columns whose deviations are
 ///     below 1e-3 is missing. With missing cells it takes the variances of other pairs, and can exceed 1;
 ///     `CorrelPearson` does neither
@@ -35,6 +36,8 @@ VECMAT_API int M_CorrMatMatSPV(matrix** X, int n, int p, matrix* Y, int q, matri
 
 /// Pearson's correlation of two vectors. Where neither varies, which includes a single row and rows of weight 0 alone,
 /// it is 1.0; where the cross products sum to 0, 0.0.
+/// @formula r = \frac{\sum_i w_i (x_i - \bar x)(y_i - \bar y)}{\sqrt{\sum_i w_i (x_i - \bar x)^2 \, \sum_i w_i (y_i -
+///     \bar y)^2}}
 /// @missing excludes its row (equality)
 /// @divisor cancels: `sample` and `freqWeights` have no effect. Where just one of the vectors varies: missing, or 0.0
 ///     for `zeroForMissing` exactly -1

@@ -27,22 +27,28 @@ extern "C" {
 // ---- vectors --------------------------------------------------------------------------------------------------------
 
 /// Variance.
+/// @formula s^2 = \frac{1}{D} \sum_i w_i (x_i - \bar x)^2, \quad \bar x = \frac{\sum_i w_i x_i}{W}, \quad D = W,\ W - 1
+///     \text{ or } W - W/m
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested
 VECMAT_API double V_Var(matrix* v, int n, short* mask, matrix* w, short sample, short freqWeights);
 VECMAT_API double VB_V_Var(double* v, int n, short* mask, double* w, short sample, short freqWeights);
 
 /// The same without mask and weights: Q += d d (1 - 1/m), mean += d / m. The flat form is `V_Var` with unit weights and
 /// a mask that keeps every row.
+/// @formula s^2 = \frac{1}{D} \sum_i (x_i - \bar x)^2, \quad D = m \text{ or } m - 1
 /// @divisor m - 1 for `sample` -1, else m; not tested
 VECMAT_API double V_Var2(matrix* v, int n, short sample, short freqWeights);
 VECMAT_API double Cpp_V_Var2(double* v, int n, short sample, short freqWeights);
 
 /// The square root of `V_Var`; 0.0 for a variance of 0 of either sign.
+/// @formula s = \sqrt{\frac{1}{D} \sum_i w_i (x_i - \bar x)^2}, \quad D = W,\ W - 1 \text{ or } W - W/m
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested
 VECMAT_API double V_Stdev(matrix* v, int n, short* mask, matrix* w, short sample, short freqWeights);
 VECMAT_API double VB_V_Stdev(double* v, int n, short* mask, double* w, short sample, short freqWeights);
 
 /// Mean and variance as in `V_Var`, with two guards. A single row has variance 0.0.
+/// @formula \bar x = \frac{\sum_i w_i x_i}{W}, \quad s^2 = \frac{1}{D} \sum_i w_i (x_i - \bar x)^2, \quad D = W,\ W - 1
+///     \text{ or } W - W/m
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; where Q is 0 the variance is 0.0 whatever the
 ///     divisor
 /// @empty both 0.0
@@ -52,6 +58,8 @@ VECMAT_API void VB_V_MeanVar(double* v, int n, double* mean, double* var, short*
                              short freqWeights);
 
 /// `V_MeanVar` with the square root of the variance in its place.
+/// @formula \bar x = \frac{\sum_i w_i x_i}{W}, \quad s = \sqrt{\frac{1}{D} \sum_i w_i (x_i - \bar x)^2}, \quad D = W,\
+///     W - 1 \text{ or } W - W/m
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; where Q is 0 the variance is 0.0 whatever the
 ///     divisor
 /// @empty both 0.0
@@ -67,6 +75,7 @@ VECMAT_API void VB_V_MeanStdev(double* v, int n, double* mean, double* stdev, sh
 // read an array of column tables. All return 0. In the flat forms each result has p cells and `stdev` may be null.
 
 /// Mean and standard deviation of each column.
+/// @formula \bar x_j = \frac{\sum_i w_i x_{ij}}{W_j}, \quad s_j = \sqrt{\frac{1}{D_j} \sum_i w_i (x_{ij} - \bar x_j)^2}
 /// @mask `ignoreMask` 0: a nonzero entry excludes its row; -1: not read; any other: every row is excluded; may be null
 /// @weights a row of weight 0 does not enter and does not count in m; null means 1 each
 /// @empty a column without rows has a missing mean and standard deviation
@@ -78,6 +87,7 @@ VECMAT_API int VB_M_MeanStDev(double* X, int n, int p, double* mean, double* std
                               short sample, short freqWeights, short ignoreMask);
 
 /// Mean, standard deviation and variance of each column. Rows of weight 0 count in m, unlike above.
+/// @formula \bar x_j = \frac{\sum_i w_i x_{ij}}{W_j}, \quad s_j^2 = \frac{1}{D_j} \sum_i w_i (x_{ij} - \bar x_j)^2
 /// @empty a column without rows has mean 0.0 and a missing variance
 VECMAT_API int M_MeanStDevVar(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix*& var, short* mask,
                               matrix* w, short sample, short freqWeights);

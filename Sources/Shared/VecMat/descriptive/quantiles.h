@@ -22,6 +22,7 @@ extern "C" {
 /// The element at position (n-1)p of the sorted values, or between its neighbours a and b the value (1-g) a + g b, g
 /// being the fraction of the position; neighbours that are equal give themselves. Exactly 0 and 1 give the smallest and
 /// the largest element.
+/// @formula q = (1 - g)\, x_{(k)} + g\, x_{(k+1)}, \quad (n - 1)\, p = k + g, \quad x_{(0)} \le x_{(1)} \le \dots
 /// @divisor position (n - 1) p
 /// @empty -1.0
 /// @source rule 7 of Hyndman and Fan (1996), Sample quantiles in statistical packages
@@ -32,6 +33,8 @@ VECMAT_API double VB_V_Quantile(double* x, int n, double p);
 /// elements before the i-th in sorted order, the first i where C equals p T gives the mean of elements i-1 and i, or
 /// where C is above p T element i-1; the last element if there is none. Ties keep the order of the input. p of exactly
 /// 0 gives the smallest element, p of 1 the largest.
+/// @formula q = \begin{cases} x_{(i-1)} & C_i > p T \\ \frac{1}{2} (x_{(i-1)} + x_{(i)}) & C_i = p T \end{cases} \quad
+///     i = \min \{ i : C_i \ge p T \}, \quad C_i = \sum_{j < i} w_{(j)}
 /// @weights T leaves out missing ones, C does not. Weights that are all equal (missing ones left out) give
 ///     `V_Quantile`, not the step rule; an element of weight 0 can still be the smallest or largest
 /// @empty the missing value, also where no present value has a weight above 0

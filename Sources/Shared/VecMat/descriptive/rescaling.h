@@ -14,6 +14,7 @@ extern "C" {
 
 /// Divides the cells of each column, in place, by the column's norm L and multiplies them by the root of n / (n - 1), n
 /// being the argument. L, into norms (`matCheck`, p by 1), is the root of the sum of x x w.
+/// @formula x_{ij}' = \frac{x_{ij}}{L_j} \sqrt{\frac{n}{n - 1}}, \quad L_j = \sqrt{\sum_i w_i x_{ij}^2}
 /// @missing left unchanged, and left out of the norm (equality)
 /// @mask a nonzero entry: the row is left unchanged and out of the norm; may be null
 /// @weights multiply the squares in the norm, where a weight of 0 adds nothing; null means 1 each
@@ -30,6 +31,7 @@ VECMAT_API void M_NormalizeMatrix(matrix*& X, int n, int p, matrix*& Y, int nY, 
 
 /// Brings the vector to the range from `low` to `high`, into the existing out: (x - min) (high - low) / (max - min) +
 /// low, with the minimum and maximum of the present cells that the mask keeps.
+/// @formula x_i' = \frac{(x_i - \min x)(\mathrm{high} - \mathrm{low})}{\max x - \min x} + \mathrm{low}
 /// @divisor maximum less minimum; where it is below 2.220446049250313e-16 every kept cell becomes the middle of the
 ///     range
 VECMAT_API void V_Rescale(matrix* v, int n, double low, double high, short* mask, matrix* out);

@@ -16,6 +16,7 @@
 /// A group without a row in `centres` reads what the checked access finds there, -1.0 at the end. In the form over
 /// doubles g[i] is compared as it is and truncated for the row. Nothing is added where the row count of T differs from
 /// the column count of X: in a T kept larger than p, or from an X with more than p columns. Returns 0.
+/// @formula t_{ab} \leftarrow t_{ab} + \sum_i w_i (x_{ia} - c_a)(x_{ib} - c_b)
 VECMAT_API int M_Inertie_W(matrix* X, int n, int p, matrix* w, int group, matrix* g, matrix* centres, matrix*& T);
 VECMAT_API int M_Inertie_W(matrix* X, int n, int p, matrix* w, int group, matrixInt* g, matrix* centres, matrix*& T);
 

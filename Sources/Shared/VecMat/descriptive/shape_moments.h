@@ -33,6 +33,7 @@ extern "C" {
 ///     `skewS` and `seSkew`              unless W - 2 wbar is above 0 (wbar also where c is 1)
 ///     `kurtS` and `seKurt`              unless W - 2c and W - 3c are above 0
 /// In the first two cases `seSkew` and `seKurt` are not written.
+/// @formula M_k = \sum_i w_i (x_i - \bar x)^k, \quad g_1 = \frac{M_3 / W}{s^3}, \quad g_2 = \frac{M_4 / W}{s^4} - 3
 VECMAT_API void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* skewP, double* kurtP,
                                     double* skewS, double* kurtS, double* seSkew, double* seKurt, short* mask,
                                     matrix* w, short sample, short freqWeights);

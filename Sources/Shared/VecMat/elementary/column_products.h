@@ -16,6 +16,7 @@
 extern "C" {
 
 /// out(i, j) = a(i, j) b(i, j).
+/// @formula c_{ij} = a_{ij} b_{ij}
 VECMAT_API void M_ProductByElement(matrix* a, int rows, int cols, matrix* b, matrix*& out);
 
 /// The products of all pairs of columns.

@@ -17,10 +17,12 @@ extern "C" {
 /// `cols`, w having `rows` cells; with `betweenRows` exactly -1, of all pairs among the first `nRowsAgain` rows, over
 /// the `cols` columns, `nRowsAgain` by `nRowsAgain`, w having `cols` cells. Both triangles are written, 0.0 on the
 /// diagonal.
+/// @formula d_{jk} = \sqrt{\sum_i w_i (a_{ij} - a_{ik})^2}
 VECMAT_API void M_EuclidDist2(matrix* a, int rows, int cols, matrix* out, matrix* w, short betweenRows, int nRowsAgain);
 
 /// Distance of each column to the vector v of `rows` cells, as a root mean square over the coordinates: the root of the
 /// sum of squared differences divided by their count. With `byRow` exactly -1, of each row to v of `cols` cells.
+/// @formula d_j = \sqrt{\frac{1}{m_j} \sum_i (a_{ij} - v_i)^2}
 /// @missing a coordinate enters only where both cells are above the missing value (order), which a NaN is not
 /// @divisor the count of the coordinates that enter
 /// @empty the missing value, also where no coordinate enters

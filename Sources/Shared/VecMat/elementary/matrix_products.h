@@ -27,30 +27,38 @@
 extern "C" {
 
 /// a b; b has `cols` rows and `colsB` columns. Prepared `rows` by `colsB`, in place in an array of columns. Return 0.
+/// @formula (A B)_{ij} = \sum_k a_{ik} b_{kj}
 VECMAT_API int M_ProductAB(matrix* a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABSPV(matrix** a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABSPV2(matrix** a, int rows, int cols, matrix** b, int colsB, matrix** out);
 
 /// a b. Prepared as above, in place in an array of columns. Return 0.
+/// @formula (A B)_{ij} = \sum_k a_{ik} b_{kj}
 /// @missing the first one, in either factor, ends the sum and makes the result missing (equality)
 VECMAT_API int M_ProductABMissingSPV(matrix** a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 VECMAT_API int M_ProductABMissingSPV2(matrix* a, int rows, int cols, matrix* b, int colsB, matrix** out);
 VECMAT_API int M_ProductABMissingSPV3(matrix** a, int rows, int cols, matrix* b, int colsB, matrix** out);
 
 /// a' b; b has `rows` rows. Prepared `cols` by `colsB`.
+/// @formula A^{\top} B
 VECMAT_API void M_ProductTrAB(matrix* a, int rows, int cols, matrix* b, int colsB, matrix*& out);
 
 /// a b'; b has `rowsB` rows and `cols` columns. Prepared `rows` by `rowsB`, or in place in an array of columns.
+/// @formula A B^{\top}
 VECMAT_API void M_ProductATrB(matrix* a, int rows, int cols, matrix* b, int rowsB, matrix*& out);
 VECMAT_API void M_ProductATrBSPV(matrix* a, int rows, int cols, matrix* b, int rowsB, matrix** out);
 
 /// b v, v of `cols` cells, in `rows` cells in place. Returns 0.
+/// @formula B v
 VECMAT_API int M_ProductBV(matrix* b, int rows, int cols, matrix* v, matrix*& out);
 /// v' b as a column, v of `rows` cells. Prepared `cols` by 1.
+/// @formula v^{\top} B
 VECMAT_API void M_ProductVB(matrix* v, int rows, matrix* b, int cols, matrix*& out);
 /// b' v, v of `rows` cells, in `cols` cells in place.
+/// @formula B^{\top} v
 VECMAT_API void M_ProductTrBV(matrix* b, int rows, int cols, matrix* v, matrix* out);
 /// v' b' as a column, v of `n` cells and b `m` by `n`, in `m` cells in place.
+/// @formula v^{\top} B^{\top}
 VECMAT_API void M_ProductVTrB(matrix* v, int n, matrix* b, int m, matrix* out);
 
 /// Chains go from left to right through a temporary. (a b) a' with b of order `cols`; (a' b) a with b of order `rows`.
@@ -61,10 +69,13 @@ VECMAT_API void M_ProductTrABA(matrix* a, int rows, int cols, matrix* b, matrix*
 VECMAT_API double M_ProductTrVBV(matrix* v, int n, matrix* b);
 VECMAT_API double M_ProductTrV1BV2(matrix* va, int n, matrix* b, matrix* vb);
 /// (a' b) c: b is `rows` by `colsB`, c `colsB` by `colsC`; the result, `cols` by `colsC`, in place.
+/// @formula (A^{\top} B)\, C
 VECMAT_API void M_ProductTrABC(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* c, int colsC, matrix* out);
 /// (a b') c: b is `rowsB` by `cols`, c `rowsB` by `colsC`; the result, `rows` by `colsC`, in place.
+/// @formula (A B^{\top})\, C
 VECMAT_API void M_ProductATrBC(matrix* a, int rows, int cols, matrix* b, int rowsB, matrix* c, int colsC, matrix* out);
 /// (a' b) v: b is `rows` by `colsB`, v has `colsB` cells; the result, `cols` cells, in place.
+/// @formula (A^{\top} B)\, v
 VECMAT_API void M_ProductTrABV(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* v, matrix* out);
 
 /// (a b) c: b is `cols` by `colsB`, c `colsB` by `colsC`; the result, `rows` by `colsC`, in place. Each of the two
@@ -72,6 +83,7 @@ VECMAT_API void M_ProductTrABV(matrix* a, int rows, int cols, matrix* b, int col
 /// in a row of a square left operand that is zero off the diagonal (its column too) the cell is one product, and
 /// likewise in such a column of a square right operand. A cell that is skipped in this way has no effect, even if it is
 /// infinite or a NaN, and a product of zeros keeps its sign: the bits differ from those of two plain products.
+/// @formula (A B)\, C
 /// @missing an ordinary number, unless structure skips its term
 VECMAT_API void M_ProductABC(matrix* a, int rows, int cols, matrix* b, int colsB, matrix* c, int colsC, matrix* out);
 

@@ -15,15 +15,18 @@
 extern "C" {
 
 /// Sum of the first `n` diagonal cells.
+/// @formula \operatorname{tr} A = \sum_i a_{ii}
 /// @missing an ordinary number
 VECMAT_API double M_Trace(matrix* a, int n);
 
 /// The trace of a' b: the sum over the columns of their inner products, of two `rows` by `cols` tables. With b equal to
 /// a it is the square of the Frobenius norm: no root is taken.
+/// @formula \operatorname{tr}(A^{\top} B) = \sum_j \sum_i a_{ij} b_{ij}
 /// @missing an ordinary number
 VECMAT_API double M_FrobeniusNorm(matrix* a, int rows, int cols, matrix* b);
 
 /// Sum of the cells, row after row.
+/// @formula \sum_i \sum_j a_{ij}
 VECMAT_API double M_Sum2(matrix* a, int rows, int cols);
 
 /// Sum per column and per row.
@@ -32,12 +35,14 @@ VECMAT_API void M_SumByCols(matrix* a, int rows, int cols, matrix* out);
 VECMAT_API void M_SumByRows(matrix* a, int rows, int cols, matrix* out);
 
 /// Sum of squares per row.
+/// @formula \sum_j a_{ij}^2
 /// @missing makes the sum of its row missing (equality)
 /// @empty 0.0 for a row without columns
 VECMAT_API void M_SquaredRows(matrix* a, int rows, int cols, matrix*& out);
 VECMAT_API void M_SquaredRowsSPV(matrix** a, int rows, int cols, matrix*& out);
 
 /// Sum of squares per column.
+/// @formula \sum_i a_{ij}^2
 /// @missing an ordinary number: its square is infinite
 /// @empty 0.0 for a column without rows
 VECMAT_API void M_SquaredColumns(matrix* a, int rows, int cols, matrix*& out);

@@ -21,6 +21,7 @@ VECMAT_API double V_SumIfNotMissing(matrix* x, int n, matrix* y);
 
 /// a b; b has `nInner` rows and `nCols` columns. c is prepared with `matCheck`, `nRows` by `nCols`. Each result is one
 /// sum over the inner index in order. Returns 0.
+/// @formula (A B)_{ij} = \sum_k a_{ik} b_{kj}
 /// @missing the first one, in either factor, ends the sum and makes the result missing, even where the other factor is
 ///     0 (equality)
 /// @empty an empty sum is 0.0

@@ -12,6 +12,7 @@ extern "C" {
 /// The Kronecker product of A (m by n) and B (p by q): cell (k, l) of block (i, j) of C is A(i, j) B(k, l). C must
 /// exist with exactly p m rows and q n columns. A cell beyond A or B reads -1.0 and takes part. C must be another table
 /// than A and B.
+/// @formula C = A \otimes B
 /// @failure with any other shape of C nothing happens, and nothing is reported
 VECMAT_API void KroneckerTensorProduct(matrix* A, int m, int n, matrix* B, int p, int q, matrix* C);
 

@@ -1,0 +1,194 @@
+"""The page of a function: see reference.py."""
+
+from header_comments import TITLES
+from reference_model import as_markdown, description, escaped, own_description, paragraphs, summary, words_of
+from reference_siblings import differences, forms, relatives, spellings, storage_of
+
+FAMILY_TITLES = {
+    "tables": "Tables and the frame of a call", "elementary": "Elementary operations", "sorting": "Sorting and ranks",
+    "missing": "Missing data", "qualitative": "Qualitative variables and groups", "descriptive": "Descriptive statistics",
+    "randomisation": "Randomisation, ranges and designs", "decompositions": "Decompositions", "fitting": "Model fitting",
+}
+KINDS = {
+    "flat form for macros": "The flat form of {} for macros, over plain arrays",
+    "flat form for native callers": "The flat form of {} for native callers, over plain arrays",
+    "flat function": "The flat form of {}, over plain arrays",
+}
+# The parts of a contract that get a row of their own, in this order; formulas and costs stand elsewhere.
+ROWS = ("missing", "mask", "weights", "divisor", "empty", "failure", "memory", "seed", "source", "weak")
+
+
+def label_of(unit):
+    """The label of a unit on the page of its subject."""
+    return "unit-" + unit.replace("/", "-").replace("_", "-").lower()
+
+
+def contract_anchor(unit):
+    """The anchor of a unit on the page of contracts: that of its heading."""
+    return unit.replace("/", "").lower()
+
+
+def front_matter(function):
+    words = [*spellings(function.name), *words_of(function.name)]
+    return ["---", "orphan: true", "myst:", "  html_meta:", f'    keywords: "{", ".join(dict.fromkeys(words))}"', "---", ""]
+
+
+class Pages:
+    """What all pages are written from."""
+
+    def __init__(self, functions, signatures, arguments, peers, examples):
+        self.functions, self.signatures, self.arguments = functions, signatures, arguments
+        self.peers, self.examples = peers, examples
+
+    def page(self, function):
+        base = self.functions[function.base] if function.base else function
+        lines = [*front_matter(function), f"# {escaped(function.name)}", "", *self.place(function), *self.lead(function),
+                 *self.formula(base), *self.signature(function), *self.argument_table(function), *self.contract(function),
+                 *self.cost(base), *self.example(function), *self.siblings(function), *self.compared(base), *self.common(base)]
+        return "\n".join(lines).rstrip("\n") + "\n"
+
+    def place(self, function):
+        """Where in the reference the page is, and which form of which function it tells of."""
+        crumbs = (f"[Reference](../reference.md) › [{FAMILY_TITLES[function.family]}](../reference/{function.family}.md) › "
+                  f"[{function.unit.split('/')[-1].replace('_', ' ')}]({label_of(function.unit)})")
+        return ["```{rst-class} crumbs", "```", crumbs, ""]
+
+    def lead(self, function):
+        lines = []
+        if function.base:
+            kind = KINDS.get(function.kind(), "The form over plain arrays of {}").format(f"`{function.base}`")
+            lines += [f"*{kind}.*", ""]
+        elif function.kind() in ("flat form for macros", "flat form for native callers"):
+            lines += [f"*A {function.kind().removeprefix('flat form ').replace('for', 'function for', 1)}, over plain arrays.*", ""]
+        lines += [*self.quoted_neighbour(function), *description(function, self.functions), ""]
+        if function.base and own_description(function):
+            own = own_description(function)
+            if own != description(function, self.functions):
+                lines += ["In this form: " + own[0], *own[1:], ""]
+        elif function.base:
+            section = paragraphs(function.contracts[0].prose.section)
+            if section:
+                lines += [*section, ""]
+        return lines
+
+    def quoted_neighbour(self, function):
+        """A comment that begins with "The same" tells what changes against the one before it: that one in a quotation."""
+        base = self.functions[function.base] if function.base else function
+        own = description(base, self.functions)
+        if not own or not own[0].startswith(("The same", "Likewise", "Also")):
+            return []
+        names = [name for name, other in self.functions.items() if other.unit == base.unit and not other.base]
+        for name in reversed(names[:names.index(base.name)]):
+            before = description(self.functions[name], self.functions)
+            if before != own and not before[0].startswith(("The same", "Likewise", "Also")):
+                return [f"> `{name}`: {before[0]}", *(f"> {line}" for line in before[1:]), ""]
+        return []
+
+    def formula(self, function):
+        text = function.tags().get("formula")
+        return ["$$", text, "$$", ""] if text else []
+
+    def signature(self, function):
+        lines = ["## Signature", ""]
+        callers = self.signatures.python_callers(function)
+        for signature in self.signatures.of(function, self.functions):
+            lines += [f"````{{tab}} {signature.language}", f"```{signature.lexer}", signature.text, "```"]
+            if signature.language == "Python":
+                for caller in callers:
+                    lines += ["", f"With names and missing values in Python's habits: {escaped(caller.summary)}", "",
+                              "```python", caller.signature, "```"]
+            lines += ["````", ""]
+        if not function.call and not function.flat_forms and "::" not in function.name:
+            lines += ["Only C++ calls it: it has no form over plain arrays.", ""]
+        return lines
+
+    def argument_table(self, function):
+        table = self.arguments.table(function, self.functions)
+        return ["## Arguments", "", "```{rst-class} arguments", "```", *table, ""] if table else []
+
+    def contract(self, function):
+        lines = ["## Contract", ""]
+        groups = {}
+        for contract in function.contracts:
+            groups.setdefault(tuple((tag, contract.tags.get(tag, "")) for tag in ROWS), []).append(contract)
+        for tags, members in groups.items():
+            if len(groups) > 1:
+                lines += [", ".join(f"`{member.declaration.signature()}`" for member in members) + ":", ""]
+            rows = [f"| {TITLES[tag]} | {escaped(text)} |" for tag, text in tags if text]
+            if rows:
+                lines += ["```{rst-class} contract", "```", "| | |", "|---|---|", *rows, ""]
+            else:
+                lines += ["It takes nothing that could be missing, masked or empty.", ""]
+        unit = contract_anchor(function.unit)
+        lines += [f"[What the words mean](../contracts/overview.md#the-words-of-the-tables) · "
+                  f"[the unit side by side](../contracts/{function.family}.md#{unit})", ""]
+        return lines
+
+    def cost(self, function):
+        text = function.tags().get("cost")
+        return ["## Cost", "", escaped(text[:1].upper() + text[1:]).rstrip(".") + ".", ""] if text else []
+
+    def example(self, function):
+        found = self.examples.of(function, self.functions)
+        return ["## Example", "", *found, ""] if found else []
+
+    def siblings(self, function):
+        lines = []
+        same = forms(function, self.functions)
+        others = relatives(function, self.functions)
+        if same or others:
+            lines += ["## Siblings", ""]
+        if same:
+            told = [f"`{name}`" + (f" ({self.functions[name].kind()})" if self.functions[name].kind() else "") for name in same]
+            lines += ["The same function in other forms: " + ", ".join(told) + ".", ""]
+        if others:
+            lines += [f"In what its relatives differ from `{function.name}`:", "", "```{rst-class} siblings", "```",
+                      f"| Relative | | It | {escaped(function.name)} |", "|---|---|---|---|"]
+            for name in others:
+                lines += self.sibling_rows(function, self.functions[name])
+            lines.append("")
+        return lines
+
+    def sibling_rows(self, function, other):
+        found = list(differences(function, other))
+        told = f"`{other.name}`"
+        text = summary(other, self.functions)
+        if text and text != summary(function, self.functions):
+            told += f" {escaped_table(text)}"
+        if not found:
+            yield f"| {told} | | the same contract | |"
+        for difference in found:
+            yield (f"| {told} | {difference.title} | {cell(difference.there)} | {cell(difference.here)} |")
+            told = ""
+
+    def compared(self, function):
+        rows = self.peers.get(function.name, [])
+        if not rows:
+            return []
+        lines = ["## Elsewhere", "", "| In | It is | How it differs |", "|---|---|---|"]
+        for row in rows:
+            name = row["name"] if "`" in row["name"] else f"`{row['name']}`"
+            lines.append(f"| {row['ecosystem']} | {name} | {escaped_table(escaped(row['differs']))} |")
+        return [*lines, ""]
+
+    def common(self, function):
+        """What the header says of all functions of the unit."""
+        comments = function.contracts[0].prose
+        header = as_markdown(comments.header.prose)
+        lines = [f"## Common to {escaped(function.unit)}", "", *header, ""]
+        section = paragraphs(comments.section)
+        if section and section != description(function, self.functions):
+            lines += [*section, ""]
+        heading = as_markdown([line for line in comments.heading.prose[1:] if line.strip(" -")])
+        if heading:
+            lines += [*heading, ""]
+        lines += [f"Declared in [`{function.unit}.h`](doxygen:{function.unit}).", ""]
+        return lines
+
+
+def cell(text):
+    return text if "`" in text and "|" not in text and text.startswith(("also takes", "has no")) else escaped(text)
+
+
+def escaped_table(text):
+    return text.replace("\n", " ")

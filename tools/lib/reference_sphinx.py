@@ -1,0 +1,87 @@
+"""What Sphinx is taught for the reference, as an extension.
+
+- Formulas become MathML, which browsers show without a script.
+- Code that is the name of an exported function links to its page, wherever it stands.
+- `doxygen:UNIT` as the address of a link is the page that Doxygen writes of the unit's header.
+- The search shows in its results what each function computes.
+"""
+
+import json
+import re
+from pathlib import Path
+
+from docutils import nodes
+from docutils.utils.math.latex2mathml import tex2mathml
+from pygments.lexers.dotnet import VbNetLexer
+from sphinx.util.osutil import relative_uri
+
+FUNCTIONS = "functions.tsv"
+HIGHLIGHTED = (nodes.title, nodes.reference)
+
+
+def read_names(app):
+    """Documents and summaries by name."""
+    names = {}
+    for line in (Path(app.srcdir) / FUNCTIONS).read_text(encoding="utf-8").splitlines():
+        name, document, summary = line.split("\t")
+        names[name] = (f"functions/{document}", re.sub(r"[`\\]", "", summary))
+    app.env.function_names = names
+
+
+def link_names(app, doctree, docname):
+    """Makes links of code that is a name, and of the addresses of Doxygen's pages."""
+    names = app.env.function_names
+    for node in list(doctree.findall(nodes.literal)):
+        name = node.astext().removesuffix("()")
+        target = names.get(name, (docname,))[0]
+        if target == docname or any(isinstance(parent, HIGHLIGHTED) for parent in parents(node)):
+            continue
+        uri = app.builder.get_relative_uri(docname, target)
+        node.replace_self(nodes.reference("", "", node.deepcopy(), internal=True, refuri=uri))
+    for node in doctree.findall(nodes.reference):
+        if node.get("refuri", "").startswith("doxygen:"):
+            page = doxygen_page(node["refuri"].removeprefix("doxygen:"))
+            node["refuri"] = relative_uri(app.builder.get_target_uri(docname), f"cpp/{page}")
+
+
+def doxygen_page(unit):
+    """The file name of the page of a header, or of Doxygen's first page."""
+    return unit.split("/")[-1].replace("_", "__") + "_8h.html" if unit else "index.html"
+
+
+def parents(node):
+    while node.parent is not None:
+        node = node.parent
+        yield node
+
+
+def mathml(writer, node, inline):
+    tag = "span" if inline else "div"
+    writer.body.append(f'<{tag} class="math">{tex2mathml(node.astext(), inline=inline)}</{tag}>')
+    raise nodes.SkipNode
+
+
+def visit_math(writer, node):
+    mathml(writer, node, True)
+
+
+def visit_math_block(writer, node):
+    mathml(writer, node, False)
+
+
+def write_summaries(app, error):
+    """What the search shows of each function, as a script: pages cannot be fetched from the disk."""
+    if error:
+        return
+    summaries = {document: summary for document, summary in app.env.function_names.values()}
+    text = f"var functionSummaries = {json.dumps(summaries, sort_keys=True)};\n"
+    (Path(app.outdir) / "_static/summaries.js").write_text(text, encoding="utf-8")
+
+
+def setup(app):
+    app.add_html_math_renderer("mathml", (visit_math, None), (visit_math_block, None))
+    app.add_lexer("vb", VbNetLexer)
+    app.connect("builder-inited", read_names)
+    app.connect("doctree-resolved", link_names)
+    app.connect("build-finished", write_summaries)
+    return {"version": "1", "parallel_read_safe": True, "parallel_write_safe": True}
