@@ -134,7 +134,7 @@ class Signatures:
         if name in self.c:
             found.append(Signature("C", "c", self.c[name]))
         if name in self.vba:
-            found.append(Signature("VBA", "vbnet", self.vba[name]))
+            found.append(Signature("VBA", "vb", self.vba[name]))
         if name in self.python:
             found.append(Signature("Python", "python", self.python[name]))
         return found

@@ -12,11 +12,33 @@ from pathlib import Path
 
 from docutils import nodes
 from docutils.utils.math.latex2mathml import tex2mathml
-from pygments.lexers.dotnet import VbNetLexer
+from pygments import token
+from pygments.lexer import RegexLexer, words
 from sphinx.util.osutil import relative_uri
 
 FUNCTIONS = "functions.tsv"
 HIGHLIGHTED = (nodes.title, nodes.reference)
+
+
+class MacroLexer(RegexLexer):
+    """The macro language, of which Pygments knows only a later relative."""
+
+    name, aliases, flags = "Macro", ["vb"], re.IGNORECASE
+    tokens = {"root": [
+        (r"'[^\n]*", token.Comment),
+        (r'"(?:[^"\n]|"")*"', token.String),
+        (r"#\w[^\n]*", token.Comment.Preproc),
+        (words(("And", "As", "ByRef", "ByVal", "Call", "Const", "Declare", "Dim", "Do", "Each", "Else", "ElseIf", "Empty",
+                "End", "Erase", "Exit", "Explicit", "For", "Function", "If", "In", "Is", "Loop", "Mod", "Next", "Not",
+                "Nothing", "Null", "Option", "Or", "Private", "PtrSafe", "Public", "ReDim", "Select", "Set", "Step", "Sub",
+                "Then", "To", "Type", "Until", "Wend", "While", "With"), prefix=r"\b", suffix=r"\b"), token.Keyword),
+        (words(("Any", "Boolean", "Byte", "Double", "Integer", "Long", "LongPtr", "Object", "Range", "Single", "String",
+                "Variant"), prefix=r"\b", suffix=r"\b"), token.Keyword.Type),
+        (r"\b(True|False)\b", token.Keyword.Constant),
+        (r"\b\d[\d.]*(?:E[+-]?\d+)?#?", token.Number),
+        (r"[A-Za-z_]\w*", token.Name),
+        (r"\s+|.", token.Text),
+    ]}
 
 
 def read_names(app):
@@ -57,7 +79,11 @@ def parents(node):
 
 def mathml(writer, node, inline):
     tag = "span" if inline else "div"
-    writer.body.append(f'<{tag} class="math">{tex2mathml(node.astext(), inline=inline)}</{tag}>')
+    try:
+        formula = tex2mathml(node.astext(), inline=inline)
+    except SyntaxError as error:
+        raise SyntaxError(f"{writer.builder.current_docname}: {error}: {node.astext()}") from error
+    writer.body.append(f'<{tag} class="math">{formula}</{tag}>')
     raise nodes.SkipNode
 
 
@@ -80,7 +106,7 @@ def write_summaries(app, error):
 
 def setup(app):
     app.add_html_math_renderer("mathml", (visit_math, None), (visit_math_block, None))
-    app.add_lexer("vb", VbNetLexer)
+    app.add_lexer("vb", MacroLexer)
     app.connect("builder-inited", read_names)
     app.connect("doctree-resolved", link_names)
     app.connect("build-finished", write_summaries)

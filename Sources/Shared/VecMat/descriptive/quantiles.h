@@ -22,7 +22,7 @@ extern "C" {
 /// The element at position (n-1)p of the sorted values, or between its neighbours a and b the value (1-g) a + g b, g
 /// being the fraction of the position; neighbours that are equal give themselves. Exactly 0 and 1 give the smallest and
 /// the largest element.
-/// @formula q = (1 - g)\, x_{(k)} + g\, x_{(k+1)}, \quad (n - 1)\, p = k + g, \quad x_{(0)} \le x_{(1)} \le \dots
+/// @formula q = (1 - g)\, x_{(k)} + g\, x_{(k+1)}, \quad (n - 1)\, p = k + g, \quad x_{(0)} \le x_{(1)} \le \ldots
 /// @divisor position (n - 1) p
 /// @empty -1.0
 /// @source rule 7 of Hyndman and Fan (1996), Sample quantiles in statistical packages

@@ -21,7 +21,7 @@ extern "C" {
 /// Take rows s, s + t, s + 2 t, ... of `S`, `n` at most, s being floor(M u) + 1 for one draw u, whose series is closed
 /// before any row is copied. `ids`, of `N` cells, becomes N + 1 for each row not taken; for a row taken it stays as the
 /// caller set it. With `n` of 1, or above `N`, row s alone is taken.
-/// @formula s,\ s + t,\ s + 2t,\ \dots, \quad t = \left\lfloor \frac{N - 1}{n - 1} \right\rfloor, \quad s = \lfloor M u
+/// @formula s,\ s + t,\ s + 2t,\ \ldots, \quad t = \left\lfloor \frac{N - 1}{n - 1} \right\rfloor, \quad s = \lfloor M u
 ///     \rfloor + 1, \quad M = N - (n - 1)\, t
 /// @empty with `n` below 1 one number is drawn, and no row taken
 /// @weak a start beyond M is never drawn, so some rows are never in a sample: 72 of 100 for 7 of 100
@@ -31,7 +31,7 @@ VECMAT_API void M_SamplingSystematicRdStartSPV(Smatrix** S, int N, int p, int n,
                                                short seedFlag, int* seedOut);
 
 /// The same from the middle of the first M rows, floor((M + 1) / 2), without a draw.
-/// @formula s,\ s + t,\ s + 2t,\ \dots, \quad s = \left\lfloor \frac{M + 1}{2} \right\rfloor
+/// @formula s,\ s + t,\ s + 2t,\ \ldots, \quad s = \left\lfloor \frac{M + 1}{2} \right\rfloor
 /// @empty with `n` below 1 no row is taken
 /// @weak every call takes the same rows
 VECMAT_API void M_SamplingSystematicCentered(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids);
