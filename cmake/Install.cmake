@@ -22,7 +22,8 @@ else()
     foreach(companion IN LISTS VECMAT_COMPANIONS)
         install(DIRECTORY ${companions_source}/${companion}
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VecMat/Companions FILES_MATCHING PATTERN "*.h")
-        install(TARGETS ${companion} EXPORT VecMatTargets)
+        install(TARGETS ${companion} EXPORT VecMatTargets
+            LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}${vecmat_companions_rpath})
     endforeach()
 endif()
 
@@ -39,3 +40,18 @@ file(RELATIVE_PATH pkgconfig_to_prefix
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/vecmat.pc.in ${PROJECT_BINARY_DIR}/vecmat.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vecmat.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# What is installed explains itself: two manual pages, the pages of Docs and, where tools/docs has built it, the reference.
+foreach(manual IN ITEMS man1/vecmat-digest.1 man3/vecmat.3)
+    get_filename_component(page ${manual} NAME)
+    get_filename_component(section ${manual} DIRECTORY)
+    if(NOT page MATCHES "digest" OR VECMAT_DIGEST)
+        configure_file(Docs/man/${page}.in ${PROJECT_BINARY_DIR}/man/${page} @ONLY)
+        install(FILES ${PROJECT_BINARY_DIR}/man/${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/${section})
+    endif()
+endforeach()
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/vecmat)
+install(FILES LICENSE CHANGELOG.md DESTINATION ${documents})
+install(DIRECTORY Docs/ DESTINATION ${documents}
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png" PATTERN man EXCLUDE)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/docs/html DESTINATION ${documents} OPTIONAL)

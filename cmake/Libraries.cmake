@@ -1,5 +1,11 @@
 # The library and the three companion libraries that it imports.
 
+# Where the companions are installed: beside the library, or in a folder below of its own.
+set(VECMAT_COMPANIONS_SUBDIR "" CACHE STRING "Folder below that of the library in which the companions are installed")
+if(VECMAT_COMPANIONS_SUBDIR)
+    set(vecmat_companions_rpath "/${VECMAT_COMPANIONS_SUBDIR}")
+endif()
+
 # vecmat_shared_library(NAME [VERSIONED] SOURCE...): a shared library with the rules that all of the project's libraries
 # follow. VERSIONED gives its symbols the version node of the interface: see Docs/versions.md.
 function(vecmat_shared_library name)
@@ -122,6 +128,7 @@ target_include_directories(VecMat PUBLIC
     $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/Bindings/c>
     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/VecMat>)
 target_link_libraries(VecMat PRIVATE ${companion_targets} $<BUILD_INTERFACE:vecmat_mathematics>)
+set_target_properties(VecMat PROPERTIES INSTALL_RPATH "$ORIGIN${vecmat_companions_rpath}")
 
 # The guarded calls are a separate library: VecMat's exports are fixed.
 vecmat_shared_library(VecMatGuarded VERSIONED Bindings/c/guard.cpp Bindings/c/VecMatGuarded.cpp)

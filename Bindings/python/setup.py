@@ -1,6 +1,8 @@
 """The package's extension modules and the library itself are built by CMake, from the sources of the whole project."""
 
 import os
+import re
+import shlex
 import shutil
 import subprocess
 import sys
@@ -11,6 +13,8 @@ from setuptools.command.build_ext import build_ext
 from setuptools.extension import Extension
 
 HERE = Path(__file__).resolve().parent
+# One version for the whole project.
+VERSION = re.search(r"^project\(VecMat VERSION ([0-9.]+)", (HERE / "../../CMakeLists.txt").read_text(), re.M)[1]
 
 
 class BuildByCMake(build_ext):
@@ -23,6 +27,7 @@ class BuildByCMake(build_ext):
             configure += ["-G", "Ninja"]
         if shutil.which("ccache"):
             configure += ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"]
+        configure += shlex.split(os.environ.get("CMAKE_ARGS", ""))
         for command in (configure,
                         ["cmake", "--build", build, "--parallel", str(os.cpu_count() or 1)],
                         ["cmake", "--install", build, "--component", "python", "--prefix", package]):
@@ -37,4 +42,4 @@ class Binary(Distribution):
         return True
 
 
-setup(distclass=Binary, cmdclass={"build_ext": BuildByCMake}, ext_modules=[Extension("vecmat.flat", [])])
+setup(version=VERSION, distclass=Binary, cmdclass={"build_ext": BuildByCMake}, ext_modules=[Extension("vecmat.flat", [])])

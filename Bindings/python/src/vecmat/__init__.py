@@ -13,6 +13,7 @@ as NaN; infinities are numbers.
 from vecmat import (components, covariance, data, decompositions, flat, groups, inverses, matrices, missing,
                     qualitative, quantiles, ranks, regression, sampling, scaling, spread, univariate)
 from vecmat._results import PrecisionWarning, Result
+from vecmat._version import __version__
 from vecmat.components import *
 from vecmat.covariance import *
 from vecmat.data import *
@@ -30,7 +31,6 @@ from vecmat.scaling import *
 from vecmat.spread import *
 from vecmat.univariate import *
 
-__version__ = "1.0.0"
 __all__ = ["PrecisionWarning", "Result", "flat"]
 __all__ += components.__all__
 __all__ += covariance.__all__
