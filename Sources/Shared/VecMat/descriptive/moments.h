@@ -58,7 +58,7 @@ VECMAT_API void VB_V_MeanVar(double* v, int n, double* mean, double* var, short*
                              short freqWeights);
 
 /// `V_MeanVar` with the square root of the variance in its place.
-/// @formula \bar x = \frac{\sum_i w_i x_i}{W}, \quad s = \sqrt{\frac{1}{D} \sum_i w_i (x_i - \bar x)^2}, \quad D = W,\
+/// @formula \bar x = \frac{\sum_i w_i x_i}{W}, \quad s = \sqrt{\frac{1}{D} \sum_i w_i (x_i - \bar x)^2}, \quad D = W,\;
 ///     W - 1 \text{ or } W - W/m
 /// @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; where Q is 0 the variance is 0.0 whatever the
 ///     divisor
