@@ -82,6 +82,10 @@ file(GLOB_RECURSE vecmat_sources CONFIGURE_DEPENDS ${vecmat_source}/*.cpp)
 file(GLOB_RECURSE vecmat_kernels CONFIGURE_DEPENDS ${vecmat_source}/*.kernel.cpp)
 list(REMOVE_ITEM vecmat_sources ${vecmat_kernels} ${mathematics_sources})
 vecmat_shared_library(VecMat VERSIONED ${vecmat_sources})
+# Reading the headers of the standard library would take more than half of the time of a build. Each file still includes
+# what it needs: builds with a compiler cache, and those of .ci/run, do without (tools/lib/common.sh).
+target_precompile_headers(VecMat PRIVATE
+    <algorithm> <array> <cmath> <functional> <limits> <memory> <optional> <string> <string_view> <utility> <vector>)
 
 # The kernels are compiled once for each instruction set; the choice is made at run time. Loops with adjacent results
 # become vector instructions, provided the compiler knows that errno and the floating-point exception flags are never
