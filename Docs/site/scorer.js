@@ -17,6 +17,7 @@ var Scorer = {
     if (!query || page.indexOf("functions/") !== 0) return score + 3;
     if (title.indexOf(" > ") >= 0) return score - 100;
     if (plain(title) === query) return score + 200;
+    if (/^(VB_|Cpp_)/.test(title)) score -= 5; // its function tells more
     if (plain(withoutPrefix(title)) === query) return score + 120;
     if (plain(withoutPrefix(title).replace(/^[MV]_/, "")) === query) return score + 100;
     if (plain(title).indexOf(query) >= 0) return score + 40 - title.length / 4;

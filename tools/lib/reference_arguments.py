@@ -92,8 +92,8 @@ class Arguments:
             return self._lines([self._flat(row) for row in self.rows[function.name].values()])
         rows = []
         for declaration in function.declarations:
-            for kind, name in zip(declaration.types, declaration.names):
-                rows.append(self._of_table(kind, name, function))
+            for place, (kind, name) in enumerate(zip(declaration.types, declaration.names)):
+                rows.append(self._of_table(kind, name, self._same_in_flat(declaration, place, function)))
         merged = {}
         for name, kind, *rest in rows:
             if name in merged and kind not in merged[name][1].split("; or "):
@@ -107,10 +107,16 @@ class Arguments:
         return [row["argument"], TYPES[row["type"]], shape_in_words(row["shape"]), null_in_words(row["null"]),
                 "; ".join(word for word in [*words, note] if word)]
 
-    def _of_table(self, kind, name, function):
-        """An argument of a function over tables; its flat form tells what it is for."""
-        row = next((self.rows[form][name] for form in function.flat_forms
-                    if form in self.rows and name in self.rows[form]), None)
+    def _same_in_flat(self, declaration, place, function):
+        """The argument of a flat form that is this one: of the same name, or in the same place of as many."""
+        name = declaration.names[place]
+        flat = [self.rows[form] for form in function.flat_forms if form in self.rows]
+        by_name = (rows[name] for rows in flat if name in rows)
+        by_place = (list(rows.values())[place] for rows in flat if len(rows) == len(declaration.names))
+        return next(by_name, None) or next(by_place, None)
+
+    def _of_table(self, kind, name, row):
+        """An argument of a function over tables; a flat form's tells what it is for."""
         is_type = TYPES.get(kind, f"`{kind}`")
         if row is None:
             return [name or "(unnamed)", is_type, "", "", ""]

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """reference_examples.py [--write]: runs the examples of the reference, and fails where one prints something else.
 
-The examples in Python are in Docs/examples: chosen.txt has those written by hand, flat.txt those made up from the table
-of arguments for the flat functions without one. A line `## NAME...` opens the example of these functions; `>>>` is
-typed, and below it stands what is printed. With --write what is printed is written into both files, and flat.txt made
-anew; look at the differences before they are kept. Needs the package vecmat: see tools/lib/test_reference.
+The examples are in Docs/examples: chosen.txt has those in Python that were written by hand, flat.txt those made up from
+the table of arguments for the other flat functions, cpp.txt those in C++ for what has no flat form. A line `## NAME...`
+opens the example of these functions; what it prints stands below `>>>`, and in C++ in the comments at the end. With
+--write what is printed is written into the files, and flat.txt made anew; look at the differences before they are kept.
+Needs the package vecmat: see tools/lib/test_reference.
 
     Examples(root).of(function, functions)     the example for the page of a function
 """
@@ -13,6 +14,8 @@ import ast
 import re
 import sys
 from pathlib import Path
+
+from reference_cpp_examples import run_all
 
 HEADING = re.compile(r"^## (.+)$", re.M)
 FILES = ("chosen.txt", "flat.txt")
@@ -35,14 +38,21 @@ class Examples:
     def __init__(self, root):
         folder = root / "Docs/examples"
         self.python = {name: body for file in reversed(FILES) for name, body in read_examples(folder / file).items()}
+        self.cpp = read_examples(folder / "cpp.txt")
 
     def of(self, function, functions):
         """The example as Markdown: the function's own, or that of its flat form."""
         for name in [function.name, *function.flat_forms]:
             if name in self.python:
-                told = f"By its flat form `{name}`, in" if name != function.name else "In"
-                return [f"{told} Python, after `from vecmat import flat` and `from vecmat.flat import MISSING`, with NumPy "
-                        "as `np`:", "", "```pycon", self.python[name], "```"]
+                told = f", by its flat form `{name}`" if name != function.name else ""
+                return [f"In Python{told}, with `np` for NumPy, `flat` and `MISSING` from [`vecmat`](../python.md):", "",
+                        "```pycon", self.python[name], "```"]
+        if function.name in self.cpp:
+            code = self.cpp[function.name]
+            helper = ", with `print` writing the first rows and columns of a table" if "print(" in code.replace(
+                "std::print", "") else ""
+            shows = "In C++" if function.name.split("::")[-1] in code else "Of its relatives, in C++"
+            return [f"{shows}{helper}; the comments at the end are what it prints:", "", "```cpp", code, "```"]
         return []
 
 
@@ -128,6 +138,13 @@ def run(body):
     return "\n".join(out)
 
 
+def libraries():
+    """Where the package has the library and its companions."""
+    import vecmat
+
+    return Path(vecmat.__file__).parent
+
+
 def made_up(root, chosen):
     """The examples of the flat functions that have no other, not yet run: by name."""
     from arguments import read_calls
@@ -156,10 +173,12 @@ def main():
     wrong, count = [], 0
     if is_writing:
         flat = list(made_up(root, names))
-    for file, start, held in (("chosen.txt", head, chosen), ("flat.txt", flat_head, flat)):
+    cpp_head, cpp = sections(folder / "cpp.txt")
+    for file, start, held in (("chosen.txt", head, chosen), ("flat.txt", flat_head, flat), ("cpp.txt", cpp_head, cpp)):
         texts = []
-        for heading, body in held:
-            printed = run(body)
+        bodies = [body for _, body in held]
+        results = run_all(root, bodies, libraries()) if file == "cpp.txt" else map(run, bodies)
+        for (heading, body), printed in zip(held, results):
             count += 1
             texts.append(f"## {heading}\n\n{printed}\n")
             if printed != body:

@@ -44,7 +44,7 @@ class Pages:
         base = self.functions[function.base] if function.base else function
         lines = [*front_matter(function), f"# {escaped(function.name)}", "", *self.place(function), *self.lead(function),
                  *self.formula(base), *self.signature(function), *self.argument_table(function), *self.contract(function),
-                 *self.cost(base), *self.example(function), *self.siblings(function), *self.compared(base), *self.common(base)]
+                 *self.cost(base), *self.example(function), *self.compared(base), *self.siblings(function), *self.common(base)]
         return "\n".join(lines).rstrip("\n") + "\n"
 
     def place(self, function):
@@ -142,24 +142,27 @@ class Pages:
             told = [f"`{name}`" + (f" ({self.functions[name].kind()})" if self.functions[name].kind() else "") for name in same]
             lines += ["The same function in other forms: " + ", ".join(told) + ".", ""]
         if others:
-            lines += [f"In what its relatives differ from `{function.name}`:", "", "```{rst-class} siblings", "```",
-                      f"| Relative | | It | {escaped(function.name)} |", "|---|---|---|---|"]
+            lines += [f"Relatives, and in what they differ from `{function.name}`:", ""]
             for name in others:
-                lines += self.sibling_rows(function, self.functions[name])
-            lines.append("")
+                lines += self.sibling(function, self.functions[name])
         return lines
 
-    def sibling_rows(self, function, other):
+    def sibling(self, function, other):
+        """A relative: its name, what it computes, and a table of the differences."""
         found = list(differences(function, other))
-        told = f"`{other.name}`"
         text = summary(other, self.functions)
-        if text and text != summary(function, self.functions):
-            told += f" {escaped_table(text)}"
+        told = f"`{other.name}`: {text}" if text and text != summary(function, self.functions) else f"`{other.name}`"
+        notes = [difference.there for difference in found if difference.title == "Arguments"]
+        rows = [difference for difference in found if difference.here and "–" not in (difference.here, difference.there)
+                or difference.title not in ("Mask", "Arguments")]
         if not found:
-            yield f"| {told} | | the same contract | |"
-        for difference in found:
-            yield (f"| {told} | {difference.title} | {cell(difference.there)} | {cell(difference.here)} |")
-            told = ""
+            notes = ["the same contract"]
+        lines = ["```{rst-class} relative", "```", f"{told}{' – ' if notes else ''}{'; '.join(notes)}.", ""]
+        if rows:
+            lines += ["```{rst-class} siblings", "```", f"| | {escaped(other.name)} | {escaped(function.name)} |", "|---|---|---|"]
+            lines += [f"| {row.title} | {escaped(row.there)} | {escaped(row.here)} |" for row in rows]
+            lines.append("")
+        return lines
 
     def compared(self, function):
         rows = self.peers.get(function.name, [])
@@ -184,10 +187,6 @@ class Pages:
             lines += [*heading, ""]
         lines += [f"Declared in [`{function.unit}.h`](doxygen:{function.unit}).", ""]
         return lines
-
-
-def cell(text):
-    return text if "`" in text and "|" not in text and text.startswith(("also takes", "has no")) else escaped(text)
 
 
 def escaped_table(text):

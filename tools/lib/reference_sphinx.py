@@ -95,13 +95,23 @@ def visit_math_block(writer, node):
     mathml(writer, node, False)
 
 
-def write_summaries(app, error):
-    """What the search shows of each function, as a script: pages cannot be fetched from the disk."""
+def write_static(app, error):
+    """What the search shows of each function, as a script: pages cannot be fetched from the disk. The dark colours."""
     if error:
         return
     summaries = {document: summary for document, summary in app.env.function_names.values()}
     text = f"var functionSummaries = {json.dumps(summaries, sort_keys=True)};\n"
-    (Path(app.outdir) / "_static/summaries.js").write_text(text, encoding="utf-8")
+    static = Path(app.outdir) / "_static"
+    (static / "summaries.js").write_text(text, encoding="utf-8")
+    (static / "dark.css").write_text(dark_style((static / "styles/furo.css").read_text(encoding="utf-8")), encoding="utf-8")
+
+
+def dark_style(style):
+    """The theme's dark colours for systems that are set to dark: a theme built by some compilers of styles lacks them."""
+    if "prefers-color-scheme" in style:
+        return ""
+    dark = re.search(r'body\[data-theme="dark"\] (\{[^}]*\})', style).group(1)
+    return f'@media not print {{ @media (prefers-color-scheme: dark) {{ body:not([data-theme="light"]) {dark} }} }}\n'
 
 
 def setup(app):
@@ -109,5 +119,5 @@ def setup(app):
     app.add_lexer("vb", MacroLexer)
     app.connect("builder-inited", read_names)
     app.connect("doctree-resolved", link_names)
-    app.connect("build-finished", write_summaries)
+    app.connect("build-finished", write_static)
     return {"version": "1", "parallel_read_safe": True, "parallel_write_safe": True}
