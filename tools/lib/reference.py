@@ -51,16 +51,9 @@ def read_peers(path, functions):
 
 def start_page(sources):
     """The first page: the start page of the guide, and the contents of the sidebar."""
-    groups = sources.groups()
-    start = sources.target / "guide/start.md"
-    if start.exists():
-        lines = ["---", "hide-toc: true", "---", "", "```{include} guide/start.md", ":relative-docs: .", "```", ""]
-    else:
-        lines = ["# VecMat", "", "- [The reference](reference.md)", ""]
-    for title, pages in groups.items():
-        pages = [in_sidebar(page) for page in pages if page != "guide/start"]
-        if pages:
-            lines += ["```{toctree}", ":hidden:", f":caption: {title}", "", *pages, "```", ""]
+    lines = ["---", "hide-toc: true", "---", "", sources.first_page(), ""]
+    for title, pages in sources.groups().items():
+        lines += ["```{toctree}", ":hidden:", f":caption: {title}", "", *map(in_sidebar, pages), "```", ""]
     return "\n".join(lines)
 
 

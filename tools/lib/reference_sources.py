@@ -9,7 +9,7 @@ from contracts import HEADERS, PRIVATE
 
 # The order of the pages of a folder; others follow in the order of their names.
 GROUPS = (
-    ("Start", ("readme", "guide/tutorials/*", "guide/start")),
+    ("Start", ("readme", "guide/tutorials/*")),
     ("Concepts", ("guide/concepts/*",)),
     ("For those who know", ("guide/known/*",)),
     ("Reference", ("reference", "tasks", "names")),
@@ -19,6 +19,7 @@ GROUPS = (
 )
 LINK = re.compile(r"(!?)\[((?:[^\[\]]|\[[^\]]*\]\([^)]*\)|\[[^\]]*\])*)\]\(([^()\s]+)\)")
 FENCED = re.compile(r"(^[ ]*(?:```+|~~~+).*?^[ ]*(?:```+|~~~+)[ ]*$)", re.S | re.M)
+START = "guide/start.md"  # becomes the first page
 # Pages from elsewhere in the tree.
 OTHERS = {"README.md": "readme.md", "Bindings/python/README.md": "python.md", "Bindings/r/README.md": "r.md",
           "Bindings/js/README.md": "js.md", "Examples/cluster/README.md": "cluster.md"}
@@ -32,10 +33,14 @@ class Sources:
         docs = root / "Docs"
         self.pages = {path: path.relative_to(docs).as_posix() for path in sorted(docs.rglob("*.md"))
                       if path.name != "cpp.md"}
+        if docs / START in self.pages:
+            self.pages[docs / START] = "index.md"
         self.pages.update({root / name: page for name, page in OTHERS.items() if (root / name).exists()})
 
     def copy(self):
         for path, page in self.pages.items():
+            if page == "index.md":
+                continue
             target = self.target / page
             target.parent.mkdir(parents=True, exist_ok=True)
             write_if_new(target, self.mended(path, page))
@@ -45,6 +50,10 @@ class Sources:
                     target = self.target / path.relative_to(self.root / "Docs")
                     target.parent.mkdir(parents=True, exist_ok=True)
                     shutil.copyfile(path, target)
+
+    def first_page(self):
+        path = self.root / "Docs" / START
+        return self.mended(path, "index.md") if path in self.pages else "# VecMat\n\n- [The reference](reference.md)\n"
 
     def mended(self, path, page):
         """The text of a page with its links as the site has them; quoted code stays as it is."""
