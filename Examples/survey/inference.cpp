@@ -5,6 +5,7 @@
 #include <boost/math/distributions/fisher_f.hpp>
 #include <boost/math/distributions/normal.hpp>
 #include <boost/math/distributions/students_t.hpp>
+#include <boost/math/policies/policy.hpp>
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,12 @@
 namespace survey {
 
 namespace {
+
+/// In doubles, also where a long double is wider: it has other widths elsewhere, and p values would have other digits.
+using InDoubles = boost::math::policies::policy<boost::math::policies::promote_double<false>>;
+using StudentsT = boost::math::students_t_distribution<double, InDoubles>;
+using FisherF = boost::math::fisher_f_distribution<double, InDoubles>;
+using Normal = boost::math::normal_distribution<double, InDoubles>;
 
 /// The places of the p values, from the smallest to the largest.
 std::vector<std::size_t> ascending(const std::vector<double>& p)
@@ -29,7 +36,7 @@ double twoSidedP(double t, double freedom)
 {
     if (std::isinf(t))
         return 0.0;
-    const boost::math::students_t distribution(freedom);
+    const StudentsT distribution(freedom);
     return std::min(1.0, 2.0 * boost::math::cdf(boost::math::complement(distribution, std::fabs(t))));
 }
 
@@ -37,18 +44,18 @@ double upperP(double f, double freedomAbove, double freedomBelow)
 {
     if (std::isinf(f))
         return 0.0;
-    const boost::math::fisher_f distribution(freedomAbove, freedomBelow);
+    const FisherF distribution(freedomAbove, freedomBelow);
     return boost::math::cdf(boost::math::complement(distribution, std::max(0.0, f)));
 }
 
 double intervalReach(double freedom)
 {
-    return boost::math::quantile(boost::math::students_t(freedom), 0.5 + 0.5 * confidence);
+    return boost::math::quantile(StudentsT(freedom), 0.5 + 0.5 * confidence);
 }
 
 double normalQuantile(double p)
 {
-    return boost::math::quantile(boost::math::normal(), p);
+    return boost::math::quantile(Normal(), p);
 }
 
 std::vector<double> corrected(const std::vector<double>& p, Correction correction)
