@@ -1,0 +1,4 @@
+library(testthat)
+library(vecmat)
+
+test_check("vecmat")
