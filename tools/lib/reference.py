@@ -58,8 +58,10 @@ def start_page(sources):
 
 
 def in_sidebar(page):
-    """The entry of a page in the sidebar: pages of contracts have titles too long for it."""
+    """The entry of a page in the sidebar, where its own title is too long, or that of another page."""
     folder, _, name = page.rpartition("/")
+    if page == "readme":
+        return "Overview, installing <readme>"
     return f"{FAMILY_TITLES[name]} <{page}>" if folder == "contracts" and name in FAMILY_TITLES else page
 
 

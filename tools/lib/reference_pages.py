@@ -90,13 +90,12 @@ class Pages:
 
     def signature(self, function):
         lines = ["## Signature", ""]
-        callers = self.signatures.python_callers(function)
         for signature in self.signatures.of(function, self.functions):
             lines += [f"````{{tab}} {signature.language}", f"```{signature.lexer}", signature.text, "```"]
-            if signature.language == "Python":
-                for caller in callers:
-                    lines += ["", f"With names and missing values in Python's habits: {escaped(caller.summary)}", "",
-                              "```python", caller.signature, "```"]
+            callers = self.signatures.callers_in(signature.language, function)
+            if callers:
+                lines += ["", f"In {signature.language}'s own habits, with labels and its missing values:", "",
+                          f"```{signature.lexer}", *dict.fromkeys(caller.signature for caller in callers), "```"]
             lines += ["````", ""]
         if not function.call and not function.flat_forms and "::" not in function.name:
             lines += ["Only C++ calls it: it has no form over plain arrays.", ""]

@@ -7,6 +7,9 @@ import sys
 import textwrap
 from dataclasses import dataclass
 
+from arguments import read_calls
+from reference_signatures_r_js import PackageFunction, read_js_flat, read_r_flat, read_r_functions
+
 WIDTH = 96
 
 
@@ -15,14 +18,6 @@ class Signature:
     language: str   # the title of its tab
     lexer: str
     text: str
-
-
-@dataclass(frozen=True)
-class PythonFunction:
-    """A function of the package over the flat layer."""
-    name: str       # `vecmat.mean`
-    signature: str
-    summary: str
 
 
 def wrapped(start, parts, end):
@@ -99,7 +94,7 @@ def read_python_functions(root):
                 if isinstance(decorator, ast.Call) and getattr(decorator.func, "id", "") == "documented":
                     called |= {argument.value for argument in decorator.args if isinstance(argument, ast.Constant)}
             text = (ast.get_docstring(node) or "").split("\n\n")[0].replace("\n", " ")
-            function = PythonFunction(f"vecmat.{node.name}", python_signature(node), text)
+            function = PackageFunction(f"vecmat.{node.name}", python_signature(node), text)
             for name in called:
                 found.setdefault(name, []).append(function)
     return found
@@ -125,7 +120,9 @@ class Signatures:
 
     def __init__(self, root):
         self.c, self.vba = read_c(root), read_vba(root)
-        self.python, self.python_functions = read_python_flat(root), read_python_functions(root)
+        calls = read_calls(root)
+        self.python, self.r, self.js = read_python_flat(root), read_r_flat(root, calls, wrapped), read_js_flat(root, calls, wrapped)
+        self.callers = {"Python": read_python_functions(root), "R": read_r_functions(root)}
 
     def of_name(self, function):
         """The signatures under the function's own name."""
@@ -137,6 +134,10 @@ class Signatures:
             found.append(Signature("VBA", "vb", self.vba[name]))
         if name in self.python:
             found.append(Signature("Python", "python", self.python[name]))
+        if name in self.r:
+            found.append(Signature("R", "r", self.r[name]))
+        if name in self.js:
+            found.append(Signature("JavaScript", "js", self.js[name]))
         return found
 
     def of(self, function, functions):
@@ -153,7 +154,8 @@ class Signatures:
         return [Signature(language, group[0].lexer, "\n".join(one.text for one in group))
                 for language, group in merged.items()]
 
-    def python_callers(self, function):
+    def callers_in(self, language, function):
+        """The functions of a language's package that call a function, or a flat form of it."""
         names = [function.name, *function.flat_forms]
-        found = [caller for name in names for caller in self.python_functions.get(name, [])]
+        found = [caller for name in names for caller in self.callers.get(language, {}).get(name, [])]
         return list(dict.fromkeys(found))

@@ -9,13 +9,14 @@ from contracts import HEADERS, PRIVATE
 
 # The order of the pages of a folder; others follow in the order of their names.
 GROUPS = (
-    ("Start", ("readme", "guide/tutorials/*")),
-    ("Concepts", ("guide/concepts/*",)),
+    ("Start", ("readme", *(f"guide/tutorials/{name}" for name in ("macro", "c", "cpp", "python", "r")), "guide/tutorials/*")),
+    ("Concepts", (*(f"guide/concepts/{name}" for name in ("missing", "masks", "weights", "divisors", "bits", "seeds",
+                                                          "columns")), "guide/concepts/*")),
     ("For those who know", ("guide/known/*",)),
     ("Reference", ("reference", "tasks", "names")),
     ("Contracts", ("contracts/overview", "contracts/*")),
     ("More", ("guide/glossary", "guide/weak", "guide/gallery", "guide/*", "tables", "border", "hosts/overview", "hosts/*",
-              "python", "r", "js", "same-bits", "speed", "*")),
+              "python", "r", "js", "cluster", "same-bits", "speed", "arguments", "layout", "versions", "site/*", "*")),
 )
 LINK = re.compile(r"(!?)\[((?:[^\[\]]|\[[^\]]*\]\([^)]*\)|\[[^\]]*\])*)\]\(([^()\s]+)\)")
 FENCED = re.compile(r"(^[ ]*(?:```+|~~~+).*?^[ ]*(?:```+|~~~+)[ ]*$)", re.S | re.M)
@@ -32,7 +33,7 @@ class Sources:
         self.root, self.target = root, target
         docs = root / "Docs"
         self.pages = {path: path.relative_to(docs).as_posix() for path in sorted(docs.rglob("*.md"))
-                      if path.name != "cpp.md"}
+                      if path != docs / "site/cpp.md"}
         if docs / START in self.pages:
             self.pages[docs / START] = "index.md"
         self.pages.update({root / name: page for name, page in OTHERS.items() if (root / name).exists()})

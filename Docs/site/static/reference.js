@@ -1,12 +1,20 @@
-// What each function computes, below its name in the results of the search: the pages themselves cannot be fetched from
-// the disk. The names of languages in tabs are remembered from page to page.
+// The search's results name each page once, and tell what a function computes: its page itself cannot be fetched from the
+// disk. The names of languages in tabs are remembered from page to page.
 (function () {
   "use strict";
 
+  var shown = {};
+
   function addSummary(item) {
     var link = item.querySelector("a");
-    if (!link || item.querySelector("p.computes")) return;
+    if (!link || item.dataset.seen) return;
+    item.dataset.seen = "yes";
     var page = link.getAttribute("href").split(/[?#]/)[0].replace(/\.html$/, "").replace(/^(\.\/|\.\.\/)*/, "");
+    if (shown[page]) {
+      item.remove();
+      return;
+    }
+    shown[page] = true;
     var text = window.functionSummaries && functionSummaries[page];
     if (!text) return;
     var told = document.createElement("p");
