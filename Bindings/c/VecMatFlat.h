@@ -3247,93 +3247,107 @@ void Cpp_V_ZScores(double* v, int n, int kind, double* mean, double* stdev, doub
 
 /* ---- descriptive/column_scaling ---- */
 
-/* - Missing cells: left out of the mean (equality); then shifted like an ordinary number
+/* Each column less its mean.
+   - Missing cells: left out of the mean (equality); then shifted like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter the mean
    - Divisor: the sum of weights (`sample` 0)
    - Empty input: a column without rows has a missing mean, which is subtracted like an ordinary number */
 void VB_M_Center(double* X, int n, int p, double* Z);
 
-/* - Missing cells: left out of the mean (equality); then shifted like an ordinary number
+/* Each column less its mean.
+   - Missing cells: left out of the mean (equality); then shifted like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter the mean
    - Divisor: the sum of weights (`sample` 0)
    - Empty input: a column without rows has a missing mean, which is subtracted like an ordinary number */
 void VB_M_CenterW(double* X, int n, int p, double* w, double* Z);
 
-/* - Missing cells: left out of the mean (equality); then shifted like an ordinary number
+/* Each column less its mean.
+   - Missing cells: left out of the mean (equality); then shifted like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter the mean
    - Divisor: the sum of weights (`sample` 0)
    - Empty input: a column without rows has a missing mean, which is subtracted like an ordinary number */
 void VB_M_Center2(double* X, int n, int p);
 
-/* - Missing cells: left out of the mean (equality); then shifted like an ordinary number
+/* Each column less its mean.
+   - Missing cells: left out of the mean (equality); then shifted like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter the mean
    - Divisor: the sum of weights (`sample` 0)
    - Empty input: a column without rows has a missing mean, which is subtracted like an ordinary number */
 void VB_M_Center2SPV(SAFEARRAY** X, int n, int p);
 
-/* - Missing cells: left out of the mean (equality); then shifted like an ordinary number
+/* Each column less its mean.
+   - Missing cells: left out of the mean (equality); then shifted like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter the mean
    - Divisor: the sum of weights (`sample` 0)
    - Empty input: a column without rows has a missing mean, which is subtracted like an ordinary number */
 void VB_M_CenterW2(double* X, int n, int p, double* w);
 
-/* - Missing cells: left out of the statistics (equality); then divided like an ordinary number
+/* Each column over its standard deviation.
+   - Missing cells: left out of the statistics (equality); then divided like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout
    - Empty input: a column without rows has no spread */
 void VB_M_Reduce(double* X, int n, int p, double* Z, short sample, short freqWeights);
 
-/* - Missing cells: left out of the statistics (equality); then divided like an ordinary number
+/* Each column over its standard deviation.
+   - Missing cells: left out of the statistics (equality); then divided like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout
    - Empty input: a column without rows has no spread */
 void VB_M_ReduceW(double* X, int n, int p, double* w, double* Z, short sample, short freqWeights);
 
-/* - Missing cells: left out of the statistics (equality); then divided like an ordinary number
+/* Each column over its standard deviation.
+   - Missing cells: left out of the statistics (equality); then divided like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout
    - Empty input: a column without rows has no spread */
 void VB_M_Reduce2(double* X, int n, int p, short sample);
 
-/* - Missing cells: left out of the statistics (equality); then divided like an ordinary number
+/* Each column over its standard deviation.
+   - Missing cells: left out of the statistics (equality); then divided like an ordinary number
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout
    - Empty input: a column without rows has no spread */
 void VB_M_ReduceW2(double* X, int n, int p, double* w, short sample, short freqWeights);
 
-/* - Missing cells: left out of the statistics (equality) and stays missing
+/* Each column less its mean, over its standard deviation.
+   - Missing cells: left out of the statistics (equality) and stays missing
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout, missing cells too
    - Empty input: a column without rows has no spread and missing statistics */
 void VB_M_Standardize2(double* X, int n, int p, short sample);
 
-/* - Missing cells: left out of the statistics (equality) and stays missing
+/* Each column less its mean, over its standard deviation.
+   - Missing cells: left out of the statistics (equality) and stays missing
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout, missing cells too
    - Empty input: a column without rows has no spread and missing statistics */
 void VB_M_Standardize2SPV(SAFEARRAY** X, int n, int p, short sample);
 
-/* - Missing cells: left out of the statistics (equality) and stays missing
+/* Each column less its mean, over its standard deviation.
+   - Missing cells: left out of the statistics (equality) and stays missing
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout, missing cells too
    - Empty input: a column without rows has no spread and missing statistics */
 void VB_M_Standardize3(double* X, int n, int p, double* mean, double* stdev, short sample, short freqWeights);
 
-/* - Missing cells: left out of the statistics (equality) and stays missing
+/* Each column less its mean, over its standard deviation.
+   - Missing cells: left out of the statistics (equality) and stays missing
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout, missing cells too
    - Empty input: a column without rows has no spread and missing statistics */
 void VB_M_StandardizeW2(double* X, int n, int p, double* w, short sample, short freqWeights);
 
-/* - Missing cells: left out of the statistics (equality) and stays missing
+/* Each column less its mean, over its standard deviation.
+   - Missing cells: left out of the statistics (equality) and stays missing
    - Weights: in the W forms a row of weight 0 does not enter
    - Divisor: s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
      throughout, missing cells too
@@ -4349,7 +4363,8 @@ void Cpp_M_GetMaxDistToOrigin(double* a, int n, int k, double* maxDistance, int*
 
 /* ---- fitting/least_squares ---- */
 
-/* - Missing cells: left out of the correlations pair by pair (equality); multiplied like an ordinary number where
+/* The coefficients and the fitted values; `OLSBasic2` gives standard errors, too.
+   - Missing cells: left out of the correlations pair by pair (equality); multiplied like an ordinary number where
      columns are widened and in the raw cross products; a term with a missing cell is left out of a fitted value
    - Weights: not normalised; a row of weight 0 changes no coefficient but counts in n
    - Divisor: degrees of freedom n - m - 1 for the slopes, whatever the weights (0.0 where that is 0), W - m - 1 for the
@@ -4363,7 +4378,8 @@ void Cpp_M_GetMaxDistToOrigin(double* a, int n, int k, double* maxDistance, int*
 int RunOLSBasic(int n, int p, double* X, double* y, double* w, int degree, short interactions, short noIntercept,
                 double tol, double* beta, double* fitted);
 
-/* - Missing cells: left out of the correlations pair by pair (equality); multiplied like an ordinary number where
+/* The coefficients and the fitted values; `OLSBasic2` gives standard errors, too.
+   - Missing cells: left out of the correlations pair by pair (equality); multiplied like an ordinary number where
      columns are widened and in the raw cross products; a term with a missing cell is left out of a fitted value
    - Weights: not normalised; a row of weight 0 changes no coefficient but counts in n
    - Divisor: degrees of freedom n - m - 1 for the slopes, whatever the weights (0.0 where that is 0), W - m - 1 for the

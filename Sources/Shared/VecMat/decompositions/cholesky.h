@@ -8,6 +8,7 @@
 // @divisor a pivot below 1e-12, in absolute terms, fails
 // @empty 0
 // @source Golub and Van Loan, Matrix Computations
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

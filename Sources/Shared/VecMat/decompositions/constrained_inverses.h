@@ -10,6 +10,7 @@
 // @empty nothing kept is a success: 0
 // @weak pivots are tested in absolute terms: a regular block of small scale counts as singular, one of large scale that
 //     is singular may pass
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

@@ -4,6 +4,7 @@
 //
 // @missing an ordinary number
 // @empty 1.0
+// @cost of the order n^3; the diagonal alone for a triangular table
 #pragma once
 
 #include "../base/api.h"

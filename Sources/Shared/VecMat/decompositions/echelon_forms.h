@@ -8,6 +8,7 @@
 // @empty nothing is written
 // @weak the limit of 1e-12 is absolute: a regular table of small scale becomes rows of zeros
 // @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

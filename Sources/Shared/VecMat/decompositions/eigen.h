@@ -2,6 +2,7 @@
 //
 // @missing any in the square: -1 with nothing changed (equality)
 // @empty 0
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"
@@ -51,6 +52,7 @@ VECMAT_API int VB_M_Eigen(double* a, double* values, double* vectors, int n, sho
 /// norm of a v - (v' a v) v is at most 1e-6 of that of (v' a v) v, or not a number, at most 1000 times. No eigenvalue
 /// is returned. Returns 0.
 /// @missing an ordinary number
+/// @cost of the order n^2 for each pass, at most 1000
 /// @divisor the Rayleigh product v' a v, not tested: the vector is not of unit length
 /// @failure reaching the limit of 1000 is not reported
 VECMAT_API int M_VonMises(matrix* a, matrix*& v, int n);

@@ -11,6 +11,7 @@
 // @source Golub and Kahan (1965), Calculating the singular values and pseudo-inverse of a matrix, SIAM Journal on
 //     Numerical Analysis 2
 // @weak `tol` is absolute: rank and inverse change with the scale of the table
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

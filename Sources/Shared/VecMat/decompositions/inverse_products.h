@@ -9,6 +9,7 @@
 // @failure a singular `b` is not reported
 // @weak pivots are tested in absolute terms: a regular `b` of small scale counts as singular, and the result is 0.0
 //     throughout. Scale `b` to the order of 1
+// @cost of the order n^3 for the inverse, and the products
 #pragma once
 
 #include "../base/api.h"

@@ -7,6 +7,7 @@
 // @empty 0
 // @weak pivots are tested in absolute terms: a regular table of small scale fails, a singular one of large scale may
 //     pass
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

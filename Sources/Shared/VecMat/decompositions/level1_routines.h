@@ -12,6 +12,7 @@
 //
 // @missing an ordinary number
 // @empty nothing is changed
+// @cost one pass over the vectors
 #pragma once
 
 #include "../base/api.h"

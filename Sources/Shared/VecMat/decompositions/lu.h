@@ -3,6 +3,7 @@
 // @missing an ordinary number
 // @divisor a pivot of exactly 0 becomes 1e-20, also the last one, so that a singular table is factored too
 // @empty status 0, parity 1.0
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

@@ -2,6 +2,7 @@
 //
 // @missing any: -1 with the table unchanged (equality)
 // @empty 0
+// @cost of the order n^3 for each projection
 #pragma once
 
 #include "../base/api.h"

@@ -3,6 +3,7 @@
 // @missing an ordinary number
 // @divisor a norm up to 1e-31 counts as zero
 // @empty `*info` 0
+// @cost of the order n p^2 where n is at least p
 #pragma once
 
 #include "../base/api.h"

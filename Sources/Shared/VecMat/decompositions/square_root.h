@@ -5,6 +5,7 @@
 // @empty 0
 // @weak the limit is absolute: a table of small scale passes although it has negative eigenvalues, and out' out is then
 //     not `a`. Accuracy is that of `M_Eigen`
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

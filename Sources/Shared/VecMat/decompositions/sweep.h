@@ -4,6 +4,7 @@
 // @divisor the pivot, not tested: 0 gives infinities
 // @empty 0
 // @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
+// @cost of the order n^2
 #pragma once
 
 #include "../base/api.h"

@@ -15,6 +15,8 @@
 // and 0 in the members that only centre. A plain name gives its result in a table Z (`matCheck`, n by p), one with a
 // trailing digit changes X in place; 3 also returns the statistics (`matCheck`, p by 1). W takes row weights. The SPV
 // forms take an array of column tables. No error is reported.
+//
+// @cost two passes over the cells
 #pragma once
 
 #include "../base/api.h"
@@ -25,6 +27,8 @@ extern "C" {
 
 // ---- centring -------------------------------------------------------------------------------------------------------
 
+/// Each column less its mean.
+/// @formula z_{ij} = x_{ij} - \bar x_j
 /// @missing left out of the mean (equality); then shifted like an ordinary number
 /// @weights in the W forms a row of weight 0 does not enter the mean
 /// @divisor the sum of weights (`sample` 0)
@@ -38,6 +42,8 @@ VECMAT_API void M_CenterW2SPV(matrix** X, int n, int p, matrix* w);
 
 // ---- reduction ------------------------------------------------------------------------------------------------------
 
+/// Each column over its standard deviation.
+/// @formula z_{ij} = \frac{x_{ij}}{s_j}
 /// @missing left out of the statistics (equality); then divided like an ordinary number
 /// @weights in the W forms a row of weight 0 does not enter
 /// @divisor s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0
@@ -50,6 +56,8 @@ VECMAT_API void M_ReduceW2(matrix*& X, int n, int p, matrix* w, short sample, sh
 
 // ---- standardisation ------------------------------------------------------------------------------------------------
 
+/// Each column less its mean, over its standard deviation.
+/// @formula z_{ij} = \frac{x_{ij} - \bar x_j}{s_j}
 /// @missing left out of the statistics (equality) and stays missing
 /// @weights in the W forms a row of weight 0 does not enter
 /// @divisor s, by `sample` and `freqWeights` (-1 where it is no argument); a column without spread becomes 0.0

@@ -4,6 +4,7 @@
 //
 // @missing left out, in the cell or in the code (equality): selecting for the missing value selects nothing
 // @empty the missing value, also where no row is selected
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

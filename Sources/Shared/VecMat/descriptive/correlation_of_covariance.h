@@ -8,6 +8,7 @@
 // @divisor the root of the product of the two variances, where that is above 0; 1.0 on the diagonal where the variance
 //     is above 1e-12; elsewhere, a NaN included, the fallback: missing, or 0.0 for `zeroForMissing` exactly -1
 // @empty nothing is written
+// @cost p^2
 #pragma once
 
 #include "../base/api.h"

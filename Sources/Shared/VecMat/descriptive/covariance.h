@@ -23,6 +23,7 @@
 //     `zeroForMissing`
 // @memory a copy of the rows that the mask keeps and a square of p by p; where that is short the functions do without,
 //     slower and with the same results
+// @cost of the order n p^2: one pass over the rows for each pair of columns
 #pragma once
 
 #include "../base/api.h"

@@ -26,6 +26,7 @@
 // @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; not tested. Correlations (`corr` exactly -1):
 //     none where the product of variances is 0 or below: missing, or 0.0 for a nonzero `zeroForMissing`
 // @empty not detected: mean 0.0, and the quotient 0/0 where that is the divisor
+// @cost of the order n p^2: one pass over the rows for each pair of columns
 #pragma once
 
 #include "../base/api.h"

@@ -7,6 +7,7 @@
 // @weights not tested
 // @divisor the sum of the weights; missing where it is 0
 // @empty the missing value, also for `first` above `n`
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

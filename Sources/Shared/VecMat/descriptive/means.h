@@ -8,6 +8,7 @@
 // @mask a nonzero entry excludes its row; may be null
 // @weights required; a row of weight 0 is left out
 // @empty the missing value, also where no row enters
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

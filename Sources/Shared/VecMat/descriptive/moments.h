@@ -17,6 +17,7 @@
 // @empty 0/0, a NaN
 // @source Welford (1962), Note on a method for calculating corrected sums of squares and products; West (1979),
 //     Updating mean and variance estimates: an improved method
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -12,6 +12,7 @@
 // @missing counted: it sorts to the front
 // @mask a nonzero entry excludes its row; may be null
 // @empty the missing value, also where no row is left
+// @cost a selection, of the order n; a sort, of the order n log n, for the step rule and for `V_Quantiles13`
 #pragma once
 
 #include "../base/api.h"

@@ -5,6 +5,7 @@
 // @missing left out of minimum and maximum (equality); computed like an ordinary number all the same
 // @mask a nonzero entry excludes its row: the cell comes out missing
 // @empty nothing is written
+// @cost two passes over the cells
 #pragma once
 
 #include "../base/api.h"

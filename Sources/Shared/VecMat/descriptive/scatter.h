@@ -3,6 +3,7 @@
 // @missing an ordinary number
 // @weights multiply each term, not tested: zero adds 0.0
 // @empty nothing is added
+// @cost of the order n p^2
 #pragma once
 
 #include "../base/api.h"

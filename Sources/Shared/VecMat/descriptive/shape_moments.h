@@ -7,6 +7,7 @@
 //     results but the mean are missing, where the variance is 0 the four shapes
 // @empty mean 0.0, the others as the divisor has it
 // @source the one-pass updates: Terriberry (2007) and Pebay (2008), here weighted; G1 and G2: Joanes and Gill (1998)
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

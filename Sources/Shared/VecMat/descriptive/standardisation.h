@@ -8,6 +8,7 @@
 // @divisor W; with `sample` -1 W - 1 for `freqWeights` -1, else W - W/m; exactly 0 (not NaN) ends the call. A deviation
 //     of 0 divides as 1.0
 // @empty nothing is written
+// @cost two passes over the cells at most
 #pragma once
 
 #include "../base/api.h"

@@ -4,6 +4,7 @@
 //
 // @missing copied unchanged
 // @empty nothing is copied
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

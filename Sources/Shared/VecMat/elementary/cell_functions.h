@@ -6,6 +6,7 @@
 // @missing stays missing (equality)
 // @mask a row with a nonzero entry is left unchanged
 // @empty nothing happens
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -9,6 +9,7 @@
 // @mask one entry for each row. With `mode` 0 a nonzero entry excludes the row; with -1 it is not read; with any other
 //     `mode` every row is excluded
 // @empty the missing value in both
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -6,6 +6,7 @@
 // @missing left out, in the cell or in the key (equality); ints are never missing
 // @weights one that is not above 0, or is beyond its table, adds nothing
 // @empty the missing value, not 0.0; also where no cell is selected
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

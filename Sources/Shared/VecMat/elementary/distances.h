@@ -6,6 +6,7 @@
 // @missing an ordinary number
 // @weights a zero weight takes its coordinate out, unless the difference is infinite or a NaN
 // @empty without coordinates 0.0
+// @cost of the order rows cols^2 for all pairs, one pass for a vector
 #pragma once
 
 #include "../base/api.h"

@@ -7,6 +7,7 @@
 // @missing left out (equality); ints are never missing
 // @mask a nonzero entry excludes its cell; required
 // @empty -1.0; where no cell qualifies the missing value
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -5,6 +5,7 @@
 //
 // @missing overwritten
 // @empty nothing is filled
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"
@@ -16,6 +17,7 @@
 
 extern "C" {
 
+/// Sets the first `n` cells to `value`.
 VECMAT_API void SetVectorToValue(matrix*& v, int n, double value);
 
 /// Sets the first `n` cells of the table as it is.

@@ -7,6 +7,7 @@
 //
 // @missing copied unchanged; towards ints it becomes the lowest int
 // @empty an empty side adds no column or leaves 0.0 (0, an empty string) in a new result
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

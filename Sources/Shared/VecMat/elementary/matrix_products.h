@@ -17,6 +17,7 @@
 //
 // @missing an ordinary number
 // @empty an empty sum is 0.0
+// @cost a multiplication for each cell of the result and each step of the inner index
 #pragma once
 
 #include "../base/api.h"

@@ -7,6 +7,7 @@
 //
 // @missing left out (equality)
 // @empty -1 (true)
+// @cost one pass over the cells at most
 #pragma once
 
 #include "../frame/super_matrices.h"

@@ -6,6 +6,7 @@
 //
 // @missing an ordinary number: it changes
 // @empty nothing is written
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

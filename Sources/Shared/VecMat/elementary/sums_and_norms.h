@@ -6,6 +6,7 @@
 //
 // @missing left out (equality)
 // @empty 0.0
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

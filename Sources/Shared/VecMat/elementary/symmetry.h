@@ -5,6 +5,7 @@
 // itself, a NaN nothing. Repairs are made in place; the flat forms make them in the caller's array.
 //
 // @empty nothing happens
+// @cost one pass over the cells at most
 #pragma once
 
 #include "../frame/super_matrices.h"

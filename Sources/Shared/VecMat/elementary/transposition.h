@@ -5,6 +5,7 @@
 //
 // @missing copied unchanged
 // @empty nothing is copied; a target that is a plain table is prepared all the same
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

@@ -2,6 +2,7 @@
 //
 // @missing Booleans are never missing; only exactly -1 counts as true
 // @empty 0
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -5,6 +5,7 @@
 //
 // @missing an ordinary number
 // @empty 0.0
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

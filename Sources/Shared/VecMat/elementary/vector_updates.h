@@ -5,6 +5,7 @@
 //
 // @missing left out of the sum of squares (equality), but scaled like the others: it is no longer missing
 // @empty nothing happens
+// @cost one pass over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -6,6 +6,7 @@
 //
 // @missing copied unchanged
 // @empty an empty side adds nothing
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

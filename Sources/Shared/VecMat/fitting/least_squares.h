@@ -28,6 +28,7 @@
 // @weak the sweeps set what is below 1e-12 to 0: where 1 - R2 is below that the standard errors are 0, and a column
 //     with a standard deviation below that is dropped without notice. Through the origin the degrees of freedom still
 //     count an intercept
+// @cost of the order n m^2 for the correlations, and m^2 for each column that is swept
 #pragma once
 
 #include "../base/api.h"
@@ -35,6 +36,8 @@
 
 extern "C" {
 
+/// The coefficients and the fitted values; `OLSBasic2` gives standard errors, too.
+/// @formula \hat\beta = \arg \min_\beta \sum_i w_i (y_i - \beta_0 - \sum_j \beta_j x_{ij})^2
 VECMAT_API void OLSBasic(int n, int p, matrix* X, matrix* y, matrix* w, int degree, short interactions,
                          short noIntercept, double tol, matrix*& beta, matrix*& fitted);
 VECMAT_API void OLSBasic2(int n, int p, matrix* X, matrix* y, matrix* w, int degree, short interactions,

@@ -7,6 +7,7 @@
 //     or an empty string, excludes its row as well, whatever its mask entry
 // @mask a nonzero entry excludes the row
 // @empty no row moves
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

@@ -10,6 +10,7 @@
 //     other
 // @divisor the sum of the weights of the column's mean; a column without data has mean 0.0, which fills its cells
 // @empty `nCols` below 1 is a vector, whose mean without data is missing, so that its cells stay missing
+// @cost two passes over the cells
 #pragma once
 
 #include "../base/api.h"

@@ -10,6 +10,7 @@
 //
 // @missing counted (equality, or empty strings)
 // @empty 0
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

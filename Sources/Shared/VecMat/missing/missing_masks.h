@@ -6,6 +6,7 @@
 // outside a table of doubles reads as -1.0.
 //
 // @empty nothing is written
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

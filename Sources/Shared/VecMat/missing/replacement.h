@@ -6,6 +6,7 @@
 //
 // @missing replaced (order)
 // @empty nothing happens
+// @cost one pass over the cells
 #pragma once
 
 #include "../Smatrix.h"

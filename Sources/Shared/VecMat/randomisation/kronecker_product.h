@@ -2,6 +2,7 @@
 //
 // @missing an ordinary number
 // @empty nothing happens
+// @cost a multiplication for each cell of the result
 #pragma once
 
 #include "../base/api.h"

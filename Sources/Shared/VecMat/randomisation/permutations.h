@@ -14,6 +14,7 @@
 //     change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new seed
 //     there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass it
 //     as the next `seed`
+// @cost a draw for each item; a permutation or a subset sorts them, too: of the order n log n
 #pragma once
 
 #include "../Smatrix.h"

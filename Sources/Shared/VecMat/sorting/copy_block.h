@@ -2,6 +2,7 @@
 //
 // @missing copied unchanged
 // @empty an empty range copies nothing; 0
+// @cost one pass over the block
 #pragma once
 
 #include "../Smatrix.h"

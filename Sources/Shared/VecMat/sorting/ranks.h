@@ -12,6 +12,7 @@
 // @missing its rank is missing, and it takes up no place (equality)
 // @empty 0 ties
 // @memory at most four vectors of scratch; nothing is written before everything is read
+// @cost a sort, of the order n log n at most
 #pragma once
 
 #include "../base/api.h"

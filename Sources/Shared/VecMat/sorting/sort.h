@@ -18,6 +18,7 @@
 // @memory a column of scratch and 8 bytes for each row of the range; for a vector of numbers a copy of it. Where that
 //     is short it goes without, in the end without a buffer. A failed allocation is the exception of `new`, raised
 //     before a sort writes anything (a sort by several columns in turn may have finished some of them)
+// @cost a sort of the keys, of the order n log n at most, and one move of each cell
 #pragma once
 
 #include "../Smatrix.h"

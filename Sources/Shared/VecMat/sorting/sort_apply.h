@@ -9,6 +9,7 @@
 // @missing moved like any other; where doubles become ints it becomes the lowest int; a missing order is a row out of
 //     range
 // @empty nothing is written
+// @cost one move of each cell
 #pragma once
 
 #include "../Smatrix.h"
