@@ -15,12 +15,11 @@ HERE = Path(__file__).resolve().parent
 ROOT = HERE.parents[2]
 sys.path[:0] = [str(ROOT / "tools/lib"), str(HERE)]
 
+from argument_checks import (is_address, is_at_least, kind_of, options_of, range_of, range_word,  # noqa: E402
+                             reading_order)
 from arguments import read_calls, read_table  # noqa: E402
 from contract_words import contract_words  # noqa: E402
-from shapes import names_of  # noqa: E402
 
-KINDS = {"double": "number", "int": "integer", "short": "flag", "double*": "doubles", "int*": "ints", "short*": "flags",
-         "wchar_t**": "strings", "const wchar_t*": "text", "const void*": "bstr"}
 FIELDS = {"number": "number", "integer": "integer", "flag": "flag", "doubles": "doubles", "ints": "ints", "flags": "flags",
           "strings": "strings", "columns": "columns", "stringColumns": "columns", "text": "text", "bstr": "bstr"}
 RESULTS = {"void": "nothing", "double": "number", "int": "integer", "short": "flag", "wchar_t*": "bstr"}
@@ -36,12 +35,6 @@ RESULT_TYPES = {"void": "None", "double": "float", "int": "int", "short": "int",
 
 def python_name(name):
     return name + "_" if keyword.iskeyword(name) else name
-
-
-def kind_of(argument):
-    if argument.type == "SAFEARRAY**":
-        return "stringColumns" if argument.shape.strings else "columns"
-    return KINDS[argument.type]
 
 
 class Writer:
@@ -72,42 +65,16 @@ class Writer:
     def function_of(self, tree):
         return f"[](const Value* v) -> std::int64_t {{ (void)v; return Whole({self.expression(tree)}).value(); }}"
 
-    def range_of(self, argument):
-        """The range that is checked, or nothing. A range between two constants is one from which tests draw: of it, only
-        that a count is not negative concerns the memory that the call touches."""
-        domain = argument.domain
-        if domain.high is None or domain.high[0] != "number":
-            return domain.low, domain.high
-        return (domain.low, ("number", 2**31 - 1)) if domain.kind == "counts" else (None, None)
-
     def domain(self, place, argument):
-        domain = argument.domain
-        if domain.options and kind_of(argument) in ("integer", "flag"):
-            told = " or ".join(map(str, sorted(domain.options)))
-            return (f"{{DomainKind::options, options_{self.call.name}_{place}, {len(domain.options)}, nullptr, nullptr, "
+        if options := options_of(argument):
+            told = " or ".join(map(str, options))
+            return (f"{{DomainKind::options, options_{self.call.name}_{place}, {len(options)}, nullptr, nullptr, "
                     f"\"{told}\"}}")
-        low, high = self.range_of(argument)
+        low, high = range_of(argument)
         if low:
-            word = domain.kind if kind_of(argument) not in ("integer", "flag") else "a " + domain.kind.rstrip("s")
             return (f"{{DomainKind::range, nullptr, 0, {self.function_of(low)}, {self.function_of(high)}, "
-                    f"\"{word}\"}}")
+                    f"\"{range_word(argument)}\"}}")
         return "{}"
-
-    def sizes_from(self):
-        """The arrays whose cells tell sizes of others."""
-        found = set()
-        for argument in self.call.arguments:
-            for tree in argument.shape.expressions():
-                found |= set(names_of(tree)[1])
-        return found
-
-    def is_at_least(self, argument):
-        """Whether a position among the numbers decides the size: more cells may stand behind it."""
-        for tree in argument.shape.expressions():
-            for name in names_of(tree)[0]:
-                if self.call.argument(name).domain.kind in ("position", "within"):
-                    return True
-        return False
 
     def parameter(self, place, argument):
         kind = kind_of(argument)
@@ -121,27 +88,18 @@ class Writer:
             fields.append(f".mayBeNull = {self.function_of(argument.null)}")
         if argument.shape.layout == "falling":
             fields.append(".falling = true")
-        if self.is_at_least(argument):
+        if is_at_least(self.call, argument):
             fields.append(".atLeast = true")
-        if self.is_address(argument):
+        if is_address(self.call, argument):
             fields.append(".addresses = true")
         domain = self.domain(place, argument)
         if domain != "{}":
             fields.append(f".domain = {domain}")
         return "    {" + ", ".join(fields) + "},"
 
-    def is_address(self, argument):
-        is_array = kind_of(argument) in ("doubles", "ints", "flags")
-        return is_array and (argument.name in self.sizes_from() or self.range_of(argument)[0] is not None)
-
-    def order(self):
-        first = self.sizes_from()
-        names = list(self.places)
-        return [self.places[name] for name in sorted(names, key=lambda name: (name not in first, self.places[name]))]
-
     def keeps_lock(self):
         draws = any(argument.domain.kind == "seed" for argument in self.call.arguments)
-        written_addresses = any(self.is_address(argument) and argument.is_written() for argument in self.call.arguments)
+        written_addresses = any(is_address(self.call, argument) and argument.is_written() for argument in self.call.arguments)
         return draws or written_addresses
 
     def write(self):
@@ -149,13 +107,13 @@ class Writer:
         for place, argument in enumerate(arguments):
             if self.domain(place, argument).startswith("{DomainKind::options"):
                 yield (f"constexpr int options_{name}_{place}[] = "
-                       f"{{{', '.join(map(str, sorted(argument.domain.options)))}}};")
+                       f"{{{', '.join(map(str, options_of(argument)))}}};")
         if arguments:
             yield f"const Parameter parameters_{name}[] = {{"
             for place, argument in enumerate(arguments):
                 yield self.parameter(place, argument)
             yield "};"
-            yield f"constexpr std::uint8_t order_{name}[] = {{{', '.join(map(str, self.order()))}}};"
+            yield f"constexpr std::uint8_t order_{name}[] = {{{', '.join(map(str, reading_order(self.call)))}}};"
         given = ", ".join(f"v[{place}].{FIELDS[kind_of(argument)]}" for place, argument in enumerate(arguments))
         field = RESULT_FIELDS.get(self.call.returns)
         into = f"r.{field} = " if field else ""
