@@ -37,7 +37,7 @@ bool sortByBits(std::vector<pairToSort>& records)
 void sortStably(std::vector<pairToSort>& records)
 {
     if (!sortByBits(records))
-        std::stable_sort(records.begin(), records.end());
+        mergeStably(records);
 }
 
 RowOrder ascendingRows(matrix* x, int n)
@@ -50,7 +50,7 @@ RowOrder ascendingRows(matrix* x, int n)
                 stableOrder(elements.plain().data(), count, Direction::ascending, spare ? spare->data() : nullptr))
             return rows;
     }
-    auto rows = std::make_unique_for_overwrite<std::uint64_t[]>(count);
+    std::unique_ptr<std::uint64_t[]> rows(new std::uint64_t[count]); // written below
     placeInStableOrder(
         {1, n}, Direction::ascending,
         [&](int number) {

@@ -18,6 +18,7 @@
 #include "../../base/detail/numbers.h"
 #include "digit_passes.h"
 #include "key_order.h"
+#include "stable_merge.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -70,7 +71,7 @@ using pairToSort = KeyedPosition<double>;
 template <class Record>
 void sortStably(std::vector<Record>& records)
 {
-    std::stable_sort(records.begin(), records.end());
+    mergeStably(records);
 }
 
 /// The same for records of numbers.
