@@ -1,6 +1,7 @@
 #include "CompanionRuntime.h"
 
 #include <charconv>
+#include <cstdlib>
 #include <limits>
 #include <string>
 
@@ -80,6 +81,21 @@ DecimalText readDecimal(const wchar_t* text)
     return number;
 }
 
+// The nearest double of a number whose magnitude, as a power of ten, is roughly that of a double.
+double nearestDouble(const std::string& text, [[maybe_unused]] long long magnitude)
+{
+#ifdef __EMSCRIPTEN__
+    // Its standard library reads no doubles by from_chars. Its strtod rounds correctly and knows no locale.
+    return std::strtod(text.c_str(), nullptr);
+#else
+    double value = 0.0;
+    const auto outcome = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (outcome.ec == std::errc::result_out_of_range)
+        return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    return value;
+#endif
+}
+
 double absoluteValue(const DecimalText& number)
 {
     if (number.isZero)
@@ -91,12 +107,7 @@ double absoluteValue(const DecimalText& number)
         return std::numeric_limits<double>::infinity();
     if (magnitude < -330)
         return 0.0;
-    const std::string text = number.digits + "e" + std::to_string(number.exponent);
-    double value = 0.0;
-    const auto outcome = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (outcome.ec == std::errc::result_out_of_range)
-        return magnitude > 0 ? std::numeric_limits<double>::infinity() : 0.0;
-    return value;
+    return nearestDouble(number.digits + "e" + std::to_string(number.exponent), magnitude);
 }
 
 } // namespace

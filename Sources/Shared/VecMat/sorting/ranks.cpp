@@ -28,8 +28,7 @@ constexpr double stepTolerance = 1e-6;
 class SortedElements
 {
 public:
-    SortedElements(matrix* x, int n)
-        : count_(countOf(n)), rows_(ascendingRows(x, n)), values_(std::make_unique_for_overwrite<double[]>(count_))
+    SortedElements(matrix* x, int n) : count_(countOf(n)), rows_(ascendingRows(x, n)), values_(new double[count_])
     {
         onBlocks(
             [this](auto elements) {
@@ -81,8 +80,7 @@ struct Ranking
     std::unique_ptr<double[]> ranks;
     std::size_t missing; // number of missing values, which come first
 
-    Ranking(matrix* x, int n)
-        : sorted(x, n), ranks(std::make_unique_for_overwrite<double[]>(sorted.count())), missing(0)
+    Ranking(matrix* x, int n) : sorted(x, n), ranks(new double[sorted.count()]), missing(0)
     {
         for (; missing < sorted.count() && isMissing(sorted.value(missing)); ++missing)
             ranks[missing] = missingValue; // NOLINT(clang-analyzer-cplusplus.NewDelete): it is below the count

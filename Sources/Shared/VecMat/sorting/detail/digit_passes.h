@@ -24,7 +24,7 @@ public:
     /// The magnitude added to, or subtracted from, a midpoint that both zeros share. A NaN has no rank.
     Rank operator()(double number) const
     {
-        const Rank bits = std::bit_cast<Rank>(number) ^ reversal_;
+        const Rank bits = __builtin_bit_cast(Rank, number) ^ reversal_;
         const Rank magnitude = bits & ~topBit;
         const Rank allIfNegative = Rank{0} - (bits >> 63);
         return topBit + ((magnitude ^ allIfNegative) - allIfNegative);
@@ -82,13 +82,13 @@ struct SpecialValues
 
     SpecialValues(const double* numbers, std::size_t n)
     {
-        constexpr auto minusZero = std::bit_cast<std::uint64_t>(-0.0);
+        constexpr auto minusZero = __builtin_bit_cast(std::uint64_t, -0.0);
         for (std::size_t k = 0; k < n; ++k) {
             const double number = numbers[k];
             missing += static_cast<std::size_t>(isMissing(number));
             anyNan |= number != number;
             anyBelowMissing |= number < missingValue;
-            anyMinusZero |= std::bit_cast<std::uint64_t>(number) == minusZero;
+            anyMinusZero |= __builtin_bit_cast(std::uint64_t, number) == minusZero;
         }
     }
 

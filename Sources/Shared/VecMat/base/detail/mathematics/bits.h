@@ -1,7 +1,6 @@
 // The parts of a double.
 #pragma once
 
-#include <bit>
 #include <cstdint>
 
 namespace vecmat::mathematics {
@@ -11,14 +10,15 @@ inline constexpr std::uint64_t infinityBits = 0x7ff0000000000000;
 inline constexpr std::uint64_t leastNormalBits = 0x0010000000000000;
 inline constexpr std::uint64_t fractionBits = 0x000fffffffffffff;
 
-inline std::uint64_t bitsOf(double x)
+// The builtin, as not every standard library with which this is compiled has std::bit_cast.
+constexpr std::uint64_t bitsOf(double x)
 {
-    return std::bit_cast<std::uint64_t>(x);
+    return __builtin_bit_cast(std::uint64_t, x);
 }
 
-inline double doubleOf(std::uint64_t bits)
+constexpr double doubleOf(std::uint64_t bits)
 {
-    return std::bit_cast<double>(bits);
+    return __builtin_bit_cast(double, bits);
 }
 
 inline double magnitudeOf(double x)

@@ -11,7 +11,6 @@
 #include "double_double.h"
 #include "tables.h"
 
-#include <bit>
 #include <cstdint>
 
 namespace vecmat::mathematics {
@@ -85,8 +84,8 @@ inline BoundedSum quickLogarithmByTable(std::uint64_t bits, int exponent)
 /// log of a positive finite number.
 inline BoundedSum quickLogarithm(double x)
 {
-    constexpr std::uint64_t lower = std::bit_cast<std::uint64_t>(1.0 - 0x1p-9);
-    constexpr std::uint64_t upper = std::bit_cast<std::uint64_t>(1.0 + 0x1p-9);
+    constexpr std::uint64_t lower = bitsOf(1.0 - 0x1p-9);
+    constexpr std::uint64_t upper = bitsOf(1.0 + 0x1p-9);
     const std::uint64_t bits = bitsOf(x);
     if (bits - lower < upper - lower)
         return quickLogarithmNear1(x - 1.0);
