@@ -7,10 +7,15 @@ if(VECMAT_COMPANIONS_SUBDIR)
 endif()
 
 # vecmat_shared_library(NAME [VERSIONED] SOURCE...): a shared library with the rules that all of the project's libraries
-# follow. VERSIONED gives its symbols the version node of the interface: see Docs/versions.md.
+# follow. VERSIONED gives its symbols the version node of the interface: see Docs/versions.md. For WebAssembly it is static:
+# one module has all.
 function(vecmat_shared_library name)
     cmake_parse_arguments(PARSE_ARGV 1 library "VERSIONED" "" "")
-    add_library(${name} SHARED ${library_UNPARSED_ARGUMENTS})
+    if(EMSCRIPTEN)
+        add_library(${name} STATIC ${library_UNPARSED_ARGUMENTS})
+    else()
+        add_library(${name} SHARED ${library_UNPARSED_ARGUMENTS})
+    endif()
     add_library(VecMat::${name} ALIAS ${name})
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} INSTALL_RPATH "$ORIGIN")
@@ -20,8 +25,8 @@ function(vecmat_shared_library name)
     if(WIN32)
         set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
     endif()
-    # On these two platforms the linker binds calls inside a library, and external calls to the library defining them.
-    if(APPLE OR WIN32)
+    # On the first two the linker binds calls inside a library, and external calls to the library defining them.
+    if(APPLE OR WIN32 OR EMSCRIPTEN)
         return()
     endif()
     # The linker script keeps instantiations of the standard library's templates out of the exports: they carry
