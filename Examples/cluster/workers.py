@@ -99,7 +99,7 @@ class Workers:
     def gather(self, futures: Sequence[Future]) -> list[Any]:
         """The results in the order of the tasks given, in whatever order they finish."""
         progress = Progress(self._title, self._stream)
-        for done, _ in enumerate(as_completed(self._submitted), start=1):
+        for done, _ in enumerate(as_completed(self._submitted, loop=self._client.loop), start=1):
             if self._kill_next:
                 self._kill_busiest(progress)
             progress.show(done, len(self._submitted), len(self._client.nthreads()))
