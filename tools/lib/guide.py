@@ -143,6 +143,7 @@ def run_programs(blocks, libraries):
 
 FLAT_NAME = re.compile(r"\b(?:VB_|Cpp_|M_|V_)\w+")
 PACKAGE_NAME = re.compile(r"\bvm\.(\w+)")
+R_NAME = re.compile(r"\bvm_\w+")
 
 
 def exported():
@@ -150,9 +151,14 @@ def exported():
         return {row[0] for row in csv.reader(file, delimiter="\t")}
 
 
+def in_r_package():
+    return {name for file in (ROOT / "Bindings/r/R").glob("*.R")
+            for name in re.findall(r"^(vm_\w+) *<-", file.read_text(encoding="utf-8"), re.MULTILINE)} | {"vm_penguins"}
+
+
 def unknown_names(text, functions, package):
-    """The names of functions in a page that the library or the Python package doesn't have."""
-    found = {name for name in FLAT_NAME.findall(text) if name not in functions and not name.endswith("_")}
+    """The names of functions in a page that the library, the Python package or that for R doesn't have."""
+    found = {name for name in FLAT_NAME.findall(text) + R_NAME.findall(text) if name not in functions and not name.endswith("_")}
     return sorted(found | {f"vm.{name}" for name in PACKAGE_NAME.findall(text) if not hasattr(package, name)})
 
 
@@ -182,7 +188,7 @@ def main():
     wrong = ran = 0
     for page in arguments.pages:
         text = page.read_text(encoding="utf-8")
-        unknown = unknown_names(text, exported(), vecmat)
+        unknown = unknown_names(text, exported() | in_r_package(), vecmat)
         if unknown:
             print(f"{page}: there is no {', '.join(unknown)}")
             wrong += 1
