@@ -53,5 +53,6 @@ endforeach()
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/vecmat)
 install(FILES LICENSE CHANGELOG.md DESTINATION ${documents})
 install(DIRECTORY Docs/ DESTINATION ${documents}
-    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png" PATTERN man EXCLUDE)
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.svg" PATTERN "*.png"
+    PATTERN man EXCLUDE PATTERN site EXCLUDE PATTERN examples EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/build/docs/html DESTINATION ${documents} OPTIONAL)

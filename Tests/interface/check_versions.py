@@ -12,7 +12,7 @@ from pathlib import Path
 PLACES = {
     "CHANGELOG.md": r"^## \[(\d[^\]]*)\] - \d{4}-\d\d-\d\d$",
     "CITATION.cff": r"^version: (.+)$",
-    "debian/changelog": r"^vecmat \((.+?)(?:-\d+)?\) ",
+    "debian/changelog": r"^vecmat \((.+?)-\w+\) ",
     "packaging/vcpkg/vecmat/vcpkg.json": r'^  "version": "(.+)",$',
     "?Bindings/r/DESCRIPTION": r"^Version: (.+)$",
     "?Bindings/js/package.json": r'^  "version": "(.+)",$',
