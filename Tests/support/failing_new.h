@@ -81,7 +81,7 @@ enum class Failure { passesOut, mayBeCaught };
 /// How one run of a body ended.
 enum class Ending { ranThrough, badAlloc, otherException };
 
-inline Ending runWithFailure(const std::function<void()>& body, int failingAllocation)
+inline Ending runWithFailure(const std::function<void()>& body, long failingAllocation)
 {
     AllocationState& state = allocationState();
     state.threw = state.returnedNull = false;

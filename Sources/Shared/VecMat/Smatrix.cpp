@@ -2,6 +2,7 @@
 
 #include "base/detail/companions.h"
 #include "base/detail/numbers.h"
+#include "base/detail/outgoing_texts.h"
 #include "base/detail/table_arrays.h"
 
 #include <algorithm>
@@ -53,5 +54,7 @@ void Smatrix::copyMatTo(Smatrix* dst)
 
 void Smatrix::copyMatTo(wchar_t** dst)
 {
-    std::transform(X, X + nElems, dst, [](const std::wstring& text) { return SysAllocString2(text.c_str()); });
+    vecmat::OutgoingTexts texts;
+    texts.add(X, nElems, dst);
+    texts.store();
 }

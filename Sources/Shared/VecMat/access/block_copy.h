@@ -134,6 +134,17 @@ void copyCells(Source source, Target target, int rows, int cols)
         block(source, rows, cols), block(target, rows, cols));
 }
 
+/// Copies the cell of `source` at i + j*r to cell (i, j) of `result`: the result's own shape with the source's stride.
+template <class Table>
+void copyResized(Table* source, int r, Table* result)
+{
+    const auto from = linear(source);
+    const auto to = cells(result);
+    for (int j = 0; j < result->nCols; ++j)
+        for (int i = 0; i < result->nRows; ++i)
+            to.set(i, j, from.get(static_cast<int>(linearIndex(i, j, r))));
+}
+
 /// Prepares a result table of any of the library's types: a numeric table is cleared; a string table is kept as it is
 /// if it has the exact shape.
 template <class Table>

@@ -153,17 +153,17 @@ int factorWithSearch(Cells w, Factor l, Permutation perm, int n)
 template <class Permutation>
 int factorPermuted(matrix* a, int n, matrix* l, Permutation* perm, short keep)
 {
-    const VectorCells<Permutation> order = linear(perm);
-    for (int i = 0; i < n; ++i)
-        order.set(i, i + 1);
     // A table that is too small cannot be replaced for the caller, who still holds it.
     const bool large = l != nullptr && l->nRows >= n && l->nCols >= n;
     const TableHandle substitute = large ? TableHandle() : fresh(n, n);
+    matrix workspace(*a);
+    const VectorCells<Permutation> order = linear(perm);
+    for (int i = 0; i < n; ++i)
+        order.set(i, i + 1);
     if (large)
         matrix::matCheck(l, n, n, 0.0);
     else
         l = substitute;
-    matrix workspace(*a);
     const int status = onBlocks([=](auto w, auto factor) { return factorWithSearch(w, factor, order, n); },
                                 block(cells(&workspace), n, n), block(cells(l), n, n));
     if (keep == -1)

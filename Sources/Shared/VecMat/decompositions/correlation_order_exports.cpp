@@ -11,8 +11,8 @@ int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double
     const TableHandle companion = copied(second, n, n);
     const IntTableHandle intCompanion = copied(third, n, n);
     const int status = ReOrderCorrelations(correlations, n, mode, texts, companion, intCompanion);
+    handBack(texts, labels); // before the numbers, since making strings may fail
     handBack(correlations, R);
-    handBack(texts, labels);
     handBack(companion, second);
     handBack(intCompanion, third);
     return status;

@@ -72,13 +72,11 @@ int decompose(Table x, Store xStore, int n, int p, matrix* s, Table u, Store uSt
 
 void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, matrix* v, int job, int* info)
 {
-    *info = 0;
     *info = decompose(x, TableStore(x), n, p, s, u, TableStore(u), v, TableStore(v), SingularVectors(job, n, p));
 }
 
 void M_SVDecompSPV(matrix** x, int n, int p, matrix* s, matrix** u, matrix** v, int job, int* info)
 {
-    *info = 0;
     const SingularVectors wanted(job, n, p);
     // A table with more columns than rows has a value without a left vector: if NaN or infinite cells let a split reach
     // it, its column does not exist.

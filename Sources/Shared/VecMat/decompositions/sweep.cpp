@@ -47,13 +47,13 @@ void addToRow(Cells a, int i, int first, int end, const double* pivotColumn, dou
 template <class Cells>
 void sweep(Cells a, int n, int k)
 {
+    // The pivot's column as scaled in this sweep; no later step changes it.
+    LocalArray<double> scratch(countOf(n));
+    double* const pivotColumn = scratch.data();
     a.set(at(k, k), -1.0 / a.get(at(k, k)));
     // Read back: a pivot outside the table is -1.0 here and so counts as one that was positive.
     const double d = a.get(at(k, k));
     const double scale = std::fabs(d);
-    // The pivot's column as scaled in this sweep; no later step changes it.
-    LocalArray<double> scratch(countOf(n));
-    double* const pivotColumn = scratch.data();
     for (int i = 0; i < n; ++i) {
         if (i == k)
             continue;

@@ -15,12 +15,11 @@ namespace {
 
 using Variances = LocalArray<double>;
 
-/// Stores the covariance of each pair, column number not below row number; returns the variances.
+/// Stores the covariance of each pair, column number not below row number, and the variances of all p columns.
 template <class Data, class Out>
-Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& options, double fallback)
+void findCovariances(Data X, int p, Out C, Variances& variances, matrix* w, const PairOptions& options, double fallback)
 {
     using Sums = RunningCovariance<RowFactor::signedValue>;
-    Variances variances(countOf(p), 0.0);
     onBlocks(
         [&](auto x, auto weight) {
             const CovariancePass<RowFactor::signedValue, decltype(x), decltype(weight)> pass(x, p, weight, options);
@@ -34,16 +33,16 @@ Variances covariances(Data X, int p, Out C, matrix* w, const PairOptions& option
                 });
         },
         block(X, options.n, p), block(linear(w), options.n));
-    return variances;
 }
 
 template <class Data>
 int covCorr(Data X, int p, matrix*& C, short corr, matrix* w, const PairOptions& options, short zeroForMissing)
 {
     const double fallback = fallbackUnlessZero(zeroForMissing);
+    Variances variances(countOf(p), 0.0); // before the first write to a result
     matrix::matCheck(C, p, p, 0.0);
     const auto result = cells(C);
-    const Variances variances = covariances(X, p, result, w, options, fallback);
+    findCovariances(X, p, result, variances, w, options, fallback);
     if (corr == 0) {
         mirrorUpperTriangle(result, p);
         return 0;
@@ -74,7 +73,8 @@ int covCorrTriangle(Data X, int p, matrix** C, short corr, matrix* w, const Pair
 {
     const double fallback = fallbackUnlessZero(zeroForMissing);
     const auto result = triangle(C);
-    const Variances variances = covariances(X, p, result, w, options, fallback);
+    Variances variances(countOf(p), 0.0);
+    findCovariances(X, p, result, variances, w, options, fallback);
     if (corr == 0)
         return 0;
     // The covariance is read from cell j of column k, not from cell k - j of column j where it was written: part of the

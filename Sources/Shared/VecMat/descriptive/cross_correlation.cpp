@@ -19,9 +19,9 @@ struct Variances
 };
 
 template <class Data>
-Variances covariances(Data X, int p, matrix* Y, int q, matrix* C, matrix* w, const PairOptions& options)
+void findCovariances(Data X, int p, matrix* Y, int q, matrix* C, Variances& variances, matrix* w,
+                     const PairOptions& options)
 {
-    Variances variances{std::vector<double>(countOf(p)), std::vector<double>(countOf(q))};
     const auto result = cells(C);
     onBlocks(
         [&](auto x, auto y, auto weight) {
@@ -35,15 +35,16 @@ Variances covariances(Data X, int p, matrix* Y, int q, matrix* C, matrix* w, con
                 });
         },
         block(X, options.n, p), block(cells(Y), options.n, q), block(linear(w), options.n));
-    return variances;
 }
 
 template <class Data>
 int corrMatMat(Data X, int p, matrix* Y, int q, matrix*& C, matrix* w, short corr, short square,
                const PairOptions& options, short zeroForMissing)
 {
+    // Taken before the first write to a result.
+    Variances variances{std::vector<double>(countOf(p)), std::vector<double>(countOf(q))};
     matrix::matCheck(C, p, q, 0.0);
-    const Variances variances = covariances(X, p, Y, q, C, w, options);
+    findCovariances(X, p, Y, q, C, variances, w, options);
     if (corr == 0)
         return 0;
     const auto result = cells(C);

@@ -59,10 +59,10 @@ template <class Storage>
 int meanStDev(Storage X, int n, int p, matrix*& mean, matrix*& stdev, const short* mask, matrix* w, short sample,
               short freqWeights, short ignoreMask)
 {
+    const WeightsOrUnits weights(w, n); // memory before the first write to a result
     matrix::matCheck(mean, p, 1, 0.0);
     if (stdev != nullptr)
         matrix::matCheck(stdev, p, 1, 0.0);
-    const WeightsOrUnits weights(w, n);
     columnMoments<SkippingVariance>(
         X, n, p, weights.get(), [=](int i) { return ignoreMask == 0 ? Mask(mask).keeps(i) : ignoreMask == -1; },
         [&](int j, const SkippingVariance& moments) {
@@ -163,11 +163,12 @@ int M_MeanStDevVarSPV(matrix** X, int n, int p, matrix*& mean, matrix*& stdev, m
 
 int M_MeanStDevByRow(matrix* X, int n, int p, matrix*& mean, matrix*& stdev, matrix* w, short sample, short freqWeights)
 {
-    matrix::matCheck(mean, n, 1, 0.0);
-    // Sized by the columns although there is one result per row: part of the contract.
+    const WeightsOrUnits weights(w, p);
+    // Sized by the columns although there is one result per row: part of the contract. A flat form's result is replaced
+    // here, before the first write to the other.
     if (stdev != nullptr)
         matrix::matCheck(stdev, p, 1, 0.0);
-    const WeightsOrUnits weights(w, p);
+    matrix::matCheck(mean, n, 1, 0.0);
     const auto rowWeight = linear(weights.get());
     const auto store = [&](int i, const UnguardedVariance& moments) {
         const bool empty = moments.rows == 0;

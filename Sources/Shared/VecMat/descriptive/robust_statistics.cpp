@@ -56,11 +56,12 @@ double V_MeanAbsDev(matrix* v, int n, double centre, short* mask, matrix* w)
 
 double V_MedianAbsDev2(matrix* v, int n, double* centre)
 {
-    if (isMissing(*centre))
-        *centre = V_Quantile(v, n, 0.5);
+    const double used = isMissing(*centre) ? V_Quantile(v, n, 0.5) : *centre;
     matrix deviations(n, 1, missingValue);
-    fillDeviations(deviations, v, n, *centre, Mask(nullptr));
-    return V_Quantile(&deviations, n, 0.5);
+    fillDeviations(deviations, v, n, used, Mask(nullptr));
+    const double deviation = V_Quantile(&deviations, n, 0.5);
+    *centre = used;
+    return deviation;
 }
 
 void V_MeanStdev2(matrix* v, int n, short sample, double* mean, double* stdev)

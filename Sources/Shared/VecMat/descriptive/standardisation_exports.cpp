@@ -1,7 +1,12 @@
 #include "standardisation.h"
 
+#include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 #include "detail/masked_columns.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <vector>
 
 using namespace vecmat;
 
@@ -63,8 +68,10 @@ void VB_V_Standardize2(double* x, int n, short* mask, double* w, short sample)
 
 void VB_M_StandardizeByVect(double* X, int n, int p, short* a, double* w, short sample, double* Z)
 {
-    transformMaskedColumns(X, n, p, a, Z,
+    std::vector<double> result(countOf(n) * std::size_t{countOf(p)}); // each column takes memory
+    transformMaskedColumns(X, n, p, a, result.data(),
                            [=](double* column, short* mask) { VB_V_Standardize2(column, n, mask, w, sample); });
+    std::copy(result.begin(), result.end(), Z);
 }
 
 void VB_M_StandardizeByVect2(double* X, int n, int p, short* a, double* w, short sample)

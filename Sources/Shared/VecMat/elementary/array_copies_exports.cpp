@@ -1,7 +1,7 @@
 #include "array_copies.h"
 
 #include "../Smatrix.h"
-#include "../access/cells.h"
+#include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
 #include "../frame/detail/handles.h"
 
@@ -10,17 +10,6 @@
 using namespace vecmat;
 
 namespace {
-
-/// Copies the cell of `source` at i + j*r to cell (i, j) of `result`: the result's own shape with the source's stride.
-template <class Table>
-void resize(Table* source, int r, Table* result)
-{
-    const auto from = vecmat::linear(source);
-    const auto to = vecmat::cells(result);
-    for (int j = 0; j < result->nCols; ++j)
-        for (int i = 0; i < result->nRows; ++i)
-            to.set(i, j, from.get(static_cast<int>(vecmat::linearIndex(i, j, r))));
-}
 
 /// The columns of the source and of the result; 0 for the source means a vector on both sides.
 struct ResizedColumns
@@ -82,7 +71,7 @@ void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC)
 {
     const ResizedColumns cols(c, newC);
     const TableHandle result = fresh(newR, cols.result);
-    resize<matrix>(viewed(src, r, cols.source), r, result);
+    copyResized<matrix>(viewed(src, r, cols.source), r, result);
     handBack(result, dst);
 }
 
@@ -90,7 +79,7 @@ void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, in
 {
     const ResizedColumns cols(c, newC);
     const auto result = freshStrings(newR, cols.result);
-    resize<Smatrix>(copied(src, r, cols.source), r, result);
+    copyResized<Smatrix>(copied(src, r, cols.source), r, result);
     handBack(result, dst);
 }
 

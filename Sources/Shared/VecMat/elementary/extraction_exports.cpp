@@ -67,7 +67,8 @@ void Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int
                                  SAFEARRAY** dst, double* positions)
 {
     const auto result = stringColumns(dst, cols, nOut);
-    M_ExtractMatNeverySKSPV(stringColumns(src, cols, n), n, cols, nOut, keep, skip, start, result,
-                            viewed(positions, nOut, 1));
+    const auto taken = copied(positions, nOut, 1);
+    M_ExtractMatNeverySKSPV(stringColumns(src, cols, n), n, cols, nOut, keep, skip, start, result, taken);
     SaveSAFEARRAY(result, cols, nOut, dst);
+    handBack(taken, positions);
 }

@@ -9,9 +9,12 @@ using namespace vecmat;
 void VB_BiplotTransData(double* rows, double* sup, double* cols, int nA, int nB, int m, int k, double* eigen,
                         double factor, double alpha, double* obs, double* var)
 {
+    TableHandle observations = fresh(std::max(nA, 0) + std::max(nB, 0), k);
+    TableHandle variables = fresh(m, k);
     BiplotTransData(viewed(rows, nA, k), nB > 0 ? viewed(sup, nB, k) : TableHandle(), viewed(cols, m, k), nA, nB, m, k,
-                    viewed(eigen, k, 1), factor, alpha, viewed(obs, std::max(nA, 0) + std::max(nB, 0), k).reference(),
-                    viewed(var, m, k).reference());
+                    viewed(eigen, k, 1), factor, alpha, observations.reference(), variables.reference());
+    handBack(observations, obs);
+    handBack(variables, var);
 }
 
 void VB_BiplotTransDataSPV(SAFEARRAY** rows, double* sup, SAFEARRAY** cols, int nA, int nB, int m, int storedAxes,

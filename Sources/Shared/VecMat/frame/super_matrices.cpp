@@ -2,13 +2,16 @@
 
 #include "../base/detail/companions.h"
 #include "../base/detail/numbers.h"
+#include "../base/detail/outgoing_texts.h"
 #include "../base/missing_value.h"
+#include "detail/outgoing_columns.h"
 
 #include <algorithm>
 #include <memory>
 
 using vecmat::countOf;
 using vecmat::isMissing;
+using vecmat::OutgoingTexts;
 using vecmat::truncated;
 
 namespace {
@@ -107,12 +110,9 @@ Smatrix** LoadSAFEARRAYStr(SAFEARRAY** sa, int nCols, int nRows, int width)
 
 void SaveSAFEARRAY(Smatrix** tables, int nCols, int /*ignored*/, SAFEARRAY** sa)
 {
-    if (*sa == nullptr)
-        return;
-    const auto* elements = static_cast<const SAFEARRAYColumn*>((*sa)->pvData);
-    for (int j = 0; j < nCols; ++j)
-        if (elements[j].strings != nullptr)
-            tables[j]->copyMatTo(static_cast<wchar_t**>(elements[j].strings->pvData));
+    OutgoingTexts texts;
+    vecmat::addTexts(texts, tables, nCols, sa);
+    texts.store();
 }
 
 void DeleteSAFEARRAY(matrix** tables, int nCols)
@@ -182,9 +182,10 @@ void unloadSuperMatLng(matrix** sm, int* flat, int n, int rows, int cols)
 
 void unloadSuperMat(Smatrix** sm, wchar_t** flat, int n, int rows, int cols)
 {
-    forEachInterleaved(n, rows, cols, [&](int k, int i, int j, std::size_t at) {
-        flat[at] = SysAllocString2(sm[k]->vbget(i, j).c_str());
-    });
+    OutgoingTexts texts;
+    forEachInterleaved(n, rows, cols,
+                       [&](int k, int i, int j, std::size_t at) { texts.add(sm[k]->vbget(i, j), flat + at); });
+    texts.store();
 }
 
 void deletecascade(matrix** sm, int n)

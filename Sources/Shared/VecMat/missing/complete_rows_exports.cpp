@@ -2,8 +2,10 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../base/detail/outgoing_texts.h"
 #include "../elementary/array_copies.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/outgoing_columns.h"
 
 using vecmat::copied;
 using vecmat::viewed;
@@ -30,8 +32,12 @@ void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemo
     const int cols = nCols == 0 ? 1 : nCols;
     auto table = copied(data, nRows, cols);
     RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
-    vecmat::handBack(table, data);
-    VB_M_CopyResizeStr(data, nRows, cols, out, rowsLeft(nRows, nRemoved), cols);
+    const auto complete = vecmat::freshStrings(rowsLeft(nRows, nRemoved), cols);
+    vecmat::copyResized<Smatrix>(table, nRows, complete);
+    vecmat::OutgoingTexts texts;
+    vecmat::addTexts(texts, table, data);
+    vecmat::addTexts(texts, complete, out);
+    texts.store();
 }
 
 void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out)

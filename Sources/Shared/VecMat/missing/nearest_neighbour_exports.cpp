@@ -1,16 +1,18 @@
 #include "nearest_neighbour.h"
 
+#include "../base/detail/outgoing_texts.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/kept_cells.h"
+#include "../frame/detail/outgoing_columns.h"
 
-using vecmat::columns;
-using vecmat::copied;
-using vecmat::handBack;
-using vecmat::viewed;
+#include <type_traits>
+
+using namespace vecmat;
 
 namespace {
 
 /// An array of no columns is not read.
-vecmat::ColumnsHandle<matrix> columnsIfAny(SAFEARRAY** x, int nCols, int n)
+ColumnsHandle<matrix> columnsIfAny(SAFEARRAY** x, int nCols, int n)
 {
     return columns(nCols > 0 ? x : nullptr, nCols, n);
 }
@@ -26,9 +28,14 @@ void predict(Estimate estimate, Element* statX, int nStat, Element* X, int nRows
     estimate(copied(statX, nStat, nColsX), nStat, primary.reference(), nRows, nColsX, mask,
              copied(statY, nStat, nColsY), second.reference(), nColsY, copied(statS, nStat, nColsS),
              strings.reference(), nColsS, viewed(weights, nStat, 1));
-    handBack(primary, X);
+    OutgoingTexts texts;
+    addTexts(texts, strings, S);
+    if constexpr (std::is_same_v<Element, wchar_t*>)
+        addTexts(texts, primary, X);
+    else
+        handBack(primary, X);
     handBack(second, Y);
-    handBack(strings, S);
+    texts.store();
 }
 
 } // namespace
@@ -39,9 +46,15 @@ void VB_EstimateRowsWithMissingNN(double* X, int n, int nColsX, short* mask, dou
     auto primary = viewed(X, n, nColsX);
     auto second = viewed(Y, n, nColsY);
     auto strings = copied(S, n, nColsS);
+    KeptCells kept;
+    if (nColsS > 0) {
+        kept.keep(X, n, nColsX);
+        kept.keep(Y, n, nColsY);
+    }
     EstimateRowsWithMissingNN(primary, n, primary.reference(), n, nColsX, mask, second, second.reference(), nColsY,
                               strings, strings.reference(), nColsS, viewed(weights, n, 1));
     handBack(strings, S);
+    kept.callHasSucceeded();
 }
 
 void VB_EstimateRowsWithMissingNNStr(wchar_t** P, int n, int nColsP, short* mask, double* Y, int nColsY, wchar_t** S,
@@ -50,30 +63,49 @@ void VB_EstimateRowsWithMissingNNStr(wchar_t** P, int n, int nColsP, short* mask
     auto primary = copied(P, n, nColsP);
     auto second = viewed(Y, n, nColsY);
     auto strings = copied(S, n, nColsS);
+    KeptCells kept;
+    kept.keep(Y, n, nColsY);
     EstimateRowsWithMissingNNStr(primary, n, primary.reference(), n, nColsP, mask, second, second.reference(), nColsY,
                                  strings, strings.reference(), nColsS, viewed(weights, n, 1));
-    handBack(primary, P);
-    handBack(strings, S);
+    OutgoingTexts texts;
+    addTexts(texts, primary, P);
+    addTexts(texts, strings, S);
+    texts.store();
+    kept.callHasSucceeded();
 }
 
 void VB_EstimateRowsWithMissingNNSPV(SAFEARRAY** X, int n, int nColsX, short* mask, double* Y, int nColsY, wchar_t** S,
                                      int nColsS, double* weights)
 {
+    const auto primary = columnsIfAny(X, nColsX, n);
     auto second = viewed(Y, n, nColsY);
     auto strings = copied(S, n, nColsS);
-    EstimateRowsWithMissingNNSPV(columnsIfAny(X, nColsX, n), n, nColsX, mask, second, second.reference(), nColsY,
-                                 strings, strings.reference(), nColsS, viewed(weights, n, 1));
+    KeptCells kept;
+    if (nColsS > 0) {
+        kept.keep(primary, nColsX);
+        kept.keep(Y, n, nColsY);
+    }
+    EstimateRowsWithMissingNNSPV(primary, n, nColsX, mask, second, second.reference(), nColsY, strings,
+                                 strings.reference(), nColsS, viewed(weights, n, 1));
     handBack(strings, S);
+    kept.callHasSucceeded();
 }
 
 void VB_EstimateRowsWithMissingNNSPV2(SAFEARRAY** X, int n, int nColsX, short* mask, SAFEARRAY** Y, int nColsY,
                                       wchar_t** S, int nColsS, double* weights)
 {
+    const auto primary = columnsIfAny(X, nColsX, n);
     const auto second = columnsIfAny(Y, nColsY, n);
     auto strings = copied(S, n, nColsS);
-    EstimateRowsWithMissingNNSPV2(columnsIfAny(X, nColsX, n), n, nColsX, mask, second, second, nColsY, strings,
-                                  strings.reference(), nColsS, viewed(weights, n, 1));
+    KeptCells kept;
+    if (nColsS > 0) {
+        kept.keep(primary, nColsX);
+        kept.keep(second, nColsY);
+    }
+    EstimateRowsWithMissingNNSPV2(primary, n, nColsX, mask, second, second, nColsY, strings, strings.reference(),
+                                  nColsS, viewed(weights, n, 1));
     handBack(strings, S);
+    kept.callHasSucceeded();
 }
 
 void VB_EstimateRowsWithMissingNNPred(double* statX, int nStat, double* X, int nRows, int nColsX, short* mask,

@@ -1,6 +1,8 @@
 #include "categories.h"
 
+#include "../base/detail/outgoing_texts.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/outgoing_columns.h"
 #include "detail/category_lists.h"
 
 using namespace vecmat;
@@ -13,13 +15,17 @@ void VB_M_InfoQuali(wchar_t** table, int nRows, int nCols, wchar_t** modes, doub
     IntTableHandle counts;
     StringTableHandle texts;
     TableHandle sums;
+    int all = 0;
     M_InfoQuali(copied(table, nRows, nCols), nRows, nCols, modeTexts.reference(), modeSums.reference(),
-                counts.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), total, sortCats);
-    handBack(modeTexts, modes);
+                counts.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
+    OutgoingTexts outgoing;
+    addTexts(outgoing, modeTexts, modes);
+    addTexts(outgoing, texts, categories);
+    *total = all;
     handBack(modeSums, modeWeights);
     handBack(counts, nCats);
-    handBack(texts, categories);
     handBack(sums, catWeights);
+    outgoing.store();
 }
 
 void VB_M_InfoQuali2(wchar_t** table, int nRows, int nCols, int maxCats, int* nCats, wchar_t** modes,
@@ -30,26 +36,35 @@ void VB_M_InfoQuali2(wchar_t** table, int nRows, int nCols, int maxCats, int* nC
     TableHandle modeSums;
     StringTableHandle texts;
     TableHandle sums;
+    int all = 0;
     M_InfoQuali2(copied(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1), modeTexts.reference(),
-                 modeSums.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), total, sortCats);
-    handBack(modeTexts, modes);
+                 modeSums.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
+    OutgoingTexts outgoing;
+    addTexts(outgoing, modeTexts, modes);
+    addTexts(outgoing, texts, categories);
+    *total = all;
     handBack(modeSums, modeWeights);
-    handBack(texts, categories);
     handBack(sums, catWeights);
+    outgoing.store();
 }
 
 void VB_M_InfoQualiValid(wchar_t** table, int nRows, int nCols, int maxCats, int /*ignored1*/, int* nCats,
                          wchar_t** categories, double* catWeights, short* invalid, int /*ignored2*/, double* weights)
 {
     TableHandle sums;
+    short unknown = 0;
     M_InfoQualiValid(copied(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1),
-                     copied(categories, nCols, maxCats), sums.reference(), invalid, viewed(weights, nRows, 1));
+                     copied(categories, nCols, maxCats), sums.reference(), &unknown, viewed(weights, nRows, 1));
+    *invalid = unknown;
     handBack(sums, catWeights);
 }
 
 int Cpp_GetMaxCat(wchar_t** table, int nRows, int nCols, int* counts)
 {
-    return GetMaxCat(copied(table, nRows, nCols), nRows, nCols, viewed(counts, nCols, 1));
+    const IntTableHandle found = freshInt(nCols, 1);
+    const int largest = GetMaxCat(copied(table, nRows, nCols), nRows, nCols, found);
+    handBack(found, counts);
+    return largest;
 }
 
 int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts)

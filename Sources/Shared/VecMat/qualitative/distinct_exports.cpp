@@ -3,11 +3,17 @@
 #include "../frame/detail/handles.h"
 
 using vecmat::copied;
+using vecmat::handBack;
+using vecmat::TableHandle;
 using vecmat::viewed;
 
 void VB_M_Dedupe(double* data, int nRows, int nCols, int* nKept, double* out)
 {
-    M_Dedupe(viewed(data, nRows, nCols + 1), nRows, nCols, nKept, viewed(out, nRows, nCols + 3).reference());
+    TableHandle result = copied(out, nRows, nCols + 3);
+    int kept = 0;
+    M_Dedupe(viewed(data, nRows, nCols + 1), nRows, nCols, &kept, result.reference());
+    handBack(result, out);
+    *nKept = kept;
 }
 
 void VB_V_ExtractDistinct(double* x, int n, double* distinct, int* count)

@@ -5,6 +5,7 @@
 
 using vecmat::columns;
 using vecmat::copied;
+using vecmat::handBack;
 using vecmat::TableHandle;
 using vecmat::viewed;
 
@@ -19,17 +20,19 @@ int largestCount(int* nCats, int nCols)
 
 void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
 {
-    // A view: cells without a match keep the caller's contents.
+    TableHandle codes = copied(out, nRows, nCols); // cells without a match keep the caller's contents
     M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), viewed(out, nRows, nCols).reference());
+                        copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());
+    handBack(codes, out);
 }
 
 void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, short* mask,
                             int firstCode, double* out)
 {
+    TableHandle codes = copied(out, nRows, nCols);
     M_ReplaceStrByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode,
-                        viewed(out, nRows, nCols).reference());
+                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode, codes.reference());
+    handBack(codes, out);
 }
 
 void Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int /*ignored*/, double* out)

@@ -33,33 +33,74 @@ double columnNumber(const std::wstring& letters)
     return number + lastCode + -64.0;
 }
 
+/// The next place of a character in a text, asked for from places that never go back: all questions together read the
+/// text once, even where the character is rare or missing.
+class NextPlace
+{
+public:
+    NextPlace(const std::wstring& text, wchar_t character) : text_(text), character_(character) {}
+
+    std::size_t from(std::size_t start)
+    {
+        if (!known_ || place_ < start)
+            place_ = text_.find(character_, start);
+        known_ = true;
+        return place_;
+    }
+
+private:
+    const std::wstring& text_;
+    wchar_t character_;
+    std::size_t place_ = 0;
+    bool known_ = false;
+};
+
+/// Finds a delimiter behind the start of the unread part, and behind the "$" in it.
+struct Delimiter
+{
+    Delimiter(const std::wstring& text, wchar_t character) : behindStart(text, character), behindSign(text, character)
+    {
+    }
+
+    NextPlace behindStart;
+    NextPlace behindSign;
+};
+
 /// The unread part of an address list.
 class Remainder
 {
 public:
-    explicit Remainder(const std::wstring& text) : text_(text) {}
+    explicit Remainder(const std::wstring& text)
+        : text_(text), sign_(text, L'$'), colon_(text, L':'), comma_(text, L',')
+    {
+    }
 
+    std::wstring takeFirstColumn() { return take(colon_); }
+    std::wstring takeLastColumn() { return take(comma_); }
+    /// The whole unread part, without its first character.
+    std::wstring takeRest() const { return start_ < text_.size() ? text_.substr(start_ + 1) : std::wstring(); }
+
+private:
     /// The text between the next "$" and the delimiter after it. The unread part then begins after the first delimiter,
     /// if there is one.
-    std::wstring takeColumn(const wchar_t* delimiter)
+    std::wstring take(Delimiter& delimiter)
     {
-        const auto sign = text_.find(L'$', start_);
-        const auto end = text_.find(delimiter, sign == std::wstring::npos ? start_ : sign + 1);
-        // Nothing after the delimiter is passed on: copying the whole unread part for every column would make reading
-        // quadratic.
-        const auto length = end == std::wstring::npos ? std::wstring::npos : end + 1 - start_;
-        std::wstring column = cStrBetweenChrAndChr(text_.substr(start_, length), L"$", delimiter);
-        const auto next = text_.find(delimiter, start_);
+        std::wstring column;
+        const std::size_t sign = sign_.from(start_);
+        if (sign != std::wstring::npos) {
+            const std::size_t end = delimiter.behindSign.from(sign + 1);
+            column = text_.substr(sign + 1, end == std::wstring::npos ? end : end - sign - 1);
+        }
+        const std::size_t next = delimiter.behindStart.from(start_);
         if (next != std::wstring::npos)
             start_ = next + 1;
         return column;
     }
 
-    /// The whole unread part, without its first character.
-    std::wstring takeLastColumn() const { return start_ < text_.size() ? text_.substr(start_ + 1) : std::wstring(); }
-
-private:
     const std::wstring& text_;
+    NextPlace sign_;
+    Delimiter colon_;
+    Delimiter comma_;
     std::size_t start_ = 0;
 };
 
@@ -89,11 +130,11 @@ private:
     {
         Remainder remainder(list);
         for (int piece = 1; piece <= count_; ++piece) {
-            const std::wstring first = remainder.takeColumn(L":");
+            const std::wstring first = remainder.takeFirstColumn();
             if (beginsWithDigit(first))
                 return;
             columns_.vbset(piece, 1, first);
-            const std::wstring last = piece < count_ ? remainder.takeColumn(L",") : remainder.takeLastColumn();
+            const std::wstring last = piece < count_ ? remainder.takeLastColumn() : remainder.takeRest();
             if (beginsWithDigit(last))
                 return;
             columns_.vbset(piece, 2, last);

@@ -12,9 +12,11 @@ void Cpp_GetCompMatrices(double* X, int n, int col, int* comp, short keepOrder, 
     const auto table = copied(X, n, cols);
     const auto orderTable = copied(order, n, 1);
     const auto labelTable = copied(labels, n, labelColumns);
-    GetCompMatrices(table, n, col, viewed(comp, n, n), keepOrder, orderTable, labelTable, nGroups);
+    int groups = *nGroups;
+    GetCompMatrices(table, n, col, viewed(comp, n, n), keepOrder, orderTable, labelTable, &groups);
     // The strings first: creating them may fail, and then the numbers are unchanged.
     handBack(labelTable, labels);
     handBack(table, X);
     handBack(orderTable, order);
+    *nGroups = groups;
 }

@@ -1,6 +1,7 @@
 #include "stratified_sampling.h"
 
 #include "../frame/detail/handles.h"
+#include "detail/callers_seeds.h"
 #include "detail/sampling_call.h"
 
 using namespace vecmat;
@@ -10,10 +11,12 @@ void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar
                                          short seedFlag, int* seedOut)
 {
     const TableHandle labels = copiedOrEmpty(rowIds, N);
-    sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix* population, Smatrix* sample, matrix* sampleLabels) {
-        M_SamplingRandomStratifiedByStr(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
-                                        copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata, seed,
-                                        seedFlag, seedOut);
+    withSeeds(seed, seedOut, [&](int& start, int& next) {
+        sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix* population, Smatrix* sample, matrix* sampleLabels) {
+            M_SamplingRandomStratifiedByStr(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
+                                            copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata,
+                                            &start, seedFlag, &next);
+        });
     });
     handBack(labels, rowIds);
 }
@@ -23,10 +26,12 @@ void VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n, S
                                            int* seed, short seedFlag, int* seedOut)
 {
     const TableHandle labels = copiedOrEmpty(rowIds, N);
-    sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix** population, Smatrix** sample, matrix* sampleLabels) {
-        M_SamplingRandomStratifiedByStrSPV(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
-                                           copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata, seed,
-                                           seedFlag, seedOut);
+    withSeeds(seed, seedOut, [&](int& start, int& next) {
+        sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix** population, Smatrix** sample, matrix* sampleLabels) {
+            M_SamplingRandomStratifiedByStrSPV(population, N, p, n, sample, labels, sampleLabels,
+                                               copiedOrEmpty(strata, N), copiedOrEmpty(quota, nStrata),
+                                               copiedOrEmpty(sizes, nStrata), nStrata, &start, seedFlag, &next);
+        });
     });
     handBack(labels, rowIds);
 }

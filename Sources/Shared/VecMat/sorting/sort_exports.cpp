@@ -1,8 +1,10 @@
 #include "sort.h"
 
 #include "../access/cells.h"
+#include "../base/detail/outgoing_texts.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/in_place.h"
+#include "../frame/detail/outgoing_columns.h"
 #include "detail/column_moves.h"
 #include "detail/digit_passes.h"
 #include "detail/sort_by_key.h"
@@ -60,14 +62,16 @@ struct RowSort
     {
     }
 
-    /// Sorts data already in its table; the key and the companion are copied in and written back.
-    template <class Data, class Key, class Companion>
-    int run(Data&& data, Key* key, Companion* companion) const
+    /// Sorts data already in its table; the key and the companion are copied in and written back once `beforeWriting`,
+    /// which may fail, has run.
+    template <class Data, class Key, class Companion, class BeforeWriting>
+    int run(Data&& data, Key* key, Companion* companion, BeforeWriting beforeWriting) const
     {
         auto keys = copied(key, nRows, 1);
         auto companions = copied(companion, nRows, nCompanionCols);
         SortQ(data, nRows, nCols, first, last, keys.reference(), companions.reference(), nCompanionCols, descending,
               writeKeys);
+        beforeWriting();
         handBack(keys, key);
         handBack(companions, companion);
         return 0;
@@ -90,8 +94,14 @@ struct RowSort
                 keys, companions, table);
         } else {
             auto table = copied(data, nRows, nCols);
-            run(table.reference(), key, companion);
-            handBack(table, data);
+            if constexpr (std::is_same_v<Element, wchar_t*>) {
+                OutgoingTexts texts;
+                run(table.reference(), key, companion, [&] { addTexts(texts, table, data); });
+                texts.store();
+            } else {
+                run(table.reference(), key, companion, [] {});
+                handBack(table, data);
+            }
             return 0;
         }
     }
@@ -206,7 +216,7 @@ int VB_SortQDblSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, 
 {
     const RowSort sort(nRows, nCols, first, last, nCompanionCols, descending, writeKeys);
     const auto tables = columns(data, sort.nCols, nRows);
-    return sort.run(static_cast<matrix**>(tables), key, companion);
+    return sort.run(static_cast<matrix**>(tables), key, companion, [] {});
 }
 
 int VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, double* key, double* companion,
@@ -214,8 +224,9 @@ int VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, 
 {
     const RowSort sort(nRows, nCols, first, last, nCompanionCols, descending, writeKeys);
     const auto tables = stringColumns(data, sort.nCols, nRows);
-    sort.run(static_cast<Smatrix**>(tables), key, companion);
-    SaveSAFEARRAY(tables, sort.nCols, 0, data);
+    OutgoingTexts texts;
+    sort.run(static_cast<Smatrix**>(tables), key, companion, [&] { addTexts(texts, tables, sort.nCols, data); });
+    texts.store();
     return 0;
 }
 

@@ -17,6 +17,11 @@ void GetSeedUpdate(int* seedOut);
 const wchar_t* CW162W32(const void* bstr);
 /// A new BSTR owned by the caller, even for an empty text.
 wchar_t* SysAllocString2(const wchar_t* text);
+/// Frees a BSTR that was never handed over. Another build of the companion may lack it, where weak references are known.
+#ifndef _WIN32
+[[gnu::weak]]
+#endif
+void SysFreeString2(wchar_t* bstr);
 /// The number that the text spells; 0.0 if it does not start with a number.
 #ifdef __MINGW32__ // whose C library has another of this name, declared as its own
 #pragma GCC diagnostic push
@@ -51,6 +56,16 @@ namespace vecmat {
 inline double squareRoot(double x)
 {
     return sqr(x);
+}
+
+/// Frees a text that the caller will never see; without the companion's help it stays allocated.
+inline void discardText(wchar_t* bstr)
+{
+#ifndef _WIN32
+    if (SysFreeString2 == nullptr)
+        return;
+#endif
+    SysFreeString2(bstr);
 }
 
 } // namespace vecmat

@@ -7,8 +7,12 @@
 //
 // The tables of a call are destroyed when it ends, on every path, including a replacement made by the computing
 // function. Tables of numbers are on the stack, and so are the cells of small ones: a call on few numbers needs no
-// allocation for its frame. A null array is passed on as a null table. Writing a result back is an explicit statement,
-// so that nothing is written to the caller while an exception propagates.
+// allocation for its frame. A null array is passed on as a null table.
+//
+// A call that throws leaves the caller's arrays as they were. Writing a result back is an explicit statement, which only
+// fails where it makes strings: a form with several results makes all of its texts first (addTexts), hands back the
+// numbers, and then stores the texts. A form over views takes its memory before the first write; where that can't be,
+// the cells are kept (kept_cells.h).
 #pragma once
 
 #include "../../Smatrix.h"

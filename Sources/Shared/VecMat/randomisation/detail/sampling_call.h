@@ -4,6 +4,7 @@
 #include "../../Smatrix.h"
 #include "../../frame/detail/handles.h"
 #include "../../frame/super_matrices.h"
+#include "callers_seeds.h"
 
 namespace vecmat {
 
@@ -28,7 +29,7 @@ void sampleInto(wchar_t** S, int N, int p, wchar_t** Z, int n, double* ids, int 
     const StringTableHandle sample = copiedOrEmpty(Z, n, p);
     const TableHandle rows = copiedOrEmpty(ids, nIds);
     design(population, sample, rows);
-    handBack(sample, Z);
+    handBack(sample, Z); // before the numbers, since making strings may fail
     handBack(rows, ids);
 }
 
@@ -49,8 +50,10 @@ template <class Design, class Strings>
 void drawInto(Design design, Strings S, int N, int p, int n, Strings Z, double* ids, int nIds, int* seed,
               short seedFlag, int* seedOut)
 {
-    sampleInto(S, N, p, Z, n, ids, nIds, [&](const auto& population, const auto& sample, matrix* rows) {
-        design(population, N, p, n, sample, rows, seed, seedFlag, seedOut);
+    withSeeds(seed, seedOut, [&](int& start, int& next) {
+        sampleInto(S, N, p, Z, n, ids, nIds, [&](const auto& population, const auto& sample, matrix* rows) {
+            design(population, N, p, n, sample, rows, &start, seedFlag, &next);
+        });
     });
 }
 
