@@ -70,7 +70,7 @@ def domain_in_words(domain):
 def null_in_words(null):
     if null.startswith("when "):
         return f"when `{null.removeprefix('when ')}`"
-    return {"yes": "may be null", "no": "no", "-": ""}[null]
+    return {"yes": "may be null", "no": "", "-": ""}[null]
 
 
 def kept_in_words(row):

@@ -1,5 +1,7 @@
 """The page of a function: see reference.py."""
 
+import re
+
 from header_comments import TITLES
 from reference_model import as_markdown, description, escaped, own_description, paragraphs, summary, words_of
 from reference_siblings import differences, forms, relatives, spellings, storage_of
@@ -16,6 +18,10 @@ KINDS = {
 }
 # The parts of a contract that get a row of their own, in this order; formulas and costs stand elsewhere.
 ROWS = ("missing", "mask", "weights", "divisor", "empty", "failure", "memory", "seed", "source", "weak")
+
+
+# Words that begin what is told of a function only within its unit.
+IN_CONTEXT = ("From ", "All blocks", "C is ", "With weights", "One draw", "Flat forms", "Only ")
 
 
 def label_of(unit):
@@ -60,7 +66,7 @@ class Pages:
             lines += [f"*{kind}.*", ""]
         elif function.kind() in ("flat form for macros", "flat form for native callers"):
             lines += [f"*A {function.kind().removeprefix('flat form ').replace('for', 'function for', 1)}, over plain arrays.*", ""]
-        lines += [*self.quoted_neighbour(function), *description(function, self.functions), ""]
+        lines += [*self.quoted_neighbour(function), *self.told(function), ""]
         if function.base and own_description(function):
             own = own_description(function)
             if own != description(function, self.functions):
@@ -70,6 +76,17 @@ class Pages:
             if section:
                 lines += [*section, ""]
         return lines
+
+    def told(self, function):
+        """What the function computes; what the whole unit is for, where its own words do not say so."""
+        base = self.functions[function.base] if function.base else function
+        own = description(base, self.functions)
+        header = as_markdown(base.contracts[0].prose.header.prose)
+        if own == header[:1]:
+            return header
+        if own and own[0].startswith(IN_CONTEXT):
+            return [*header[:next((k for k, line in enumerate(header) if not line), len(header))], "", *own]
+        return own
 
     def quoted_neighbour(self, function):
         """A comment that begins with "The same" tells what changes against the one before it: that one in a quotation."""
@@ -125,7 +142,10 @@ class Pages:
 
     def cost(self, function):
         text = function.tags().get("cost")
-        return ["## Cost", "", escaped(text[:1].upper() + text[1:]).rstrip(".") + ".", ""] if text else []
+        if not text:
+            return []
+        text = re.sub(r"\^([23])", lambda match: "²³"[int(match.group(1)) - 2], text[:1].upper() + text[1:])
+        return ["## Cost", "", escaped(text).rstrip(".") + ".", ""]
 
     def example(self, function):
         found = self.examples.of(function, self.functions)
@@ -151,9 +171,9 @@ class Pages:
         found = list(differences(function, other))
         text = summary(other, self.functions)
         told = f"`{other.name}`: {text}" if text and text != summary(function, self.functions) else f"`{other.name}`"
-        notes = [difference.there for difference in found if difference.title == "Arguments"]
-        rows = [difference for difference in found if difference.here and "–" not in (difference.here, difference.there)
-                or difference.title not in ("Mask", "Arguments")]
+        notes = [difference.there for difference in found if not difference.here]
+        rows = [difference for difference in found if difference.here
+                and (difference.title != "Mask" or "–" not in (difference.here, difference.there))]
         if not found:
             notes = ["the same contract"]
         lines = ["```{rst-class} relative", "```", f"{told}{' – ' if notes else ''}{'; '.join(notes)}.", ""]
@@ -177,7 +197,7 @@ class Pages:
         """What the header says of all functions of the unit."""
         comments = function.contracts[0].prose
         header = as_markdown(comments.header.prose)
-        lines = [f"## Common to {escaped(function.unit)}", "", *header, ""]
+        lines = [f"## Common to {escaped(function.unit)}", "", *([] if self.told(function) == header else header), ""]
         section = paragraphs(comments.section)
         if section and section != description(function, self.functions):
             lines += [*section, ""]

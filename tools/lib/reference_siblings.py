@@ -21,9 +21,9 @@ class Difference:
 
 def storage_of(name):
     if re.search(r"SPV\d*_T$", name) or name.endswith("_T"):
-        return "triangle of columns"
+        return "a triangle of columns"
     if re.search(r"SPV\d*$", name):
-        return "array of columns"
+        return "an array of columns"
     return ""
 
 
@@ -82,7 +82,7 @@ def relatives(function, functions):
 def argument_differences(here, there):
     """Arguments that only one of the two has, by their names; those of one letter are too short to tell anything."""
     telling = {name.lower(): name for name in [*here.parameters(), *there.parameters()]
-               if len(name) > 1 or name == "w"}
+               if len(name) > 1 or name in ("w", "Z")}
     here_names = {name.lower() for name in here.parameters()}
     there_names = {name.lower() for name in there.parameters()}
     there_only = [name for key, name in telling.items() if key in there_names - here_names]
@@ -94,11 +94,11 @@ def argument_differences(here, there):
 
 
 def differences(here, there):
-    """In what `there` differs from `here`: the storage, the cells, the arguments, then tag by tag."""
+    """In what `there` differs from `here`: storage, cells and arguments, with nothing to say of `here`; then tag by tag."""
     for title, of in (("Storage", storage_of), ("Cells", cells_of)):
         if of(here.name) != of(there.name):
             plain = "a plain table or vector" if title == "Storage" else "doubles"
-            yield Difference(title, of(there.name) or plain, of(here.name) or plain)
+            yield Difference(title, f"over {of(there.name) or plain}", "")
     yield from argument_differences(here, there)
     here_tags, there_tags = here.tags(), there.tags()
     for tag in COMPARED:

@@ -10,7 +10,7 @@ from dataclasses import dataclass
 from arguments import read_calls
 from reference_signatures_r_js import PackageFunction, read_js_flat, read_r_flat, read_r_functions
 
-WIDTH = 96
+WIDTH = 84
 
 
 @dataclass(frozen=True)
@@ -43,7 +43,7 @@ def read_c(root):
     """The declarations of VecMatFlat.h by name."""
     text = (root / "Bindings/c/VecMatFlat.h").read_text(encoding="utf-8")
     text = re.sub(r"/\*.*?\*/", "", text, flags=re.S)
-    return {match.group(2): match.group(0).strip()
+    return {match.group(2): wrapped(f"{match.group(1)}{match.group(2)}(", " ".join(match.group(3).split()).split(", "), ");")
             for match in re.finditer(r"^(\w[\w *]*?)\b(\w+)\(([^;{}]*)\);", text, flags=re.M)}
 
 

@@ -9,6 +9,7 @@
 import json
 import re
 from pathlib import Path
+from xml.etree import ElementTree
 
 from docutils import nodes
 from docutils.utils.math.latex2mathml import tex2mathml
@@ -17,6 +18,7 @@ from pygments.lexer import RegexLexer, words
 from sphinx.util.osutil import relative_uri
 
 FUNCTIONS = "functions.tsv"
+MATHML = "{http://www.w3.org/1998/Math/MathML}"
 HIGHLIGHTED = (nodes.title, nodes.reference)
 
 
@@ -77,10 +79,19 @@ def parents(node):
         yield node
 
 
+def with_indices(formula):
+    """A formula with the indices of accented letters beside them: the converter takes them for limits and puts them below."""
+    root = ElementTree.fromstring(formula)
+    for element in root.iter():
+        if element.tag == MATHML + "munder" and element[0].tag == MATHML + "mover":
+            element.tag = MATHML + "msub"
+    return ElementTree.tostring(root, encoding="unicode", default_namespace=MATHML[1:-1])
+
+
 def mathml(writer, node, inline):
     tag = "span" if inline else "div"
     try:
-        formula = tex2mathml(node.astext(), inline=inline)
+        formula = with_indices(tex2mathml(node.astext(), inline=inline))
     except SyntaxError as error:
         raise SyntaxError(f"{writer.builder.current_docname}: {error}: {node.astext()}") from error
     writer.body.append(f'<{tag} class="math">{formula}</{tag}>')
