@@ -8,6 +8,7 @@
 
 import json
 import re
+import zlib
 from pathlib import Path
 from xml.etree import ElementTree
 
@@ -19,6 +20,8 @@ from sphinx.util.osutil import relative_uri
 
 FUNCTIONS = "functions.tsv"
 MATHML = "{http://www.w3.org/1998/Math/MathML}"
+ACCENTS = ("ˉ", "ˆ")
+ElementTree.register_namespace("", MATHML[1:-1])
 HIGHLIGHTED = (nodes.title, nodes.reference)
 
 
@@ -82,10 +85,14 @@ def parents(node):
 def with_indices(formula):
     """A formula with the indices of accented letters beside them: the converter takes them for limits and puts them below."""
     root = ElementTree.fromstring(formula)
-    for element in root.iter():
-        if element.tag == MATHML + "munder" and element[0].tag == MATHML + "mover":
+    for element in list(root.iter(MATHML + "munderover")):
+        letter, index, accent = element
+        if accent.tag == MATHML + "mo" and accent.text in ACCENTS:
+            accented = ElementTree.Element(MATHML + "mover")
+            accented.extend([letter, accent])
             element.tag = MATHML + "msub"
-    return ElementTree.tostring(root, encoding="unicode", default_namespace=MATHML[1:-1])
+            element[:] = [accented, index]
+    return ElementTree.tostring(root, encoding="unicode")
 
 
 def mathml(writer, node, inline):
@@ -131,4 +138,5 @@ def setup(app):
     app.connect("builder-inited", read_names)
     app.connect("doctree-resolved", link_names)
     app.connect("build-finished", write_static)
-    return {"version": "1", "parallel_read_safe": True, "parallel_write_safe": True}
+    version = zlib.crc32(Path(__file__).read_bytes())  # pages are made anew where this file has changed
+    return {"version": "1", "env_version": version, "parallel_read_safe": True, "parallel_write_safe": True}
