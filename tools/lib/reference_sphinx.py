@@ -6,6 +6,7 @@
 - The search shows in its results what each function computes.
 """
 
+import html
 import json
 import re
 import zlib
@@ -84,6 +85,7 @@ def parents(node):
 
 def with_indices(formula):
     """A formula with the indices of accented letters beside them: the converter takes them for limits and puts them below."""
+    formula = re.sub(r"&(?!lt;|gt;|amp;)\w+;", lambda entity: html.unescape(entity.group()), formula)  # unknown in XML
     root = ElementTree.fromstring(formula)
     for element in list(root.iter(MATHML + "munderover")):
         letter, index, accent = element
