@@ -60,6 +60,7 @@ def cpp_source(calls):
     yield "#include <VecMatFlat.h>"
     yield ""
     yield "#include <R_ext/Rdynload.h>"
+    yield "#include <R_ext/Visibility.h>"
     yield ""
     yield "namespace vecmat::r {"
     yield "namespace {"
@@ -77,7 +78,7 @@ def cpp_source(calls):
     yield "} // namespace"
     yield "} // namespace vecmat::r"
     yield ""
-    yield "extern \"C\" void R_init_vecmat(DllInfo* library)"
+    yield "extern \"C\" attribute_visible void R_init_vecmat(DllInfo* library)"
     yield "{"
     yield "    R_registerRoutines(library, nullptr, vecmat::r::entries, nullptr, nullptr);"
     yield "    R_useDynamicSymbols(library, FALSE);"
@@ -113,11 +114,17 @@ def told(call, argument):
     return ", ".join(words) + (f"; {argument.note}" if argument.note else "")
 
 
+def once(text):
+    """Words that a flat form and what it is a form of have in common, said once."""
+    half = len(text) // 2
+    return text[:half] if text[:half] == text[half + 1:] else text
+
+
 def contract_rows(calls, words):
     yield "function\tpart\tkind\trole\tdomain\ttext"
     for call in calls.values():
         described = words.get(call.name, {})
-        parts = [("", "", "", "", described.get("description", ""))]
+        parts = [("", "", "", "", once(described.get("description", "")))]
         parts += [(argument.name, kind_of(argument), argument.role, text_of(call, argument, "domain"), told(call, argument))
                   for argument in call.arguments]
         parts += [(title, "", "", "", described[tag]) for tag, title in TAGS.items() if described.get(tag)]

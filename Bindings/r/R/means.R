@@ -3,7 +3,7 @@
 #' The arithmetic mean, the mean of the absolute values, the harmonic mean and the sum of what is present.
 #'
 #' Missing cells are left out together with their weights; so are excluded rows. Sums run in row order, so that the digits
-#' are the same on every machine: `mean` adds in long double and `weighted.mean` keeps the weights of missing values.
+#' are the same on every machine; `mean` adds in long double, which not every machine has.
 #' @shared x weights exclude
 #' @return A number, or for a table a named vector with one for each column; `NA` where no value enters (of `vm_sum`, 0).
 #' @contract VB_V_Mean2 VB_V_Mean VB_V_MeanAbs Cpp_V_HarmonicMean

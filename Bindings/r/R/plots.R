@@ -24,7 +24,7 @@ plot.vm_cor <- function(x, digits = 2, reorder = FALSE, ...) {
   if (one_flag(reorder, "reorder")) r <- vm_reorder_correlations(r)$matrix
   p <- nrow(r)
   names <- if (is.null(rownames(r))) as.character(seq_len(p)) else rownames(r)
-  before <- par(mar = c(1, max(4, 0.55 * max(nchar(names)) + 1), 3 + 0.4 * max(nchar(names)), 1))
+  before <- par(mar = c(1 + 0.45 * max(nchar(names)), max(4, 0.55 * max(nchar(names)) + 1), 3, 1))
   on.exit(par(before))
   drawn(plot, list(...), x = c(0.5, p + 0.5), y = c(0.5, p + 0.5), type = "n", axes = FALSE, xlab = "", ylab = "", asp = 1,
         xaxs = "i", yaxs = "i")
@@ -37,7 +37,7 @@ plot.vm_cor <- function(x, digits = 2, reorder = FALSE, ...) {
     text(at[, 1L], at[, 2L], shown, col = ifelse(abs(r) > 0.6 & !is.na(r), "white", "black"), cex = min(1, 8 / p))
   }
   text(0.4, p:1, names, adj = 1, xpd = NA)
-  text(seq_len(p), p + 0.6, names, srt = 45, adj = 0, xpd = NA)
+  text(seq_len(p) + 0.1, 0.4, names, srt = 45, adj = 1, xpd = NA)
   invisible(x)
 }
 
@@ -82,12 +82,13 @@ plot.vm_biplot <- function(x, groups = NULL, ...) {
     colour <- PALETTE[(as.integer(groups) - 1L) %% length(PALETTE) + 1L]
   }
   shown <- sprintf("%s (%.1f %%)", names(x$percent)[1:2], x$percent[1:2])
-  limits <- 1.15 * range(points, arrows * stretch)
-  drawn(plot, list(...), x = points, col = colour, pch = 20, xlab = shown[1L], ylab = shown[2L], asp = 1, xlim = limits, ylim = limits)
+  limits <- function(k) 1.25 * range(points[, k], arrows[, k] * stretch)
+  drawn(plot, list(...), x = points, col = colour, pch = 20, xlab = shown[1L], ylab = shown[2L], asp = 1, xlim = limits(1L),
+        ylim = limits(2L))
   abline(h = 0, v = 0, col = "grey80")
   graphics::arrows(0, 0, arrows[, 1L] * stretch, arrows[, 2L] * stretch, length = 0.08, lwd = 1.5)
   names <- if (is.null(rownames(arrows))) seq_len(nrow(arrows)) else rownames(arrows)
-  text(arrows * stretch * 1.08, labels = names, font = 2, xpd = NA)
+  text(arrows * stretch, labels = names, pos = ifelse(arrows[, 1L] < 0, 2, 4), font = 2, xpd = NA)
   if (!is.null(groups))
     legend("topleft", levels(groups), pch = 20, col = PALETTE[(seq_len(nlevels(groups)) - 1L) %% length(PALETTE) + 1L], bty = "n")
   invisible(x)

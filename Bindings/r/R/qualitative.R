@@ -212,10 +212,7 @@ vm_group_by <- function(x, by, statistic = c("mean", "sum", "median", "sd", "var
 
 #' @rdname vm_group_by
 #' @export
-summary.vm_groups <- function(object, ...) {
-  cat("The ", attr(object, "statistic"), " of ", ncol(object) - 2L, " columns in ", nrow(object), " groups\n", sep = "")
-  invisible(summary(as.data.frame(unclass(object)), ...))
-}
+summary.vm_groups <- function(object, ...) summary(as.data.frame(unclass(object))[-1L], ...)
 
 #' Cross table of two columns of labels
 #'
