@@ -97,7 +97,8 @@ function besiege(description, wrong) {
     const named = `'${parameter.name}'`;
     // Another size can be right where more cells may stand behind, and the array that tells sizes fails others.
     const mayDiffer = parameter.atLeast || parameter.addresses;
-    const attacks = [["type", wrongTypes(parameter, given), named], ["size", wrongSizes(parameter, given), mayDiffer ? "" : named], ["value", oddValues(parameter, given), ""]];
+    const ranges = parameter.range && (given?.length ?? 1) > 0 ? beyond(parameter, plain(), given) : [];
+    const attacks = [["beyond", ranges, named], ["type", wrongTypes(parameter, given), named], ["size", wrongSizes(parameter, given), mayDiffer ? "" : named], ["value", oddValues(parameter, given), ""]];
     for (const [what, odds, expected] of attacks)
       odds.forEach((odd, k) => {
         const values = plain();
@@ -109,6 +110,13 @@ function besiege(description, wrong) {
   attempt(description, plain().slice(1), `${name} too few`, parameters.length > 0 ? "arguments" : "", wrong);
   attempt(description, [...plain(), 1], `${name} too many`, "arguments", wrong);
   for (const size of [0, 1, -3]) attempt(description, plain(size), `${name} size ${size}`, "", wrong);
+}
+
+/** A position, a code or a count just beyond its range: it would address memory outside of an array. */
+function beyond({ kind, range }, values, value) {
+  const [low, high] = [range[0](values), range[1](values)];
+  const most = kind === "flag" || kind === "flags" ? 2 ** 15 - 1 : 2 ** 31 - 1;
+  return [low - 1, high + 1].filter((odd) => Math.abs(odd) <= most).map((odd) => (kind in ARRAYS ? value.slice().fill(odd) : odd));
 }
 
 /** All arrays of a kind in one run of the module's memory. */
