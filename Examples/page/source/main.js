@@ -38,7 +38,6 @@ function offerColumns(answer) {
   };
   offer(field("grouping"), answer.columns.filter((column) => column.kind !== "empty"), isNew ? suggestedGrouping(answer) : before[0]);
   offer(field("weights"), answer.columns.filter((column) => column.kind === "numeric"), isNew ? "" : before[1]);
-  columnsAre = readingKey();
 }
 
 // ---- running ----
@@ -47,6 +46,7 @@ function surveyFile(chosen, chosenName) {
   file = chosen;
   name = chosenName;
   columnsAre = undefined;
+  offerColumns({ rows: 0, columns: [] }); // until it is read
   begin();
 }
 
@@ -72,6 +72,7 @@ function survey() {
 const receive = {
   columns(answer) {
     offerColumns(answer);
+    columnsAre = readingKey();
     survey();
   },
   progress({ what, share }) {
@@ -87,12 +88,12 @@ const receive = {
     await allDrawn();
     if (run !== current) return; // stopped meanwhile
     setRunning(false);
-    tellStatus(`Surveyed in ${seconds < 10 ? seconds.toFixed(1) : Math.round(seconds)} s.`);
+    endWith(`Surveyed in ${seconds < 10 ? seconds.toFixed(1) : Math.round(seconds)} s.`);
     showDownloads();
   },
   failed({ message }) {
     setRunning(false);
-    tellStatus("");
+    endWith("");
     showProblem(message);
   },
 };
@@ -102,7 +103,7 @@ function stop() {
   run = undefined;
   drawNoMore();
   setRunning(false);
-  tellStatus("Stopped.");
+  endWith("Stopped.");
   part("start").focus();
 }
 
@@ -113,7 +114,7 @@ function setRunning(isRunning) {
   document.body.classList.toggle("busy", isRunning);
 }
 
-let status = { text: "", timer: undefined };
+const status = { text: "", timer: undefined };
 
 /** Changes at most twice a second, so that it can be read and read out. */
 function tellStatus(text) {
@@ -125,6 +126,13 @@ function tellStatus(text) {
     status.timer = undefined;
     if (part("status").textContent !== status.text) tellStatus(status.text);
   }, 500);
+}
+
+/** Tells the last word on a survey, at once. */
+function endWith(text) {
+  clearTimeout(status.timer);
+  status.timer = undefined;
+  part("status").textContent = text;
 }
 
 // ---- showing ----

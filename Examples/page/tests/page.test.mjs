@@ -106,6 +106,8 @@ describe("a hostile file:", () => {
   test("what a message names can be reached from it", async () => {
     assert.equal(await survey(page, "a,b\n1,5\n?,6\n3,4\n2,2\n", "marks.csv"), false);
     assert.match(await problem(page), /marks\.csv, line 3, column 1 \(a\)/);
+    assert.equal(await page.locator("#status").textContent(), "");
+    assert.deepEqual(await page.locator("#option-grouping option").allTextContents(), ["no column"]);
     assert.equal(await survey(page, "a,b\n1,5\nnan,6\n3,4\n2,2\n", "marks.csv"), false);
     await page.locator("#problem button").click();
     assert.equal(await page.evaluate(() => document.activeElement.id), "option-missing");
