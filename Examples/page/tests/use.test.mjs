@@ -58,7 +58,7 @@ for (const colorScheme of ["light", "dark"])
     });
   });
 
-test("by the keyboard alone", { timeout: 120_000 }, async () => {
+test("by the keyboard alone", { timeout: 400_000 }, async () => {
   const page = await browser.page();
   assert.ok(await ended(page));
   const focused = () => page.evaluate(() => document.activeElement.id || document.activeElement.textContent.trim());
