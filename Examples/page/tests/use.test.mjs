@@ -60,6 +60,7 @@ for (const colorScheme of ["light", "dark"])
 
 test("by the keyboard alone", { timeout: 400_000 }, async () => {
   const page = await browser.page();
+  page.on("filechooser", () => {}); // from now on the browser leaves choosing to the test
   assert.ok(await ended(page));
   const focused = () => page.evaluate(() => document.activeElement.id || document.activeElement.textContent.trim());
   /** Presses Tab until the focus is there. */
