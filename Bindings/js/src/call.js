@@ -37,7 +37,7 @@ export function callerOf(module, description) {
   const failures = parameters.map((parameter) => (type, text) => {
     throw new type(`${name}(), argument '${parameter.name}': ${text}`);
   });
-  const held = parameters.map((parameter, place) => place).filter((place) => parameters[place].addresses && parameters[place].isWritten);
+  const held = [...parameters.keys()].filter((place) => parameters[place].addresses && parameters[place].isWritten);
 
   function readNumbers(given, v) {
     for (let i = 0; i < count; ++i) if (VALUES.has(parameters[i].kind)) v[i] = numberOf(failures[i], parameters[i], given[i]);

@@ -8,9 +8,9 @@ const CELLS = { ints: WHOLE.integer, flags: WHOLE.flag };
 // An argument that is a number.
 export function numberOf(fail, parameter, given) {
   if (typeof given === "boolean" && parameter.kind !== "number") {
-    // true is -1 where -1 is among the options, as it is for the library's other callers
-    const isFlag = parameter.kind === "flag" || parameter.options?.[0] === -1;
-    return given ? (isFlag && (!parameter.options || parameter.options[0] === -1) ? -1 : 1) : 0;
+    // true is -1 where that is among the options, as it is for the library's other callers
+    const isMinus = parameter.options ? parameter.options[0] === -1 : parameter.kind === "flag";
+    return given ? (isMinus ? -1 : 1) : 0;
   }
   if (typeof given !== "number") fail(TypeError, `expected a number, got ${described(given)}`);
   if (parameter.kind === "number") return given;
