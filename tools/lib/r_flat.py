@@ -68,7 +68,7 @@ def cpp_source(calls):
     for call in calls.values():
         yield from Description(call).write()
     yield "const R_CallMethodDef entries[] = {"
-    for name, count in (("vecmat_cells", 1), ("vecmat_frame_cells", 2), ("vecmat_values", 1)):
+    for name, count in (("vecmat_cells", 1), ("vecmat_column", 3), ("vecmat_frame_cells", 2), ("vecmat_values", 1)):
         yield entry(name, name, count)
     for call in calls.values():
         yield entry(call.name, f"r_{call.name}", len(call.arguments))

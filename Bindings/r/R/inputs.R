@@ -176,7 +176,8 @@ by_column <- function(x, one) {
     return(values(named(vapply(seq_along(x), function(j) one(vector_of(x[[j]], names(x)[j])), 0), names(x))))
   if (length(dim(x)) == 2L) {
     x <- numbers(x, "x")
-    return(values(named(vapply(seq_len(ncol(x)), function(j) one(.Call(C_vecmat_cells, x[, j])), 0), colnames(x))))
+    buffer <- double(nrow(x))
+    return(values(named(vapply(seq_len(ncol(x)), function(j) one(.Call(C_vecmat_column, x, j, buffer)), 0), colnames(x))))
   }
   values(one(vector_of(x)))
 }

@@ -73,6 +73,21 @@ SEXP vecmat_cells(SEXP x)
     return cells;
 }
 
+// column(x, j, buffer): the cells of column j, from 1, of a matrix, in the buffer, which belongs to the package alone. For one column
+// after the other there is no more memory than for one.
+SEXP vecmat_column(SEXP x, SEXP j, SEXP buffer)
+{
+    const R_xlen_t count = XLENGTH(buffer);
+    const R_xlen_t first = (Rf_asInteger(j) - 1) * count;
+    if (first < 0 || first + count > XLENGTH(x))
+        Rf_error("there is no such column");
+    if (TYPEOF(x) == REALSXP)
+        replaceNaN(REAL(x) + first, count, REAL(buffer));
+    else
+        replaceNA((TYPEOF(x) == INTSXP ? INTEGER(x) : LOGICAL(x)) + first, count, REAL(buffer));
+    return buffer;
+}
+
 // frame_cells(columns, rows): one table of the columns of a list, each of numbers and of that many rows.
 SEXP vecmat_frame_cells(SEXP columns, SEXP rows)
 {

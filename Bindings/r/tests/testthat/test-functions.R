@@ -12,6 +12,14 @@ test_that("missing values go both ways", {
   expect_equal(vm_max(c(1, Inf, NA)), Inf)
 })
 
+test_that("the columns of a matrix have the bits of the vectors, of each type", {
+  of_vectors <- function(x) vapply(seq_len(ncol(x)), function(j) vm_var(x[, j], weights = counts), 0)
+  whole <- matrix(as.integer(gappy), 60)
+  expect_true(same_bits(vm_var(gappy, weights = counts), of_vectors(gappy)))
+  expect_true(same_bits(vm_var(whole, weights = counts), of_vectors(whole)))
+  expect_true(same_bits(vm_var(whole > 20L, weights = counts), of_vectors(whole > 20L)))
+})
+
 test_that("names stay, and forms", {
   frame <- vm_penguins[3:6]
   expect_named(vm_mean(frame), names(frame))
