@@ -297,6 +297,19 @@ TEST_P(SortQRandom, columnsInTurn)
     checkColumnsInTurn(n, random.integers(rows * dataCols, -2, 2));
 }
 
+/// Around the number of rows from which the orders come from counting passes, and far beyond.
+TEST(SortMatrixSeqQ, manyRows)
+{
+    for (const int n : {299, 300, 301, 6000}) {
+        RandomData random(static_cast<std::uint64_t>(n));
+        SCOPED_TRACE(random);
+        const std::size_t count = static_cast<std::size_t>(n) * dataCols;
+        checkColumnsInTurn(n, random.wholes(count, -3, 3));
+        checkColumnsInTurn(n, random.wholes(count, -100000, 100000));
+        checkColumnsInTurn(n, random.integers(count, -2, 2));
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Sizes, SortQRandom, testing::Values(2, 7, 15, 40, 300));
 
 } // namespace

@@ -3,14 +3,18 @@
 #include "../access/adaptors.h"
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../base/detail/scratch.h"
 #include "detail/column_moves.h"
 #include "detail/digit_passes.h"
+#include "detail/key_order.h"
 #include "detail/sort_by_key.h"
 #include "detail/stable_order.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 namespace {
 
@@ -80,14 +84,62 @@ int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short desc
     return 0;
 }
 
+/// The order of the rows of plain columns after a stable sort by each of the columns colAt(0) to colAt(count - 1) in
+/// turn, none of which is sorted yet. Nothing if a sort has to be done row by row. `key` and `spare` have room for a
+/// column.
+template <class Number, class Plain, class ColAt>
+RowOrder orderByColumnsInTurn(Plain columns, std::size_t rows, long long count, ColAt colAt, Number* key, void* spare)
+{
+    RowOrder order = stableOrder(columns.column(colAt(0)), rows, Direction::ascending, spare);
+    for (long long k = 1; k < count && order; ++k) {
+        const Number* const column = columns.column(colAt(k));
+        for (std::size_t i = 0; i < rows; ++i)
+            key[i] = column[order[i]];
+        RowOrder next = stableOrder(key, rows, Direction::ascending, spare);
+        if (next)
+            for (std::size_t i = 0; i < rows; ++i)
+                next.words()[i] = order[next[i]];
+        order = std::move(next);
+    }
+    return order;
+}
+
+/// Sorts numbers by several of the columns that move: these are rearranged once, by the order that the sorts lead to.
+/// Returns false, having done nothing, if that has to be done column by column or row by row.
+template <class Table, class ColAt>
+bool sortedByColumnsTogether(Table* table, int nRows, int nCols, long long count, ColAt colAt)
+{
+    const auto rows = cells(table);
+    if (count < 2 || nRows < 2 || !rows.covers(nRows, nCols) || rows.plain().folds(nRows, nCols))
+        return false;
+    for (long long k = 0; k < count; ++k)
+        if (colAt(k) < 0 || colAt(k) >= nCols)
+            return false;
+    using Number = typename CellOf<Table>::Value;
+    Scratch column(countOf(nRows));
+    const Scratch spare(countOf(nRows));
+    if (!column || !spare)
+        return false;
+    auto* const key = reinterpret_cast<Number*>(column.data());
+    RowOrder order = orderByColumnsInTurn(rows.plain(), countOf(nRows), count, colAt, key, spare.data());
+    const ColumnMoves moves({1, nRows}, std::move(order), std::move(column));
+    if (!moves.hasMemory())
+        return false;
+    moves.rearrange(Following{rows.plain(), nCols});
+    return true;
+}
+
 /// Each sort is stable, so the whole is lexicographic: the column sorted last is the major key.
 template <class Table>
 int sortByColumnsInTurn(Table* table, int nRows, int nCols, RowRange cols, short lastToFirst)
 {
     const bool backwards = lastToFirst == -1;
     const long long count = cols.count();
+    const auto colAt = [&](long long k) { return cols.at(backwards ? count - 1 - k : k); };
+    if (sortedByColumnsTogether(table, nRows, nCols, count, [&](long long k) { return zeroBased(colAt(k)); }))
+        return 0;
     for (long long k = 0; k < count; ++k)
-        sortByOwnColumn(table, nCols, cols.at(backwards ? count - 1 - k : k), {1, nRows}, 0);
+        sortByOwnColumn(table, nCols, colAt(k), {1, nRows}, 0);
     return 0;
 }
 
