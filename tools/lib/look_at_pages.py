@@ -97,7 +97,7 @@ def found_first(name, told=""):
             yield f"the search finds {first!r} first instead of {name}"
         elif told not in first:
             yield f"the search does not tell what {name} computes"
-        names = [item.split("\n")[0] for item in seen["results"]]
+        names = [item.split("\n")[0] for item in seen["results"] if re.match(r"\w+_\w+\n", item)]
         if len(set(names)) < len(names):
             yield f"the search finds a page twice: {names}"
     return test
