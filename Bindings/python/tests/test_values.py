@@ -89,6 +89,10 @@ def test_tables_without_gaps(x):
     near(vm.cov(x), np.cov(x.T), 1e12)
     near(vm.standardize(x, ddof=0).scores, sklearn.preprocessing.StandardScaler().fit_transform(x), 1.0)
     near(vm.cross_cov(x, x[:, :1]), np.cov(x.T)[:, :1], 1e12)
+    weights = np.arange(1.0, len(x) + 1.0)
+    for function in (vm.corr, lambda x, weights: vm.corr(x, weights=weights, missing="columns"),
+                     lambda x, weights: vm.cross_corr(x, x[:, :1], weights=weights)):
+        near(function(x, weights=weights / weights.sum() / 2.0), function(x, weights=weights))
     near(vm.cross_corr(x * 1e-9, x[:, :1]), vm.cross_corr(x, x[:, :1]))
     near(vm.matmul(x, x.T), x @ x.T, 1e12)
     near(vm.distances(x), scipy.spatial.distance.cdist(x, x), 1e6)

@@ -44,6 +44,11 @@ def _matrix(x: ArrayLike, weights: Optional[ArrayLike], exclude: Optional[ArrayL
     return labelled(values(out), labels.columns, labels.columns)
 
 
+def _divisor_of_correlations(weights: Optional[ArrayLike]) -> tuple[int, int]:
+    """W with weights: they may sum to 1 or less, where W - 1 would turn all signs, or leave 0/0."""
+    return divisor_codes(1 if weights is None else 0, None)
+
+
 @documented("VB_M_CovCorr")
 def cov(x: ArrayLike, *, weights: Optional[ArrayLike] = None, exclude: Optional[ArrayLike] = None,
         ddof: Optional[int] = None, divisor: Optional[str] = None, missing: str = "pairwise") -> Any:
@@ -115,7 +120,8 @@ def corr(x: ArrayLike, *, weights: Optional[ArrayLike] = None, exclude: Optional
         if (X == MISSING).any():
             w, mask = weights_of(weights, X.shape[0]), mask_of(exclude, X.shape[0])
             return labelled(_by_pairs(X, w, mask), labels.columns, labels.columns)
-    return _matrix(x, weights, exclude, "pairwise" if missing == "columns" else missing, -1, (-1, -1))
+    return _matrix(x, weights, exclude, "pairwise" if missing == "columns" else missing, -1,
+                   _divisor_of_correlations(weights))
 
 
 def _by_pairs(X: Floats, w: Floats, mask: Any) -> Floats:
@@ -236,7 +242,7 @@ def cross_corr(x: ArrayLike, y: ArrayLike, *, weights: Optional[ArrayLike] = Non
     """
     X, labels = table(x)
     Y, of_y = table(y, "y", rows=X.shape[0])
-    result = _cross(_of_unit_size(X), _of_unit_size(Y), weights, exclude, -1, (-1, -1))
+    result = _cross(_of_unit_size(X), _of_unit_size(Y), weights, exclude, -1, _divisor_of_correlations(weights))
     return labelled(result, labels.columns, of_y.columns)
 
 
