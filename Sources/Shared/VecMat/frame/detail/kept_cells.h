@@ -1,11 +1,11 @@
 // For a call that works in the caller's memory and can still fail afterwards: what it has changed is put back.
 #pragma once
 
+#include "../../base/detail/mathematics/bits.h"
 #include "../../base/detail/numbers.h"
 #include "../../matrix.h"
 
 #include <cstddef>
-#include <cstring>
 #include <vector>
 
 namespace vecmat {
@@ -22,7 +22,7 @@ public:
     {
         for (const Piece& piece : pieces_)
             for (std::size_t k = 0; k < piece.copy.size(); ++k)
-                if (std::memcmp(piece.cells + k, &piece.copy[k], sizeof(double)) != 0)
+                if (mathematics::bitsOf(piece.cells[k]) != mathematics::bitsOf(piece.copy[k]))
                     piece.cells[k] = piece.copy[k];
     }
 
