@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -171,9 +172,10 @@ Result Arguments::invoke()
     Result result;
     result.slot = call_.invoke(slots());
     if (call_.returns == Type::bstr) {
-        auto* const string = static_cast<wchar_t*>(std::exchange(result.slot.pointer, nullptr));
-        result.text = textOf(string);
-        SysFreeString2(string);
+        // held, as a test may let the copy fail
+        const std::unique_ptr<wchar_t, decltype(&SysFreeString2)> string(
+            static_cast<wchar_t*>(std::exchange(result.slot.pointer, nullptr)), SysFreeString2);
+        result.text = textOf(string.get());
     }
     return result;
 }
