@@ -163,7 +163,8 @@ describe("the page", () => {
     assert.equal(await page.evaluate(() => document.activeElement.id), "start");
     for (let tries = 0; page.workers().length > 0 && tries < 100; ++tries) await page.waitForTimeout(100);
     assert.equal(page.workers().length, 0);
-    await page.locator("#penguins").click();
+    await page.locator("#penguins").click(); // which fetches them first
+    await page.waitForFunction(() => document.querySelector(".file")?.textContent === "penguins.csv");
     assert.ok(await ended(page));
     assert.equal((await shown(page)).title, "penguins.csv");
   });
