@@ -3,11 +3,9 @@
 Written when the package is put together: see r_package.py. The descriptions are those of the Python package; how a call is made differs.
 """
 
-import re
 import sys
 
 from arguments import ROOT, read_calls
-from shapes import ONE
 
 sys.path.append(str(ROOT / "Bindings/python/generate"))
 from contract_words import contract_words
@@ -27,17 +25,10 @@ class Description(Writer):
     """The C++ of one function: its description, its call, and the entry that R has an address of."""
 
     def parameter(self, place, argument):
-        text = super().parameter(place, argument).replace(f'.name = "{argument.name}_"', f'.name = "{argument.name}"', 1)
-        if argument.shape.layout == "table" and argument.shape.cols != ONE:
-            text = re.sub(r'(\.shape = "[^"]*")', r"\1, .isTable = true", text)
-        return text
+        return super().parameter(place, argument).replace(f'.name = "{argument.name}_"', f'.name = "{argument.name}"', 1)
 
     def write(self):
-        lines = list(super().write())
-        # whether other threads may run while it works is of no concern here
-        last = next(k for k, line in enumerate(lines) if line.startswith("const Function function_"))
-        lines[last] = lines[last].replace(", true};", "};").replace(", false};", "};")
-        yield from lines[:last + 1]
+        yield from super().write()
         names = [f"a{place}" for place in range(len(self.call.arguments))]
         yield f"SEXP r_{self.call.name}({', '.join('SEXP ' + name for name in names)})"
         yield "{"
@@ -133,10 +124,10 @@ def contract_rows(calls, words):
                 yield "\t".join([call.name, *head, " ".join(text.split())])
 
 
-def whole_header():
-    """The package's archive holds no file of another folder, so the header for whole numbers goes in under its namespace."""
-    text = (ROOT / "Bindings/python/extension/whole.h").read_text(encoding="utf-8")
-    return text.replace("vecmat::python", "vecmat::r").split("\n")[:-1]
+def shared_headers():
+    """The package's archive holds no file of another folder."""
+    return {f"src/calls/{header.name}": header.read_text(encoding="utf-8").split("\n")[:-1]
+            for header in sorted((ROOT / "Bindings/calls").glob("*.h"))}
 
 
 def files():
@@ -145,7 +136,7 @@ def files():
     words = contract_words(ROOT, calls)
     texts = {
         "src/flat_functions.cpp": cpp_source(calls),
-        "src/whole.h": whole_header(),
+        **shared_headers(),
         "R/flat_functions.R": r_source(calls),
         "inst/flat.tsv": contract_rows(calls, words),
     }

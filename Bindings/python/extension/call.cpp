@@ -1,5 +1,6 @@
 #include "call.h"
 
+#include "calls/domains.h"
 #include "column_arrays.h"
 #include "string_arrays.h"
 
@@ -81,10 +82,8 @@ void Call::readNumber(int place)
         isFlag
             ? wholeNumber(*this, parameter, given, std::numeric_limits<short>::min(), std::numeric_limits<short>::max())
             : wholeNumber(*this, parameter, given, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    // True is -1 where -1 is among the options, as it is for the library's other callers.
-    const Domain& domain = parameter.domain;
-    if (given == Py_True && domain.kind == DomainKind::options && domain.options[0] == -1)
-        number = -1;
+    if (given == Py_True)
+        number = numberOfTrue(parameter.domain);
     if (isFlag)
         values_[place].flag = static_cast<short>(number);
     else
@@ -176,7 +175,7 @@ std::vector<Extent> Call::extents(int place) const
 
 void Call::invoke(Value& result)
 {
-    if (function_.keepsLock || cells_ < fewCells) {
+    if (function_.runsAlone || cells_ < fewCells) {
         function_.invoke(values_, result);
         return;
     }
@@ -220,7 +219,7 @@ PyObject* Call::run()
     for (int i = 0; i < function_.count; ++i)
         if (!function_.parameters[function_.order[i]].isValue())
             readArray(function_.order[i]);
-    if (function_.keepsLock)
+    if (function_.runsAlone)
         checkOverlaps();
     Value result{};
     invoke(result);

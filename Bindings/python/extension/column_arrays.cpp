@@ -1,18 +1,10 @@
 #include "column_arrays.h"
 
+#include "calls/column_descriptor.h"
+
 namespace vecmat::python {
 
 namespace {
-
-SAFEARRAY descriptor(void* data, std::size_t count, std::size_t bytes)
-{
-    SAFEARRAY array{};
-    array.cDims = 1;
-    array.cbElements = static_cast<std::uint32_t>(bytes);
-    array.pvData = data;
-    array.rgsabound[0].cElements = static_cast<std::uint32_t>(count);
-    return array;
-}
 
 // The columns as a list: of a table, views of its columns.
 Reference listed(const Call& call, const Parameter& parameter, PyObject* given)
@@ -54,16 +46,16 @@ ColumnArray::ColumnArray(Call& call, const Parameter& parameter, PyObject* given
         if (parameter.kind == Kind::stringColumns) {
             strings_.push_back(std::make_unique<StringArray>(call, parameter, column, cells, which));
             call.countCells(cells);
-            columns_[k] = descriptor(strings_.back()->pointers(), static_cast<std::size_t>(cells), sizeof(void*));
+            columns_[k] = columnDescriptor(strings_.back()->pointers(), static_cast<std::size_t>(cells), sizeof(void*));
             elements_[k].strings = &columns_[k];
         } else {
             void* data = call.arrayCells(parameter, column, Kind::doubles, cells, 1, which);
-            columns_[k] = descriptor(data, static_cast<std::size_t>(cells), sizeof(double));
+            columns_[k] = columnDescriptor(data, static_cast<std::size_t>(cells), sizeof(double));
             elements_[k].numbers = &columns_[k];
         }
     }
-    outer_ = descriptor(elements_.empty() ? noCells : static_cast<void*>(elements_.data()), elements_.size(),
-                        sizeof(SAFEARRAYColumn));
+    outer_ = columnDescriptor(elements_.empty() ? noCells : static_cast<void*>(elements_.data()), elements_.size(),
+                              sizeof(SAFEARRAYColumn));
     views_.push_back(std::move(list));
 }
 

@@ -1,60 +1,33 @@
-// Values that are checked because they would address memory, or because only a few have a meaning.
+// What is said of values that do not lie where they may.
 #include "call.h"
 
-#include <algorithm>
+#include "calls/domains.h"
 
 namespace vecmat::python {
-
-namespace {
-
-template <class Cell>
-void checkRange(const Call& call, const Parameter& parameter, const Cell* cells, std::int64_t count)
-{
-    const std::int64_t low = parameter.domain.low(call.values());
-    const std::int64_t high = parameter.domain.high(call.values());
-    for (std::int64_t i = 0; i < count; ++i) {
-        const auto cell = static_cast<double>(cells[i]);
-        if (!(cell >= static_cast<double>(low) && cell <= static_cast<double>(high))) {
-            char text[40];
-            PyOS_snprintf(text, sizeof text, "%.17g", cell);
-            call.fail(PyExc_ValueError, parameter, "cell %lld is %s, expected %s (%lld to %lld)",
-                      static_cast<long long>(i), text, parameter.domain.told, static_cast<long long>(low),
-                      static_cast<long long>(high));
-        }
-    }
-}
-
-} // namespace
 
 void checkNumber(const Call& call, const Parameter& parameter, std::int64_t value)
 {
     const Domain& domain = parameter.domain;
-    if (domain.kind == DomainKind::options &&
-        std::find(domain.options, domain.options + domain.optionCount, value) == domain.options + domain.optionCount)
+    if (!isOption(domain, value))
         call.fail(PyExc_ValueError, parameter, "got %lld, expected %s", static_cast<long long>(value), domain.told);
     if (domain.kind != DomainKind::range)
         return;
-    const std::int64_t low = domain.low(call.values());
-    const std::int64_t high = domain.high(call.values());
-    if (value < low || value > high)
+    const Bounds bounds(domain, call.values());
+    if (!bounds.hold(static_cast<double>(value)))
         call.fail(PyExc_ValueError, parameter, "got %lld, expected %s (%lld to %lld)", static_cast<long long>(value),
-                  domain.told, static_cast<long long>(low), static_cast<long long>(high));
+                  domain.told, static_cast<long long>(bounds.low), static_cast<long long>(bounds.high));
 }
 
 void checkCells(const Call& call, const Parameter& parameter, const void* cells, std::int64_t count)
 {
-    if (parameter.domain.kind != DomainKind::range)
+    const Bounds bounds(parameter.domain, call.values());
+    const std::int64_t place = firstOutside(bounds, parameter.kind, cells, count);
+    if (place == count)
         return;
-    switch (parameter.kind) {
-    case Kind::doubles:
-        return checkRange(call, parameter, static_cast<const double*>(cells), count);
-    case Kind::ints:
-        return checkRange(call, parameter, static_cast<const int*>(cells), count);
-    case Kind::flags:
-        return checkRange(call, parameter, static_cast<const short*>(cells), count);
-    default:
-        return;
-    }
+    char text[40];
+    PyOS_snprintf(text, sizeof text, "%.17g", cellAt(parameter.kind, cells, place));
+    call.fail(PyExc_ValueError, parameter, "cell %lld is %s, expected %s (%lld to %lld)", static_cast<long long>(place),
+              text, parameter.domain.told, static_cast<long long>(bounds.low), static_cast<long long>(bounds.high));
 }
 
 } // namespace vecmat::python

@@ -19,6 +19,7 @@ from argument_checks import (is_address, is_at_least, kind_of, options_of, range
                              reading_order)
 from arguments import read_calls, read_table  # noqa: E402
 from contract_words import contract_words  # noqa: E402
+from shapes import ONE  # noqa: E402
 
 FIELDS = {"number": "number", "integer": "integer", "flag": "flag", "doubles": "doubles", "ints": "ints", "flags": "flags",
           "strings": "strings", "columns": "columns", "stringColumns": "columns", "text": "text", "bstr": "bstr"}
@@ -82,6 +83,8 @@ class Writer:
         if argument.shape.rows:
             fields += [f".rows = {self.function_of(argument.shape.rows)}",
                        f".cols = {self.function_of(argument.shape.cols)}", f".shape = \"{text_of(self.call, argument, 'shape')}\""]
+        if argument.shape.layout == "table" and argument.shape.cols != ONE:
+            fields.append(".isTable = true")
         if argument.null is True:
             fields.append(".mayBeNull = [](const Value*) -> std::int64_t { return 1; }")
         elif argument.null:
@@ -97,7 +100,7 @@ class Writer:
             fields.append(f".domain = {domain}")
         return "    {" + ", ".join(fields) + "},"
 
-    def keeps_lock(self):
+    def runs_alone(self):
         draws = any(argument.domain.kind == "seed" for argument in self.call.arguments)
         written_addresses = any(is_address(self.call, argument) and argument.is_written() for argument in self.call.arguments)
         return draws or written_addresses
@@ -124,7 +127,7 @@ class Writer:
         yield f"    {into}::{name}({given});"
         yield "}"
         yield (f"const Function function_{name} = {{\"{name}\", {tables}, invoke_{name}, "
-               f"Result::{RESULTS[self.call.returns]}, {'true' if self.keeps_lock() else 'false'}}};")
+               f"Result::{RESULTS[self.call.returns]}, {'true' if self.runs_alone() else 'false'}}};")
         yield ""
 
 

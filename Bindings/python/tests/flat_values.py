@@ -1,4 +1,4 @@
-"""Arguments for flat functions, from the project's tables: made from the lines of dump_calls, or drawn."""
+"""Arguments for flat functions, from the project's tables: made from the recorded calls, or drawn."""
 
 import numpy as np
 from arguments import read_calls

@@ -1,5 +1,6 @@
 #include "call.h"
 
+#include "calls/domains.h"
 #include "column_arrays.h"
 #include "string_arrays.h"
 
@@ -139,10 +140,8 @@ void Call::readNumber(int place)
         isFlag
             ? wholeNumber(*this, parameter, given, std::numeric_limits<short>::min(), std::numeric_limits<short>::max())
             : wholeNumber(*this, parameter, given, std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    // TRUE is -1 where -1 is among the options, as it is for the library's other callers.
-    const Domain& domain = parameter.domain;
-    if (TYPEOF(given) == LGLSXP && number == 1 && domain.kind == DomainKind::options && domain.options[0] == -1)
-        number = -1;
+    if (TYPEOF(given) == LGLSXP && number == 1)
+        number = numberOfTrue(parameter.domain);
     if (isFlag)
         values_[place].flag = static_cast<short>(number);
     else

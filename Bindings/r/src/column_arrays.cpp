@@ -1,20 +1,12 @@
 #include "column_arrays.h"
 
+#include "calls/column_descriptor.h"
+
 #include <algorithm>
 
 namespace vecmat::r {
 
 namespace {
-
-SAFEARRAY descriptor(void* data, std::size_t count, std::size_t bytes)
-{
-    SAFEARRAY array{};
-    array.cDims = 1;
-    array.cbElements = static_cast<std::uint32_t>(bytes);
-    array.pvData = data;
-    array.rgsabound[0].cElements = static_cast<std::uint32_t>(count);
-    return array;
-}
 
 // The list that is handed back: of the caller's form, its columns replaced one by one.
 SEXP writable(Call& call, const Wanted& wanted, SEXP given)
@@ -52,8 +44,8 @@ ColumnArray::ColumnArray(Call& call, const Wanted& wanted, SEXP given)
             call.fail(parameter, "%sNULL may not stand here", column.which.c_str());
         takeIn(call, column, own, k);
     }
-    outer_ = descriptor(elements_.empty() ? noCells : static_cast<void*>(elements_.data()), elements_.size(),
-                        sizeof(SAFEARRAYColumn));
+    outer_ = columnDescriptor(elements_.empty() ? noCells : static_cast<void*>(elements_.data()), elements_.size(),
+                              sizeof(SAFEARRAYColumn));
 }
 
 void ColumnArray::takeIn(Call& call, const Wanted& column, SEXP given, std::size_t k)
@@ -61,12 +53,13 @@ void ColumnArray::takeIn(Call& call, const Wanted& column, SEXP given, std::size
     SEXP written = R_NilValue;
     if (column.parameter.kind == Kind::stringColumns) {
         strings_.push_back(std::make_unique<StringArray>(call, column, given));
-        columns_[k] = descriptor(strings_.back()->pointers(), static_cast<std::size_t>(column.rows), sizeof(void*));
+        columns_[k] =
+            columnDescriptor(strings_.back()->pointers(), static_cast<std::size_t>(column.rows), sizeof(void*));
         elements_[k].strings = &columns_[k];
         written = strings_.back()->object();
     } else {
         const Cells cells = call.arrayCells(column, given, Kind::doubles);
-        columns_[k] = descriptor(cells.data, static_cast<std::size_t>(column.rows), sizeof(double));
+        columns_[k] = columnDescriptor(cells.data, static_cast<std::size_t>(column.rows), sizeof(double));
         elements_[k].numbers = &columns_[k];
         written = cells.object;
     }

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace vecmat::python {
+namespace vecmat::binding {
 
 class Whole
 {
@@ -89,4 +89,4 @@ inline Whole clampedSum(const double* cells, Whole n, Whole most)
     return total;
 }
 
-} // namespace vecmat::python
+} // namespace vecmat::binding
