@@ -4,12 +4,14 @@ import subprocess
 import tempfile
 from pathlib import Path
 
-HEADERS = ("Sources/Shared/VecMat",)
+HEADERS = ("Sources/Shared/VecMat", "Sources/Shared/Companions")
 BETWEEN = "\x1e"
 PRELUDE = """\
+#include "CompanionRuntime/CompanionRuntime.h"
 #include "VecMat.h"
 
 #include <cstdio>
+#include <vector>
 
 namespace {
 

@@ -19,6 +19,7 @@ from reference_cpp_examples import run_all
 
 HEADING = re.compile(r"^## (.+)$", re.M)
 FILES = ("chosen.txt", "flat.txt")
+HELPER = re.compile(r"(?<![\w:])print\(")
 
 
 def read_examples(path):
@@ -49,8 +50,7 @@ class Examples:
                         "```pycon", self.python[name], "```"]
         if function.name in self.cpp:
             code = self.cpp[function.name]
-            helper = ", with `print` writing the first rows and columns of a table" if "print(" in code.replace(
-                "std::print", "") else ""
+            helper = ", with `print` writing the first rows and columns of a table" if HELPER.search(code) else ""
             shows = "In C++" if function.name.split("::")[-1] in code else "Of its relatives, in C++"
             return [f"{shows}{helper}; the comments at the end are what it prints:", "", "```cpp", code, "```"]
         return []
@@ -145,6 +145,14 @@ def libraries():
     return Path(vecmat.__file__).parent
 
 
+def without_example(root):
+    """Exported names whose page would show none."""
+    from reference_model import read_functions
+
+    functions, examples = read_functions(root), Examples(root)
+    return [name for name, function in functions.items() if not examples.of(function, functions)]
+
+
 def made_up(root, chosen):
     """The examples of the flat functions that have no other, not yet run: by name."""
     from arguments import read_calls
@@ -186,8 +194,10 @@ def main():
         if is_writing and (held or start):
             (folder / file).write_text(start + "\n".join(texts), encoding="utf-8")
     if not is_writing:
-        print("\n\n".join([*wrong[:10], f"{count} examples run, {len(wrong)} print something else"]))
-        return 1 if wrong or not count else 0
+        bare = without_example(root)
+        print("\n\n".join([*wrong[:10], f"{count} examples run, {len(wrong)} print something else; "
+                           f"functions without an example: {' '.join(bare) or 'none'}"]))
+        return 1 if wrong or bare or not count else 0
     errors = [name for name, body in read_examples(folder / "flat.txt").items() if re.search(r"^\w*Error: ", body, re.M)]
     print(f"{count} examples written; with an error: {' '.join(errors) or 'none'}")
     return 0
