@@ -4,6 +4,7 @@ import re
 
 from arguments import ROOT, read_table
 from reference_model import escaped
+from shapes import split_at_commas
 
 TYPES = {
     "double": "number", "int": "whole number", "short": "flag (16 bits)", "bool": "`bool`",
@@ -40,19 +41,8 @@ def shape_in_words(shape):
     if " x " in shape:
         cols, rows = shape.removesuffix(" strings").split(" x ")
         return f"`{cols}` columns of `{rows}` cells"
-    parts = _top_level(shape)
+    parts = split_at_commas(shape)
     return f"`{parts[0]}` by `{parts[1]}`" if len(parts) == 2 else f"`{shape}` cells"
-
-
-def _top_level(text):
-    parts, depth = [""], 0
-    for character in text:
-        depth += (character == "(") - (character == ")")
-        if character == "," and depth == 0:
-            parts.append("")
-        else:
-            parts[-1] += character
-    return [part.strip() for part in parts]
 
 
 def domain_in_words(domain):

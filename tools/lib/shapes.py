@@ -242,13 +242,13 @@ def read_shape(text):
         return Shape(layout, "strings" in kinds, read_expression(rows), read_expression(cols))
     if kinds:
         raise ShapeError(f"{kinds[0]} without columns: {text}")
-    parts = _split_at_comma(text)
+    parts = split_at_commas(text)
     if len(parts) > 2:
         raise ShapeError(f"more than rows and columns: {text}")
     return Shape("table", False, read_expression(parts[0]), read_expression(parts[1]) if len(parts) == 2 else ONE)
 
 
-def _split_at_comma(text):
+def split_at_commas(text):
     parts, depth = [""], 0
     for character in text:
         depth += (character == "(") - (character == ")")
@@ -256,4 +256,4 @@ def _split_at_comma(text):
             parts.append("")
         else:
             parts[-1] += character
-    return parts
+    return [part.strip() for part in parts]

@@ -96,17 +96,18 @@ SEXP scalar(const Function& function, const Value& result)
 Call::Call(const Function& function, const SEXP* given) : function_(function), given_(given)
 {
     std::fill(std::begin(written_), std::end(written_), R_NilValue);
+    PROTECT_WITH_INDEX(kept_, &keptPlace_);
 }
 
 Call::~Call()
 {
-    UNPROTECT(kept_);
+    UNPROTECT(1);
 }
 
+// In a list, as R's stack of protected objects has room for 50,000: a call may have more columns.
 SEXP Call::keep(SEXP object)
 {
-    PROTECT(object);
-    ++kept_;
+    REPROTECT(kept_ = guarded([&] { return Rf_cons(object, kept_); }), keptPlace_);
     return object;
 }
 

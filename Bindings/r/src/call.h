@@ -86,7 +86,8 @@ private:
     std::vector<std::unique_ptr<ColumnArray>> columns_;
     std::vector<std::vector<char>> singleStrings_;
     std::vector<std::pair<const short*, SEXP>> flags_;
-    int kept_ = 0;
+    SEXP kept_ = R_NilValue; // a list
+    PROTECT_INDEX keptPlace_ = 0;
 };
 
 // domains.cpp

@@ -335,9 +335,9 @@ function pairs(records) {
   return records.map(([x, y]) => ({ x: Number(x), y: Number(y) }));
 }
 
-function residuals(records) {
-  const points = pairs(records.residuals);
-  const svg = plot({
+/** Points, and the dashed line that they should lie along or around. */
+function residualPlot(points, lineMark, xLabel, yLabel, xTicks) {
+  return plot({
     style,
     width: 460,
     height: 320,
@@ -347,33 +347,24 @@ function residuals(records) {
     y: { inset: 6 },
     marks: [
       gridY({ stroke: faint, strokeOpacity: 1 }),
-      axisX({ label: "fitted value", labelAnchor: "center", labelArrow: "none", color: ink, tickFormat: plainTick, ticks: 6 }),
-      axisY({ label: "residual", labelArrow: "none", color: ink, tickFormat: plainTick }),
-      ruleY([0], { stroke: muted, strokeDasharray: "6 4", strokeWidth: 1.5 }),
+      axisX({ label: xLabel, labelAnchor: "center", labelArrow: "none", color: ink, tickFormat: plainTick, ticks: xTicks }),
+      axisY({ label: yLabel, labelArrow: "none", color: ink, tickFormat: plainTick }),
+      lineMark,
       dot(points, { x: "x", y: "y", r: points.length < 1000 ? 2.6 : 1.7, fill: groupColours[0], fillOpacity: 0.75 }),
     ],
   });
+}
+
+const dashed = { stroke: muted, strokeDasharray: "6 4", strokeWidth: 1.5 };
+
+function residuals(records) {
+  const svg = residualPlot(pairs(records.residuals), ruleY([0], dashed), "fitted value", "residual", 6);
   return { svg, caption: "Residuals over fitted values. A fit that holds leaves them without a shape around the dashed line." };
 }
 
 function residualQuantiles(records) {
   const points = pairs(records.residual_quantiles);
-  const ends = [points[0].x, points.at(-1).x];
-  const svg = plot({
-    style,
-    width: 460,
-    height: 320,
-    marginLeft: 64,
-    marginBottom: 44,
-    x: { inset: 6 },
-    y: { inset: 6 },
-    marks: [
-      gridY({ stroke: faint, strokeOpacity: 1 }),
-      axisX({ label: "quantile of the normal distribution", labelAnchor: "center", labelArrow: "none", color: ink, tickFormat: plainTick }),
-      axisY({ label: "residual in standard deviations", labelArrow: "none", color: ink, tickFormat: plainTick }),
-      line(ends, { x: (each) => each, y: (each) => each, stroke: muted, strokeDasharray: "6 4", strokeWidth: 1.5 }),
-      dot(points, { x: "x", y: "y", r: points.length < 1000 ? 2.6 : 1.7, fill: groupColours[0], fillOpacity: 0.75 }),
-    ],
-  });
+  const diagonal = line([points[0].x, points.at(-1).x], { x: (each) => each, y: (each) => each, ...dashed });
+  const svg = residualPlot(points, diagonal, "quantile of the normal distribution", "residual in standard deviations");
   return { svg, caption: "Normal quantile plot of the residuals. Normal ones lie along the dashed line; long tails leave it at the ends." };
 }

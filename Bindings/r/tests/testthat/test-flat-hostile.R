@@ -27,3 +27,9 @@ test_that("memory that is not there is an error", {
                   stdout = TRUE)
   expect_match(paste(told, collapse = " "), "VB_V_QuantileM\\(\\): there is not enough memory")
 })
+
+test_that("more columns than R's stack of protected objects has room for", {
+  columns <- rep(list(c(1L, NA)), 60000L)
+  done <- flat$VB_M_ReplaceMissingByValSPV(columns, 2, 60000, 7)
+  expect_identical(unique(done$a), list(c(1, 7)))
+})
