@@ -1,17 +1,20 @@
 #!/usr/bin/env python3
-"""guide.py [--check] [--libraries FOLDER] PAGE...: runs what the pages of the guide show, and renews what it prints.
+"""guide.py [--check] [--libraries FOLDER] [--javascript FOLDER] PAGE...: runs what the pages of the guide show, and renews
+what it prints.
 
     ```python    a session, `>>> ` before each statement; a warning is shown as a line of its own
     ```r         statements, `#> ` before each line that they print
+    ```js        statements of one module, `//> ` before each line that they print
+    ```html      a whole document; the next ```text block is what a browser shows of it
     ```c ```cpp  a whole program; the next ```text block is what it prints. A block that starts with a comment in which a
                  name of a header comes first is that header, for the programs below
 
 The blocks of a page share one session for each language. A comment `<!-- check python` ... `-->`, also of r, is run like
 a block and shows nothing. Other blocks are left as they are.
 
-Writes what differs into the pages; with --check shows it as a difference and exits with 1. FOLDER holds the library and
-its companions. Programs run in the repository's root. Needs the packages that the pages use. A name of a function that
-does not exist is wrong, too.
+Writes what differs into the pages; with --check shows it as a difference and exits with 1. The first FOLDER holds the
+library and its companions, the second the package for JavaScript, as npm installs it. Programs run in the repository's
+root. Needs the packages that the pages use. A name of a function that does not exist is wrong, too.
 """
 
 import argparse
@@ -29,6 +32,8 @@ import traceback
 import warnings
 from dataclasses import dataclass
 from pathlib import Path
+
+from guide_javascript import in_javascript_package, run_documents, run_javascript
 
 ROOT = Path(__file__).resolve().parents[2]
 BLOCK = re.compile(r"^(?:```(?P<shown>\w+)|<!-- check (?P<hidden>\w+))\n(?P<body>.*?)^(?:```|-->)$", re.MULTILINE | re.DOTALL)
@@ -157,18 +162,23 @@ def in_r_package():
 
 
 def unknown_names(text, functions, package):
-    """The names of functions in a page that the library, the Python package or that for R doesn't have."""
+    """The names of functions in a page that the library, the Python package or that for R or JavaScript doesn't have."""
+    others = in_javascript_package() if "```js" in text else set()
     found = {name for name in FLAT_NAME.findall(text) + R_NAME.findall(text) if name not in functions and not name.endswith("_")}
-    return sorted(found | {f"vm.{name}" for name in PACKAGE_NAME.findall(text) if not hasattr(package, name)})
+    return sorted(found | {f"vm.{name}" for name in PACKAGE_NAME.findall(text) if not hasattr(package, name) and name not in others})
 
 
 # ---- pages ----
 
-def renewed(text, libraries):
+def renewed(text, libraries, javascript):
     """The page with what its blocks print now, and how many were run."""
     blocks = blocks_of(text)
-    sessions = {language: [block for block in blocks if block.language == language] for language in ("python", "r")}
+    sessions = {language: [block for block in blocks if block.language == language] for language in ("python", "r", "js")}
     found = [*zip(sessions["python"], run_python(sessions["python"])), *run_programs(blocks, libraries)]
+    try:
+        found += [*zip(sessions["js"], run_javascript(sessions["js"], javascript)), *run_documents(blocks, javascript)]
+    except (OSError, RuntimeError, subprocess.SubprocessError) as error:
+        raise PageError(error) from error
     if sessions["r"]:
         found += zip(sessions["r"], run_r(sessions["r"]))
     for block, body in sorted(found, key=lambda pair: -pair[0].start):
@@ -180,6 +190,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true")
     parser.add_argument("--libraries", type=Path, default=ROOT / "build/release/lib")
+    parser.add_argument("--javascript", type=Path, default=ROOT / "build/guide/javascript")
     parser.add_argument("pages", type=Path, nargs="+")
     arguments = parser.parse_args()
 
@@ -193,7 +204,7 @@ def main():
             print(f"{page}: there is no {', '.join(unknown)}")
             wrong += 1
         try:
-            new, count = renewed(text, arguments.libraries.resolve())
+            new, count = renewed(text, arguments.libraries.resolve(), arguments.javascript.resolve())
         except PageError as error:
             print(f"{page}, {error}")
             wrong += 1

@@ -65,7 +65,7 @@ def wrong_colours(seen, dark):
 
 
 def wrong_start(seen):
-    for word in ("macros", "C++", "Python", "R"):
+    for word in ("macros", "C++", "Python", "R", "JavaScript"):
         if not re.search(rf"(?<!\w){re.escape(word)}(?!\w)", seen["text"]):
             yield f"the start page does not lead to {word}"
 

@@ -9,7 +9,8 @@ from contracts import HEADERS, PRIVATE
 
 # The order of the pages of a folder; others follow in the order of their names.
 GROUPS = (
-    ("Start", ("readme", *(f"guide/tutorials/{name}" for name in ("macro", "c", "cpp", "python", "r")), "guide/tutorials/*")),
+    ("Start", ("readme", *(f"guide/tutorials/{name}" for name in ("macro", "c", "cpp", "python", "r", "javascript")),
+               "guide/tutorials/*")),
     ("Concepts", (*(f"guide/concepts/{name}" for name in ("missing", "masks", "weights", "divisors", "bits", "seeds",
                                                           "columns")), "guide/concepts/*")),
     ("For those who know", ("guide/known/*",)),
@@ -24,6 +25,7 @@ START = "guide/start.md"  # becomes the first page
 # Pages from elsewhere in the tree.
 OTHERS = {"README.md": "readme.md", "Bindings/python/README.md": "python.md", "Bindings/r/README.md": "r.md",
           "Bindings/js/README.md": "js.md", "Examples/cluster/README.md": "cluster.md"}
+COMMAND = "tools/docs"  # a link to it is one to what it writes
 
 
 class Sources:
@@ -37,6 +39,7 @@ class Sources:
         if docs / START in self.pages:
             self.pages[docs / START] = "index.md"
         self.pages.update({root / name: page for name, page in OTHERS.items() if (root / name).exists()})
+        self.linked = {**self.pages, root / COMMAND: "reference.md"}
 
     def copy(self):
         for path, page in self.pages.items():
@@ -71,8 +74,8 @@ class Sources:
         found = Path(os.path.normpath(path.parent / name))
         here = PurePosixPath(page).parent.as_posix()
         anchor = f"#{anchor}" if anchor else ""
-        if found in self.pages:
-            return f"{image}[{text}]({os.path.relpath(self.pages[found], here)}{anchor})"
+        if found in self.linked:
+            return f"{image}[{text}]({os.path.relpath(self.linked[found], here)}{anchor})"
         readme = found / "README.md"
         if readme in self.pages:
             return f"{image}[{text}]({os.path.relpath(self.pages[readme], here)}{anchor})"
