@@ -1,5 +1,6 @@
 // The order of the search's results: a function whose name was typed, with or without its prefix, comes first. The names
-// of sections that every page of a function has come last.
+// of sections that every page of a function has come last. A script of its own, and not Sphinx's html_search_scorer, so
+// that Sphinx's scripts stay as Debian has them and the package links to them.
 var Scorer = {
   objNameMatch: 11,
   objPartialMatch: 6,
