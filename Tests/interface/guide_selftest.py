@@ -2,6 +2,7 @@
 """Does guide.py find what the pages of the guide get wrong, and leave alone what is right?"""
 
 import sys
+import tempfile
 import unittest
 from pathlib import Path
 
@@ -18,7 +19,8 @@ def fenced(language, *lines):
 
 
 def renewed(text):
-    return guide.renewed(text, NOWHERE)[0]
+    with tempfile.TemporaryDirectory() as folder:
+        return guide.renewed(text, NOWHERE, Path(folder))[0]
 
 
 class Python(unittest.TestCase):
@@ -63,6 +65,33 @@ class R(unittest.TestCase):
         self.assertIn("#> Warning: NaNs produced\n", renewed(fenced("r", "x <- sqrt(-1)")))
 
 
+class JavaScript(unittest.TestCase):
+    def setUp(self):
+        if not guide.shutil.which("node"):
+            self.skipTest("no Node")
+
+    def test_what_is_right_stays(self):
+        page = fenced("js", "// a comment", "const x = [1,", "  2];", "x.map((n) =>", "  n + 1);", "//> [ 2, 3 ]", "", "x[2];") + \
+            "Text.\n" + fenced("js", "await Promise.resolve(x.length);", "//> 2", "for (const n of x) {", "  console.log(n);", "}",
+                               "//> 1", "//> 2")
+        self.assertEqual(renewed(page), page)
+
+    def test_a_wrong_figure_is_replaced(self):
+        self.assertEqual(renewed(fenced("js", "1 + 1;", "//> 3")), fenced("js", "1 + 1;", "//> 2"))
+
+    def test_errors_are_shown_where_they_can_be_caught(self):
+        self.assertIn("//> TypeError: no\n", renewed(fenced("js", "(() => { throw new TypeError('no'); })();")))
+        with self.assertRaises(guide.PageError):
+            renewed(fenced("js", "const x = missing;"))
+
+    def test_a_document_shows_what_its_script_writes(self):
+        if not guide.shutil.which("chromium"):
+            self.skipTest("no Chromium")
+        page = "".join(fenced("html", "<title>Title</title>", "<p>1 &lt; <b id=here></b></p>", "<script type=module>",
+                              "document.getElementById('here').textContent = 2;", "</script>"))
+        self.assertEqual(renewed(page + fenced("text", "1 < 3")), page + fenced("text", "1 < 2"))
+
+
 class Programs(unittest.TestCase):
     def program(self, text, shown):
         return fenced("c", "#include <stdio.h>", f'int main(void) {{ puts("{text}"); return 0; }}') + fenced("text", shown)
@@ -91,11 +120,15 @@ class Pages(unittest.TestCase):
         page = fenced("vb", "Sub A()", "End Sub") + fenced("sh", "false") + fenced("c", "double f(void);")
         self.assertEqual(renewed(page), page)
 
-
     def test_names_that_do_not_exist(self):
         text = "`VB_V_Mean2`, `vm.upper` and `V_Mean2()`, but not `V_Men2` or `vm.uper`, nor `VB_` by itself"
         self.assertEqual(guide.unknown_names(text, {"VB_V_Mean2", "V_Mean2"}, type("P", (), {"upper": 1})),
                          ["V_Men2", "vm.uper"])
+
+    def test_names_of_the_package_for_javascript_count_where_it_is_used(self):
+        text, package = "`vm.countMissing` and `vm.countMising`", type("P", (), {})
+        self.assertEqual(guide.unknown_names(text + fenced("js"), set(), package), ["vm.countMising"])
+        self.assertEqual(guide.unknown_names(text, set(), package), ["vm.countMising", "vm.countMissing"])
 
 
 if __name__ == "__main__":

@@ -44,16 +44,16 @@ def shown_by(document, folder):
     """The text of a document that the browser gets from a server of the folder, when its scripts have run."""
     page = folder / "page.html"
     page.write_text(document, encoding="utf-8")
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Server, directory=folder))
-    threading.Thread(target=server.serve_forever, daemon=True).start()
     try:
-        with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as profile:
+        with http.server.ThreadingHTTPServer(("127.0.0.1", 0), functools.partial(Server, directory=folder)) as server, \
+                tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as profile:
+            threading.Thread(target=server.serve_forever, daemon=True).start()
             seen = subprocess.run(
                 ["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", f"--user-data-dir={profile}",
                  "--virtual-time-budget=20000", "--dump-dom", f"http://127.0.0.1:{server.server_port}/page.html"],
                 capture_output=True, text=True, timeout=240, check=True).stdout
+            server.shutdown()
     finally:
-        server.shutdown()
         page.unlink()
     lines = (line.strip() for line in html.unescape(re.sub(r"<[^>]*>", "", UNSEEN.sub("", seen))).splitlines())
     return "".join(line + "\n" for line in lines if line)
