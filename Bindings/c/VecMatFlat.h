@@ -3553,7 +3553,9 @@ void Cpp_GetCompMatrices(double* X, int n, int col, int* comp, short keepOrder, 
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 double GenerateRandom01(int* seed, short seedFlag, int* seedOut);
 
 /* Permute the first `n` elements of `v` in place.
@@ -3562,7 +3564,9 @@ double GenerateRandom01(int* seed, short seedFlag, int* seedOut);
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_V_Shuffle(double* v, int n, int* seed, short seedFlag, int* seedOut);
 
 /* Permute the first `n` elements of `v` in place.
@@ -3571,7 +3575,9 @@ void Cpp_V_Shuffle(double* v, int n, int* seed, short seedFlag, int* seedOut);
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_V_ShuffleLng(int* v, int n, int* seed, short seedFlag, int* seedOut);
 
 /* Permute the first `n` rows over the first `p` columns of `X` into `Z`, each row staying whole; `X` is not written.
@@ -3583,7 +3589,9 @@ void Cpp_V_ShuffleLng(int* v, int n, int* seed, short seedFlag, int* seedOut);
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_M_ShuffleDbl(double* X, int n, int p, double* Z, int* seed, short seedFlag, int* seedOut);
 
 /* The same in place. A `p` of 0 moves the first column of strings, but no numbers.
@@ -3592,7 +3600,9 @@ void Cpp_M_ShuffleDbl(double* X, int n, int p, double* Z, int* seed, short seedF
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_M_ShuffleDbl2(double* X, int n, int p, int* seed, short seedFlag, int* seedOut);
 
 /* Permute the first `n` rows over the first `p` columns of `X` into `Z`, each row staying whole; `X` is not written.
@@ -3605,7 +3615,9 @@ void Cpp_M_ShuffleDbl2(double* X, int n, int p, int* seed, short seedFlag, int* 
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_M_ShuffleStr(wchar_t** X, int n, int p, wchar_t** Z, int* seed, short seedFlag, int* seedOut);
 
 /* The same in place. A `p` of 0 moves the first column of strings, but no numbers.
@@ -3614,7 +3626,9 @@ void Cpp_M_ShuffleStr(wchar_t** X, int n, int p, wchar_t** Z, int* seed, short s
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_M_ShuffleStr2(wchar_t** X, int n, int p, int* seed, short seedFlag, int* seedOut);
 
 /* The numbers 1 to `n` in random order into the first `n` cells of `out`, which must exist: item i, which is number i,
@@ -3624,7 +3638,9 @@ void Cpp_M_ShuffleStr2(wchar_t** X, int n, int p, int* seed, short seedFlag, int
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_Random1toNLng(int n, int* out, int* seed, short seedFlag, int* seedOut);
 
 /* The numbers 1 to `n` in random order into the first `n` cells of `out`, which must exist: item i, which is number i,
@@ -3634,7 +3650,9 @@ void Cpp_Random1toNLng(int n, int* out, int* seed, short seedFlag, int* seedOut)
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void Cpp_Random1toNDbl(int n, double* out, int* seed, short seedFlag, int* seedOut);
 
 /* Marks a random subset: of the first `n` cells of `out`, which must exist, the `k` with the smallest of `n` draws
@@ -3645,7 +3663,9 @@ void Cpp_Random1toNDbl(int n, double* out, int* seed, short seedFlag, int* seedO
    - Random numbers: `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The
      generator may change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new
      seed there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass
-     it as the next `seed` */
+     it as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+     generator with one series for the process allows one such call at a time */
 void VB_GenerateRandomIndicator(double* out, int n, int k, int* seed, short seedFlag, int* seedOut);
 
 /* Prepares `out` as a column of `n` cells at 0.0, then sets cells `first` to `last`, 1-based and both included, to 1.0.
@@ -3685,7 +3705,8 @@ wchar_t* Increase1Col(const void* letters);
    order of the population, repeats next to each other, and `ids`, of `n` cells, receives the rows taken in that order.
    A `p` of 0 copies nothing; the sort then moves the first column of a plain `Z`, but no column of an array.
    - Missing cells: copied unchanged; so is the empty string
-   - Empty input: with `n` below 1 the series is opened and closed, and nothing else happens */
+   - Empty input: with `n` below 1 the series is opened and closed, and nothing else happens
+   - Random numbers: one series for the call, shared as permutations.h tells */
 void VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed, short seedFlag,
                                   int* seedOut);
 
@@ -3693,7 +3714,8 @@ void VB_M_SamplingWithReplacement(wchar_t** S, int N, int p, int n, wchar_t** Z,
    order of the population, repeats next to each other, and `ids`, of `n` cells, receives the rows taken in that order.
    A `p` of 0 copies nothing; the sort then moves the first column of a plain `Z`, but no column of an array.
    - Missing cells: copied unchanged; so is the empty string
-   - Empty input: with `n` below 1 the series is opened and closed, and nothing else happens */
+   - Empty input: with `n` below 1 the series is opened and closed, and nothing else happens
+   - Random numbers: one series for the call, shared as permutations.h tells */
 void VB_M_SamplingWithReplacementSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
                                      short seedFlag, int* seedOut);
 
@@ -3721,6 +3743,7 @@ void VB_M_SampleUserDefinedSPV(SAFEARRAY** S, int N, int p, SAFEARRAY** Z, doubl
    - Missing cells: copied unchanged; so is the empty string
    - Divisor: the step floor((N - 1) / (n - 1)); 0 with `n` above `N`
    - Empty input: with `n` below 1 one number is drawn, and no row taken
+   - Random numbers: one series for the call, shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 8
    - Known weakness: a start beyond M is never drawn, so some rows are never in a sample: 72 of 100 for 7 of 100 */
 void VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
@@ -3732,6 +3755,7 @@ void VB_M_SamplingSystematicRdStart(wchar_t** S, int N, int p, int n, wchar_t** 
    - Missing cells: copied unchanged; so is the empty string
    - Divisor: the step floor((N - 1) / (n - 1)); 0 with `n` above `N`
    - Empty input: with `n` below 1 one number is drawn, and no row taken
+   - Random numbers: one series for the call, shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 8
    - Known weakness: a start beyond M is never drawn, so some rows are never in a sample: 72 of 100 for 7 of 100 */
 void VB_M_SamplingSystematicRdStartSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
@@ -3763,6 +3787,7 @@ void VB_M_SamplingSystematicCenteredSPV(SAFEARRAY** S, int N, int p, int n, SAFE
    - Divisor: the step floor((N - 1) / (n - 1)); where it is below 1 (`n` of 1, or above `N`) `n` rows are drawn, each
      from all `N`
    - Empty input: with the start above `N` the series is opened and closed, and `ids` becomes N + 1
+   - Random numbers: one series for the call, shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 8 */
 void VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int n, wchar_t** Z, double* ids, int* seed,
                                    short seedFlag, int* seedOut);
@@ -3777,6 +3802,7 @@ void VB_M_SamplingRandomStratified(wchar_t** S, int N, int p, int n, wchar_t** Z
    - Divisor: the step floor((N - 1) / (n - 1)); where it is below 1 (`n` of 1, or above `N`) `n` rows are drawn, each
      from all `N`
    - Empty input: with the start above `N` the series is opened and closed, and `ids` becomes N + 1
+   - Random numbers: one series for the call, shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 8 */
 void VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* ids, int* seed,
                                       short seedFlag, int* seedOut);
@@ -3802,7 +3828,8 @@ void VB_M_SamplingRandomStratifiedSPV(SAFEARRAY** S, int N, int p, int n, SAFEAR
    - Empty input: with `nStrata` below 1 the population is sorted, nothing is drawn, and `seedOut` receives `seed`
    - Random numbers: each stratum has a series of its own, also where it draws nothing: the first with the caller's
      `seed` and `seedFlag`, and what the generator makes of this `seed` is returned to the caller; each later one with
-     what the series before stored, and the flag -1. `seedOut` receives what the last one stored
+     what the series before stored, and the flag -1. `seedOut` receives what the last one stored. The generator's series
+     is shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 5 */
 void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar_t** Z, double* rowIds, double* outIds,
                                          double* strata, double* quota, double* sizes, int nStrata, int* seed,
@@ -3827,7 +3854,8 @@ void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar
    - Empty input: with `nStrata` below 1 the population is sorted, nothing is drawn, and `seedOut` receives `seed`
    - Random numbers: each stratum has a series of its own, also where it draws nothing: the first with the caller's
      `seed` and `seedFlag`, and what the generator makes of this `seed` is returned to the caller; each later one with
-     what the series before stored, and the flag -1. `seedOut` receives what the last one stored
+     what the series before stored, and the flag -1. `seedOut` receives what the last one stored. The generator's series
+     is shared as permutations.h tells
    - Source: W. G. Cochran, Sampling Techniques, 3rd ed., Wiley 1977, chapter 5 */
 void VB_M_SamplingRandomStratifiedByStrSPV(SAFEARRAY** S, int N, int p, int n, SAFEARRAY** Z, double* rowIds,
                                            double* outIds, double* strata, double* quota, double* sizes, int nStrata,

@@ -24,6 +24,7 @@ extern "C" {
 /// @formula s,\ s + t,\ s + 2t,\ \ldots, \quad t = \left\lfloor \frac{N - 1}{n - 1} \right\rfloor, \quad s = \lfloor M u
 ///     \rfloor + 1, \quad M = N - (n - 1)\, t
 /// @empty with `n` below 1 one number is drawn, and no row taken
+/// @seed one series for the call, shared as permutations.h tells
 /// @weak a start beyond M is never drawn, so some rows are never in a sample: 72 of 100 for 7 of 100
 VECMAT_API void M_SamplingSystematicRdStart(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
                                             short seedFlag, int* seedOut);
@@ -48,6 +49,7 @@ VECMAT_API void M_SamplingSystematicCenteredSPV(Smatrix** S, int N, int p, int n
 /// @divisor the step floor((N - 1) / (n - 1)); where it is below 1 (`n` of 1, or above `N`) `n` rows are drawn, each
 ///     from all `N`
 /// @empty with the start above `N` the series is opened and closed, and `ids` becomes N + 1
+/// @seed one series for the call, shared as permutations.h tells
 VECMAT_API void M_SamplingRandomStratified(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
                                            short seedFlag, int* seedOut);
 VECMAT_API void M_SamplingRandomStratifiedSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,

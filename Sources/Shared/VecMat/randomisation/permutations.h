@@ -13,7 +13,9 @@
 // @seed `seed` and `seedFlag` are passed to the generator unchanged, once, before the first draw. The generator may
 //     change `seed` (that of the repository starts from it where the flag is -1, and otherwise stores a new seed
 //     there). `seedOut` receives, once, after the last draw, the value from which a later series can continue: pass it
-//     as the next `seed`
+//     as the next `seed`. All functions with a `seedFlag` share the generator's series, and each call starts it anew.
+//     The generator of the repository keeps a series for each thread, so calls in different threads share nothing; a
+//     generator with one series for the process allows one such call at a time
 // @cost a draw for each item; a permutation or a subset sorts them, too: of the order n log n
 #pragma once
 

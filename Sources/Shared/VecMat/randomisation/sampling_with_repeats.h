@@ -24,6 +24,7 @@ extern "C" {
 /// order of the population, repeats next to each other, and `ids`, of `n` cells, receives the rows taken in that order.
 /// A `p` of 0 copies nothing; the sort then moves the first column of a plain `Z`, but no column of an array.
 /// @formula i = \lfloor u N \rfloor + 1, \quad u \text{ uniform on } [0, 1)
+/// @seed one series for the call, shared as permutations.h tells
 VECMAT_API void M_SamplingWithReplacement(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
                                           short seedFlag, int* seedOut);
 VECMAT_API void M_SamplingWithReplacementSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,

@@ -31,7 +31,8 @@ extern "C" {
 /// sample are treated as any beyond their table.
 /// @seed each stratum has a series of its own, also where it draws nothing: the first with the caller's `seed` and
 ///     `seedFlag`, and what the generator makes of this `seed` is returned to the caller; each later one with what the
-///     series before stored, and the flag -1. `seedOut` receives what the last one stored
+///     series before stored, and the flag -1. `seedOut` receives what the last one stored. The generator's series is
+///     shared as permutations.h tells
 VECMAT_API void M_SamplingRandomStratifiedByStr(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* rowIds,
                                                 matrix* outIds, matrix* strata, matrix* quota, matrix* sizes,
                                                 int nStrata, int* seed, short seedFlag, int* seedOut);
