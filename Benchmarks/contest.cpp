@@ -1,6 +1,7 @@
 #include "contest.h"
 
 #include <algorithm>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <limits>
@@ -29,6 +30,19 @@ void writeTexts(const std::filesystem::path& file, const Texts& texts)
 
 } // namespace
 
+std::size_t Contest::operandBytes() const
+{
+    std::size_t bytes = 0;
+    for (const Cells* cells : outputs_)
+        bytes += cells->size() * sizeof(double);
+    for (const auto& [name, cells] : sharedCells_)
+        bytes += cells->size() * sizeof(double);
+    for (const auto& [name, texts] : sharedTexts_)
+        for (const std::wstring& text : *texts)
+            bytes += sizeof(void*) + 4 + 2 * (text.size() + 1);
+    return bytes;
+}
+
 Cells Contest::resultOf(const Contender& contender) const
 {
     for (Cells* output : outputs_)
@@ -54,6 +68,23 @@ void Contest::write(const std::string& directory, int size) const
     writeCells(folder / "size", {static_cast<double>(size)});
     for (const auto& [name, texts] : sharedTexts_)
         writeTexts(folder / name, *texts);
+}
+
+double secondsOfThread()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
+}
+
+Suite allWorkloads()
+{
+    Suite suite;
+    for (const auto add : {addSorting, addProducts, addMoments, addQuantiles, addCovariance, addEigenvalues,
+                           addSingularValues, addFactorisations, addLeastSquares, addGrouping, addCategories,
+                           addMissing, addSampling, addStrings, addSmallInputs, addMathematics})
+        add(suite);
+    return suite;
 }
 
 } // namespace vecmat::bench

@@ -96,6 +96,10 @@ public:
             reset_();
     }
 
+    /// The size of the shared data and of the outputs; texts as their callers have them, with 16-bit characters behind a
+    /// length of four bytes.
+    std::size_t operandBytes() const;
+
     /// The result of one run, in outputs cleared of earlier results.
     Cells resultOf(const Contender& contender) const;
 
@@ -145,21 +149,29 @@ struct Entry
     std::vector<int> sizes; // the last is the one that counts
     Timing timing;
     std::function<std::unique_ptr<Stage>(int)> stage;
+    std::vector<int> largeSizes = {}; // on demand, the library alone
+
+    void alsoAt(std::vector<int> large) { largeSizes = std::move(large); }
 };
 
 class Suite
 {
 public:
     template <class Workload>
-    void add(const std::string& name, std::vector<int> sizes, Timing timing = Timing::eachRun)
+    Entry& add(const std::string& name, std::vector<int> sizes, Timing timing = Timing::eachRun)
     {
-        entries_.push_back({name, std::move(sizes), timing, Stage::of<Workload>});
+        return entries_.emplace_back(Entry{name, std::move(sizes), timing, Stage::of<Workload>});
     }
     const std::vector<Entry>& entries() const { return entries_; }
 
 private:
     std::vector<Entry> entries_;
 };
+
+/// This thread's processor time: other load on the machine does not count.
+double secondsOfThread();
+
+Suite allWorkloads();
 
 // One function per source.
 void addSorting(Suite& suite);

@@ -65,8 +65,8 @@ struct CorrelationWithGaps
 
 void addCovariance(Suite& suite)
 {
-    suite.add<Covariance>("covariance", {1'000, 5'000, 20'000});
-    suite.add<CorrelationWithGaps>("correlation-with-gaps", {1'000, 5'000, 20'000});
+    suite.add<Covariance>("covariance", {1'000, 5'000, 20'000}).alsoAt({100'000, 1'000'000});
+    suite.add<CorrelationWithGaps>("correlation-with-gaps", {1'000, 5'000, 20'000}).alsoAt({100'000, 1'000'000});
 }
 
 } // namespace vecmat::bench

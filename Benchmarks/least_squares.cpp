@@ -121,7 +121,7 @@ struct Components
 
 void addLeastSquares(Suite& suite)
 {
-    suite.add<LeastSquares>("least-squares", {1'000, 10'000, 100'000});
+    suite.add<LeastSquares>("least-squares", {1'000, 10'000, 100'000}).alsoAt({1'000'000, 10'000'000});
     suite.add<Components>("nipals", {500, 2'000, 5'000});
 }
 

@@ -15,7 +15,6 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
-#include <ctime>
 #include <iostream>
 #include <limits>
 #include <optional>
@@ -153,14 +152,6 @@ const Judged& judgedStage(const Entry& entry, int size, bool oursAlone)
 
 // ---- timing ---------------------------------------------------------------------------------------------------------
 
-/// This thread's processor time: other load on the machine does not count.
-double secondsOfThread()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
-}
-
 double timeEachRun(benchmark::State& state, const Contest& contest, const Contender& contender)
 {
     double best = std::numeric_limits<double>::infinity();
@@ -245,11 +236,7 @@ int main(int argc, char** argv)
 {
     using namespace vecmat::bench;
     const Options options = taken(argc, argv);
-    Suite suite;
-    for (const auto add : {addSorting, addProducts, addMoments, addQuantiles, addCovariance, addEigenvalues,
-                           addSingularValues, addFactorisations, addLeastSquares, addGrouping, addCategories,
-                           addMissing, addSampling, addStrings, addSmallInputs, addMathematics})
-        add(suite);
+    const Suite suite = allWorkloads();
 
     if (!options.exportTo.empty()) {
         for (const Entry& entry : suite.entries())

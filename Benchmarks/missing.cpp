@@ -60,7 +60,7 @@ struct NearestNeighbour
 
 void addMissing(Suite& suite)
 {
-    suite.add<Census>("census", {10'000, 100'000, 1'000'000});
+    suite.add<Census>("census", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
     suite.add<NearestNeighbour>("nearest-neighbour", {500, 1'000, 2'000});
 }
 

@@ -5,7 +5,9 @@
 #include "descriptive/means.h"
 #include "descriptive/moments.h"
 #include "descriptive/shape_moments.h"
+#include "elementary/cell_functions.h"
 
+#include <Eigen/Core>
 #include <gsl/gsl_statistics_double.h>
 
 #include <cmath>
@@ -154,14 +156,56 @@ struct FourMoments
     }
 };
 
+struct GeometricMean
+{
+    Cells x, w, results;
+
+    explicit GeometricMean(int n) : x(RandomData(23).uniforms(count(n), 0.1, 10.0)), w(count(n), 1.0), results(2) {}
+    void enter(Contest& contest)
+    {
+        contest.outputs({&results});
+        contest.share("x", x);
+        contest.ours([this] { Cpp_V_GMeanGSD(x.data(), lengthOf(x), nullptr, w.data(), &results[0], &results[1]); });
+        contest.plain([this] { plain::geometricMean(x.data(), lengthOf(x), w.data(), results.data()); });
+        contest.peer("Eigen, two passes", onePass, [this] {
+            const Eigen::ArrayXd logarithms = Eigen::Map<const Eigen::ArrayXd>(x.data(), lengthOf(x)).log();
+            const double middle = logarithms.mean();
+            results[0] = std::exp(middle);
+            results[1] = std::exp(std::sqrt((logarithms - middle).square().sum() / (lengthOf(x) - 1.0)));
+        });
+    }
+};
+
+struct LogarithmsOfTable
+{
+    int n;
+    Cells data, x;
+
+    explicit LogarithmsOfTable(int rows) : n(rows), data(RandomData(24).uniforms(count(n, cols), 0.1, 10.0)), x(data) {}
+    void enter(Contest& contest)
+    {
+        contest.outputs({&x});
+        contest.reset([this] { x = data; });
+        contest.share("x", data);
+        contest.ours([this] { VB_M_LogMatrix(x.data(), n, cols, nullptr); });
+        contest.plain([this] { plain::logarithms(x.data(), n, cols); });
+        contest.peer("Eigen", onePass, [this] {
+            Eigen::Map<Eigen::ArrayXd> cells(x.data(), lengthOf(x));
+            cells = cells.log();
+        });
+    }
+};
+
 } // namespace
 
 void addMoments(Suite& suite)
 {
-    suite.add<ColumnMeans>("column-means", {10'000, 100'000, 1'000'000});
-    suite.add<ColumnDeviations>("column-deviations", {10'000, 100'000, 1'000'000});
-    suite.add<ColumnVariances>("column-variances", {10'000, 100'000, 1'000'000});
-    suite.add<FourMoments>("four-moments", {10'000, 100'000, 1'000'000});
+    suite.add<ColumnMeans>("column-means", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
+    suite.add<ColumnDeviations>("column-deviations", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
+    suite.add<ColumnVariances>("column-variances", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
+    suite.add<GeometricMean>("geometric-mean", {10'000, 100'000, 1'000'000});
+    suite.add<LogarithmsOfTable>("log-matrix", {1'000, 10'000, 100'000});
+    suite.add<FourMoments>("four-moments", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000, 100'000'000});
 }
 
 } // namespace vecmat::bench

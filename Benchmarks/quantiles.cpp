@@ -67,8 +67,8 @@ struct WeightedQuantile
 
 void addQuantiles(Suite& suite)
 {
-    suite.add<Quantile>("quantile", {10'000, 100'000, 1'000'000});
-    suite.add<WeightedQuantile>("weighted-quantile", {10'000, 100'000, 1'000'000});
+    suite.add<Quantile>("quantile", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000, 100'000'000});
+    suite.add<WeightedQuantile>("weighted-quantile", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
 }
 
 } // namespace vecmat::bench

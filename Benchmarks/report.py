@@ -2,8 +2,8 @@
 
     report.py [--record PAGE.md] RESULTS.md FOLDER NOTE...
 
-FOLDER holds what tools/bench has collected: native.json, avx2.json and baseline.json of vecmat_benchmarks, r.csv and
-python.csv of the peers outside of it. Exits with 1 where a result is not what it should be; otherwise the tables also
+FOLDER holds what tools/bench has collected: native.json, avx2.json and baseline.json of vecmat_benchmarks, memory.csv
+and large.csv of vecmat_memory, r.csv and python.csv of the peers outside of it. Exits with 1 where a result is not what it should be; otherwise the tables also
 take the place of those between the two comments in PAGE.md.
 """
 
@@ -20,6 +20,7 @@ from pathlib import Path
 
 AIMS = Path(__file__).with_name("aims.tsv")
 SETS = ("avx2", "baseline")
+MEMORY_THAT_COUNTS = 20_000  # bytes of operands
 RECORDED = re.compile(r"(<!-- The tables of the last run.*?-->\n).*?(<!-- Their end. -->)", re.DOTALL)
 
 
@@ -76,6 +77,13 @@ def shown_time(seconds):
         if seconds >= scale:
             return f"{three_digits(seconds / scale)} {unit}"
     return f"{three_digits(seconds / 1e-9)} ns"
+
+
+def shown_bytes(count):
+    for unit, scale in (("GB", 1e9), ("MB", 1e6), ("kB", 1e3)):
+        if count >= scale:
+            return f"{three_digits(count / scale)} {unit}"
+    return f"{count} B"
 
 
 def three_digits(value):
@@ -167,6 +175,41 @@ def small_table(results):
     return lines
 
 
+def rows_of(file):
+    if not file.exists():
+        return []
+    with open(file, newline="") as lines:
+        return list(csv.DictReader(lines))
+
+
+def memory_table(folder):
+    """The peak beyond the operands, in their size. Calls on a few numbers have small fixed costs only."""
+    lines = head("workload", "operands", "peak of ours", "in operands (2)", "others, in operands")
+    workloads = defaultdict(list)
+    for entry in rows_of(folder / "memory.csv"):
+        if int(entry["operands"]) >= MEMORY_THAT_COUNTS:
+            workloads[entry["workload"]].append(entry)
+    for workload, entries in workloads.items():
+        operands = int(entries[0]["operands"])
+        ours, *others = (int(entry["peak"]) / operands for entry in entries)
+        names = (entry["contender"] for entry in entries[1:])
+        lines.append(row(workload, shown_bytes(operands), shown_bytes(int(entries[0]["peak"])),
+                         marked(f"{ours:.2f}", ours <= 2.0),
+                         "; ".join(f"{other:.2f} {name}" for other, name in zip(others, names))))
+    return lines
+
+
+def large_table(folder):
+    lines = head("workload", "size", "time", "for each of the size", "peak", "in operands (2)")
+    for entry in rows_of(folder / "large.csv"):
+        seconds, peak = float(entry["seconds"]), int(entry["peak"])
+        share = peak / int(entry["operands"])
+        lines.append(row(entry["workload"], f"{int(entry['size']):,}", shown_time(seconds),
+                         shown_time(seconds / int(entry["size"])), shown_bytes(peak),
+                         marked(f"{share:.2f}", share <= 2.0)))
+    return lines
+
+
 def string_table(results):
     lines = head("what", "time", "in copies of the texts (2)")
     cells_in = results.seconds.get(("strings-in", results.last_size("strings-in")), {})
@@ -219,6 +262,9 @@ def main():
         ("How time grows", "Times at growing sizes; the exponent is that of the last step.", growth_table(results)),
         ("Small inputs", "Calls on a few numbers.", small_table(results)),
         ("The border of strings", "", string_table(results)),
+        ("Memory", "The most allocated at once, beyond the operands and the results, which are the caller's. What a "
+         "library maps by itself, as OpenBLAS does, is not seen.", memory_table(arguments.folder)),
+        ("Large sizes", "The library alone.", large_table(arguments.folder)),
     ):
         if len(lines) > 2:
             text += [f"## {title}", "", *([intro, ""] if intro else []), *lines, ""]

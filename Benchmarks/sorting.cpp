@@ -144,10 +144,10 @@ struct TiedRanks
 
 void addSorting(Suite& suite)
 {
-    suite.add<SortVector>("sort-vector", {10'000, 100'000, 1'000'000});
-    suite.add<SortRows>("sort-rows", {10'000, 100'000, 1'000'000});
-    suite.add<SortApplied>("sort-apply", {10'000, 100'000, 1'000'000});
-    suite.add<TiedRanks>("ranks", {10'000, 100'000, 1'000'000});
+    suite.add<SortVector>("sort-vector", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000, 100'000'000});
+    suite.add<SortRows>("sort-rows", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
+    suite.add<SortApplied>("sort-apply", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
+    suite.add<TiedRanks>("ranks", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000, 100'000'000});
 }
 
 } // namespace vecmat::bench

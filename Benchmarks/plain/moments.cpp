@@ -4,6 +4,7 @@
 #include "support/constants.h"
 
 #include <cmath>
+#include <cstddef>
 
 namespace vecmat::bench::plain {
 
@@ -102,6 +103,33 @@ void columnVariances(const double* x, int n, int p, double* mean, double* deviat
         variance[j] = m.variance();
         deviation[j] = rootUnlessMissing(variance[j]);
     }
+}
+
+void geometricMean(const double* x, int n, const double* w, double* results)
+{
+    Moments m;
+    for (int i = 0; i < n; ++i) {
+        if (x[i] == test::M)
+            continue;
+        m.weights += w[i];
+        ++m.rows;
+        if (w[i] == 0.0)
+            continue;
+        const double d = vecmat::log(x[i]) - m.mean;
+        const double share = w[i] / m.weights;
+        m.squares += (1.0 - share) * d * d * w[i];
+        m.mean += d * share;
+    }
+    results[0] = vecmat::exp(m.mean);
+    results[1] = vecmat::exp(std::sqrt(m.squares / (m.weights - m.weights / m.rows)));
+}
+
+void logarithms(double* cells, int rows, int cols)
+{
+    for (int i = 0; i < rows; ++i)
+        for (int j = 0; j < cols; ++j)
+            if (double& cell = cells[i + static_cast<std::ptrdiff_t>(rows) * j]; cell != test::M)
+                cell = vecmat::log(cell);
 }
 
 void fourMoments(const double* x, int n, const double* w, double* moments)

@@ -38,6 +38,9 @@ PLAIN_API void columnDeviations(const double* x, int n, int p, double* mean, dou
 PLAIN_API void columnVariances(const double* x, int n, int p, double* mean, double* deviation, double* variance,
                                const double* w);
 /// Mean, variance, skewness and kurtosis in the population form.
+/// The geometric mean and the geometric standard deviation.
+PLAIN_API void geometricMean(const double* x, int n, const double* w, double* results);
+PLAIN_API void logarithms(double* cells, int rows, int cols);
 PLAIN_API void fourMoments(const double* x, int n, const double* w, double* moments);
 
 // ---- quantiles ------------------------------------------------------------------------------------------------------
