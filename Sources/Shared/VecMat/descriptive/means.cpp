@@ -5,8 +5,10 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/running_moments.h"
+#include "../kernels/logarithm_kernels.h"
 #include "detail/side_by_side_moments.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace vecmat;
@@ -62,6 +64,35 @@ int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
     return 0;
 }
 
+using MomentsOfLogarithms = RunningVariance<update::Fractional, ZeroWeight::counted>;
+
+/// Over the kept rows that are not missing; without any row if one of them is 0 or below. The logarithms are taken many
+/// at a time, beside the running mean, each of whose steps waits for the one before.
+template <class X, class Weights>
+MomentsOfLogarithms momentsOfLogarithms(X x, int n, Mask mask, Weights w)
+{
+    MomentsOfLogarithms moments;
+    double present[logarithmsTogether];
+    double weight[logarithmsTogether];
+    double logarithm[logarithmsTogether];
+    for (int first = 0; first < n; first += std::min(logarithmsTogether, n - first)) {
+        int count = 0;
+        for (int i = first; i < first + std::min(logarithmsTogether, n - first); ++i) {
+            if (!mask.keeps(i) || !isPresent(x.get(i)))
+                continue;
+            if (x.get(i) <= 0.0)
+                return {};
+            present[count] = x.get(i);
+            weight[count] = w.get(i);
+            ++count;
+        }
+        logarithms(count, present, logarithm);
+        for (int k = 0; k < count; ++k)
+            moments.add(logarithm[k], weight[k]);
+    }
+    return moments;
+}
+
 /// Used where a storage of weights is expected.
 struct UnitWeights
 {
@@ -115,17 +146,9 @@ double V_HarmonicMean(matrix* v, int n, short* mask, matrix* w)
 
 void V_GMeanGSD(matrix* v, int n, short* mask, matrix* w, double* gmean, double* gsd)
 {
-    RunningVariance<update::Fractional, ZeroWeight::counted> moments;
     *gmean = missingValue;
     *gsd = missingValue;
-    for (int i = 0; i < n; ++i) {
-        const double x = linear(v).get(i);
-        if (!Mask(mask).keeps(i) || !isPresent(x))
-            continue;
-        if (x <= 0.0)
-            return;
-        moments.add(vecmat::log(x), linear(w).get(i));
-    }
+    const MomentsOfLogarithms moments = momentsOfLogarithms(linear(v), n, Mask(mask), linear(w));
     if (moments.rows == 0)
         return;
     *gmean = vecmat::exp(moments.mean);

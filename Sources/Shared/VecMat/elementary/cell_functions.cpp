@@ -7,10 +7,33 @@
 #include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../kernels/logarithm_kernels.h"
 
 #include <algorithm>
 
 using namespace vecmat;
+
+namespace {
+
+/// Takes the logarithms of cells that lie one behind the other, many at a time, but for those that the mask drops or that
+/// are missing.
+void takeLogarithms(double* cell, int count, Mask mask)
+{
+    double x[logarithmsTogether];
+    double logarithm[logarithmsTogether];
+    for (int first = 0; first < count; first += logarithmsTogether) {
+        const int together = std::min(logarithmsTogether, count - first);
+        const auto isTaken = [=](int k) { return mask.keeps(first + k) && !isMissing(cell[first + k]); };
+        for (int k = 0; k < together; ++k)
+            x[k] = isTaken(k) ? cell[first + k] : 1.0;
+        logarithms(together, x, logarithm);
+        for (int k = 0; k < together; ++k)
+            if (isTaken(k))
+                cell[first + k] = logarithm[k];
+    }
+}
+
+} // namespace
 
 void M_Square(matrix*& a, int rows, int cols)
 {
@@ -40,17 +63,24 @@ double M_SquareRootAij2(matrix* a, int rows, int cols)
 
 void M_LogMatrix(matrix*& a, int rows, int cols, short* mask)
 {
-    onBlocks(
-        [rows, cols, selected = Mask(mask)](auto cell) {
-            for (int i = 0; i < rows; ++i) {
-                if (!selected.keeps(i))
-                    continue;
+    const auto cellByCell = [rows, cols, selected = Mask(mask)](auto cell) {
+        for (int i = 0; i < rows; ++i) {
+            if (!selected.keeps(i))
+                continue;
+            for (int j = 0; j < cols; ++j)
+                if (!isMissing(cell.get(i, j)))
+                    cell.set(i, j, vecmat::log(cell.get(i, j)));
+        }
+    };
+    onBlocksOrElse(
+        [&](auto cell) {
+            if (cell.folds(rows, cols)) // then a cell may be taken twice
+                cellByCell(cell);
+            else
                 for (int j = 0; j < cols; ++j)
-                    if (!isMissing(cell.get(i, j)))
-                        cell.set(i, j, vecmat::log(cell.get(i, j)));
-            }
+                    takeLogarithms(cell.column(j), rows, Mask(mask));
         },
-        block(cells(a), rows, cols));
+        cellByCell, block(cells(a), rows, cols));
 }
 
 void M_Log10Matrix(matrix* a, int rows, int cols)

@@ -1,14 +1,16 @@
-// The parts of a double.
+// The parts of a double. The names have no linkage: sources of kernels, which are compiled once for each instruction set,
+// may include this.
 #pragma once
 
 #include <cstdint>
 
 namespace vecmat::mathematics {
+namespace {
 
-inline constexpr std::uint64_t signBit = 0x8000000000000000;
-inline constexpr std::uint64_t infinityBits = 0x7ff0000000000000;
-inline constexpr std::uint64_t leastNormalBits = 0x0010000000000000;
-inline constexpr std::uint64_t fractionBits = 0x000fffffffffffff;
+constexpr std::uint64_t signBit = 0x8000000000000000;
+constexpr std::uint64_t infinityBits = 0x7ff0000000000000;
+constexpr std::uint64_t leastNormalBits = 0x0010000000000000;
+constexpr std::uint64_t fractionBits = 0x000fffffffffffff;
 
 // The builtin, as not every standard library with which this is compiled has std::bit_cast.
 constexpr std::uint64_t bitsOf(double x)
@@ -48,4 +50,5 @@ inline WholeAndExponent partsOf(double x)
     return {(magnitude & fractionBits) | leastNormalBits, biased - 1075};
 }
 
+} // namespace
 } // namespace vecmat::mathematics

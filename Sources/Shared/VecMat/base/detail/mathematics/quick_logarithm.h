@@ -5,6 +5,8 @@
 //     log x = E ln 2 - log c + r - r^2/2 + r^3/3 - ...
 // m is cut so that its parts times c are exact, and so is the square of the high part of r. High parts are multiples of
 // 2^-42 and add up without a rounding. Near 1 the table is left out, so that the result keeps its relative precision.
+//
+// The names have no linkage: the sources of kernels, which are compiled once for each instruction set, include this.
 #pragma once
 
 #include "bits.h"
@@ -14,6 +16,7 @@
 #include <cstdint>
 
 namespace vecmat::mathematics {
+namespace {
 
 /// high + low, off by at most `error`, which has room for one rounding more of low; |low| is at most 2^-16 |high|.
 struct BoundedSum
@@ -64,7 +67,11 @@ inline BoundedSum quickLogarithmByTable(std::uint64_t bits, int exponent)
     constexpr std::uint64_t start = 0x3fe6000000000000; // 11/16
     const std::uint64_t fromStart = bits - start;
     const Stretch& stretch = stretches[(fromStart >> 44) & 255];
-    const double E = static_cast<std::int32_t>(static_cast<std::int64_t>(fromStart) >> 52) + exponent;
+    // The exponent, 1023 added, in the lowest bits of a number of 2^52 and more: so are integers that stand side by side
+    // turned into doubles without an instruction of their own.
+    constexpr double toWhole = 0x1p52;
+    const std::uint64_t biased = (fromStart + (std::uint64_t{1023} << 52)) >> 52;
+    const double E = doubleOf(biased | bitsOf(toWhole)) - (toWhole + 1023.0 - exponent);
     const std::uint64_t m = bits - (fromStart & 0xfff0000000000000);
     const double mHigh = doubleOf(m & 0xfffffffff0000000);
     const double mLow = doubleOf(m) - mHigh;
@@ -81,17 +88,24 @@ inline BoundedSum quickLogarithmByTable(std::uint64_t bits, int exponent)
     return {sum.high, sum.low + tail, 0x1p-74};
 }
 
-/// log of a positive finite number.
-inline BoundedSum quickLogarithm(double x)
+/// Is the number of these bits one for `quickLogarithmNear1`?
+inline bool isNear1(std::uint64_t bits)
 {
     constexpr std::uint64_t lower = bitsOf(1.0 - 0x1p-9);
     constexpr std::uint64_t upper = bitsOf(1.0 + 0x1p-9);
+    return bits - lower < upper - lower;
+}
+
+/// log of a positive finite number.
+inline BoundedSum quickLogarithm(double x)
+{
     const std::uint64_t bits = bitsOf(x);
-    if (bits - lower < upper - lower)
+    if (isNear1(bits))
         return quickLogarithmNear1(x - 1.0);
     if (bits < leastNormalBits) [[unlikely]]
         return quickLogarithmByTable(bitsOf(x * 0x1p54), -54);
     return quickLogarithmByTable(bits, 0);
 }
 
+} // namespace
 } // namespace vecmat::mathematics

@@ -1,0 +1,15 @@
+#include "logarithm_kernels.h"
+
+#include "../base/detail/mathematics/mathematics.h"
+
+namespace vecmat {
+
+void logarithms(int count, const double* x, double* out)
+{
+    if (logarithmKernels().logarithms(count, x, out))
+        return;
+    for (int k = 0; k < count; ++k)
+        out[k] = vecmat::log(x[k]);
+}
+
+} // namespace vecmat
