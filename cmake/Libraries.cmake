@@ -99,7 +99,7 @@ set(vecmat_kernel_options -fno-math-errno -fno-trapping-math $<$<NOT:$<CONFIG:De
 set(instruction_sets baseline)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|i[3-6]86)$")
     list(APPEND instruction_sets avx2 avx512)
-    set(avx2_options -mavx2)
+    set(avx2_options -mavx2 -mfma)
     set(avx512_options -mavx512f -mavx512dq -mavx512bw -mavx512vl -mprefer-vector-width=512)
     if(MINGW) # on Windows g++ assumes a stack aligned for wide vectors, which it isn't
         list(APPEND avx2_options -Wa,-muse-unaligned-vector-move)

@@ -54,14 +54,15 @@ public:
         for (int first = 0; first < shape_.inner; first += blockLength_) {
             const int count = std::min(blockLength_, shape_.inner - first);
             pack(first, count);
+            const auto add = hasExactProducts(count) ? kernels_.addExact : kernels_.add;
             forEachTile([&](std::size_t rowPanel, std::size_t colPanel) {
                 double* tile = tiles_.data();
                 if (oneBlock)
                     std::fill_n(tile, tileSize(), 0.0);
                 else
                     tile += (rowPanel + colPanel * rowPanels_) * tileSize();
-                kernels_.add(count, leftPanels_.data() + rowPanel * leftPanelSize(),
-                             rightPanels_.data() + colPanel * rightPanelSize(), tile);
+                add(count, leftPanels_.data() + rowPanel * leftPanelSize(),
+                    rightPanels_.data() + colPanel * rightPanelSize(), tile);
                 if (first + count == shape_.inner)
                     write(tile, rowPanel, colPanel);
             });
@@ -106,6 +107,27 @@ private:
                    [&](int i, int k) { return left_.get(i, first + k); });
         packPanels(rightPanels_.data(), rightPanelSize(), kernels_.cols, shape_.cols, count, colIsMissing_.get(),
                    [&](int j, int k) { return right_.get(first + k, j); });
+    }
+
+    /// Can the kernel for exact products work on a packed block? Panel by panel of both operands, as most data answer no
+    /// with the first.
+    bool hasExactProducts(int count) const
+    {
+        if (kernels_.addExact == nullptr)
+            return false;
+        FactorRange left;
+        FactorRange right;
+        for (std::size_t panel = 0; panel < std::max(rowPanels_, colPanels_); ++panel) {
+            if (panel < rowPanels_)
+                kernels_.extend(left, std::ptrdiff_t{count} * kernels_.rows,
+                                leftPanels_.data() + panel * leftPanelSize());
+            if (panel < colPanels_)
+                kernels_.extend(right, std::ptrdiff_t{count} * kernels_.cols,
+                                rightPanels_.data() + panel * rightPanelSize());
+            if (!productsAreExact(left, right))
+                return false;
+        }
+        return true;
     }
 
     template <class Read>

@@ -12,7 +12,7 @@ InstructionSet widestOfTheMachine()
 {
 #if defined(__x86_64__) || defined(__i386__)
     __builtin_cpu_init();
-    if (!__builtin_cpu_supports("avx2"))
+    if (!__builtin_cpu_supports("avx2") || !__builtin_cpu_supports("fma"))
         return InstructionSet::baseline;
     if (__builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512bw") &&
         __builtin_cpu_supports("avx512vl"))

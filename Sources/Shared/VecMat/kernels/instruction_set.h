@@ -9,8 +9,8 @@
 namespace vecmat {
 
 /// In ascending order. The baseline is common to every processor of the platform: SSE2 on x86, Advanced SIMD on 64-bit
-/// Arm. `avx512` requires the foundation together with its double and quad word, byte and word, and vector length
-/// parts.
+/// Arm. `avx2` requires fused multiply-add, too; `avx512` requires the foundation together with its double and quad word,
+/// byte and word, and vector length parts.
 enum class InstructionSet { baseline, avx2, avx512 };
 
 /// The widest set that the machine has, determined when the library is loaded. A library built to compare the sets on

@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-#if defined(__AVX512F__)
+#if defined(__AVX__)
 #include <immintrin.h>
 #elif defined(__aarch64__)
 #include <arm_neon.h>
@@ -52,6 +52,16 @@ inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)
 inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
 {
     return _mm512_fnmadd_pd(x, y, sum);
+}
+#elif defined(__FMA__)
+#define VECMAT_FUSES_LANES
+inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)
+{
+    return _mm256_fmadd_pd(x, y, sum);
+}
+inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
+{
+    return _mm256_fnmadd_pd(x, y, sum);
 }
 #elif defined(__aarch64__)
 #define VECMAT_FUSES_LANES

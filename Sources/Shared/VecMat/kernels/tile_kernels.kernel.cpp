@@ -14,19 +14,26 @@ static_assert(rows <= TileKernels::mostRows && cols <= TileKernels::mostCols);
 
 struct Plus
 {
-    Lanes operator()(Lanes sum, Lanes product, int /*k*/) const { return sum + product; }
+    Lanes operator()(Lanes sum, Lanes x, Lanes y, int /*k*/) const { return sum + x * y; }
 };
 
 struct Minus
 {
-    Lanes operator()(Lanes sum, Lanes product, int /*k*/) const { return sum - product; }
+    Lanes operator()(Lanes sum, Lanes x, Lanes y, int /*k*/) const { return sum - x * y; }
 };
 
 struct PlusWeighted
 {
     const double* weights;
-    Lanes operator()(Lanes sum, Lanes product, int k) const { return sum + product * weights[k]; }
+    Lanes operator()(Lanes sum, Lanes x, Lanes y, int k) const { return sum + x * y * weights[k]; }
 };
+
+#ifdef VECMAT_FUSES_LANES
+struct PlusExact
+{
+    Lanes operator()(Lanes sum, Lanes x, Lanes y, int /*k*/) const { return fusedSum(sum, x, y); }
+};
+#endif
 
 template <class Join>
 void accumulate(int inner, const double* left, const double* right, Join join, double* tile)
@@ -45,7 +52,7 @@ void accumulate(int inner, const double* left, const double* right, Join join, d
             const Lanes factor = inEachLane(right[j]);
 #pragma GCC unroll 8
             for (int v = 0; v < vectors; ++v)
-                sums[j][v] = join(sums[j][v], column[v] * factor, k);
+                sums[j][v] = join(sums[j][v], column[v], factor, k);
         }
         left += rows;
         right += cols;
@@ -59,6 +66,15 @@ void add(int inner, const double* left, const double* right, double* tile)
 {
     accumulate(inner, left, right, Plus{}, tile);
 }
+
+#ifdef VECMAT_FUSES_LANES
+void addExact(int inner, const double* left, const double* right, double* tile)
+{
+    accumulate(inner, left, right, PlusExact{}, tile);
+}
+#else
+constexpr auto addExact = nullptr;
+#endif
 
 void subtract(int inner, const double* left, const double* right, double* tile)
 {
@@ -102,8 +118,23 @@ void substitute(int count, const double* left, double* right, double* tile)
     }
 }
 
+void extend(FactorRange& range, std::ptrdiff_t count, const double* factors)
+{
+    constexpr std::uint64_t fraction = 0x000fffffffffffff;
+    constexpr std::uint64_t magnitude = 0x7fffffffffffffff;
+    auto [fractions, largest, smallest] = range;
+    for (std::ptrdiff_t k = 0; k < count; ++k) {
+        const auto bits = __builtin_bit_cast(std::uint64_t, factors[k]);
+        const std::uint64_t size = bits & magnitude;
+        fractions |= bits & fraction;
+        largest = size > largest ? size : largest;
+        smallest = size - 1 < smallest ? size - 1 : smallest; // a zero turns into the greatest number
+    }
+    range = {fractions, largest, smallest};
+}
+
 } // namespace
 
-const TileKernels tileKernels = {rows, cols, add, subtract, addWeighted, substitute};
+const TileKernels tileKernels = {rows, cols, add, addExact, subtract, addWeighted, substitute, extend};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
