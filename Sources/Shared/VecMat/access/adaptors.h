@@ -85,6 +85,7 @@ public:
     {
         cells_.set(j, i, std::forward<V>(value));
     }
+    const Cells& base() const { return cells_; }
 
     bool covers(int rows, int cols) const { return cells_.covers(cols, rows); }
     auto plain() const { return Transposed<decltype(cells_.plain())>(cells_.plain()); }
@@ -104,6 +105,11 @@ template <class Cells>
 Transposed<Cells> transposed(Cells cells)
 {
     return Transposed<Cells>(cells);
+}
+template <class Cells>
+Cells transposed(Transposed<Cells> cells)
+{
+    return cells.base();
 }
 
 // ---- vectors in tables ----------------------------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include "cells.h"
 #include "overlap.h"
 #include "product.h"
+#include "vector_product.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -224,6 +225,10 @@ void multiply(Left left, Right right, ProductShape shape, Out out)
     const auto cellByCell = [&](auto x, auto y, auto result) { multiplyCellByCell<missing>(x, y, shape, result); };
     onBlocksOrElse(
         [&](auto x, auto y, auto result) {
+            if constexpr (missing == MissingFactor::multiplied) {
+                if (detail::multiplyByVector(x, y, shape, result))
+                    return;
+            }
             if (!detail::multiplyInTiles<missing, ResultPart::whole>(x, y, shape, result))
                 cellByCell(x, y, result);
         },
