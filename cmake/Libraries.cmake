@@ -92,6 +92,10 @@ vecmat_shared_library(VecMat VERSIONED ${vecmat_sources})
 target_precompile_headers(VecMat PRIVATE
     <algorithm> <array> <cmath> <functional> <limits> <memory> <optional> <string> <string_view> <utility> <vector>)
 
+# Running moments: a vector of mean and squares would make each step of the mean wait for the longer one of the squares.
+file(GLOB moment_sources CONFIGURE_DEPENDS ${vecmat_source}/descriptive/*.cpp)
+set_property(SOURCE ${moment_sources} APPEND PROPERTY COMPILE_OPTIONS -fno-tree-slp-vectorize)
+
 # The kernels are compiled once for each instruction set; the choice is made at run time. Loops with adjacent results
 # become vector instructions, provided the compiler knows that errno and the floating-point exception flags are never
 # read.
