@@ -45,10 +45,17 @@ void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* 
 {
     const auto from = cells(source);
     const auto to = cells(out);
+    const auto move = [=](int row, int i, auto readable, auto writable) {
+        for (int j = 0; j < nCols; ++j)
+            writable.set(i, j, convertedTo(out, readable.get(row, j)));
+    };
+    const bool allInside = from.covers(source->nRows, nCols) && to.covers(nRows, nCols);
     for (int i = 0; i < nRows; ++i) {
         const int row = sourceRow(order, i);
-        for (int j = 0; j < nCols; ++j)
-            to.set(i, j, convertedTo(out, from.get(row, j)));
+        if (allInside && row >= 0 && row < source->nRows)
+            move(row, i, from.plain(), to.plain());
+        else
+            move(row, i, from, to);
     }
 }
 
