@@ -68,11 +68,71 @@ struct CrossProduct
     }
 };
 
+/// Dummies times whole numbers: every single product is exact.
+struct ExactProduct : Product
+{
+    explicit ExactProduct(int order) : Product(order)
+    {
+        a = RandomData(13).wholes(count(n, n), 0, 1);
+        b = RandomData(14).wholes(count(n, n), -1000, 1000);
+    }
+};
+
+/// A table and a vector on either side.
+struct VectorProduct
+{
+    int n;
+    Cells b, v, out;
+
+    explicit VectorProduct(int order)
+        : n(order), b(RandomData(15).normals(count(n, n))), v(RandomData(16).normals(count(n))), out(count(n))
+    {
+    }
+
+protected:
+    void compete(Contest& contest, Action ours, Action plain, CBLAS_TRANSPOSE transposition)
+    {
+        contest.outputs({&out});
+        contest.share("b", b);
+        contest.share("v", v);
+        contest.ours(std::move(ours));
+        contest.plain(std::move(plain));
+        contest.peer("OpenBLAS dgemv", reordered, [this, transposition] {
+            cblas_dgemv(CblasColMajor, transposition, n, n, 1.0, b.data(), n, v.data(), 1, 0.0, out.data(), 1);
+        });
+    }
+};
+
+struct TableByVector : VectorProduct
+{
+    using VectorProduct::VectorProduct;
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { VB_M_ProductBV(b.data(), n, n, v.data(), out.data()); },
+            [this] { plain::product(b.data(), n, n, v.data(), 1, out.data()); }, CblasNoTrans);
+    }
+};
+
+struct VectorByTable : VectorProduct
+{
+    using VectorProduct::VectorProduct;
+    void enter(Contest& contest)
+    {
+        compete(
+            contest, [this] { VB_M_ProductVB(v.data(), n, b.data(), n, out.data()); },
+            [this] { plain::product(v.data(), 1, n, b.data(), n, out.data()); }, CblasTrans);
+    }
+};
+
 } // namespace
 
 void addProducts(Suite& suite)
 {
     suite.add<Product>("product", {64, 256, 512});
+    suite.add<ExactProduct>("exact-product", {64, 256, 512});
+    suite.add<TableByVector>("table-by-vector", {100, 500, 2000});
+    suite.add<VectorByTable>("vector-by-table", {100, 500, 2000});
     suite.add<CrossProduct>("cross-product", {64, 256, 512});
 }
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace vecmat::bench {
 
@@ -63,11 +64,58 @@ struct WeightedQuantile
     }
 };
 
+/// The thirteen of the second rule.
+struct Thirteen
+{
+    static constexpr double orders[] = {0.05, 0.1, 0.2, 0.25, 0.3, 0.4, 0.5, 0.6, 0.7, 0.75, 0.8, 0.9, 0.95};
+    Cells x, results;
+
+    explicit Thirteen(int n) : x(RandomData(33).normals(count(n))), results(std::size(orders)) {}
+    void enter(Contest& contest)
+    {
+        contest.outputs({&results});
+        contest.share("x", x);
+        contest.ours([this] { Cpp_V_Quantiles13(x.data(), lengthOf(x), results.data()); });
+        contest.plain([this] {
+            Cells cells = x;
+            plain::sortVector(cells.data(), lengthOf(cells));
+            interpolate([&](std::size_t place) { return cells[place]; });
+        });
+        contest.peer("std::nth_element", sameBits, [this] {
+            Cells cells = x;
+            auto settled = cells.begin();
+            interpolate([&](std::size_t place) {
+                const auto found = cells.begin() + static_cast<std::ptrdiff_t>(place);
+                if (found >= settled) {
+                    std::nth_element(settled, found, cells.end());
+                    settled = found + 1;
+                }
+                return *found;
+            });
+        });
+    }
+
+private:
+    template <class At>
+    void interpolate(At at)
+    {
+        std::size_t k = 0;
+        for (const double p : orders) {
+            const double h = (static_cast<double>(x.size()) - 1.0) * p + (p <= 0.5 ? 0.5 : 1.0);
+            const double below = std::floor(h);
+            const double a = at(static_cast<std::size_t>(below) - 1);
+            const double b = below == h ? a : at(static_cast<std::size_t>(below));
+            results[k++] = a == b ? a : a + (h - below) * (b - a);
+        }
+    }
+};
+
 } // namespace
 
 void addQuantiles(Suite& suite)
 {
     suite.add<Quantile>("quantile", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000, 100'000'000});
+    suite.add<Thirteen>("quantiles-13", {10'000, 100'000, 1'000'000});
     suite.add<WeightedQuantile>("weighted-quantile", {10'000, 100'000, 1'000'000}).alsoAt({10'000'000});
 }
 
