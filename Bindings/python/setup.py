@@ -26,7 +26,8 @@ class BuildByCMake(build_ext):
         if shutil.which("ninja") and not (build / "CMakeCache.txt").exists():
             configure += ["-G", "Ninja"]
         if shutil.which("ccache"):
-            configure += ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache"]
+            # The cache does not see through precompiled headers.
+            configure += ["-DCMAKE_CXX_COMPILER_LAUNCHER=ccache", "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON"]
         configure += shlex.split(os.environ.get("CMAKE_ARGS", ""))
         for command in (configure,
                         ["cmake", "--build", build, "--parallel", str(os.cpu_count() or 1)],

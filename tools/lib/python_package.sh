@@ -20,8 +20,11 @@ need_to_build_for_python() {
     need_python_packages numpy setuptools wheel
 }
 
-# install_python_package ENVIRONMENT: into a virtual environment of its own; the library is built once for all of them
+# install_python_package ENVIRONMENT: into a virtual environment of its own; the library is built once for all of them, as
+# that for R is, so that a compiler cache serves both
 install_python_package() {
+    local -x CMAKE_ARGS
+    CMAKE_ARGS=$(configure_arguments | sed -n '/^-D/p' | paste -sd ' ')
     [ -x "$1/bin/pip" ] || "$system_python" -m venv --system-site-packages "$1"
     rm -rf "$root/Bindings/python/build" "$1"/lib/python3*/site-packages/vecmat
     VECMAT_BUILD_DIRECTORY=$root/build/python/library quietly "$1/bin/pip" install --no-build-isolation --no-deps \
