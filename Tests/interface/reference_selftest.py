@@ -15,7 +15,8 @@ import reference_examples
 from arguments import read_calls
 from reference_example_calls import example_of
 from reference_indexes import read_tasks
-from reference_model import as_markdown, document_of, escaped, first_sentence, read_functions, stem, summary, words_of
+from reference_model import (as_markdown, document_of, escaped, first_sentence, read_functions, stem, summary, summary_alone,
+                             words_of)
 from reference_signatures import Signatures
 from reference_siblings import differences, forms, relatives, representative, spellings
 
@@ -57,6 +58,11 @@ class Model(unittest.TestCase):
 
     def test_every_function_has_a_summary(self):
         self.assertEqual([name for name, function in FUNCTIONS.items() if not summary(function, FUNCTIONS)], [])
+
+    def test_a_summary_that_leans_on_its_unit_tells_of_it_elsewhere(self):
+        self.assertRegex(summary_alone(FUNCTIONS["M_CovCorr"], FUNCTIONS), "^Covariances and correlations .* – from one table$")
+        self.assertRegex(summary_alone(FUNCTIONS["VB_V_Min2Lng"], FUNCTIONS), "^Minima and maxima .* – the same without a mask$")
+        self.assertEqual(summary_alone(FUNCTIONS["V_Quantile"], FUNCTIONS), summary(FUNCTIONS["V_Quantile"], FUNCTIONS))
 
     def test_stems(self):
         for name in ("V_Mean", "VB_V_Mean2", "M_MeanSPV", "Cpp_M_Mean3"):

@@ -25,7 +25,7 @@ from arguments import ROOT
 from reference_arguments import Arguments
 from reference_examples import Examples
 from reference_indexes import family_page, name_page, reference_page, task_page
-from reference_model import read_functions, summary
+from reference_model import read_functions, summary_alone
 from reference_pages import FAMILY_TITLES, Pages
 from reference_signatures import Signatures
 from reference_sources import Sources, write_if_new
@@ -92,7 +92,7 @@ def write(root, target, only=None):
     sources.copy()
     write_if_new(target / "index.md", start_page(sources))
     write_if_new(target / "functions.tsv", "".join(
-        f"{function.name}\t{function.document}\t{summary(function, functions)}\n" for function in functions.values()
+        f"{function.name}\t{function.document}\t{summary_alone(function, functions)}\n" for function in functions.values()
         if f"functions/{function.document}.md" in texts))
     wanted = {*texts, *sources.pages.values(), "index.md"}
     for path in target.rglob("*.md"):

@@ -185,3 +185,18 @@ def description(function, functions):
 
 def summary(function, functions):
     return first_sentence(description(function, functions))
+
+
+# Words that begin what is told of a function only within its unit, and against the one before it.
+IN_CONTEXT = ("From ", "All blocks", "C is ", "With weights", "One draw", "Flat forms", "Only ", "max(", "nA + nB")
+LIKE_ANOTHER = ("The same", "Likewise", "Also")
+
+
+def summary_alone(function, functions):
+    """The summary where nothing around it tells of the unit: if it needs that, after what the unit is for."""
+    text = summary(function, functions)
+    if not text.startswith(IN_CONTEXT + LIKE_ANOTHER):
+        return text
+    base = functions[function.base] if function.base else function
+    unit = first_sentence(as_markdown(base.contracts[0].prose.header.prose))
+    return f"{unit} – {text[:1].lower() if text[1:2].islower() else text[:1]}{text[1:]}"

@@ -3,7 +3,8 @@
 import re
 
 from header_comments import TITLES
-from reference_model import as_markdown, description, escaped, own_description, paragraphs, summary, words_of
+from reference_model import (IN_CONTEXT, LIKE_ANOTHER, as_markdown, description, escaped, own_description, paragraphs, summary,
+                             words_of)
 from reference_siblings import differences, forms, relatives, spellings, storage_of
 
 FAMILY_TITLES = {
@@ -18,10 +19,6 @@ KINDS = {
 }
 # The parts of a contract that get a row of their own, in this order; formulas and costs stand elsewhere.
 ROWS = ("missing", "mask", "weights", "divisor", "empty", "failure", "memory", "seed", "source", "weak")
-
-
-# Words that begin what is told of a function only within its unit.
-IN_CONTEXT = ("From ", "All blocks", "C is ", "With weights", "One draw", "Flat forms", "Only ")
 
 
 def label_of(unit):
@@ -92,12 +89,12 @@ class Pages:
         """A comment that begins with "The same" tells what changes against the one before it: that one in a quotation."""
         base = self.functions[function.base] if function.base else function
         own = description(base, self.functions)
-        if not own or not own[0].startswith(("The same", "Likewise", "Also")):
+        if not own or not own[0].startswith(LIKE_ANOTHER):
             return []
         names = [name for name, other in self.functions.items() if other.unit == base.unit and not other.base]
         for name in reversed(names[:names.index(base.name)]):
             before = description(self.functions[name], self.functions)
-            if before != own and not before[0].startswith(("The same", "Likewise", "Also")):
+            if before != own and not before[0].startswith(LIKE_ANOTHER):
                 return [f"> `{name}`: {before[0]}", *(f"> {line}" for line in before[1:]), ""]
         return []
 
