@@ -3,12 +3,15 @@
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../elementary/detail/texts.h"
 #include "../kernels/missing_kernels.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
 
 using vecmat::block;
 using vecmat::booleanOf;
+using vecmat::CallerTexts;
 using vecmat::cells;
 using vecmat::countOf;
 using vecmat::isMissing;
@@ -16,6 +19,7 @@ using vecmat::isMissingOrBelow;
 using vecmat::missingKernels;
 using vecmat::onBlocks;
 using vecmat::onBlocksOrElse;
+using vecmat::TableTexts;
 using vecmat::triangle;
 
 namespace {
@@ -94,13 +98,10 @@ auto countIn(Storage storage, int rows, int cols, Count count)
 }
 
 /// Counts in strings. A place outside the table reads as an empty string, but does not count as missing.
-template <class Count>
-auto countIn(Smatrix* table, Count count)
+template <class Texts, class Count>
+auto countIn(Texts texts, Count count)
 {
-    const auto missing = [table](int i, int j) {
-        const unsigned k = vecmat::linearIndex(i, j, table->nRows);
-        return k < table->nElems && table->X[k].empty();
-    };
+    const auto missing = [texts](int i, int j) { return texts.isInside(i, j) && texts.at(i, j).empty(); };
     return count(ColumnsOfCells<decltype(missing)>{missing});
 }
 
@@ -138,7 +139,7 @@ void M_NbMissing(matrix* a, int nRows, int nCols, int* counts)
 
 void M_NbMissing(Smatrix* a, int nRows, int nCols, int* counts)
 {
-    countIn(a, byColumn(nRows, nCols, counts));
+    countIn(TableTexts(a), byColumn(nRows, nCols, counts));
 }
 
 int M_NbMissing(matrix** a, int nRows, int nCols)
@@ -157,6 +158,16 @@ int M_NbMissing2(matrix** a, int nRows, int nCols)
 }
 
 int M_NbMissing2(Smatrix* a, int nRows, int nCols)
+{
+    return countIn(TableTexts(a), inAll(nRows, nCols));
+}
+
+void vecmat::nbMissing(const CallerTexts& a, int nRows, int nCols, int* counts)
+{
+    countIn(a, byColumn(nRows, nCols, counts));
+}
+
+int vecmat::nbMissing2(const CallerTexts& a, int nRows, int nCols)
 {
     return countIn(a, inAll(nRows, nCols));
 }

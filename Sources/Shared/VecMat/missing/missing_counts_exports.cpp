@@ -1,10 +1,12 @@
 #include "missing_counts.h"
 
 #include "../base/detail/numbers.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
 #include "../kernels/missing_kernels.h"
+#include "detail/text_calls.h"
 
-using vecmat::copied;
+using vecmat::CallerTexts;
 using vecmat::viewed;
 
 short VB_IsMissingValueDbl(double x)
@@ -24,7 +26,7 @@ int VB_V_NbMissing(double* x, int n)
 
 int VB_V_NbMissingStr(wchar_t** x, int n)
 {
-    return V_NbMissing(copied(x, n, 1), n);
+    return vecmat::nbMissing2(CallerTexts(x, n, 1), n, 1);
 }
 
 int VB_V_NbNonMissing(double* x, int n)
@@ -39,7 +41,7 @@ void VB_M_NbMissing(double* a, int nRows, int nCols, int* counts)
 
 void VB_M_NbMissingStr(wchar_t** a, int nRows, int nCols, int* counts)
 {
-    M_NbMissing(copied(a, nRows, nCols), nRows, nCols, counts);
+    vecmat::nbMissing(CallerTexts(a, nRows, nCols), nRows, nCols, counts);
 }
 
 int VB_M_NbMissing2(double* a, int nRows, int nCols)
@@ -49,7 +51,7 @@ int VB_M_NbMissing2(double* a, int nRows, int nCols)
 
 int VB_M_NbMissing2Str(wchar_t** a, int nRows, int nCols)
 {
-    return M_NbMissing2(copied(a, nRows, nCols), nRows, nCols);
+    return vecmat::nbMissing2(CallerTexts(a, nRows, nCols), nRows, nCols);
 }
 
 void VB_M_NbNonMissing(double* a, int nRows, int nCols, int* counts)

@@ -4,15 +4,19 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../elementary/detail/texts.h"
+#include "detail/text_calls.h"
 
 using vecmat::block;
 using vecmat::booleanOf;
+using vecmat::CallerTexts;
 using vecmat::cells;
 using vecmat::isMissing;
 using vecmat::linear;
 using vecmat::maskOfMissing;
 using vecmat::missingValue;
 using vecmat::onBlocks;
+using vecmat::TableTexts;
 using vecmat::triangle;
 
 namespace {
@@ -20,6 +24,14 @@ namespace {
 constexpr bool isSet(short flag)
 {
     return flag == -1;
+}
+
+template <class Texts>
+void flagEmpty(Texts texts, int n, const short* filter, short* out)
+{
+    for (int i = 0; i < n; ++i)
+        if (isSet(filter[i]) && texts.at(i, 0).empty())
+            out[i] = -1;
 }
 
 /// Each column would overwrite the flags of the one before, so only the last one is read.
@@ -80,11 +92,14 @@ void SummarizeMissing(int n, int*& total, short*& out, short*& a, short*& b, sho
         }
 }
 
+void vecmat::getMissingStr(const CallerTexts& x, int n, const short* a, short* out)
+{
+    flagEmpty(x, n, a, out);
+}
+
 void V_GetMissingStr(Smatrix* x, int n, short* a, short* out)
 {
-    for (int i = 0; i < n; ++i)
-        if (isSet(a[i]) && linear(x).get(i).empty())
-            out[i] = -1;
+    flagEmpty(TableTexts(x), n, a, out);
 }
 
 void M_GetMissing(matrix* a, int nRows, int nCols, short* filter, short* out)

@@ -4,14 +4,14 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
-
-#include <string>
+#include "detail/text_calls.h"
 
 using vecmat::booleanOf;
+using vecmat::CallerTexts;
 using vecmat::cells;
 using vecmat::columns;
-using vecmat::copied;
 using vecmat::isMissing;
 using vecmat::maskOfMissing;
 using vecmat::viewed;
@@ -19,14 +19,14 @@ using vecmat::viewed;
 namespace {
 
 /// Flags the rows that pass the filter and are missing in every column.
-template <class Cells, class Test>
-void flagAllMissingRows(Cells x, Test missing, int rows, int cols, const short* filter, short* out)
+template <class Test>
+void flagAllMissingRows(Test missingAt, int rows, int cols, const short* filter, short* out)
 {
     for (int i = 0; i < rows; ++i) {
         if (filter[i] != -1)
             continue;
         int j = 0;
-        while (j < cols && missing(x.get(i, j)))
+        while (j < cols && missingAt(i, j))
             ++j;
         if (j > 0 && j == cols)
             out[i] = -1;
@@ -53,14 +53,14 @@ void VB_SummarizeAllMissing(int n, short* a, short* b, int* total, short* out)
 void VB_M_AllMissingRows(double* x, int nRows, int nCols, short* filter, short* out)
 {
     const auto table = viewed(x, nRows, nCols);
-    flagAllMissingRows(cells<matrix>(table), isMissing, nRows, nCols, filter, out);
+    flagAllMissingRows([x = cells<matrix>(table)](int i, int j) { return isMissing(x.get(i, j)); }, nRows, nCols,
+                       filter, out);
 }
 
 void VB_M_AllMissingRowsStr(wchar_t** x, int nRows, int nCols, short* filter, short* out)
 {
-    const auto table = copied(x, nRows, nCols);
-    const auto empty = [](const std::wstring& text) { return text.empty(); };
-    flagAllMissingRows(cells<Smatrix>(table), empty, nRows, nCols, filter, out);
+    const CallerTexts texts(x, nRows, nCols);
+    flagAllMissingRows([texts](int i, int j) { return texts.at(i, j).empty(); }, nRows, nCols, filter, out);
 }
 
 void VB_V_GetMissingDbl(double* x, int n, short* a, short* out)
@@ -71,7 +71,7 @@ void VB_V_GetMissingDbl(double* x, int n, short* a, short* out)
 
 void VB_V_GetMissingStr(wchar_t** x, int n, short* a, short* out)
 {
-    V_GetMissingStr(copied(x, n, 1), n, a, out);
+    vecmat::getMissingStr(CallerTexts(x, n, 1), n, a, out);
 }
 
 void Cpp_M_GetMissingDbl(double* a, int nRows, int nCols, short* filter, short* out)

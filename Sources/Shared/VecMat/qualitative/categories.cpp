@@ -1,13 +1,15 @@
 #include "categories.h"
 
 #include "../access/cells.h"
+#include "../elementary/detail/caller_text.h"
 #include "../elementary/detail/text_table.h"
+#include "../elementary/detail/texts.h"
 #include "detail/category_lists.h"
 #include "detail/category_order.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
 #include <string>
-#include <string_view>
 
 using namespace vecmat;
 
@@ -29,10 +31,11 @@ struct Summary
         matrix::matCheck(catWeights, nCols, places, 0.0);
     }
 
-    void storeList(int variable, const WeightedCategories& list) const
+    template <class List>
+    void storeList(int variable, const List& list) const
     {
         for (int place = 0; place < list.size(); ++place) {
-            cells(categories).set(variable, place, list.text(place));
+            cells(categories).set(variable, place, wideText(list.text(place)));
             cells(catWeights).set(variable, place, list.weight(place));
         }
     }
@@ -46,20 +49,19 @@ struct Summary
     }
 };
 
-void collect(Smatrix* table, int nRows, int variable, matrix* weights, WeightedCategories& list)
+template <class Texts, class List>
+void collect(const Texts& table, int nRows, int variable, matrix* weights, List& list)
 {
-    const auto text = cells(table);
     const auto weight = linear(weights);
     int i = 0;
-    while (i < nRows && text.get(i, variable).empty())
+    while (i < nRows && table.at(i, variable).empty())
         ++i;
     // Without data the search has run one place past the column, and the cell there is its category.
     if (i >= nRows) {
-        list.add(text.get(i, variable), weight.get(i));
+        list.add(table.at(i, variable), weight.get(i));
         return;
     }
-    const auto textAt = [=](int row) -> std::wstring_view { return text.get(row, variable); };
-    forEachText(i, nRows, list.table(), textAt, [&](int row, const HashedText& category) {
+    forEachText(i, nRows, list.table(), columnOf(table, variable), [&](int row, const typename Texts::Text& category) {
         if (!category.text().empty())
             list.add(category, weight.get(row));
     });
@@ -67,12 +69,12 @@ void collect(Smatrix* table, int nRows, int variable, matrix* weights, WeightedC
 
 /// Lists at most `places` categories of each variable. `countOf(variable, found)` gives the count used for the mode and
 /// the total.
-template <class CountOf>
-void summarize(Smatrix* table, int nRows, int nCols, int places, matrix* weights, const Summary& result, int* total,
+template <class Texts, class CountOf>
+void summarize(const Texts& table, int nRows, int nCols, int places, matrix* weights, const Summary& result, int* total,
                CountOf countOf)
 {
     result.prepare(nCols, places);
-    WeightedCategories list(places);
+    WeightedCategories<typename Texts::Text> list(places);
     unsigned sum = 0;
     for (int j = 0; j < nCols; ++j) {
         list.clear();
@@ -93,8 +95,10 @@ void sortLists(const Summary& result, int nCols, matrixInt* nCats)
 
 } // namespace
 
-void M_InfoQuali(Smatrix* table, int nRows, int nCols, Smatrix*& modes, matrix*& modeWeights, matrixInt*& nCats,
-                 Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total, short sortCats)
+template <class Texts>
+void vecmat::infoQuali(const Texts& table, int nRows, int nCols, Smatrix*& modes, matrix*& modeWeights,
+                       matrixInt*& nCats, Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total,
+                       short sortCats)
 {
     matrixInt::matCheck(nCats, nCols, 1, 0);
     const Summary result{modes, modeWeights, categories, catWeights};
@@ -106,9 +110,10 @@ void M_InfoQuali(Smatrix* table, int nRows, int nCols, Smatrix*& modes, matrix*&
         sortLists(result, nCols, nCats);
 }
 
-void M_InfoQuali2(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix*& modes,
-                  matrix*& modeWeights, Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total,
-                  short sortCats)
+template <class Texts>
+void vecmat::infoQuali2(const Texts& table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix*& modes,
+                        matrix*& modeWeights, Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total,
+                        short sortCats)
 {
     const Summary result{modes, modeWeights, categories, catWeights};
     summarize(table, nRows, nCols, maxCats, weights, result, total,
@@ -117,56 +122,97 @@ void M_InfoQuali2(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* 
         sortLists(result, nCols, nCats);
 }
 
-void M_InfoQualiValid(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix* categories,
-                      matrix*& catWeights, short* invalid, matrix* weights)
+template <class Texts>
+void vecmat::infoQualiValid(const Texts& table, int nRows, int nCols, int maxCats, matrixInt* nCats,
+                            const Texts& categories, matrix*& catWeights, short* invalid, matrix* weights)
 {
+    using Text = typename Texts::Text;
     matrix::matCheck(catWeights, nCols, maxCats, 0.0);
     *invalid = 0;
     const auto sums = cells(catWeights);
     for (int j = 0; j < nCols; ++j) {
-        const TextPlaces known = placesOf(categories, j, linear(nCats).get(j), Repeated::lastCounts);
-        for (int i = 0; i < nRows; ++i) {
-            const std::wstring& text = cells(table).get(i, j);
-            if (text.empty())
-                continue;
+        const TextPlaces<Text> known = placesOf(categories, j, linear(nCats).get(j), Repeated::lastCounts);
+        forEachText(0, nRows, known.table(), columnOf(table, j), [&](int i, const Text& text) {
+            if (text.text().empty())
+                return true;
             const int place = known.find(text);
-            if (place == TextPlaces::none) {
+            if (place == TextPlaces<Text>::none)
                 *invalid = -1;
-                return;
-            }
-            sums.set(j, place, sums.get(j, place) + linear(weights).get(i));
-        }
+            else
+                sums.set(j, place, sums.get(j, place) + linear(weights).get(i));
+            return *invalid == 0;
+        });
+        if (*invalid != 0)
+            return;
     }
 }
 
-int GetMaxCat(Smatrix* table, int nRows, int nCols, matrixInt* counts)
+template <class Texts>
+int vecmat::getMaxCat(const Texts& table, int nRows, int nCols, matrixInt* counts)
 {
     int largest = 0;
     for (int j = 0; j < nCols; ++j) {
-        const int count = countDistinct(nRows, [=](int i) -> std::wstring_view { return cells(table).get(i, j); });
+        const int count = countDistinct<typename Texts::Text>(nRows, columnOf(table, j));
         linear(counts).set(j, count);
         largest = std::max(largest, count);
     }
     return largest;
 }
 
-bool vecmat::labelsRepeat(Smatrix* labels, int nRows, int nCols, const int* counts)
+template <class Texts>
+bool vecmat::labelsRepeat(const Texts& labels, int nRows, int nCols, const int* counts)
 {
     const int longest = nRows < 1 ? 0 : *std::max_element(counts, counts + nRows);
     // The places beyond the table are empty, so the second already repeats the first.
     const int visited = longest < 1 ? 0 : std::min(longest, std::max(nCols, 0) + 2);
 
     // Place by place, so that a repeated label is found after its first place, or in another row at the same place.
-    TextPlaces places;
+    TextPlaces<typename Texts::Text> places;
     for (int place = 0; place < visited; ++place) {
         for (int i = 0; i < nRows; ++i) {
             if (place >= counts[i])
                 continue;
-            const std::wstring& label = cells(labels).get(i, place);
+            const typename Texts::Text label = labels.at(i, place);
             places.add(label, place, Repeated::firstCounts);
             if (places.find(label) < place)
                 return true;
         }
     }
     return false;
+}
+
+template void vecmat::infoQuali(const CallerTexts&, int, int, Smatrix*&, matrix*&, matrixInt*&, Smatrix*&, matrix*&,
+                                matrix*, int*, short);
+template void vecmat::infoQuali2(const CallerTexts&, int, int, int, matrixInt*, Smatrix*&, matrix*&, Smatrix*&,
+                                 matrix*&, matrix*, int*, short);
+template void vecmat::infoQualiValid(const CallerTexts&, int, int, int, matrixInt*, const CallerTexts&, matrix*&,
+                                     short*, matrix*);
+template int vecmat::getMaxCat(const CallerTexts&, int, int, matrixInt*);
+template bool vecmat::labelsRepeat(const CallerTexts&, int, int, const int*);
+
+void M_InfoQuali(Smatrix* table, int nRows, int nCols, Smatrix*& modes, matrix*& modeWeights, matrixInt*& nCats,
+                 Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total, short sortCats)
+{
+    infoQuali(TableTexts(table), nRows, nCols, modes, modeWeights, nCats, categories, catWeights, weights, total,
+              sortCats);
+}
+
+void M_InfoQuali2(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix*& modes,
+                  matrix*& modeWeights, Smatrix*& categories, matrix*& catWeights, matrix* weights, int* total,
+                  short sortCats)
+{
+    infoQuali2(TableTexts(table), nRows, nCols, maxCats, nCats, modes, modeWeights, categories, catWeights, weights,
+               total, sortCats);
+}
+
+void M_InfoQualiValid(Smatrix* table, int nRows, int nCols, int maxCats, matrixInt* nCats, Smatrix* categories,
+                      matrix*& catWeights, short* invalid, matrix* weights)
+{
+    infoQualiValid(TableTexts(table), nRows, nCols, maxCats, nCats, TableTexts(categories), catWeights, invalid,
+                   weights);
+}
+
+int GetMaxCat(Smatrix* table, int nRows, int nCols, matrixInt* counts)
+{
+    return getMaxCat(TableTexts(table), nRows, nCols, counts);
 }

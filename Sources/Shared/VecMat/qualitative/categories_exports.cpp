@@ -1,9 +1,11 @@
 #include "categories.h"
 
 #include "../base/detail/outgoing_texts.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/outgoing_columns.h"
 #include "detail/category_lists.h"
+#include "detail/text_calls.h"
 
 using namespace vecmat;
 
@@ -16,8 +18,8 @@ void VB_M_InfoQuali(wchar_t** table, int nRows, int nCols, wchar_t** modes, doub
     StringTableHandle texts;
     TableHandle sums;
     int all = 0;
-    M_InfoQuali(copied(table, nRows, nCols), nRows, nCols, modeTexts.reference(), modeSums.reference(),
-                counts.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
+    infoQuali(CallerTexts(table, nRows, nCols), nRows, nCols, modeTexts.reference(), modeSums.reference(),
+              counts.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
     OutgoingTexts outgoing;
     addTexts(outgoing, modeTexts, modes);
     addTexts(outgoing, texts, categories);
@@ -37,8 +39,8 @@ void VB_M_InfoQuali2(wchar_t** table, int nRows, int nCols, int maxCats, int* nC
     StringTableHandle texts;
     TableHandle sums;
     int all = 0;
-    M_InfoQuali2(copied(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1), modeTexts.reference(),
-                 modeSums.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
+    infoQuali2(CallerTexts(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1), modeTexts.reference(),
+               modeSums.reference(), texts.reference(), sums.reference(), viewed(weights, nRows, 1), &all, sortCats);
     OutgoingTexts outgoing;
     addTexts(outgoing, modeTexts, modes);
     addTexts(outgoing, texts, categories);
@@ -53,8 +55,8 @@ void VB_M_InfoQualiValid(wchar_t** table, int nRows, int nCols, int maxCats, int
 {
     TableHandle sums;
     short unknown = 0;
-    M_InfoQualiValid(copied(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1),
-                     copied(categories, nCols, maxCats), sums.reference(), &unknown, viewed(weights, nRows, 1));
+    infoQualiValid(CallerTexts(table, nRows, nCols), nRows, nCols, maxCats, viewed(nCats, nCols, 1),
+                   CallerTexts(categories, nCols, maxCats), sums.reference(), &unknown, viewed(weights, nRows, 1));
     *invalid = unknown;
     handBack(sums, catWeights);
 }
@@ -62,12 +64,12 @@ void VB_M_InfoQualiValid(wchar_t** table, int nRows, int nCols, int maxCats, int
 int Cpp_GetMaxCat(wchar_t** table, int nRows, int nCols, int* counts)
 {
     const IntTableHandle found = freshInt(nCols, 1);
-    const int largest = GetMaxCat(copied(table, nRows, nCols), nRows, nCols, found);
+    const int largest = getMaxCat(CallerTexts(table, nRows, nCols), nRows, nCols, found);
     handBack(found, counts);
     return largest;
 }
 
 int Cpp_CheckUniqueCatByVar(wchar_t** table, int nRows, int nCols, int* counts)
 {
-    return labelsRepeat(copied(table, nRows, nCols), nRows, nCols, counts) ? 1 : 0;
+    return labelsRepeat(CallerTexts(table, nRows, nCols), nRows, nCols, counts) ? 1 : 0;
 }

@@ -4,12 +4,13 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
 #include "../elementary/detail/text_table.h"
+#include "../elementary/detail/texts.h"
 #include "detail/category_lists.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -18,30 +19,34 @@ using namespace vecmat;
 namespace {
 
 /// All places of each text in the list of a variable, lowest first: a list may contain a text more than once.
+template <class Texts>
 class PlaceChains
 {
+    using Text = typename Texts::Text;
+    using Table = TextTable<int, Text>;
+
 public:
     static constexpr int none = -1;
 
-    PlaceChains(Smatrix* categories, int variable, int count) : next_(static_cast<std::size_t>(count), none)
+    PlaceChains(const Texts& categories, int variable, int count) : next_(static_cast<std::size_t>(count), none)
     {
         for (int place = count - 1; place >= 0; --place) {
-            const auto [number, isNew] = first_.add(cells(categories).get(variable, place), place);
+            const auto [number, isNew] = first_.add(categories.at(variable, place), place);
             if (!isNew)
                 next_[static_cast<std::size_t>(place)] = std::exchange(first_.value(number), place);
         }
     }
 
-    int first(const HashedText& text) const
+    int first(const Text& text) const
     {
         const int number = first_.find(text);
-        return number == TextTable<int>::none ? none : first_.value(number);
+        return number == Table::none ? none : first_.value(number);
     }
     int after(int place) const { return next_[static_cast<std::size_t>(place)]; }
-    const TextTable<int>& table() const { return first_; }
+    const Table& table() const { return first_; }
 
 private:
-    TextTable<int> first_;
+    Table first_;
     std::vector<int> next_;
 };
 
@@ -84,8 +89,9 @@ int firstComparedRow(const short* mask, int nRows)
 
 } // namespace
 
-void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, matrixInt* nCats, Smatrix* categories,
-                           matrix* freq, matrix*& out, int coding, int keepBaseline)
+template <class Texts>
+void vecmat::buildDisjunctiveTable(const Texts& table, int nRows, int nCols, int totalCats, matrixInt* nCats,
+                                   const Texts& categories, matrix* freq, matrix*& out, int coding, int keepBaseline)
 {
     matrix::matCheck(out, nRows, totalCats, 0.0);
     const auto target = cells(out);
@@ -95,11 +101,11 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
         // Nothing can be written after the last column of the result.
         const long long columnsLeft = std::max(0LL, static_cast<long long>(out->nCols) - offset);
         const int places = static_cast<int>(std::clamp<long long>(count, 0, columnsLeft));
-        const PlaceChains chains(categories, j, std::min(places, placesToVisit(categories, count)));
+        const PlaceChains<Texts> chains(categories, j, std::min(places, placesToVisit(categories, count)));
         const std::vector<double> contrasts = baselineRow(freq, j, places, coding);
         const bool baselineShown = showsBaseline(j, coding, keepBaseline);
 
-        const auto code = [&](int i, const HashedText& text) {
+        const auto code = [&](int i, const typename Texts::Text& text) {
             if (text.text().empty()) {
                 for (int place = 0; place < places; ++place)
                     target.set(i, offset + place, missingValue);
@@ -110,14 +116,23 @@ void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, 
                 for (std::size_t other = 0; other < contrasts.size(); ++other)
                     target.set(i, offset + 1 + static_cast<int>(other), contrasts[other]);
             // A category equal to the baseline would be overwritten by the contrast, so the ones are written last.
-            for (int place = first; place != PlaceChains::none; place = chains.after(place))
+            for (int place = first; place != PlaceChains<Texts>::none; place = chains.after(place))
                 if (place > 0 || baselineShown)
                     target.set(i, offset + place, 1.0);
         };
-        forEachText(
-            0, nRows, chains.table(), [=](int i) -> std::wstring_view { return cells(table).get(i, j); }, code);
+        forEachText(0, nRows, chains.table(), columnOf(table, j), code);
         offset = static_cast<int>(static_cast<unsigned>(offset) + static_cast<unsigned>(count));
     }
+}
+
+template void vecmat::buildDisjunctiveTable(const CallerTexts&, int, int, int, matrixInt*, const CallerTexts&, matrix*,
+                                            matrix*&, int, int);
+
+void BuildDisjunctiveTable(Smatrix* table, int nRows, int nCols, int totalCats, matrixInt* nCats, Smatrix* categories,
+                           matrix* freq, matrix*& out, int coding, int keepBaseline)
+{
+    buildDisjunctiveTable(TableTexts(table), nRows, nCols, totalCats, nCats, TableTexts(categories), freq, out, coding,
+                          keepBaseline);
 }
 
 short M_IsDisjTable(matrix* table, int nRows, int nCols, short* mask, int* rowSum)

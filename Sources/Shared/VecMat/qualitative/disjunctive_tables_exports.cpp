@@ -1,6 +1,8 @@
 #include "disjunctive_tables.h"
 
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
+#include "detail/text_calls.h"
 
 using namespace vecmat;
 
@@ -8,9 +10,9 @@ void VB_BuildDisjunctiveTable(wchar_t** table, int nRows, int nCols, int totalCa
                               double* freq, int maxCats, double* out, int coding, int keepBaseline)
 {
     TableHandle result;
-    BuildDisjunctiveTable(copied(table, nRows, nCols), nRows, nCols, totalCats, viewed(nCats, nCols, 1),
-                          copied(categories, nCols, maxCats), viewed(freq, nCols, maxCats), result.reference(), coding,
-                          keepBaseline);
+    buildDisjunctiveTable(CallerTexts(table, nRows, nCols), nRows, nCols, totalCats, viewed(nCats, nCols, 1),
+                          CallerTexts(categories, nCols, maxCats), viewed(freq, nCols, maxCats), result.reference(),
+                          coding, keepBaseline);
     handBack(result, out);
 }
 

@@ -2,12 +2,13 @@
 
 #include "../access/cells.h"
 #include "../elementary/detail/text_table.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
-#include <string_view>
 #include <vector>
 
 using namespace vecmat;
@@ -161,7 +162,15 @@ int V_NbDistinct(matrixInt* x, int n)
     return countAscents(x, n, freshInt(n, 1));
 }
 
+template <class Texts>
+int vecmat::nbDistinct(const Texts& x, int n)
+{
+    return n < 2 ? 1 : countDistinct<typename Texts::Text>(n, columnOf(x, 0));
+}
+
+template int vecmat::nbDistinct(const CallerTexts&, int);
+
 int V_NbDistinct(Smatrix* x, int n)
 {
-    return n < 2 ? 1 : countDistinct(n, [x](int i) -> std::wstring_view { return linear(x).get(i); });
+    return nbDistinct(TableTexts(x), n);
 }

@@ -1,6 +1,8 @@
 #include "distinct.h"
 
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
+#include "detail/text_calls.h"
 
 using vecmat::copied;
 using vecmat::handBack;
@@ -33,5 +35,5 @@ int VB_V_NbDistinctLng(int* x, int n)
 
 int Cpp_V_NbDistinctStr(wchar_t** x, int n)
 {
-    return V_NbDistinct(copied(x, n, 1), n);
+    return vecmat::nbDistinct(vecmat::CallerTexts(x, n, 1), n);
 }

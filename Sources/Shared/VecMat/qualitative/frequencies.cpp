@@ -1,15 +1,18 @@
 #include "frequencies.h"
 
 #include "../access/cells.h"
+#include "../elementary/detail/texts.h"
+#include "detail/text_calls.h"
 
 #include <cmath>
+#include <string_view>
 
 using namespace vecmat;
 
 namespace {
 
-template <class Table, class Matches>
-double weightOfMatches(Table* x, int n, matrix* weights, Matches matches)
+template <class Vector, class Matches>
+double weightOfMatches(Vector x, int n, matrix* weights, Matches matches)
 {
     return onBlocks(
         [=](auto cell, auto weight) {
@@ -19,13 +22,13 @@ double weightOfMatches(Table* x, int n, matrix* weights, Matches matches)
                     sum += weight.get(i);
             return sum;
         },
-        block(linear(x), n), block(linear(weights), n));
+        block(x, n), block(linear(weights), n));
 }
 
 template <class Table>
 double weightNear(Table* x, int n, matrix* weights, double value, double tolerance)
 {
-    return weightOfMatches(x, n, weights, [=](double cell) { return std::fabs(cell - value) < tolerance; });
+    return weightOfMatches(linear(x), n, weights, [=](double cell) { return std::fabs(cell - value) < tolerance; });
 }
 
 } // namespace
@@ -40,7 +43,12 @@ double V_Freq(matrixInt* x, int n, matrix* weights, double value, double toleran
     return weightNear(x, n, weights, value, tolerance);
 }
 
+double vecmat::freqStr(const CallerTexts& x, int n, matrix* weights, const std::wstring& value)
+{
+    return weightOfMatches(x, n, weights, [&value](std::wstring_view text) { return text == value; });
+}
+
 double V_FreqStr(Smatrix* x, int n, matrix* weights, std::wstring value)
 {
-    return weightOfMatches(x, n, weights, [&value](const std::wstring& text) { return text == value; });
+    return weightOfMatches(linear(x), n, weights, [&value](const std::wstring& text) { return text == value; });
 }

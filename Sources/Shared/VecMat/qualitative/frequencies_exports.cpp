@@ -1,9 +1,10 @@
 #include "frequencies.h"
 
 #include "../base/detail/numbers.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
+#include "detail/text_calls.h"
 
-using vecmat::copied;
 using vecmat::truncated;
 using vecmat::viewed;
 
@@ -20,5 +21,5 @@ int VB_V_FreqLng(int* x, int n, double* weights, int value)
 
 double VB_V_FreqStr(wchar_t** x, int n, double* weights, const wchar_t* value)
 {
-    return V_FreqStr(copied(x, n, 1), n, viewed(weights, n, 1), value);
+    return vecmat::freqStr(vecmat::CallerTexts(x, n, 1), n, viewed(weights, n, 1), value);
 }

@@ -3,27 +3,37 @@
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../elementary/detail/caller_text.h"
 #include "../elementary/detail/text_table.h"
+#include "../elementary/detail/texts.h"
 #include "detail/category_lists.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
 #include <vector>
 
 using namespace vecmat;
 
-std::wstring V_Mode(Smatrix* x, int n, matrix* weights)
+template <class Texts>
+std::wstring vecmat::mode(const Texts& x, int n, matrix* weights)
 {
-    WeightedCategories list(WeightedCategories::unlimited);
-    const auto textAt = [x](int i) -> std::wstring_view { return linear(x).get(i); };
-    forEachText(0, n, list.table(), textAt, [&](int i, const HashedText& text) {
+    using Text = typename Texts::Text;
+    WeightedCategories<Text> list(WeightedCategories<Text>::unlimited);
+    forEachText(0, n, list.table(), columnOf(x, 0), [&](int i, const Text& text) {
         if (!text.text().empty())
             list.add(text, linear(weights).get(i));
     });
     if (list.size() == 0)
         return {};
-    return std::wstring(list.text(heaviest(list.size(), [&list](int place) { return list.weight(place); })));
+    return std::wstring(wideText(list.text(heaviest(list.size(), [&list](int place) { return list.weight(place); }))));
+}
+
+template std::wstring vecmat::mode(const CallerTexts&, int, matrix*);
+
+std::wstring V_Mode(Smatrix* x, int n, matrix* weights)
+{
+    return mode(TableTexts(x), n, weights);
 }
 
 double V_ModeCat(matrix* x, int n)

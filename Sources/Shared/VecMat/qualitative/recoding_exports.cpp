@@ -1,8 +1,11 @@
 #include "recoding.h"
 
+#include "../elementary/detail/texts.h"
 #include "../elementary/extremes.h"
 #include "../frame/detail/handles.h"
+#include "detail/text_calls.h"
 
+using vecmat::CallerTexts;
 using vecmat::columns;
 using vecmat::copied;
 using vecmat::handBack;
@@ -21,8 +24,8 @@ int largestCount(int* nCats, int nCols)
 void VB_M_ReplaceCatByCodes(wchar_t** table, int nRows, int nCols, int* nCats, wchar_t** categories, double* out)
 {
     TableHandle codes = copied(out, nRows, nCols); // cells without a match keep the caller's contents
-    M_ReplaceCatByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), codes.reference());
+    vecmat::replaceCatByCodes(CallerTexts(table, nRows, nCols), nRows, nCols, nCats,
+                              CallerTexts(categories, nCols, largestCount(nCats, nCols)), codes.reference());
     handBack(codes, out);
 }
 
@@ -30,14 +33,15 @@ void VB_M_ReplaceStrByCodes(wchar_t** table, int nRows, int nCols, int* nCats, w
                             int firstCode, double* out)
 {
     TableHandle codes = copied(out, nRows, nCols);
-    M_ReplaceStrByCodes(copied(table, nRows, nCols), nRows, nCols, nCats,
-                        copied(categories, nCols, largestCount(nCats, nCols)), mask, firstCode, codes.reference());
+    vecmat::replaceStrByCodes(CallerTexts(table, nRows, nCols), nRows, nCols, nCats,
+                              CallerTexts(categories, nCols, largestCount(nCats, nCols)), mask, firstCode,
+                              codes.reference());
     handBack(codes, out);
 }
 
 void Cpp_V_RecodeToBinary(wchar_t** x, int n, const wchar_t* value, int /*ignored*/, double* out)
 {
-    V_RecodeToBinary(copied(x, n, 1), n, value, viewed(out, n, 1));
+    vecmat::recodeToBinary(CallerTexts(x, n, 1), n, value, viewed(out, n, 1));
 }
 
 void VB_M_Binarize(double* table, int nRows, int nCols, double* out)

@@ -2,9 +2,11 @@
 
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
 #include "detail/random_series.h"
 #include "detail/sampled_rows.h"
+#include "detail/text_samples.h"
 #include "permutations.h"
 
 #include <cmath>
@@ -42,8 +44,8 @@ constexpr bool isMultiple(long long distance, int step)
 }
 
 /// Takes at most `n` rows, from row `start` on.
-template <class Rows>
-void sampleSystematically(Rows S, int N, int p, int n, Rows Z, matrix* ids, int step, long long start)
+template <class Population, class Rows>
+void sampleSystematically(Population S, int N, int p, int n, Rows Z, matrix* ids, int step, long long start)
 {
     const auto id = linear(ids);
     int taken = 0;
@@ -56,24 +58,25 @@ void sampleSystematically(Rows S, int N, int p, int n, Rows Z, matrix* ids, int 
     }
 }
 
-template <class Rows>
-void sampleFromRandomStart(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
+template <class Population, class Rows>
+void sampleFromRandomStart(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
+                           int* seedOut)
 {
     const Interval interval(N, n);
     const int rowsBefore = interval.offset(GenerateRandom01(seed, seedFlag, seedOut));
     sampleSystematically(S, N, p, n, Z, ids, interval.step, rowsBefore + 1LL);
 }
 
-template <class Rows>
-void sampleFromMiddle(Rows S, int N, int p, int n, Rows Z, matrix* ids)
+template <class Population, class Rows>
+void sampleFromMiddle(Population S, int N, int p, int n, Rows Z, matrix* ids)
 {
     const Interval interval(N, n);
     sampleSystematically(S, N, p, n, Z, ids, interval.step, interval.middle());
 }
 
 /// One row per interval. Stops at the end of the population, or after `n` rows if it would never get there.
-template <class Rows>
-void sampleIntervals(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
+template <class Population, class Rows>
+void sampleIntervals(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
 {
     const Interval interval(N, n);
     const TableHandle taken = fresh(N, 1);
@@ -97,6 +100,23 @@ void sampleIntervals(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed
 }
 
 } // namespace
+
+void vecmat::takeFromRandomStart(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
+                                 short seedFlag, int* seedOut)
+{
+    sampleFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+}
+
+void vecmat::takeFromMiddle(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids)
+{
+    sampleFromMiddle(S, N, p, n, Z, ids);
+}
+
+void vecmat::drawOnePerInterval(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
+                                short seedFlag, int* seedOut)
+{
+    sampleIntervals(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+}
 
 void M_SamplingSystematicRdStart(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
                                  int* seedOut)

@@ -3,9 +3,11 @@
 #include "../access/cells.h"
 #include "../base/detail/memory_ranges.h"
 #include "../base/detail/numbers.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/sort.h"
 #include "detail/sampled_rows.h"
+#include "detail/text_samples.h"
 #include "permutations.h"
 
 #include <cmath>
@@ -18,6 +20,10 @@ void addMemory(Smatrix* table, int /*cols*/, MemoryRanges& ranges)
 {
     ranges.add(memoryOf(table->X, table->nElems));
 }
+void addMemory(const CallerTexts& /*population*/, int /*cols*/, MemoryRanges& /*ranges*/)
+{
+    // No text lies in a table.
+}
 void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
 {
     for (int j = 0; j < cols; ++j)
@@ -26,8 +32,8 @@ void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
 
 /// Does each row of the sample have cells of its own, none of them in the population? Then everything read is the
 /// population's original contents, and the order in which the rows are written does not matter.
-template <class Rows>
-bool rowsAreApart(Rows S, Rows Z, int n, int p)
+template <class Population, class Rows>
+bool rowsAreApart(Population S, Rows Z, int n, int p)
 {
     if (p < 1 || n < 1 || !cells(Z).covers(n, p) || cells(Z).plain().folds(n, p))
         return false;
@@ -37,9 +43,10 @@ bool rowsAreApart(Rows S, Rows Z, int n, int p)
     return ranges.areApart();
 }
 
-/// `Rows` is a table, or an array of columns.
-template <class Rows>
-void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
+/// `Rows` is a table, or an array of columns; the population may be the texts of a caller.
+template <class Population, class Rows>
+void sampleWithReplacement(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
+                           int* seedOut)
 {
     TableHandle keys;
     M_GenerateRandom01(keys.reference(), n, 1, seed, seedFlag, seedOut);
@@ -61,8 +68,8 @@ void sampleWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int
     sortRowsByKey(Z, n, p, ids, keys);
 }
 
-template <class Rows>
-void sampleByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* ids)
+template <class Population, class Rows>
+void sampleByCounts(Population S, int N, int p, Rows Z, matrix* freq, matrix* ids)
 {
     const auto count = linear(freq);
     const auto id = linear(ids);
@@ -76,6 +83,17 @@ void sampleByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* ids)
 }
 
 } // namespace
+
+void vecmat::drawWithReplacement(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
+                                 short seedFlag, int* seedOut)
+{
+    sampleWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+}
+
+void vecmat::takeByCounts(const CallerTexts& S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids)
+{
+    sampleByCounts(S, N, p, Z, freq, ids);
+}
 
 void M_SamplingWithReplacement(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
                                int* seedOut)

@@ -12,7 +12,8 @@ void Cpp_M_SamplingRandomStratifiedByStr(wchar_t** S, int N, int p, int n, wchar
 {
     const TableHandle labels = copiedOrEmpty(rowIds, N);
     withSeeds(seed, seedOut, [&](int& start, int& next) {
-        sampleInto(S, N, p, Z, n, outIds, n, [&](Smatrix* population, Smatrix* sample, matrix* sampleLabels) {
+        const StringTableHandle rows = copiedOrEmpty(S, N, p); // a table: the design sorts the population
+        sampleFrom(rows, p, Z, n, outIds, n, [&](Smatrix* population, Smatrix* sample, matrix* sampleLabels) {
             M_SamplingRandomStratifiedByStr(population, N, p, n, sample, labels, sampleLabels, copiedOrEmpty(strata, N),
                                             copiedOrEmpty(quota, nStrata), copiedOrEmpty(sizes, nStrata), nStrata,
                                             &start, seedFlag, &next);

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -47,22 +48,27 @@ private:
 
 /// Distinct texts in order of first appearance, numbered from 0. Only views are kept: the texts must stay in place. A
 /// hash of each text leads to its number, so that the cost of a lookup does not grow with the number of texts.
-template <class Value>
+///
+/// `Text` is a text with its hash: its text() is a view with data() and ==.
+template <class Value, class Text = HashedText>
 class TextTable
 {
 public:
+    using Hashed = Text;
+    using View = decltype(std::declval<const Text&>().text());
+
     static constexpr int none = -1;
 
     int size() const { return static_cast<int>(entries_.size()); }
-    std::wstring_view text(int number) const { return entries_[static_cast<std::size_t>(number)].text; }
+    View text(int number) const { return entries_[static_cast<std::size_t>(number)].text; }
     Value& value(int number) { return entries_[static_cast<std::size_t>(number)].value; }
     const Value& value(int number) const { return entries_[static_cast<std::size_t>(number)].value; }
 
     /// The number of a text, or `none`.
-    int find(const HashedText& text) const { return slots_.empty() ? none : slots_[slotOf(text)].number; }
+    int find(const Text& text) const { return slots_.empty() ? none : slots_[slotOf(text)].number; }
 
     /// The number of a text, and whether it is new: if so it gets `value`. Existing values may be moved in memory.
-    std::pair<int, bool> add(const HashedText& text, const Value& value)
+    std::pair<int, bool> add(const Text& text, const Value& value)
     {
         if (2 * entries_.size() >= slots_.size())
             grow();
@@ -76,17 +82,17 @@ public:
 
     /// Prefetches the memory in which the text will be looked up, in three steps that each need the data of the
     /// previous one: the slot, the entry, its characters.
-    void expectSlot(const HashedText& text) const
+    void expectSlot(const Text& text) const
     {
         if (!slots_.empty())
             __builtin_prefetch(&slots_[firstSlot(text)]);
     }
-    void expectEntry(const HashedText& text) const
+    void expectEntry(const Text& text) const
     {
         if (const int number = likelyNumber(text); number != none)
             __builtin_prefetch(&entries_[static_cast<std::size_t>(number)]);
     }
-    void expectCharacters(const HashedText& text) const
+    void expectCharacters(const Text& text) const
     {
         if (const int number = likelyNumber(text); number != none)
             __builtin_prefetch(this->text(number).data());
@@ -101,7 +107,7 @@ public:
 private:
     struct Entry
     {
-        std::wstring_view text;
+        View text;
         Value value;
     };
     struct Slot
@@ -112,11 +118,11 @@ private:
 
     static constexpr std::size_t fewestSlots = 16; // a power of 2, like every number of slots
 
-    std::size_t firstSlot(const HashedText& text) const { return text.hash() & (slots_.size() - 1); }
-    int likelyNumber(const HashedText& text) const { return slots_.empty() ? none : slots_[firstSlot(text)].number; }
+    std::size_t firstSlot(const Text& text) const { return text.hash() & (slots_.size() - 1); }
+    int likelyNumber(const Text& text) const { return slots_.empty() ? none : slots_[firstSlot(text)].number; }
 
     /// The slot that holds the text, or the empty one where it belongs.
-    std::size_t slotOf(const HashedText& text) const
+    std::size_t slotOf(const Text& text) const
     {
         const std::size_t last = slots_.size() - 1;
         std::size_t k = text.hash() & last;
@@ -146,12 +152,12 @@ private:
 };
 
 /// Calls visit(i, text) for textAt(i), i from `first` to `end` - 1 in order. The texts and their places in `table` may
-/// be anywhere in memory: they are prefetched some texts ahead.
-template <class Value, class TextAt, class Visit>
-void forEachText(int first, int end, const TextTable<Value>& table, TextAt textAt, Visit visit)
+/// be anywhere in memory: they are prefetched some texts ahead. A `visit` that returns false ends the loop.
+template <class Table, class TextAt, class Visit>
+void forEachText(int first, int end, const Table& table, TextAt textAt, Visit visit)
 {
     constexpr int most = 16;
-    HashedText texts[most];
+    typename Table::Hashed texts[most];
     while (first < end) {
         const int count = end - first < most ? end - first : most;
         for (int k = 0; k < count && most < end - first - k; ++k)
@@ -165,20 +171,25 @@ void forEachText(int first, int end, const TextTable<Value>& table, TextAt textA
         for (int k = 0; k < count; ++k)
             table.expectCharacters(texts[k]);
         for (int k = 0; k < count; ++k)
-            visit(first + k, texts[k]);
+            if constexpr (std::is_same_v<decltype(visit(first, texts[k])), bool>) {
+                if (!visit(first + k, texts[k]))
+                    return;
+            } else {
+                visit(first + k, texts[k]);
+            }
         first += count;
     }
 }
 
 /// Number of distinct texts among textAt(0) to textAt(n - 1); 0 if n is below 1.
-template <class TextAt>
+template <class Text = HashedText, class TextAt>
 int countDistinct(int n, TextAt textAt)
 {
     struct Nothing
     {
     };
-    TextTable<Nothing> texts;
-    forEachText(0, n, texts, textAt, [&texts](int, const HashedText& text) { texts.add(text, {}); });
+    TextTable<Nothing, Text> texts;
+    forEachText(0, n, texts, textAt, [&texts](int, const Text& text) { texts.add(text, {}); });
     return texts.size();
 }
 

@@ -6,11 +6,11 @@
 #include "../../Smatrix.h"
 #include "../../access/cells.h"
 #include "../../elementary/detail/text_table.h"
+#include "../../elementary/detail/texts.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <string_view>
 #include <vector>
 
 namespace vecmat {
@@ -19,27 +19,28 @@ namespace vecmat {
 enum class Repeated { firstCounts, lastCounts };
 
 /// The place of each text of a list. Only views are kept: the texts must stay in place.
+template <class Text>
 class TextPlaces
 {
 public:
     static constexpr int none = -1;
 
-    int find(const HashedText& text) const
+    int find(const Text& text) const
     {
         const int number = places_.find(text);
         return number == Places::none ? none : places_.value(number);
     }
-    void add(std::wstring_view text, int place, Repeated repeated)
+    void add(const Text& text, int place, Repeated repeated)
     {
         const auto [number, isNew] = places_.add(text, place);
         if (!isNew && repeated == Repeated::lastCounts)
             places_.value(number) = place;
     }
 
-    const TextTable<int>& table() const { return places_; }
+    const auto& table() const { return places_; }
 
 private:
-    using Places = TextTable<int>;
+    using Places = TextTable<int, Text>;
 
     Places places_;
 };
@@ -47,27 +48,34 @@ private:
 /// How many of `count` places a loop over a list has to visit: those beyond the table all read alike, so the first of
 /// them represents the rest. A table may be null if there is no place.
 template <class Table>
-int placesToVisit(const Table* table, int count)
+int placesToVisit(Table* table, int count)
 {
     return count < 1 ? 0 : std::min(count, std::max(table->nCols, 0) + 1);
 }
+template <class Texts>
+int placesToVisit(const Texts& categories, int count)
+{
+    return count < 1 ? 0 : std::min(count, std::max(categories.columns(), 0) + 1);
+}
 
 /// The places of the first `count` categories of a variable, read with checks.
-inline TextPlaces placesOf(Smatrix* categories, int variable, int count, Repeated repeated)
+template <class Texts>
+auto placesOf(const Texts& categories, int variable, int count, Repeated repeated)
 {
-    TextPlaces places;
+    TextPlaces<typename Texts::Text> places;
     const int visited = placesToVisit(categories, count);
     for (int place = 0; place < visited; ++place)
-        places.add(cells(categories).get(variable, place), place, repeated);
+        places.add(categories.at(variable, place), place, repeated);
     return places;
 }
 
-/// Is one of the counts[i] labels of a row i at one place of a row and at a later place of any row?
-bool labelsRepeat(Smatrix* labels, int nRows, int nCols, const int* counts);
-
 /// Categories in order of first appearance, each with the sum of its weights. Keeps views of the texts it is given.
+template <class Text>
 class WeightedCategories
 {
+    using Known = TextTable<double, Text>;
+    using View = typename Known::View;
+
 public:
     static constexpr int unlimited = std::numeric_limits<int>::max();
 
@@ -75,7 +83,7 @@ public:
     /// found again there.
     explicit WeightedCategories(int capacity) : capacity_(capacity) {}
 
-    void add(const HashedText& text, double weight)
+    void add(const Text& text, double weight)
     {
         if (known_.size() < capacity_) {
             const auto [place, isNew] = known_.add(text, weight);
@@ -94,18 +102,14 @@ public:
     }
 
     int size() const { return known_.size() + static_cast<int>(beyond_.size()); }
-    std::wstring_view text(int place) const
-    {
-        return place < known_.size() ? known_.text(place) : beyondAt(place).text;
-    }
-    const TextTable<double>& table() const { return known_; }
+    View text(int place) const { return place < known_.size() ? known_.text(place) : beyondAt(place).text; }
+    const auto& table() const { return known_; }
     double weight(int place) const { return place < known_.size() ? known_.value(place) : beyondAt(place).weight; }
 
 private:
-    using Known = TextTable<double>;
     struct Entry
     {
-        std::wstring_view text;
+        View text;
         double weight;
     };
 

@@ -2,6 +2,7 @@
 
 #include "../../access/cells.h"
 #include "../../base/detail/companions.h"
+#include "../../elementary/detail/texts.h"
 #include "category_lists.h"
 
 #include <cstddef>
@@ -79,7 +80,7 @@ void sortCategories(Smatrix* categories, matrix* catWeights, int variable, int c
 {
     const auto text = cells(categories);
     const auto weight = cells(catWeights);
-    const int visited = placesToVisit(categories, count);
+    const int visited = placesToVisit(TableTexts(categories), count);
 
     std::vector<std::wstring> texts;
     texts.reserve(static_cast<std::size_t>(visited));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "../../Smatrix.h"
+#include "../../elementary/detail/texts.h"
 #include "../../frame/detail/handles.h"
 #include "../../frame/super_matrices.h"
 #include "callers_seeds.h"
@@ -19,18 +20,24 @@ inline TableHandle copiedOrEmpty(double* x, int rows)
     return x != nullptr ? copied(x, rows, 1) : fresh(0, 1);
 }
 
-/// Calls `design(population, sample, ids)` on tables over the caller's arrays: `N` rows of the population, `n` of the
-/// sample, `p` columns each, and `nIds` row numbers. The sample and the row numbers are then written back; whatever the
-/// design leaves unwritten in them is the caller's.
-template <class Design>
-void sampleInto(wchar_t** S, int N, int p, wchar_t** Z, int n, double* ids, int nIds, Design design)
+/// Calls `design(population, sample, ids)` on tables over the caller's arrays: `n` rows of the sample, `p` columns, and
+/// `nIds` row numbers. The sample and the row numbers are then written back; whatever the design leaves unwritten in
+/// them is the caller's.
+template <class Population, class Design>
+void sampleFrom(const Population& population, int p, wchar_t** Z, int n, double* ids, int nIds, Design design)
 {
-    const StringTableHandle population = copiedOrEmpty(S, N, p);
     const StringTableHandle sample = copiedOrEmpty(Z, n, p);
     const TableHandle rows = copiedOrEmpty(ids, nIds);
     design(population, sample, rows);
     handBack(sample, Z); // before the numbers, since making strings may fail
     handBack(rows, ids);
+}
+
+/// The same over a caller's population of `N` rows, read where it lies.
+template <class Design>
+void sampleInto(wchar_t** S, int N, int p, wchar_t** Z, int n, double* ids, int nIds, Design design)
+{
+    sampleFrom(CallerTexts(S, N, p), p, Z, n, ids, nIds, design);
 }
 
 /// The same over arrays of columns.
