@@ -82,7 +82,7 @@ Suite allWorkloads()
     Suite suite;
     for (const auto add : {addSorting, addProducts, addMoments, addQuantiles, addCovariance, addEigenvalues,
                            addSingularValues, addFactorisations, addLeastSquares, addGrouping, addCategories,
-                           addMissing, addSampling, addStrings, addSmallInputs, addMathematics})
+                           addMissing, addSampling, addStrings, addCallersTexts, addSmallInputs, addMathematics})
         add(suite);
     return suite;
 }

@@ -188,6 +188,7 @@ void addCategories(Suite& suite);
 void addMissing(Suite& suite);
 void addSampling(Suite& suite);
 void addStrings(Suite& suite);
+void addCallersTexts(Suite& suite);
 void addSmallInputs(Suite& suite);
 void addMathematics(Suite& suite);
 
