@@ -281,6 +281,7 @@ def main():
     parser.add_argument("--unit", default="*")
     parser.add_argument("--kind", default="*")
     parser.add_argument("--all", default="")
+    parser.add_argument("--tests", default="*")
     parser.add_argument("--workers", type=int, default=os.cpu_count() or 1)
     parser.add_argument("--again", action="store_true")
     parser.add_argument("--list", action="store_true")
@@ -298,7 +299,7 @@ def main():
     drawn = order[:given.sample] + [mutant for mutant in order[given.sample:] if fnmatch.fnmatch(mutant.kind, given.all)]
     sample = build(project, drawn)
     if not given.list:
-        run(project, sample, len(drawn), results, judged, given.again, given.workers, started)
+        run(project, sample, len(drawn), results, judged, given.again, given.tests, given.workers, started)
     survivors = report([mutant for number, mutant in sample.items() if number < given.sample], results, judged)
     if given.all:
         print(f"all of kind {given.all}:")
@@ -319,9 +320,9 @@ def distances(mutant):
     return lambda program: 1 if program.path.name.startswith(stem) else 4 if program.path.name in near else 16
 
 
-def run(project, sample, count, results, judged, again, workers, started):
+def run(project, sample, count, results, judged, again, tests, workers, started):
     """Runs what has no result yet; with `again` also what survived and is not judged."""
-    suite = programs(project, sample)
+    suite = [program for program in programs(project, sample) if fnmatch.fnmatch(program.name, tests)]
     library = project.build / "lib"
     files = [library / "libVecMat.so"]
     reach = mutation_runs.Reach(project.folder / "reach", library, mutation_runs.digest_of(*files), count)
@@ -340,16 +341,21 @@ def run(project, sample, count, results, judged, again, workers, started):
         def judge(number):
             return mutation_runs.verdict(number, reach.runs(number, programs, distances(sample[number])), library)
 
-        mutation_runs.in_parallel(judge, numbers, workers, lambda number, verdict:
-                                  results.add(sample[number], (verdict[0], verdict[1] + note)))
+        def add(number, verdict):
+            if verdict[0] == "killed" or tests == "*":
+                results.add(sample[number], (verdict[0], verdict[1] + note))
 
-    go_through([number for number in sample if not status(number)[0] or (again and left(number))], suite)
+        mutation_runs.in_parallel(judge, numbers, workers, add)
+
+    # The order of operations first.
+    go_through(sorted((number for number in sample if not status(number)[0] or (again and left(number))),
+                      key=lambda number: (sample[number].kind not in ("order", "direction"), number)), suite)
 
     # A kernel for narrower instructions may differ where the widest has no place at all.
     note = " at every instruction set"
     kernels = [number for number, mutant in sample.items() if mutant.file.startswith("kernels/") and left(number)
                and not status(number)[1].endswith(note)]
-    if not kernels:
+    if not kernels or tests != "*":
         return
     everything = set().union(*(reached for program in suite for _, reached in reach.found[program].values()))
     of_kernels = {number for number, mutant in sample.items() if mutant.file.startswith("kernels/")} & everything

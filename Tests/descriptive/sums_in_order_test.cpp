@@ -1,0 +1,163 @@
+// Sums whose last bit tells the order of their terms and whether a product was rounded before it was added, against plain
+// loops over random numbers: many short columns, as a square root or a quotient hides most of the differences.
+#include "descriptive/conditional_moments.h"
+#include "descriptive/forecast_errors.h"
+#include "descriptive/means.h"
+#include "descriptive/rescaling.h"
+#include "descriptive/robust_statistics.h"
+#include "descriptive/shape_moments.h"
+
+#include "base/detail/mathematics/mathematics.h"
+#include "support/bits.h"
+#include "support/random_data.h"
+#include "support/tables.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+using namespace vecmat::test;
+
+namespace {
+
+constexpr int turns = 200;
+constexpr int n = 12;
+using Cells = std::vector<double>;
+
+/// Numbers of many sizes that fill their 53 bits. Those of `RandomData::normal` lie on one grid, on which sums of a few
+/// are exact, in whatever order.
+Cells numbers(RandomData& data, std::size_t count)
+{
+    Cells cells;
+    for (std::size_t i = 0; i < count; ++i)
+        cells.push_back(data.normal() * data.uniform(0.01, 3.0));
+    return cells;
+}
+
+// A product is stored before it is added, so that no compiler fuses the two.
+
+TEST(VMeanIfW, AddsRoundedProductsInTheOrderOfTheRows)
+{
+    RandomData data(20611);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells v = data.withMissing(numbers(data, n), 0.1);
+        const Cells g = data.wholes(n, 1, 2);
+        const Cells w = data.weights(n, 0.1);
+        double sum = 0.0, weighted = 0.0, W = 0.0;
+        int rows = 0;
+        for (std::size_t i = 0; i < v.size(); ++i) {
+            if (g[i] != 2.0 || v[i] == M)
+                continue;
+            sum += v[i];
+            ++rows;
+            if (w[i] > 0.0) {
+                const double product = w[i] * v[i];
+                weighted += product;
+                W += w[i];
+            }
+        }
+        EXPECT_THAT(V_MeanIf(column(v), n, column(g), 2.0), SameBits(rows > 0 ? sum / rows : M));
+        EXPECT_THAT(V_MeanIfW(column(v), n, column(g), column(w), 2.0), SameBits(W > 0.0 ? weighted / W : M));
+    }
+}
+
+TEST(VMeanAbsDev, AddsRoundedProductsInTheOrderOfTheRows)
+{
+    RandomData data(20612);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells v = data.withMissing(numbers(data, n), 0.1);
+        const Cells w = data.weights(n, 0.1);
+        const double centre = data.normal();
+        double sum = 0.0, W = 0.0;
+        for (std::size_t i = 0; i < v.size(); ++i) {
+            if (v[i] == M)
+                continue;
+            const double product = w[i] * std::fabs(v[i] - centre);
+            W += w[i];
+            sum += product;
+        }
+        std::vector<short> mask(n, 0);
+        EXPECT_THAT(V_MeanAbsDev(column(v), n, centre, mask.data(), column(w)), SameBits(sum / W));
+    }
+}
+
+TEST(MColSum2, AddsInTheOrderOfTheRows)
+{
+    RandomData data(20613);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells x = data.withMissing(numbers(data, n), 0.1);
+        double sum = 0.0;
+        for (const double cell : x)
+            if (cell != M)
+                sum += cell;
+        EXPECT_THAT(M_ColSum2(column(x), n, 1), SameBits(sum));
+    }
+}
+
+TEST(RMSE, AddsRoundedSquaresInTheOrderOfTheRows)
+{
+    RandomData data(20614);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells y = numbers(data, n), f = numbers(data, n);
+        double sum = 0.0;
+        for (std::size_t i = 0; i < y.size(); ++i) {
+            const double square = (y[i] - f[i]) * (y[i] - f[i]);
+            sum += square;
+        }
+        EXPECT_THAT(RMSE(column(y), n, 1, column(f), n), SameBits(std::sqrt(sum / n)));
+    }
+}
+
+TEST(MNormalize, AddsRoundedProductsInTheOrderOfTheRows)
+{
+    RandomData data(20615);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells x = numbers(data, n), w = data.weights(n);
+        double sum = 0.0;
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            const double product = x[i] * x[i] * w[i];
+            sum += product;
+        }
+        auto X = column(x);
+        Owned<matrix> norms;
+        std::vector<short> mask(n, 0);
+        M_Normalize(X.reference(), n, 1, norms.reference(), mask.data(), column(w));
+        EXPECT_THAT(cellsOf(norms), SameBits({std::sqrt(sum)}));
+    }
+}
+
+TEST(VMeanVarSkewPKurtP, UpdatesTheThirdPowersByRoundedProducts)
+{
+    RandomData data(20616);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < 10 * turns; ++turn) {
+        const Cells x = numbers(data, 3), w = data.weights(3);
+        double W = 0, mean = 0, M2 = 0, M3 = 0;
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            W += w[i];
+            const double f = w[i] / W, d = x[i] - mean, square = f * f;
+            const double t = f * 3.0 * d * M2, threeShares = f * 3.0;
+            const double own = (square + square + (1.0 - threeShares)) * vecmat::pow(d, 3.0) * w[i];
+            const double deviations = (1.0 - f) * d * d * w[i], step = d * f;
+            M3 = (M3 - t) + own;
+            M2 += deviations;
+            mean += step;
+        }
+        double results[8];
+        std::vector<short> mask(3, 0);
+        V_MeanVarSkewPKurtP(column(x), 3, &results[0], &results[1], &results[2], &results[3], &results[4], &results[5],
+                            &results[6], &results[7], mask.data(), column(w), 0, -1);
+        EXPECT_THAT(results[0], SameBits(mean));
+        EXPECT_THAT(results[1], SameBits(M2 / W));
+        EXPECT_THAT(results[2], SameBits(M3 / W / vecmat::pow(M2 / W, 1.5)));
+    }
+}
+
+} // namespace
