@@ -13,7 +13,7 @@ namespace {
 constexpr int caseCount = 80;
 
 // The lanes of all instruction sets, twice as many, and the sums that are formed together, with their neighbours.
-constexpr std::array sizes = {1, 2, 3, 5, 7, 8, 9, 15, 16, 17, 23, 24, 25, 33, 100, 511, 512, 513};
+constexpr std::array sizes = {1, 2, 3, 5, 7, 8, 9, 15, 16, 17, 23, 24, 25, 33, 100, 1023, 1024, 1025};
 
 int size(Cases& c)
 {

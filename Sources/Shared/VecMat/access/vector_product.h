@@ -23,13 +23,25 @@ inline constexpr int fewestSideBySide = ColumnKernels::mostLanes;
 template <class TermsAt, class FactorAt, class Store>
 void sumSideBySide(int results, int inner, TermsAt termsAt, FactorAt factorAt, Store store)
 {
-    constexpr int together = 512; // sums that stay in the nearest cache
+    constexpr int together = 1024; // sums that stay in the nearest cache
+    constexpr int columns = ColumnKernels::columnsTogether;
+    const ColumnKernels& kernels = columnKernels();
     double sums[together];
     for (int first = 0; first < results; first += std::min(together, results - first)) {
         const int count = std::min(together, results - first);
         std::fill_n(sums, count, 0.0);
-        for (int k = 0; k < inner; ++k)
-            columnKernels().addMultiple(count, factorAt(k), termsAt(k) + first, sums);
+        int k = 0;
+        for (; k <= inner - columns; k += columns) {
+            double factors[columns];
+            const double* terms[columns];
+            for (int c = 0; c < columns; ++c) {
+                factors[c] = factorAt(k + c);
+                terms[c] = termsAt(k + c) + first;
+            }
+            kernels.addMultiples(count, factors, terms, sums);
+        }
+        for (; k < inner; ++k)
+            kernels.addMultiple(count, factorAt(k), termsAt(k) + first, sums);
         for (int i = 0; i < count; ++i)
             store(first + i, sums[i]);
     }

@@ -36,6 +36,10 @@ struct ColumnKernels
     /// to(k) = to(k) + factor * from(k).
     void (*addMultiple)(int count, double factor, const double* from, double* to);
 
+    /// The same for `columnsTogether` columns, one after the other in each to(k).
+    static constexpr int columnsTogether = 4;
+    void (*addMultiples)(int count, const double* factors, const double* const* from, double* to);
+
     /// For the symmetric table a of order n, stored in full:
     ///     a(i, k) = a(i, k) - (x(i) * y(k) + y(i) * x(k)), then product(i) = sum over k of a(i, k) * v(k).
     /// Rows up to the next multiple of `lanes` are read and written, in the table and in x, y and product.

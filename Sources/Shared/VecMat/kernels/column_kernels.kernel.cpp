@@ -96,6 +96,18 @@ void addMultiple(int count, double factor, const double* __restrict from, double
         to[k] = to[k] + factor * from[k];
 }
 
+void addMultiples(int count, const double* factors, const double* const* from, double* __restrict to)
+{
+    static_assert(ColumnKernels::columnsTogether == 4);
+    const double a = factors[0], b = factors[1], c = factors[2], d = factors[3];
+    const double* __restrict const x = from[0];
+    const double* __restrict const y = from[1];
+    const double* __restrict const z = from[2];
+    const double* __restrict const u = from[3];
+    for (int k = 0; k < count; ++k)
+        to[k] = (((to[k] + a * x[k]) + b * y[k]) + c * z[k]) + d * u[k];
+}
+
 /// Some columns of `updateAndMultiply`; `product` holds the sums up to them.
 template <int columns>
 void updateColumns(int n, double* a, std::ptrdiff_t stride, const double* x, const double* y, const double* xHere,
@@ -260,7 +272,7 @@ void copyColumns(int vectors, int columns, const double* from, std::ptrdiff_t fr
 
 } // namespace
 
-const ColumnKernels columnKernels = {laneCount,   innerProducts, addMultiple, updateAndMultiply,
-                                     reflectRows, rotate,        copyColumns};
+const ColumnKernels columnKernels = {laneCount,         innerProducts, addMultiple, addMultiples,
+                                     updateAndMultiply, reflectRows,   rotate,      copyColumns};
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
