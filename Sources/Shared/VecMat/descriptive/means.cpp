@@ -66,29 +66,44 @@ int meansOrZero(Storage X, int n, int p, matrix*& mean, matrix* w)
 
 using MomentsOfLogarithms = RunningVariance<update::Fractional, ZeroWeight::counted>;
 
-/// Over the kept rows that are not missing; without any row if one of them is 0 or below. The logarithms are taken many
-/// at a time, beside the running mean, each of whose steps waits for the one before.
+/// Calls `take` with cell and weight of the kept rows that are not missing; false, and no further, at one that is 0 or below.
+template <class X, class Weights, class Take>
+bool takePositive(X x, Weights w, Mask mask, int first, int end, Take take)
+{
+    for (int i = first; i < end; ++i) {
+        if (!mask.keeps(i) || !isPresent(x.get(i)))
+            continue;
+        if (x.get(i) <= 0.0)
+            return false;
+        take(x.get(i), w.get(i));
+    }
+    return true;
+}
+
+/// Without any row if a cell is 0 or below. The logarithms are taken many at a time, beside the running mean, each of whose
+/// steps waits for the one before; one by one the machine works on both at once.
 template <class X, class Weights>
 MomentsOfLogarithms momentsOfLogarithms(X x, int n, Mask mask, Weights w)
 {
     MomentsOfLogarithms moments;
-    double present[logarithmsTogether];
-    double weight[logarithmsTogether];
+    if (logarithmKernels().logarithms == nullptr) {
+        const auto add = [&](double cell, double weight) { moments.add(vecmat::log(cell), weight); };
+        return takePositive(x, w, mask, 0, n, add) ? moments : MomentsOfLogarithms();
+    }
+    double cells[logarithmsTogether];
+    double weights[logarithmsTogether];
     double logarithm[logarithmsTogether];
     for (int first = 0; first < n; first += std::min(logarithmsTogether, n - first)) {
         int count = 0;
-        for (int i = first; i < first + std::min(logarithmsTogether, n - first); ++i) {
-            if (!mask.keeps(i) || !isPresent(x.get(i)))
-                continue;
-            if (x.get(i) <= 0.0)
-                return {};
-            present[count] = x.get(i);
-            weight[count] = w.get(i);
-            ++count;
-        }
-        logarithms(count, present, logarithm);
+        const auto keep = [&](double cell, double weight) {
+            cells[count] = cell;
+            weights[count++] = weight;
+        };
+        if (!takePositive(x, w, mask, first, first + std::min(logarithmsTogether, n - first), keep))
+            return {};
+        logarithms(count, cells, logarithm);
         for (int k = 0; k < count; ++k)
-            moments.add(logarithm[k], weight[k]);
+            moments.add(logarithm[k], weights[k]);
     }
     return moments;
 }

@@ -6,7 +6,8 @@ namespace vecmat {
 
 void logarithms(int count, const double* x, double* out)
 {
-    if (logarithmKernels().logarithms(count, x, out))
+    const auto sideBySide = logarithmKernels().logarithms;
+    if (sideBySide != nullptr && sideBySide(count, x, out))
         return;
     for (int k = 0; k < count; ++k)
         out[k] = vecmat::log(x[k]);

@@ -7,6 +7,8 @@ namespace vecmat {
 
 struct LogarithmKernels
 {
+    /// What follows is null where vectors are too short for it to pay off.
+    ///
     /// out[k] = log(x[k]), rounded to nearest. False where the quick phase leaves the rounding of one of them in doubt, or
     /// an x[k] is not a positive normal number: then none of the results counts. `x` and `out` do not overlap.
     bool (*logarithms)(int count, const double* x, double* out);

@@ -7,6 +7,8 @@
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
+#if defined(__AVX__)
+
 namespace {
 
 using namespace mathematics;
@@ -35,5 +37,11 @@ bool logarithms(int count, const double* __restrict x, double* __restrict out)
 } // namespace
 
 const LogarithmKernels logarithmKernels = {logarithms};
+
+#else
+
+const LogarithmKernels logarithmKernels = {nullptr};
+
+#endif
 
 } // namespace vecmat::VECMAT_INSTRUCTION_SET
