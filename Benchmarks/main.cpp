@@ -2,7 +2,8 @@
 //
 //     --only=REGEX      the workloads whose name matches
 //     --quick           each workload at its last size only, with fewer repetitions
-//     --ours            the library alone (its bits are still compared with the plain loop's)
+//     --beside=REGEX    the library, and of the other contenders those of such a name; its bits are compared with the
+//                       plain loop's all the same
 //     --export=DIR      time nothing; write the data of each workload at its last size, and the library's result
 //
 // A benchmark is named workload/contender/size. Its counter "best" is the shortest run, in seconds of processor time:
@@ -29,7 +30,12 @@ struct Options
 {
     std::regex only{""};
     bool quick = false;
-    bool oursAlone = false;
+    std::regex beside{""};
+
+    bool takes(const Contender& contender, std::size_t number) const
+    {
+        return number == 0 || std::regex_search(contender.name, beside);
+    }
     std::string exportTo;
 };
 
@@ -51,8 +57,8 @@ Options taken(int& argc, char** argv)
             options.exportTo = *directory;
         else if (argument == "--quick")
             options.quick = true;
-        else if (argument == "--ours")
-            options.oursAlone = true;
+        else if (const auto beside = valueOf(argument, "--beside="))
+            options.beside = *beside;
         else
             argv[kept++] = argv[k];
     }
@@ -100,14 +106,14 @@ public:
         std::string error;
     };
 
-    Judged(const Entry& entry, int size, bool oursAlone) : stage_(entry.stage(size))
+    Judged(const Entry& entry, int size, const Options& options) : stage_(entry.stage(size))
     {
         const auto& contenders = stage_->contest().contenders();
         const Cells expected = stage_->contest().resultOf(contenders.front());
         for (const Contender& contender : contenders) {
             Verdict verdict;
             const bool exact = contender.tolerance == sameBits;
-            if (exact || !oursAlone)
+            if (exact || options.takes(contender, verdicts_.size()))
                 verdict = judged(contender, expected);
             // If the library and the plain loop differ, either may be wrong.
             if (exact && !verdict.error.empty() && !verdicts_.empty())
@@ -136,14 +142,14 @@ private:
 };
 
 /// The stage of the current benchmark. They come workload by workload, so only one is kept at a time.
-const Judged& judgedStage(const Entry& entry, int size, bool oursAlone)
+const Judged& judgedStage(const Entry& entry, int size, const Options& options)
 {
     static std::optional<Judged> current;
     static const Entry* currentEntry = nullptr;
     static int currentSize = 0;
     if (currentEntry != &entry || currentSize != size) {
         current.reset();
-        current.emplace(entry, size, oursAlone);
+        current.emplace(entry, size, options);
         currentEntry = &entry;
         currentSize = size;
     }
@@ -181,9 +187,9 @@ double timeManyCalls(benchmark::State& state, const Contender& contender)
     return best;
 }
 
-void measure(benchmark::State& state, const Entry& entry, std::size_t number, int size, bool oursAlone)
+void measure(benchmark::State& state, const Entry& entry, std::size_t number, int size, const Options& options)
 {
-    const Judged& judged = judgedStage(entry, size, oursAlone);
+    const Judged& judged = judgedStage(entry, size, options);
     const Judged::Verdict& verdict = judged.verdict(number);
     const Contender& contender = judged.contest().contenders()[number];
     if (!verdict.error.empty()) {
@@ -211,12 +217,14 @@ void registerBenchmarks(const Suite& suite, const Options& options)
             const int size = entry.sizes[k];
             const auto stage = entry.stage(size); // for the contenders' names; the data are made again later
             const auto& contenders = stage->contest().contenders();
-            const std::size_t taking = options.oursAlone ? 1 : contenders.size();
-            for (std::size_t number = 0; number < taking; ++number) {
+            for (std::size_t number = 0; number < contenders.size(); ++number) {
+                if (!options.takes(contenders[number], number))
+                    continue;
                 const std::string name = entry.name + "/" + contenders[number].name + "/" + std::to_string(size);
-                benchmark::RegisterBenchmark(
-                    name.c_str(), [&entry, number, size, alone = options.oursAlone](
-                                      benchmark::State& state) { measure(state, entry, number, size, alone); })
+                benchmark::RegisterBenchmark(name.c_str(),
+                                             [&entry, &options, number, size](benchmark::State& state) {
+                                                 measure(state, entry, number, size, options);
+                                             })
                     ->UseManualTime()
                     ->Unit(benchmark::kMillisecond)
                     ->MinTime(options.quick ? 0.02 : 0.1)

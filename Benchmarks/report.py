@@ -29,7 +29,7 @@ class Results:
 
     def __init__(self, folder):
         self.seconds = defaultdict(dict)  # (workload, size) -> contender -> seconds
-        self.lower = {name: {} for name in SETS}  # set -> (workload, size) -> seconds
+        self.lower = {name: defaultdict(dict) for name in SETS}  # set -> (workload, size) -> contender -> seconds
         self.faults = []
         self.read_benchmarks(folder / "native.json", "")
         for name in SETS:
@@ -47,8 +47,8 @@ class Results:
                 fault = f"{workload}, size {size}, {contender}: {entry['error_message']}"
                 self.faults.append(fault + (f" ({instruction_set})" if instruction_set else ""))
             elif entry.get("aggregate_name") == "min":
-                table = self.lower[instruction_set] if instruction_set else self.seconds[key]
-                table[key if instruction_set else contender] = entry["best"]
+                table = self.lower[instruction_set] if instruction_set else self.seconds
+                table[key][contender] = entry["best"]
 
     def read_peers(self, file):
         if not file.exists():
@@ -113,21 +113,50 @@ def ratio_to_plain(plain, ours, aim):
 # ---- the tables ------------------------------------------------------------------------------------------------------
 
 
+def aims():
+    with open(AIMS, newline="") as file:
+        return list(csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE))
+
+
+def key_of(aim, results):
+    workload, _, size = aim["workload"].partition(":")
+    return workload, int(size) if size else results.last_size(workload)
+
+
+def parsed_aims(text):
+    """The largest ratio by peer."""
+    return dict(part.rsplit("=", 1) for part in (text or "").split(";") if part)
+
+
 def aims_table(results):
     lines = head("workload", "ours", "plain/ours", "aim", "AVX2", "baseline", "ours/peer (aim)")
-    with open(AIMS, newline="") as file:
-        for aim in csv.DictReader(file, delimiter="\t", quoting=csv.QUOTE_NONE):
-            workload, _, size = aim["workload"].partition(":")
-            key = (workload, int(size) if size else results.last_size(workload))
-            times = results.seconds.get(key)
-            if not times or "ours" not in times:
-                continue
-            least = float(aim["plain/ours at least"] or 0)
-            most = dict(part.rsplit("=", 1) for part in aim["ours/peer at most"].split(";") if part)
-            ours, plain = times["ours"], times.get("plain")
-            lower = [ratio_to_plain(plain, results.lower[name].get(key), 0) for name in SETS]
-            lines.append(row(aim["title"], shown_time(ours), ratio_to_plain(plain, ours, least),
-                             f"{least:g}" if least else "", *lower, peers_cell(times, most)))
+    for aim in aims():
+        key = key_of(aim, results)
+        times = results.seconds.get(key)
+        if not times or "ours" not in times:
+            continue
+        least = float(aim["plain/ours at least"] or 0)
+        most = parsed_aims(aim["ours/peer at most"])
+        ours, plain = times["ours"], times.get("plain")
+        lower = [ratio_to_plain(plain, results.lower[name][key].get("ours"), 0) for name in SETS]
+        lines.append(row(aim["title"], shown_time(ours), ratio_to_plain(plain, ours, least),
+                         f"{least:g}" if least else "", *lower, peers_cell(times, most)))
+    return lines
+
+
+def narrower_table(results):
+    """With fewer instructions, beside peers that have no more."""
+    lines = head("workload", "AVX2", "ours/peer (aim)", "baseline", "ours/peer (aim)")
+    for aim in aims():
+        key = key_of(aim, results)
+        cells = []
+        for name in SETS:
+            times = results.lower[name][key]
+            if len(times) > 1:
+                most = parsed_aims(aim[f"{name}: ours/peer at most"])
+                cells += [shown_time(times["ours"]), peers_cell(times, most)]
+        if len(cells) == 2 * len(SETS):
+            lines.append(row(aim["title"], *cells))
     return lines
 
 
@@ -259,6 +288,8 @@ def main():
         ("The workloads", "One thread, the shortest of several runs in processor time; a ratio that falls short of its "
          "aim is in bold. The columns AVX2 and baseline are plain/ours with the library kept to these instructions.",
          aims_table(results)),
+        ("Narrower instructions", "The library kept to AVX2 or to the baseline, beside OpenBLAS and LAPACK with kernels for "
+         "these, and GSL.", narrower_table(results)),
         ("How time grows", "Times at growing sizes; the exponent is that of the last step.", growth_table(results)),
         ("Small inputs", "Calls on a few numbers.", small_table(results)),
         ("The border of strings", "", string_table(results)),
