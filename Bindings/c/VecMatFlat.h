@@ -3941,7 +3941,8 @@ int VB_M_LUDecomp(double* a, int n, int* index, double* d, short* status);
      or 0.0
    - Empty input: 1.0
    - Failure: 0.0 with the `*status` of the factorisation where that is not 0, so -1 for a row of zeros. An exception,
-     such as exhausted memory, ends here: `*status` is -1 and the result the positive twin */
+     such as exhausted memory, ends here: `*status` is -1 and the result the positive twin
+   - Memory: a copy of the table, and what the factorisation takes; none for a triangular table */
 double VB_M_Determinant(double* a, int n, short* status);
 
 /* Logarithm of a positive determinant. Unlike `M_Determinant` it continues where no pivot could be chosen, with
@@ -3949,7 +3950,8 @@ double VB_M_Determinant(double* a, int n, short* status);
    An exception is not caught. With `logOnOverflow` 0.
    - Missing cells: an ordinary number
    - Divisor: the missing value for a negative determinant and for a row of zeros
-   - Empty input: 0.0 */
+   - Empty input: 0.0
+   - Memory: a copy of the table, and what the factorisation takes; none for a triangular table */
 double Cpp_M_LogDeterminant(double* a, int n);
 
 /* Determinant of a triangular table: the product of its diagonal. There are no limits: it overflows to infinity. With
@@ -3958,7 +3960,8 @@ double Cpp_M_LogDeterminant(double* a, int n);
    - Divisor: a diagonal cell of exactly 0 gives 0.0
    - Empty input: 1.0
    - Failure: `*status` is -1, with the positive twin as the result, only where the companion that finds the parity
-     fails with an exception. Otherwise 0 */
+     fails with an exception. Otherwise 0
+   - Memory: a copy of the table, and what the factorisation takes; none for a triangular table */
 double VB_M_DeterminantTriang(double* a, int n, short* status);
 
 /* ---- decompositions/cholesky ---- */

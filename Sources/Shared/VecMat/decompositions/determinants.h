@@ -5,7 +5,7 @@
 // @missing an ordinary number
 // @empty 1.0
 // @cost of the order n^3; the diagonal alone for a triangular table
-// @memory a copy of the table, and what the factorisation takes
+// @memory a copy of the table, and what the factorisation takes; none for a triangular table
 #pragma once
 
 #include "../base/api.h"
