@@ -43,13 +43,22 @@ class Project:
         return sorted(path for path in self.sources.rglob("*") if path.suffix in (".h", ".cpp"))
 
 
+def told_apart(rows):
+    """The same change of the same line of the same function gets a number from the second time on."""
+    seen = Counter()
+    for mutant in rows:
+        seen[mutant.name] += 1
+        number = seen[mutant.name]
+        yield mutant if number == 1 else mutant._replace(shown=f"{mutant.shown} ({number})")
+
+
 def all_mutants(project):
     """The mutants of each file, read anew only if a source has changed."""
     kept = project.folder / "places.json"
     tool = [Path(mutation_places.__file__)]
     key = mutation_runs.digest_of(*project.paths(), *tool)
     if kept.exists() and (known := json.loads(kept.read_text()))["key"] == key:
-        return {name: [as_mutant(row) for row in rows] for name, rows in known["mutants"].items()}
+        return {name: list(told_apart(map(as_mutant, rows))) for name, rows in known["mutants"].items()}
     files = {str(path): mutation_places.File(path, str(path.relative_to(project.sources))) for path in project.paths()}
     done = defaultdict(set)  # of headers, for each set of instructions
     for path in project.paths():
@@ -60,7 +69,7 @@ def all_mutants(project):
     found = {file.name: sorted(file.found.values(), key=lambda m: (m.edits, m.kind)) for file in files.values() if file.found}
     kept.parent.mkdir(parents=True, exist_ok=True)
     kept.write_text(json.dumps({"key": key, "mutants": found}))
-    return found
+    return {name: list(told_apart(rows)) for name, rows in found.items()}
 
 
 def as_mutant(row):
