@@ -351,6 +351,8 @@ def run(project, sample, count, results, judged, again, tests, workers, started)
             return mutation_runs.verdict(number, reach.runs(number, programs, distances(sample[number])), library)
 
         def add(number, verdict):
+            if note and verdict[0] == "unreached":  # not by narrower instructions: what the widest gave stands
+                verdict = status(number)
             if verdict[0] == "killed" or tests == "*":
                 results.add(sample[number], (verdict[0], verdict[1] + note))
 
