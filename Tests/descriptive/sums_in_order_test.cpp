@@ -6,6 +6,7 @@
 #include "descriptive/rescaling.h"
 #include "descriptive/robust_statistics.h"
 #include "descriptive/shape_moments.h"
+#include "descriptive/triangular_fit.h"
 
 #include "base/detail/mathematics/mathematics.h"
 #include "support/bits.h"
@@ -157,6 +158,56 @@ TEST(VMeanVarSkewPKurtP, UpdatesTheThirdPowersByRoundedProducts)
         EXPECT_THAT(results[0], SameBits(mean));
         EXPECT_THAT(results[1], SameBits(M2 / W));
         EXPECT_THAT(results[2], SameBits(M3 / W / vecmat::pow(M2 / W, 1.5)));
+    }
+}
+
+TEST(VHarmonicMean, AddsQuotientsInTheOrderOfTheRows)
+{
+    RandomData data(20617);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells x = numbers(data, n), w = data.weights(n);
+        double W = 0.0, quotients = 0.0;
+        for (std::size_t i = 0; i < x.size(); ++i) {
+            W += w[i];
+            quotients += w[i] / x[i];
+        }
+        std::vector<short> mask(n, 0);
+        EXPECT_THAT(V_HarmonicMean(column(x), n, mask.data(), column(w)), SameBits(W / quotients));
+    }
+}
+
+TEST(TriangularFuncDeriv, RoundsEachProductAndAddsFromLeftToRight)
+{
+    RandomData data(20618);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const Cells x = numbers(data, 4);
+        const double b = x[0], x1 = x[1], m = x[2], x2 = x[3];
+        const double p1 = data.uniform(0.05, 0.45), p2 = data.uniform(0.55, 0.95);
+        const double r = 1.0 - p2, d = m - b;
+        const double square = x2 * x2, linear = (r * m - (x2 + x2)) * b, ofB = b * b * p2;
+        const double numerator = (square + linear) + ofB;
+        const double denominator = r * d, doubled = (b + b) * p2, share = r * m;
+        const double slope = (((doubled + share) - (x2 + x2)) * d + numerator) / (d * denominator);
+        const double a = numerator / denominator;
+        const double expected =
+            (((m - a) * p1 - b * p1 * slope) - (1.0 - p1) * ((a + a) * slope)) - (m * p1 - (x1 + x1)) * slope;
+        EXPECT_THAT(TriangularFuncDeriv(b, x1, m, x2, p1, p2), SameBits(expected));
+    }
+}
+
+TEST(TriangularQFindAB, TakesTheLowerEndFromTheUpperByRoundedProducts)
+{
+    RandomData data(20619);
+    SCOPED_TRACE(data);
+    for (int turn = 0; turn < turns; ++turn) {
+        const double x1 = data.uniform(0.5, 2.0), m = x1 + data.uniform(0.1, 2.0), x2 = m + data.uniform(0.1, 2.0);
+        const double p1 = data.uniform(0.05, 0.3), p2 = data.uniform(0.7, 0.95), r = 1.0 - p2;
+        double a = 0.0, b = 0.0;
+        TriangularQFindAB(x1, m, x2, p1, p2, &a, &b);
+        const double square = x2 * x2, ofB = b * b * p2, twice = x2 * -2.0, share = r * m;
+        EXPECT_THAT(a, SameBits(((square + ofB) + (twice + share) * b) / (r * (m - b))));
     }
 }
 
