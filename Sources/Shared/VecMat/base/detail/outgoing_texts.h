@@ -3,6 +3,7 @@
 
 #include "companions.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -20,40 +21,44 @@ public:
     /// Releases what has not been stored.
     ~OutgoingTexts()
     {
-        for (const Parcel& parcel : parcels_)
-            discardText(parcel.text);
+        for (wchar_t* const text : texts_)
+            discardText(text);
     }
 
-    void reserve(std::size_t count) { parcels_.reserve(parcels_.size() + count); }
-
-    void add(const std::wstring& text, wchar_t** place)
-    {
-        parcels_.push_back({place, nullptr});
-        parcels_.back().text = SysAllocString2(text.c_str());
-    }
+    void add(const std::wstring& text, wchar_t** place) { add(&text, 1, place); }
     /// One text after the other.
     void add(const std::wstring* texts, std::size_t count, wchar_t** places)
     {
-        reserve(count);
+        if (const std::size_t needed = texts_.size() + count; needed > texts_.capacity())
+            texts_.reserve(std::max(needed, 2 * texts_.capacity()));
+        if (runs_.empty() || runs_.back().places + runs_.back().count != places)
+            runs_.push_back({places, 0});
+        runs_.back().count += count;
         for (std::size_t k = 0; k < count; ++k)
-            add(texts[k], places + k);
+            texts_.push_back(SysAllocString2(texts[k].c_str()));
     }
 
     void store() noexcept
     {
-        for (const Parcel& parcel : parcels_)
-            *parcel.place = parcel.text;
-        parcels_.clear();
+        auto text = texts_.cbegin();
+        for (const Run& run : runs_) {
+            std::copy_n(text, run.count, run.places);
+            text += static_cast<std::ptrdiff_t>(run.count);
+        }
+        texts_.clear();
+        runs_.clear();
     }
 
 private:
-    struct Parcel
+    /// Texts for places in a row.
+    struct Run
     {
-        wchar_t** place;
-        wchar_t* text;
+        wchar_t** places;
+        std::size_t count;
     };
 
-    std::vector<Parcel> parcels_;
+    std::vector<wchar_t*> texts_;
+    std::vector<Run> runs_;
 };
 
 } // namespace vecmat
