@@ -312,6 +312,10 @@ TEST(SVDecomp, OfNoRowsOrColumnsStaysInside)
     M_SVDecomp(filled(2, 2, 5.0), -1, 2, s, u, v, 11, &info);
     M_SVDecomp(filled(2, 2, 5.0), 2, -1, s, u, v, 11, &info);
     EXPECT_EQ(info, 0);
+    constexpr int lowest = std::numeric_limits<int>::min();
+    M_SVDecomp(filled(2, 2, 5.0), lowest, 2, s, u, v, 11, &info);
+    M_SVDecomp(filled(2, 2, 5.0), 2, lowest, s, u, v, 11, &info);
+    EXPECT_EQ(info, 0);
 }
 
 TEST(SVDecomp, WorksOnTheCornersOfLargerTables)

@@ -313,6 +313,7 @@ TEST(VBVRemoveVal, MayWorkInPlace)
     EXPECT_THAT(x.values(), SameBits({1.0, 3.0, 3.0}));
     Guarded<double> one({1});
     VB_V_RemoveVal(one, 1, 1, one);
+    VB_V_RemoveVal(one, lowestInt, 1, one);
     EXPECT_TRUE(one.untouched());
 }
 

@@ -57,6 +57,15 @@ TEST(LoadColumns, AreViewsOfTheCallersNumbers)
     EXPECT_THAT(a.numbers(), SameBits({1, 2, 9, 4}));
 }
 
+TEST(LoadColumns, TheLowestRowCountStaysWhereItIs)
+{
+    ArrayOfColumns a = numberColumns(1, 3, {1, 2, 3});
+    matrix** const tables = LoadSAFEARRAY(a, 3, lowestInt, 0);
+    for (int j = 0; j < 3; ++j)
+        EXPECT_EQ(tables[j]->nElems, 0u) << j;
+    DeleteSAFEARRAY(tables, 3);
+}
+
 TEST(LoadColumns, WidthZeroLowersTheRows)
 {
     ArrayOfColumns a(std::vector<std::vector<double>>{{1, 2, 3}, {4, 5}, {6}});

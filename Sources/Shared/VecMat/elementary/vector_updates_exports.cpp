@@ -60,6 +60,6 @@ void VB_V_ReplaceVal2(double* x, int n, double from, double to)
 
 void VB_V_RemoveVal(double* x, int n, int pos, double* out)
 {
-    for (int i = 0; i < n - 1; ++i)
-        out[i] = x[i + 1 < pos ? i : i + 1];
+    for (int i = 1; i < n; ++i)
+        out[i - 1] = x[i < pos ? i - 1 : i];
 }

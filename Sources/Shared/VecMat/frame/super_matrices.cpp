@@ -7,6 +7,7 @@
 #include "detail/outgoing_columns.h"
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 using vecmat::countOf;
@@ -50,7 +51,7 @@ Table** loadColumns(SAFEARRAY** sa, int nCols, int nRows, int width, SAFEARRAY* 
         if (column == nullptr)
             continue;
         tables[j] = open(rows, column->pvData);
-        if (width == 0)
+        if (width == 0 && rows > std::numeric_limits<int>::min()) // below 0 they are empty, and stay so
             --rows;
     }
     return tables.release();

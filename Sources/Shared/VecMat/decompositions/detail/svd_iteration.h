@@ -80,8 +80,8 @@ class SvdIteration
 public:
     SvdIteration(Store x, int n, int p, matrix* s, Vectors& u, Vectors& v, SingularVectors wanted)
         : x_(x), n_(n), p_(p), s_(s), u_(u), v_(v), wanted_(wanted), superdiagonal_(p, 1, 0.0), products_(n, 1, 0.0),
-          e_(&superdiagonal_), work_(&products_), reducedColumns_(std::min(n - 1, p)),
-          reducedRows_(std::max(0, std::min(p - 2, n)))
+          e_(&superdiagonal_), work_(&products_), reducedColumns_(std::max(-1, std::min(std::max(n, 0) - 1, p))),
+          reducedRows_(p > 2 ? std::max(0, std::min(p - 2, n)) : 0)
     {
     }
 
