@@ -1,5 +1,6 @@
 #include "support/flat_calls/arguments.h"
 
+#include "support/flat_calls/anything.h"
 #include "support/flat_calls/contents.h"
 #include "support/flat_calls/scalars.h"
 
@@ -14,8 +15,6 @@
 namespace vecmat::flat {
 
 namespace {
-
-constexpr long long mostCells = 4'000'000; // what asks for more is a mistake in a plan or in a shape
 
 template <class Number, class Drawn>
 Block blockOf(const std::vector<Drawn>& cells, Placement placement, const Argument& argument)
@@ -52,13 +51,14 @@ void Arguments::make(std::size_t k, Placement placement)
     slots_[k].pointer = nullptr;
     if (plan_.null == k && argument.mayBeNull != nullptr && argument.mayBeNull(slots()))
         return;
-    Steps steps(seedFor(plan_.seed + (plan_.altered == k ? 0x5EED : 0), argument.name));
+    Steps steps(seedFor(plan_.seed + (plan_.altered == k ? 0x5EED : 0), argument.name),
+                argument.role != Role::out ? plan_.bytes : nullptr);
     if (argument.shape.layout == Layout::value)
         holders_[k] = makeSingle(argument, steps, placement);
     else if (argument.shape.layout == Layout::table)
-        holders_[k] = makeArray(argument, steps, argument.shape.extent(slots()), placement);
+        holders_[k] = makeArray(argument, steps, extentAsked(argument), placement);
     else
-        holders_[k] = makeColumns(argument, steps, argument.shape.extent(slots()), placement);
+        holders_[k] = makeColumns(argument, steps, extentAsked(argument), placement);
     const bool isRead = argument.role == Role::in;
     slots_[k].pointer = std::visit(Overloaded{[](std::monostate) -> void* { return nullptr; },
                                               [=](Block& block) {
@@ -81,10 +81,16 @@ void Arguments::make(std::size_t k, Placement placement)
         slots_[k].pointer = static_cast<unsigned char*>(slots_[k].pointer) + 4;
 }
 
+Extent Arguments::extentAsked(const Argument& argument) const
+{
+    const Extent extent = argument.shape.extent(slots());
+    if (extent.cols > plan_.mostCells || (extent.cols > 0 && extent.rows > plan_.mostCells / extent.cols))
+        throw std::length_error(std::string(call_.name) + ": " + std::string(argument.name) + " is too large");
+    return extent;
+}
+
 Arguments::Holder Arguments::makeArray(const Argument& argument, Steps& steps, Extent extent, Placement placement) const
 {
-    if (extent.cols > 0 && extent.rows > mostCells / extent.cols)
-        throw std::length_error(std::string(call_.name) + ": " + std::string(argument.name) + " is too large");
     if (argument.type == Type::strings)
         return Bstrs(texts(argument, steps, extent.rows, extent.cols), placement, std::string(argument.name));
     if (argument.type == Type::numbers)
@@ -114,7 +120,7 @@ Arguments::Holder Arguments::makeColumns(const Argument& argument, Steps& steps,
 
 Arguments::Holder Arguments::makeSingle(const Argument& argument, Steps& steps, Placement placement) const
 {
-    const std::wstring text = drawText(steps);
+    const std::wstring text = plan_.style == Style::any ? anyText(steps) : drawText(steps);
     if (argument.type == Type::text) {
         Block block((text.size() + 1) * sizeof(wchar_t), placement, std::string(argument.name));
         std::copy(text.begin(), text.end(), block.as<wchar_t>());
@@ -154,6 +160,24 @@ std::vector<Text> Arguments::texts(const Argument& argument, Steps& steps, long 
     for (long long cell = 0; cell < rows * cols; ++cell)
         cells.emplace_back(L"was " + std::to_wstring(prefilledInteger(steps, cell)));
     return cells;
+}
+
+bool Arguments::shareArray(std::size_t argument, std::size_t with)
+{
+    const Argument& one = call_.arguments[argument];
+    const Argument& other = call_.arguments[with];
+    const auto isArray = [](const Argument& each) {
+        return each.shape.layout == Layout::table && !each.sizes && each.domain != Domain::counts;
+    };
+    if (argument == with || !isArray(one) || !isArray(other) || one.type != other.type || isNull(argument) ||
+        isNull(with))
+        return false;
+    const Extent needed = extent(argument);
+    const Extent held = extent(with);
+    if (needed.rows * needed.cols > held.rows * held.cols)
+        return false;
+    slots_[argument].pointer = slots_[with].pointer;
+    return true;
 }
 
 bool Arguments::isNull(std::size_t argument) const
@@ -220,7 +244,7 @@ std::string Arguments::text() const
 
 std::string textOf(const Plan& plan)
 {
-    constexpr const char* styles[] = {"plain", "gaps", "ties", "constant", "special", "digits"};
+    constexpr const char* styles[] = {"plain", "gaps", "ties", "constant", "special", "digits", "any"};
     return "count " + std::to_string(plan.size.count) + ", rows " + std::to_string(plan.size.rows) + ", columns " +
            std::to_string(plan.size.columns) + (plan.size.mixed ? ", mixed" : "") + ", seed " +
            std::to_string(plan.seed) + ", " + styles[static_cast<int>(plan.style)] + (plan.outside ? ", outside" : "");

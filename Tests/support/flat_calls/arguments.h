@@ -45,6 +45,10 @@ public:
     /// The number of cells that the argument has; nothing where it is a number, a string or null.
     Extent extent(std::size_t argument) const;
 
+    /// Hands the second array over in place of the first, too, if it is large enough. What they hold is no longer what
+    /// the contract promises of two, but nothing else may be touched.
+    bool shareArray(std::size_t argument, std::size_t with);
+
     /// Calls the function. What the library throws passes.
     Result invoke();
 
@@ -56,6 +60,7 @@ public:
 
 private:
     void make(std::size_t argument, Placement placement);
+    Extent extentAsked(const Argument& argument) const;
     Holder makeArray(const Argument& argument, Steps& steps, Extent extent, Placement placement) const;
     Holder makeColumns(const Argument& argument, Steps& steps, Extent extent, Placement placement) const;
     Holder makeSingle(const Argument& argument, Steps& steps, Placement placement) const;

@@ -1,5 +1,7 @@
 #include "support/flat_calls/contents.h"
 
+#include "support/flat_calls/anything.h"
+
 #include "support/flat_calls/scalars.h"
 
 #include <algorithm>
@@ -18,7 +20,7 @@ double special(Steps& steps)
     constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double numbers[] = {-0.0,     0.0,        infinity, -infinity, std::numeric_limits<double>::quiet_NaN(),
                                   0x1p1000, -0x1p-1040, missing,  -missing};
-    return numbers[steps.next() % std::size(numbers)];
+    return numbers[steps.below(std::size(numbers))];
 }
 
 double dataCell(Steps& steps, Style style)
@@ -32,6 +34,8 @@ double dataCell(Steps& steps, Style style)
         return steps.onceIn(12) ? missing : 2.5;
     case Style::special:
         return steps.onceIn(4) ? special(steps) : steps.between(-40, 40) / 8.0;
+    case Style::any:
+        return anyNumber(steps);
     case Style::digits:
         return steps.onceIn(12) ? missing : 30.0 * steps.withAllDigits();
     default:
@@ -47,6 +51,8 @@ double weight(Steps& steps, Style style)
         return 1.5 + steps.withAllDigits();
     if (style == Style::special && steps.onceIn(5))
         return special(steps);
+    if (style == Style::any && steps.onceIn(3))
+        return anyNumber(steps);
     return steps.onceIn(6) ? 0.0 : steps.between(1, 12) / 4.0;
 }
 
@@ -66,6 +72,8 @@ std::vector<double> symmetric(Steps& steps, const Filling& filling)
                 cell = missing;
             if (filling.plan.style == Style::special && steps.onceIn(20))
                 cell = special(steps);
+            if (filling.plan.style == Style::any && steps.onceIn(8))
+                cell = anyNumber(steps);
             cells[static_cast<std::size_t>(i + n * j)] = cell;
             if (i < filling.cols)
                 cells[static_cast<std::size_t>(j + n * i)] = cell;
@@ -75,7 +83,7 @@ std::vector<double> symmetric(Steps& steps, const Filling& filling)
 
 int ranged(Steps& steps, const Filling& filling)
 {
-    return drawInRange(steps, filling.plan.outside, filling.argument.low(filling.slots),
+    return drawInRange(steps, strangersIn(filling.plan, filling.argument.domain), filling.argument.low(filling.slots),
                        filling.argument.high(filling.slots));
 }
 
@@ -84,16 +92,26 @@ bool isRange(Domain domain)
     return domain == Domain::positions || domain == Domain::codes || domain == Domain::counts;
 }
 
+/// Whether a cell that stands for something may hold whatever there is. Counts are what cost and memory follow.
+bool isAnything(Steps& steps, const Filling& filling)
+{
+    const Domain domain = filling.argument.domain;
+    return filling.plan.style == Style::any && filling.plan.outside && domain != Domain::count &&
+           domain != Domain::counts && steps.onceIn(4);
+}
+
 double numberCell(Steps& steps, const Filling& filling)
 {
     const Argument& argument = filling.argument;
+    if (isAnything(steps, filling))
+        return anyNumber(steps);
     if (isRange(argument.domain))
         return ranged(steps, filling);
     switch (argument.domain) {
     case Domain::weights:
         return weight(steps, filling.plan.style);
     case Domain::flags:
-        return argument.options[steps.next() % argument.options.size()];
+        return argument.options[steps.below(argument.options.size())];
     case Domain::missingOrNumber:
         return steps.onceIn(2) ? missing : steps.between(-8, 8) / 4.0;
     default:
@@ -104,6 +122,8 @@ double numberCell(Steps& steps, const Filling& filling)
 int integerCell(Steps& steps, const Filling& filling)
 {
     const Argument& argument = filling.argument;
+    if (isAnything(steps, filling))
+        return anyInteger(steps);
     if (isRange(argument.domain))
         return ranged(steps, filling);
     switch (argument.domain) {
@@ -114,7 +134,7 @@ int integerCell(Steps& steps, const Filling& filling)
     case Domain::mask:
         return steps.onceIn(4) ? (steps.onceIn(3) ? 1 : -1) : 0;
     case Domain::flags:
-        return argument.options[steps.next() % argument.options.size()];
+        return argument.options[steps.below(argument.options.size())];
     default:
         if (filling.plan.style == Style::special && argument.type == Type::integers && steps.onceIn(6))
             return steps.onceIn(2) ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
@@ -156,8 +176,10 @@ std::vector<Text> drawTexts(Steps& steps, const Filling& filling)
             cell = steps.onceIn(2) ? Text(L"") : std::nullopt;
         else if (filling.plan.style == Style::constant)
             cell = L"same";
+        else if (filling.plan.style == Style::any && !steps.onceIn(3))
+            cell = steps.onceIn(4) ? std::nullopt : Text(anyText(steps));
         else
-            cell = words[steps.next() % known];
+            cell = words[steps.below(known)];
     }
     return cells;
 }
@@ -166,7 +188,7 @@ std::wstring drawText(Steps& steps)
 {
     static const std::array<std::wstring, 8> texts{
         L"a", L"", L"AZ", L", ", L"obs", L"'S'!$D:$D,'S'!$A:$A,'S'!$B:$B", L"'S'!$A:$A,'S'!$1:$5", L"b"};
-    return texts[steps.next() % texts.size()];
+    return texts[steps.below(texts.size())];
 }
 
 double prefilledNumber(Steps& steps, long long cell)

@@ -1,6 +1,8 @@
 // What the arguments of one call are to be like: a few numbers from which all of them follow.
 #pragma once
 
+#include "support/flat_calls/bytes.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -24,6 +26,7 @@ enum class Style {
     constant,
     special,
     digits, // all digits of a double: a sum depends on its order
+    any,    // any bits, characters and options
 };
 
 inline constexpr std::size_t noArgument = static_cast<std::size_t>(-1);
@@ -36,6 +39,8 @@ struct Plan
     bool outside = false;             // positions and codes leave their range now and then
     std::size_t null = noArgument;    // a null pointer here, if it may stand
     std::size_t altered = noArgument; // other contents here, and nowhere else
+    Bytes* bytes = nullptr;           // what is read comes from here, as far as it goes, and then from the seed
+    long long mostCells = 4'000'000;  // an array of more is refused with std::length_error
 };
 
 /// For a report: "count 7, rows 7, columns 2, seed 3, gaps".

@@ -12,7 +12,11 @@ namespace vecmat::flat {
 /// Fills the slots of all arguments that are numbers.
 void drawScalars(const Call& call, const Plan& plan, std::vector<Slot>& slots);
 
-/// A number from `low` to `high`; now and then one outside where it may leave the range.
-int drawInRange(Steps& steps, bool mayLeave, long long low, long long high);
+/// What a number may be that leaves its range: a neighbour, -1 or 0, or any int.
+enum class Strangers { none, near, any };
+Strangers strangersIn(const Plan& plan, Domain domain);
+
+/// A number from `low` to `high`; now and then one outside where there may be strangers.
+int drawInRange(Steps& steps, Strangers strangersWanted, long long low, long long high);
 
 } // namespace vecmat::flat

@@ -1,6 +1,8 @@
 // Whole numbers in an order that depends on a seed alone: the same on every machine, compiler and word size.
 #pragma once
 
+#include "support/flat_calls/bytes.h"
+
 #include <cstdint>
 #include <string_view>
 
@@ -10,10 +12,13 @@ namespace vecmat::flat {
 class Steps
 {
 public:
-    explicit Steps(std::uint64_t seed) : state_(seed) {}
+    /// As long as there are bytes, the numbers are made of these.
+    explicit Steps(std::uint64_t seed, Bytes* bytes = nullptr) : state_(seed), bytes_(bytes) {}
 
     std::uint64_t next()
     {
+        if (hasBytes())
+            return bytes_->take(sizeof(std::uint64_t));
         std::uint64_t z = (state_ += 0x9E3779B97F4A7C15u);
         z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
         z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
@@ -23,7 +28,14 @@ public:
     int between(int low, int high)
     {
         const auto count = static_cast<std::uint64_t>(static_cast<std::int64_t>(high) - low + 1);
-        return static_cast<int>(low + static_cast<std::int64_t>(next() % count));
+        return static_cast<int>(low + static_cast<std::int64_t>(below(count)));
+    }
+    /// From 0 to `count` - 1. Takes no more bytes than it needs.
+    std::uint64_t below(std::uint64_t count)
+    {
+        if (hasBytes())
+            return bytes_->take(count <= 0x100 ? 1 : count <= 0x10000 ? 2 : 4) % count;
+        return next() % count;
     }
     /// True once in `times`.
     bool onceIn(int times) { return between(1, times) == 1; }
@@ -36,7 +48,10 @@ public:
     }
 
 private:
+    bool hasBytes() const { return bytes_ != nullptr && !bytes_->empty(); }
+
     std::uint64_t state_;
+    Bytes* bytes_;
 };
 
 /// A seed for one part of something that has a seed of its own.
