@@ -271,6 +271,8 @@ TEST(VBMRemove, NothingIsLeftOfOneRowOrColumn)
     VB_M_RemoveCol(a, 2, 1, 1, none);
     VB_M_RemoveRow(a, 1, 2, 1, none);
     VB_M_RemoveRow(a, 0, 2, 1, none);
+    VB_M_RemoveCol(a, 2, INT_MIN, 1, none);
+    VB_M_RemoveRow(a, INT_MIN, 2, 1, none);
 }
 
 TEST(VBMRemove2, ChangesTheArrayInPlace)

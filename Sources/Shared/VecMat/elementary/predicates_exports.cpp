@@ -18,6 +18,7 @@ using vecmat::isMissing;
 using vecmat::PlainVector;
 using vecmat::presentCellsAgree;
 using vecmat::viewed;
+using vecmat::wrappingDifference;
 
 namespace {
 
@@ -78,7 +79,7 @@ int VB_M_IsColConstant(double* a, int rows, int cols)
 int VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols)
 {
     // The scan ends one row early, deliberately.
-    return firstConstantColumn(cells<matrix>(columns(a, cols, rows)), rows, cols, rows - 1);
+    return firstConstantColumn(cells<matrix>(columns(a, cols, rows)), rows, cols, wrappingDifference(rows, 1));
 }
 
 short VB_M_IsDiagConstant(double* a, int n)

@@ -2,18 +2,20 @@
 
 #include "../frame/detail/handles.h"
 
+#include <algorithm>
+
 using namespace vecmat;
 
 void VB_M_RemoveCol(double* a, int rows, int cols, int col, double* out)
 {
-    const TableHandle result = fresh(rows, cols - 1);
+    const TableHandle result = fresh(rows, std::max(cols, 1) - 1);
     M_RemoveCol(viewed(a, rows, cols), rows, cols, col, result);
     handBack(result, out);
 }
 
 void VB_M_RemoveRow(double* a, int rows, int cols, int row, double* out)
 {
-    const TableHandle result = fresh(rows - 1, cols);
+    const TableHandle result = fresh(std::max(rows, 1) - 1, cols);
     M_RemoveRow(viewed(a, rows, cols), rows, cols, row, result);
     handBack(result, out);
 }

@@ -43,6 +43,8 @@ const std::wstring& convertedTo(Smatrix*, const std::wstring& cell)
 template <class Source, class Out>
 void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* out)
 {
+    if (nRows < 1 || nCols < 1) // then there may be no table
+        return;
     const auto from = cells(source);
     const auto to = cells(out);
     const auto move = [=](int row, int i, auto readable, auto writable) {
