@@ -22,9 +22,9 @@ ReadOptions optionsOf(unsigned one, unsigned other)
     constexpr char delimiters[] = {',', ';', '\t', '|', ' ', 'a', '\n', '\0'};
     ReadOptions options;
     if ((one & 1) != 0)
-        options.grouping = "g";
+        options.grouping.emplace("g");
     if ((one & 2) != 0)
-        options.weights = "w";
+        options.weights.emplace("w");
     if ((one & 4) != 0)
         options.missing = {"", "-9", "n/a", "NA"};
     if ((one & 8) != 0)
