@@ -5,6 +5,7 @@
 #include "elementary/product_cases.h"
 
 #include <array>
+#include <climits>
 
 using namespace vecmat::test;
 
@@ -130,4 +131,18 @@ TEST(VectorProduct, WhoseResultIsTheVector)
     matrix* out = &vector;
     M_ProductBV(&table, n, n, &vector, out);
     EXPECT_THAT(v, SameBitsAsAll(expected));
+}
+
+TEST(VectorProduct, WithoutTerms)
+{
+    const int n = 20;
+    std::vector<double> none, out(n, 5.0);
+    for (const int terms : {0, -1, INT_MIN}) {
+        out.assign(n, 5.0);
+        VB_M_ProductVB(none.data(), terms, none.data(), n, out.data());
+        EXPECT_THAT(out, SameBitsAsAll(std::vector<double>(n, 0.0))) << terms;
+        out.assign(n, 5.0);
+        VB_M_ProductBV(none.data(), n, terms, none.data(), out.data());
+        EXPECT_THAT(out, SameBitsAsAll(std::vector<double>(n, 0.0))) << terms;
+    }
 }

@@ -31,7 +31,7 @@ void sumSideBySide(int results, int inner, TermsAt termsAt, FactorAt factorAt, S
         const int count = std::min(together, results - first);
         std::fill_n(sums, count, 0.0);
         int k = 0;
-        for (; k <= inner - columns; k += columns) {
+        for (; inner - k >= columns; k += columns) {
             double factors[columns];
             const double* terms[columns];
             for (int c = 0; c < columns; ++c) {

@@ -67,7 +67,7 @@ void innerProductsOfGroups(int count, const double* with, const double* first, s
 {
     Lanes running[groups] = {};
     int k = 0;
-    for (; k <= count - laneCount; k += laneCount)
+    for (; count - k >= laneCount; k += laneCount)
         addRows<groups>(k, 0, with, first, stride, running);
     const int rest = count - k;
     if (k > 0 && rest > 0)
@@ -147,7 +147,7 @@ void updateAndMultiply(int n, double* a, std::ptrdiff_t stride, const double* x,
     for (int i = 0; i < n; i += laneCount)
         store(product + i, Lanes{});
     int k = 0;
-    for (; k <= n - columns; k += columns)
+    for (; n - k >= columns; k += columns)
         updateColumns<columns>(n, a + k * stride, stride, x, y, x + k, y + k, v + k, product);
     for (; k < n; ++k)
         updateColumns<1>(n, a + k * stride, stride, x, y, x + k, y + k, v + k, product);
@@ -186,9 +186,9 @@ void reflectRows(int rows, int columns, const double* weights, const double* fac
 {
     constexpr int vectors = 2;
     int i = 0;
-    for (; i <= rows - vectors * laneCount; i += vectors * laneCount)
+    for (; rows - i >= vectors * laneCount; i += vectors * laneCount)
         reflectLanes<vectors>(columns, weights, factors, a + i, stride);
-    for (; i <= rows - laneCount; i += laneCount)
+    for (; rows - i >= laneCount; i += laneCount)
         reflectLanes<1>(columns, weights, factors, a + i, stride);
     for (; i < rows; ++i)
         reflectRow(columns, weights, factors, a + i, stride);
