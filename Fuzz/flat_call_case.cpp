@@ -3,6 +3,7 @@
 #include "support/flat_calls/arguments.h"
 #include "support/flat_calls/snapshots.h"
 
+#include <new>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -86,7 +87,12 @@ Outcome runFlatCall(const Call& call, std::span<const unsigned char> input)
     const bool shares = shareAnArray(*arguments, ofSharing).has_value();
     const std::vector<flat::Cells> before = flat::snapshotOf(*arguments);
     running = &*arguments;
-    arguments->invoke();
+    try {
+        arguments->invoke();
+    } catch (const std::bad_alloc&) {
+        running = nullptr;
+        return Outcome::tooLarge; // a result of nonsensical dimensions
+    }
     if (!shares)
         expectUnchanged(*arguments, before);
     running = nullptr;

@@ -32,7 +32,7 @@ void invertCellByCell(Cells a, Out out, int n, Triangle triangle)
             for (int j = 0; j < i; ++j)
                 solve(i, j, j, i - 1);
     } else {
-        for (int i = n - 2; i >= 0; --i)
+        for (int i = std::max(n, 1) - 2; i >= 0; --i)
             for (int j = i + 1; j < n; ++j)
                 solve(i, j, i + 1, j);
     }
