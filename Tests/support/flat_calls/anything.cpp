@@ -1,6 +1,5 @@
 #include "support/flat_calls/anything.h"
 
-#include <bit>
 #include <cstdint>
 #include <iterator>
 #include <limits>
@@ -61,7 +60,7 @@ double anyNumber(Steps& steps)
 {
     switch (steps.below(8)) {
     case 0:
-        return std::bit_cast<double>(steps.next());
+        return __builtin_bit_cast(double, steps.next()); // as not every standard library has std::bit_cast
     case 1:
     case 2:
         return limit(steps);
