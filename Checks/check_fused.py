@@ -12,8 +12,8 @@ from collections import Counter
 
 FUSED = re.compile(r"f(n?m(add|sub)|ml[as])|vf(n?m(add|sub)|m(addsub|subadd))\w*")  # of 64-bit Arm and of x86
 # What asks for it by name: quotients by known divisors (kernels/quotients.h), a call with one of which has taken it in,
-# the exact cubes and fourth powers, and sums of exact products (kernels/tile_kernels.h), by themselves or taken in. The elementary functions are told
-# by the archive that they come from.
+# the exact cubes and fourth powers, and sums of exact products (kernels/tile_kernels.h), by themselves or taken in. The
+# elementary functions are told by the archive that they come from.
 MEANT = ("FusedDivision", "::deviations(", "::cubesAndFourths(", "PlusExact", "::addExact(")
 
 
