@@ -58,7 +58,7 @@ int factorInOrder(matrix* a, int n, matrix* l)
 {
     return onBlocksOrElse(
         [n](auto x, auto y) {
-            const std::optional<int> byStrips = factorByStrips<test>(x, y, n);
+            const auto byStrips = n < leastStripOrder ? std::nullopt : factorByStrips<test>(x, y, n);
             return byStrips ? *byStrips : factorCellByCell<test>(x, y, n);
         },
         [n](auto x, auto y) { return factorCellByCell<test>(x, y, n); }, block(cells(a), n, n), block(cells(l), n, n));

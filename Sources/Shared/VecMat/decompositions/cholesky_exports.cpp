@@ -1,12 +1,16 @@
 #include "cholesky.h"
 
 #include "../frame/detail/handles.h"
+#include "../frame/detail/in_place.h"
 
 using namespace vecmat;
 
 int VB_M_CholDecomp(double* a, int n, double* l)
 {
-    return M_CholDecomp(copied(a, n, n), n, viewed(l, n, n).reference());
+    const CallerArray table{a, n, n};
+    return onViewsOrCopies<Copies::dropped>(
+        areApart(table, CallerArray{l, n, n}),
+        [=](matrix* from) { return M_CholDecomp(from, n, viewed(l, n, n).reference()); }, table);
 }
 
 int VB_M_CholDecompPrinc(double* a, int n, double* l, int* perm, short keep)

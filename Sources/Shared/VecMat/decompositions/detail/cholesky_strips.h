@@ -29,13 +29,13 @@ bool failsAsPivot(double x)
 }
 
 /// L of order n, computed as many rows at a time as a kernel has results, each strip from its first column to the
-/// diagonal. Needs scratch memory for a table of order n and a strip of it.
+/// diagonal. Needs scratch memory for a triangle of order n and a strip of it.
 template <PivotTest test, class Cells, class Factor>
 class StripCholesky
 {
 public:
     StripCholesky(Cells a, Factor l, int n)
-        : a_(a), l_(l), n_(n), columns_(n), rows_(countOf(n) * std::size_t{countOf(n)}),
+        : a_(a), l_(l), n_(n), columns_(n), rows_(rowStart(n)),
           strip_(countOf(n) * std::size_t{countOf(kernels_.width)})
     {
     }
@@ -57,8 +57,9 @@ public:
     }
 
 private:
-    /// Row i of L, as far as it is needed.
-    double* row(int i) const { return rows_.data() + std::ptrdiff_t{n_} * i; }
+    /// The rows of L one behind the other, each up to its diagonal: half of a table, and with it of the pages to map.
+    static std::size_t rowStart(int i) { return std::size_t{countOf(i)} * (std::size_t{countOf(i)} + 1) / 2; }
+    double* row(int i) const { return rows_.data() + rowStart(i); }
     /// The cells of column k in the strip.
     double* strip(int k) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * k; }
     int endOf(int first) const { return std::min(first + kernels_.width, n_); }
@@ -114,11 +115,11 @@ private:
 /// Below this order copying costs more than it saves.
 inline constexpr int leastStripOrder = 40;
 
-/// None, with nothing done, if the factor is too small for this or overlaps the table, or if allocation fails.
+/// None, with nothing done, if the factor overlaps the table, or if allocation fails.
 template <PivotTest test, class Cells, class Factor>
 std::optional<int> factorByStrips(Cells a, Factor l, int n)
 {
-    if (n < leastStripOrder || l.folds(n, n) || overlap(storageOf(l, n, n), storageOf(a, n, n)))
+    if (l.folds(n, n) || overlap(storageOf(l, n, n), storageOf(a, n, n)))
         return std::nullopt;
     StripCholesky<test, Cells, Factor> strips(a, l, n);
     if (!strips.hasMemory())
