@@ -11,7 +11,8 @@
 
 namespace vecmat {
 
-/// The result has `rows` by `cols` cells, each a sum of `inner` terms. A sum without terms is 0.0.
+/// The result has `rows` by `cols` cells, each a sum of `inner` terms. A sum without terms is 0.0. It is passed by
+/// reference: a copy would read at once what was just written number by number, and a processor has to wait for that.
 struct ProductShape
 {
     int rows;
@@ -52,7 +53,7 @@ double sumOfProducts(const Left& left, int i, const Right& right, int j, int inn
 
 /// out = left right, each result on its own.
 template <MissingFactor missing = MissingFactor::multiplied, class Left, class Right, class Out>
-void multiplyCellByCell(const Left& left, const Right& right, ProductShape shape, const Out& out)
+void multiplyCellByCell(const Left& left, const Right& right, const ProductShape& shape, const Out& out)
 {
     for (int i = 0; i < shape.rows; ++i)
         for (int j = 0; j < shape.cols; ++j)

@@ -39,8 +39,8 @@ double structuredCell(const Left& left, const Structure& ofLeft, int i, const Ri
 
 /// out = left right by the rule above.
 template <class Left, class Right, class Out>
-void multiplyByStructure(Left left, const Structure& ofLeft, Right right, const Structure& ofRight, ProductShape shape,
-                         Out out)
+void multiplyByStructure(Left left, const Structure& ofLeft, Right right, const Structure& ofRight,
+                         const ProductShape& shape, Out out)
 {
     onBlocks(
         [&](auto x, auto y, auto result) {

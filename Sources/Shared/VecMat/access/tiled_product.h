@@ -29,7 +29,7 @@ template <MissingFactor missing, ResultPart part, class Left, class Right, class
 class TiledProduct
 {
 public:
-    TiledProduct(const Left& left, const Right& right, ProductShape shape, const Out& out)
+    TiledProduct(const Left& left, const Right& right, const ProductShape& shape, const Out& out)
         : left_(left), right_(right), shape_(shape), out_(out), blockLength_(std::min(shape.inner, longestBlock)),
           rowPanels_(panels(shape.rows, kernels_.rows)), colPanels_(panels(shape.cols, kernels_.cols)),
           leftPanels_(rowPanels_ * leftPanelSize()), rightPanels_(colPanels_ * rightPanelSize()),
@@ -198,14 +198,20 @@ private:
 inline constexpr double fewestProducts = 2000;
 inline constexpr int fewestLines = 4;
 
-/// Runs the product by tiles if that pays off and the order of the results is not observable. Returns false, having
-/// done nothing, otherwise.
-template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
-bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, const Out& out)
+/// Small enough to be inlined: a product of order 3 would notice the call.
+inline bool tilesPay(const ProductShape& shape)
 {
-    const auto [rows, inner, cols] = shape;
-    if (std::min({rows, inner, cols}) < fewestLines || double{1} * rows * inner * cols < fewestProducts)
-        return false;
+    const auto& [rows, inner, cols] = shape;
+    return rows >= fewestLines && inner >= fewestLines && cols >= fewestLines &&
+           double{1} * rows * inner * cols >= fewestProducts;
+}
+
+/// Runs the product by tiles if the order of the results is not observable. Returns false, having done nothing,
+/// otherwise.
+template <MissingFactor missing, ResultPart part, class Left, class Right, class Out>
+bool multiplyInTiles(const Left& left, const Right& right, const ProductShape& shape, const Out& out)
+{
+    const auto& [rows, inner, cols] = shape;
     if (out.folds(rows, cols) || overlap(storageOf(out, rows, cols), storageOf(left, rows, inner)) ||
         overlap(storageOf(out, rows, cols), storageOf(right, inner, cols)))
         return false;
@@ -220,16 +226,16 @@ bool multiplyInTiles(const Left& left, const Right& right, ProductShape shape, c
 
 /// out = left right.
 template <MissingFactor missing = MissingFactor::multiplied, class Left, class Right, class Out>
-void multiply(Left left, Right right, ProductShape shape, Out out)
+void multiply(Left left, Right right, const ProductShape& shape, Out out)
 {
     const auto cellByCell = [&](auto x, auto y, auto result) { multiplyCellByCell<missing>(x, y, shape, result); };
     onBlocksOrElse(
         [&](auto x, auto y, auto result) {
             if constexpr (missing == MissingFactor::multiplied) {
-                if (detail::multiplyByVector(x, y, shape, result))
+                if (detail::isByVector(shape) && detail::multiplyByVector(x, y, shape, result))
                     return;
             }
-            if (!detail::multiplyInTiles<missing, ResultPart::whole>(x, y, shape, result))
+            if (!detail::tilesPay(shape) || !detail::multiplyInTiles<missing, ResultPart::whole>(x, y, shape, result))
                 cellByCell(x, y, result);
         },
         cellByCell, block(left, shape.rows, shape.inner), block(right, shape.inner, shape.cols),
@@ -247,7 +253,9 @@ void multiplySymmetric(Left left, Right right, int n, int inner, Out out)
     onBlocksOrElse(
         [&](auto x, auto y, auto result) {
             constexpr auto lower = ResultPart::lowerMirrored;
-            if (!detail::multiplyInTiles<MissingFactor::multiplied, lower>(x, y, {n, inner, n}, result))
+            const ProductShape shape{n, inner, n};
+            if (!detail::tilesPay(shape) ||
+                !detail::multiplyInTiles<MissingFactor::multiplied, lower>(x, y, shape, result))
                 cellByCell(x, y, result);
         },
         cellByCell, block(left, n, inner), block(right, inner, n), block(out, n, n));

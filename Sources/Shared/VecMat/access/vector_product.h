@@ -92,14 +92,20 @@ bool multiplyTableByVector(const Table& table, int results, int inner, FactorAt 
     return true;
 }
 
-/// Runs the product if one operand is a vector and the order of the results is not observable. Returns false, having done
-/// nothing, otherwise.
-template <class Left, class Right, class Out>
-bool multiplyByVector(const Left& left, const Right& right, ProductShape shape, const Out& out)
+/// Is there one operand that is a vector, and are there enough results? Inlined, like `tilesPay`.
+inline bool isByVector(const ProductShape& shape)
 {
-    const auto [rows, inner, cols] = shape;
-    if ((rows != 1 && cols != 1) || std::max(rows, cols) < fewestSideBySide || out.folds(rows, cols) ||
-        overlap(storageOf(out, rows, cols), storageOf(left, rows, inner)) ||
+    const auto& [rows, inner, cols] = shape;
+    return (rows == 1 || cols == 1) && (rows >= fewestSideBySide || cols >= fewestSideBySide);
+}
+
+/// Runs a product by a vector if the order of the results is not observable. Returns false, having done nothing,
+/// otherwise.
+template <class Left, class Right, class Out>
+bool multiplyByVector(const Left& left, const Right& right, const ProductShape& shape, const Out& out)
+{
+    const auto& [rows, inner, cols] = shape;
+    if (out.folds(rows, cols) || overlap(storageOf(out, rows, cols), storageOf(left, rows, inner)) ||
         overlap(storageOf(out, rows, cols), storageOf(right, inner, cols)))
         return false;
     if constexpr (hasColumns<Left> || hasRows<Left>) {

@@ -37,7 +37,7 @@ void forEachBlock(matrix** blocks, int nBlocks, Sizes* sizes, Body body)
 
 /// The plain product in a table that the caller keeps: it is cleared only if it is large enough, and never replaced.
 template <class Left, class Right>
-void plainProduct(Left left, Right right, ProductShape shape, matrix* out)
+void plainProduct(Left left, Right right, const ProductShape& shape, matrix* out)
 {
     if (holds(out, shape.rows, shape.cols))
         matrix::matCheck(out, shape.rows, shape.cols, 0.0);

@@ -29,7 +29,7 @@ void productATrA(Table* a, int rows, int cols, matrix*& out)
 
 /// left right in a new table: the first link of a chain.
 template <class Left, class Right>
-matrix product(Left left, Right right, ProductShape shape)
+matrix product(Left left, Right right, const ProductShape& shape)
 {
     matrix result(shape.rows, shape.cols, 0.0);
     multiply(left, right, shape, cells(&result));

@@ -27,8 +27,8 @@ constexpr int stringColumnCount(int nCols)
 }
 
 template <class Data, class Key, class Companion>
-int sortRows(Data data, int nCols, RowRange range, Key* key, Companion companion, int nCompanionCols, short descending,
-             short writeKeys)
+int sortRows(Data data, int nCols, const RowRange& range, Key* key, Companion companion, int nCompanionCols,
+             short descending, short writeKeys)
 {
     sortByKey(range, directionOf(descending), linear(key), sortedKeysOf(writeKeys), Following{data, nCols},
               Following{companion, nCompanionCols});
@@ -48,7 +48,7 @@ using ColumnKey = std::conditional_t<std::is_same_v<Table, Smatrix>, std::wstrin
 
 /// Sorts numbers by one of their columns, column by column. Returns false if that has to be done row by row.
 template <class Table>
-bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Direction direction)
+bool sortedByOwnColumn(Table* table, int nCols, int col, const RowRange& range, Direction direction)
 {
     if constexpr (std::is_same_v<Table, Smatrix>)
         return false;
@@ -63,7 +63,7 @@ bool sortedByOwnColumn(Table* table, int nCols, int col, RowRange range, Directi
 }
 
 template <class Table>
-int sortByOwnColumn(Table* table, int nCols, int col, RowRange range, short descending)
+int sortByOwnColumn(Table* table, int nCols, int col, const RowRange& range, short descending)
 {
     if (sortedByOwnColumn(table, nCols, col, range, directionOf(descending)))
         return 0;
@@ -131,7 +131,7 @@ bool sortedByColumnsTogether(Table* table, int nRows, int nCols, long long count
 
 /// Each sort is stable, so the whole is lexicographic: the column sorted last is the major key.
 template <class Table>
-int sortByColumnsInTurn(Table* table, int nRows, int nCols, RowRange cols, short lastToFirst)
+int sortByColumnsInTurn(Table* table, int nRows, int nCols, const RowRange& cols, short lastToFirst)
 {
     const bool backwards = lastToFirst == -1;
     const long long count = cols.count();
@@ -144,7 +144,7 @@ int sortByColumnsInTurn(Table* table, int nRows, int nCols, RowRange cols, short
 }
 
 template <class Table>
-int sortVector(Table* x, RowRange range, Direction direction)
+int sortVector(Table* x, const RowRange& range, Direction direction)
 {
     sortElements(range, direction, linear(x));
     return 0;

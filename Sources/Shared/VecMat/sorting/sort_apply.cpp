@@ -1,6 +1,7 @@
 #include "sort_apply.h"
 
 #include "../access/cells.h"
+#include "../base/detail/local_array.h"
 #include "../base/detail/memory_ranges.h"
 #include "../base/detail/numbers.h"
 #include "../base/detail/scratch.h"
@@ -8,7 +9,9 @@
 #include "detail/column_moves.h"
 #include "detail/key_order.h"
 
+#include <iterator>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -61,21 +64,39 @@ void applyOrderByRows(Source* source, int nRows, int nCols, matrix* order, Out* 
     }
 }
 
-/// Below this number of rows checking the order costs more than it saves.
-constexpr int fewestRows = 32;
+/// Up to this number of rows their numbers need no allocation; below it a rearrangement in place does not pay.
+constexpr int fewRows = 32;
 
-/// The source rows of an order whose rows all lie inside their columns; nothing if one does not, or if allocation
-/// fails.
+/// Stores the source rows of an order, unless one of them does not lie inside its column.
+template <class Number>
+bool storeRowsInside(matrix* order, int nRows, int height, Number* rows)
+{
+    const double end = height;
+    for (int i = 0; i < nRows; ++i) {
+        const double row = linear(order).get(i) - 1.0;
+        if (!(row > -1.0 && row < end))
+            return false;
+        rows[i] = static_cast<unsigned>(static_cast<int>(row)); // truncated: -0.5 is the first
+    }
+    return true;
+}
+
+/// The same; nothing if one does not, or if allocation fails.
 RowOrder rowsInside(matrix* order, int nRows, int height)
 {
     RowOrder rows(countOf(nRows));
-    for (int i = 0; rows && i < nRows; ++i) {
-        const double row = linear(order).get(i) - 1.0;
-        if (!(row > -1.0 && row < height))
-            return {};
-        rows.words()[i] = countOf(static_cast<int>(row)); // truncated: -0.5 is the first
+    return rows && storeRowsInside(order, nRows, height, rows.words()) ? std::move(rows) : RowOrder();
+}
+
+template <class Source, class Rows, class Out>
+void moveColumns(Source* source, int nRows, int nCols, const Rows& rows, Out* out)
+{
+    for (int j = 0; j < nCols; ++j) {
+        const auto* const from = cells(source).plain().column(j);
+        auto* const to = cells(out).plain().column(j);
+        for (unsigned i = 0; i < countOf(nRows); ++i)
+            to[i] = convertedTo(out, from[rows[i]]);
     }
-    return rows;
 }
 
 /// Column by column, if every source row is inside its column and no write affects cells still to be read. Returns
@@ -83,23 +104,24 @@ RowOrder rowsInside(matrix* order, int nRows, int height)
 template <class Source, class Out>
 bool applyOrderByColumns(Source* source, int nRows, int nCols, matrix* order, Out* out)
 {
-    if (nRows < fewestRows || nCols < 1 || !cells(source).covers(source->nRows, nCols) ||
-        !cells(out).covers(nRows, nCols) || cells(out).plain().folds(nRows, nCols))
+    if (nRows < 1 || nCols < 1 || !cells(source).covers(source->nRows, nCols) || !cells(out).covers(nRows, nCols) ||
+        cells(out).plain().folds(nRows, nCols))
         return false;
-    MemoryRanges memory;
-    memory.add(memoryOf(source->X, source->nElems));
-    memory.add(memoryOf(order->X, order->nElems));
-    memory.add(memoryOf(out->X, out->nElems));
-    const RowOrder rows = memory.areApart() ? rowsInside(order, nRows, source->nRows) : RowOrder();
-    if (!rows)
+    const MemoryRange memory[] = {memoryOf(source->X, source->nElems), memoryOf(order->X, order->nElems),
+                                  memoryOf(out->X, out->nElems)};
+    if (!fewAreApart(memory, std::size(memory)))
         return false;
-    for (int j = 0; j < nCols; ++j) {
-        const auto* const from = cells(source).plain().column(j);
-        auto* const to = cells(out).plain().column(j);
-        for (unsigned i = 0; i < countOf(nRows); ++i)
-            to[i] = convertedTo(out, from[rows[i]]);
+    if (nRows <= fewRows) {
+        LocalArray<unsigned> rows(fewRows);
+        if (!storeRowsInside(order, nRows, source->nRows, rows.data()))
+            return false;
+        moveColumns(source, nRows, nCols, rows, out);
+        return true;
     }
-    return true;
+    const RowOrder rows = rowsInside(order, nRows, source->nRows);
+    if (rows)
+        moveColumns(source, nRows, nCols, rows, out);
+    return static_cast<bool>(rows);
 }
 
 template <class Source, class Out>
@@ -118,7 +140,7 @@ template <class Table>
 void applyOrderInPlace(Table* table, int nRows, int nCols, matrix* order)
 {
     const auto rows = cells(table);
-    if (nRows >= fewestRows && nCols > 0 && nRows <= table->nRows && rows.covers(table->nRows, nCols))
+    if (nRows >= fewRows && nCols > 0 && nRows <= table->nRows && rows.covers(table->nRows, nCols))
         if (const ColumnMoves moves({1, nRows}, rowsInside(order, nRows, table->nRows), Scratch(countOf(nRows)));
             moves.hasMemory())
             return moves.rearrange(Following{rows.plain(), nCols});

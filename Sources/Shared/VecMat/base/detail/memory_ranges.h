@@ -30,6 +30,16 @@ MemoryRange memoryOf(const Element* array, std::size_t count)
     return {array, array != nullptr ? array + count : nullptr};
 }
 
+/// Does each byte belong to only one of a few ranges?
+inline bool fewAreApart(const MemoryRange* ranges, std::size_t count)
+{
+    for (std::size_t j = 1; j < count; ++j)
+        for (std::size_t k = 0; k < j; ++k)
+            if (!ranges[j].isEmpty() && !ranges[k].isEmpty() && ranges[j].overlaps(ranges[k]))
+                return false;
+    return true;
+}
+
 /// Ranges collected to find out whether a write to one is visible in another.
 class MemoryRanges
 {
@@ -38,15 +48,10 @@ public:
     {
         if (range.isEmpty() || !isComplete_)
             return;
-        if (fewCount_ < few_.size()) {
+        if (fewCount_ < few_.size())
             few_[fewCount_++] = range;
-            return;
-        }
-        try {
-            others_.push_back(range);
-        } catch (const std::bad_alloc&) {
-            isComplete_ = false;
-        }
+        else
+            addOther(range);
     }
 
     /// Does each byte belong to only one of them? False if allocation fails: the caller then takes the path that needs
@@ -56,7 +61,7 @@ public:
         if (!isComplete_)
             return false;
         if (others_.empty())
-            return fewAreApart();
+            return fewAreApart(few_.data(), fewCount_);
         try {
             others_.insert(others_.end(), few_.begin(), few_.begin() + fewCount_);
         } catch (const std::bad_alloc&) {
@@ -73,13 +78,13 @@ public:
     }
 
 private:
-    bool fewAreApart() const
+    void addOther(const MemoryRange& range)
     {
-        for (std::size_t j = 1; j < fewCount_; ++j)
-            for (std::size_t k = 0; k < j; ++k)
-                if (few_[j].overlaps(few_[k]))
-                    return false;
-        return true;
+        try {
+            others_.push_back(range);
+        } catch (const std::bad_alloc&) {
+            isComplete_ = false;
+        }
     }
 
     std::array<MemoryRange, 6> few_; // these need no allocation

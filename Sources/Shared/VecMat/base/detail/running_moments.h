@@ -157,11 +157,12 @@ void accumulate(int results, int terms, Add add, Store store)
         for (int k = 0; k < width; ++k)
             store(first + k, moments[k]);
     };
-    constexpr int sideBySide = 4;
     int first = 0;
-    for (; results - first >= sideBySide; first += sideBySide)
-        group.template operator()<sideBySide>(first);
-    for (; first < results; ++first)
+    for (; results - first >= 4; first += 4)
+        group.template operator()<4>(first);
+    for (; results - first >= 2; first += 2)
+        group.template operator()<2>(first);
+    if (first < results)
         group.template operator()<1>(first);
 }
 

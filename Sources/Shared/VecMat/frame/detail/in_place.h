@@ -25,9 +25,8 @@ CallerArray(Number*, int, int) -> CallerArray<Number>;
 template <class... Numbers>
 bool areApart(const CallerArray<Numbers>&... arrays)
 {
-    MemoryRanges ranges;
-    (ranges.add(arrays.memory()), ...);
-    return ranges.areApart();
+    const MemoryRange ranges[] = {arrays.memory()...};
+    return fewAreApart(ranges, sizeof...(arrays));
 }
 
 /// What happens to the copies once `compute` has returned.

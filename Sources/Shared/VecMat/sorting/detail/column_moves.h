@@ -35,7 +35,7 @@ Following(Cells, int) -> Following<Cells>;
 class ColumnMoves
 {
 public:
-    ColumnMoves(RowRange range, RowOrder order, Scratch column)
+    ColumnMoves(const RowRange& range, RowOrder order, Scratch column)
         : first_(range.first - 1), count_(static_cast<std::size_t>(range.count())), order_(std::move(order)),
           moved_(std::move(column))
     {
@@ -71,7 +71,8 @@ private:
 /// Sorts the rows of a range, not before the first, by a column of keys in plain storage. Returns false, having done
 /// nothing, if that has to be done row by row.
 template <class Number, class... Plain>
-bool sortInColumns(RowRange range, Direction direction, Number* key, SortedKeys keys, Following<Plain>... tables)
+bool sortInColumns(const RowRange& range, Direction direction, Number* key, SortedKeys keys,
+                   const Following<Plain>&... tables)
 {
     const int last = range.last;
     if constexpr (sizeof...(Plain) > 0) {

@@ -18,7 +18,8 @@ namespace detail {
 
 /// Sorts column by column if the storage and the range allow it. Returns false, having done nothing, otherwise.
 template <class KeyCells, class... Cells>
-bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
+bool sortedInColumns(const RowRange& range, Direction direction, KeyCells key, SortedKeys keys,
+                     const Following<Cells>&... tables)
 {
     if constexpr (std::is_arithmetic_v<typename KeyCells::Value> && (HasColumnsOfNumbers<Cells> && ...))
         return range.first >= 1 && range.count() > 1 &&
@@ -38,7 +39,8 @@ bool sortedInColumns(RowRange range, Direction direction, KeyCells key, SortedKe
 /// row's cells in each table in turn: the order of these writes is observable if a row lies beyond its table. Otherwise
 /// the columns are rearranged one by one.
 template <class KeyCells, class... Cells>
-void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Following<Cells>... tables)
+void sortByKey(const RowRange& range, Direction direction, KeyCells key, SortedKeys keys,
+               const Following<Cells>&... tables)
 {
     if (!detail::sortedInColumns(range, direction, key, keys, tables...))
         placeByKey(range, direction, key, keys, MovedRows(tables.cells, range, tables.nCols)...);
@@ -46,7 +48,7 @@ void sortByKey(RowRange range, Direction direction, KeyCells key, SortedKeys key
 
 /// Sorts the elements of the range themselves.
 template <class Vector>
-void sortElements(RowRange range, Direction direction, Vector x)
+void sortElements(const RowRange& range, Direction direction, Vector x)
 {
     using Value = typename Vector::Value;
     if constexpr (std::is_arithmetic_v<Value>) {

@@ -44,7 +44,8 @@ constexpr SortedKeys sortedKeysOf(short writeKeys)
     return writeKeys == -1 ? SortedKeys::written : SortedKeys::discarded;
 }
 
-/// Rows from `first` to `last`, 1-based, both included. A `last` below `first` is an empty range.
+/// Rows from `first` to `last`, 1-based, both included. A `last` below `first` is an empty range. Passed by reference, like
+/// the shape of a product.
 struct RowRange
 {
     int first;
@@ -80,7 +81,7 @@ void sortStably(std::vector<pairToSort>& records);
 /// Calls `place(row, record)` for the rows of the range from first to last, with the records that `load(row)` makes of
 /// these rows in sorted order. All records are loaded before the first is placed.
 template <class Load, class Place>
-void placeInStableOrder(RowRange range, Direction direction, Load load, Place place)
+void placeInStableOrder(const RowRange& range, Direction direction, Load load, Place place)
 {
     const bool backwards = direction == Direction::descending;
     const long long count = range.count();
@@ -104,7 +105,7 @@ template <class Cells>
 class MovedRows
 {
 public:
-    MovedRows(Cells cells, RowRange range, int nCols)
+    MovedRows(Cells cells, const RowRange& range, int nCols)
         : cells_(cells), first_(range.first), nCols_(std::max(nCols, 0)), before_(cellCount(range.count(), nCols_))
     {
         for (int j = 0; j < nCols_; ++j)
@@ -139,7 +140,7 @@ private:
 /// Places the rows of the range in the order of the elements of `key` with the same numbers. Row by row, the key is
 /// written, then the row's cells in each table of `moved` in turn.
 template <class KeyCells, class... Moved>
-void placeByKey(RowRange range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
+void placeByKey(const RowRange& range, Direction direction, KeyCells key, SortedKeys keys, Moved... moved)
 {
     using KeyValue = typename KeyCells::Value;
     placeInStableOrder(
