@@ -9,6 +9,7 @@
 #include "sort.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <memory>
@@ -118,6 +119,36 @@ std::vector<std::size_t> settleTies(const Ranking& ranking, Tied tied, Settle se
     return lengths;
 }
 
+/// The weights of sorted elements, asked for in ascending order and read many ahead: one by one, between the branches
+/// of the ties, most reads would wait for memory.
+class WeightsInOrder
+{
+public:
+    WeightsInOrder(matrix* weights, const SortedElements& sorted) : weights_(weights), sorted_(sorted) {}
+
+    double operator()(std::size_t k)
+    {
+        if (k >= end_)
+            read(k);
+        return ahead_[k - first_];
+    }
+
+private:
+    void read(std::size_t first)
+    {
+        first_ = first;
+        end_ = std::min(first + ahead_.size(), sorted_.count());
+        for (std::size_t k = first; k < end_; ++k)
+            ahead_[k - first] = linear(weights_).get(sorted_.row(k));
+    }
+
+    matrix* weights_;
+    const SortedElements& sorted_;
+    std::array<double, 256> ahead_;
+    std::size_t first_ = 0;
+    std::size_t end_ = 0;
+};
+
 void writeTies(const std::vector<std::size_t>& lengths, int* nTies, matrix* tieSizes)
 {
     *nTies = 0;
@@ -140,11 +171,11 @@ void V_GetRanks(matrix* x, int n, matrixInt*& ranks)
 void V_GetRanksTies(matrix* x, int n, matrix* weights, matrix*& ranks, int* nTies, matrix*& tieSizes)
 {
     const Ranking ranking(x, n);
-    const auto weight = [&](std::size_t k) { return linear(weights).get(ranking.sorted.row(k)); };
+    WeightsInOrder weight(weights, ranking.sorted);
     const auto closerThanTolerance = [](double value, double other) { return std::abs(value - other) < tieTolerance; };
     const auto shareWeightedMean = [&](std::size_t first, std::size_t end) {
         // The first of a group takes the weight of the very first element: a fixed part of the rule.
-        double weightSum = weight(0);
+        double weightSum = linear(weights).get(ranking.sorted.row(0));
         double rankSum = ranking.ranks[first] * weightSum;
         for (std::size_t k = first + 1; k < end; ++k) {
             weightSum += weight(k);

@@ -44,8 +44,8 @@ constexpr SortedKeys sortedKeysOf(short writeKeys)
     return writeKeys == -1 ? SortedKeys::written : SortedKeys::discarded;
 }
 
-/// Rows from `first` to `last`, 1-based, both included. A `last` below `first` is an empty range. Passed by reference, like
-/// the shape of a product.
+/// Rows from `first` to `last`, 1-based, both included. A `last` below `first` is an empty range. Passed by reference,
+/// like the shape of a product.
 struct RowRange
 {
     int first;
