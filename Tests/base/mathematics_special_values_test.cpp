@@ -1,4 +1,5 @@
 // Zeros, infinities, NaNs and the ends of the range, as C23 tells in its Annex F.
+#include "base/detail/mathematics/bits.h"
 #include "base/detail/mathematics/mathematics.h"
 #include "support/bits.h"
 
@@ -36,6 +37,15 @@ TEST(Exp, AtTheEndsOfTheRange)
     EXPECT_THAT(exp(-greatest), SameBitsAs(0.0));
     EXPECT_THAT(exp(least), SameBitsAs(1.0));
     EXPECT_THAT(exp(-least), SameBitsAs(1.0));
+}
+
+TEST(Cube, OfAnyNaNIsOne)
+{
+    for (const std::uint64_t bits :
+         {0x7ff0000000000001u, 0x7ff8000000000000u, 0xfff0000000000001u, 0xffffffffffffffffu}) {
+        EXPECT_TRUE(std::isnan(cube(mathematics::doubleOf(bits)))) << bits;
+        EXPECT_TRUE(std::isnan(fourthPower(mathematics::doubleOf(bits)))) << bits;
+    }
 }
 
 TEST(Exp, NextToOne)

@@ -126,6 +126,16 @@ TEST(FilterEigen, HasTheBitsOfTheStepsInTheirOrder)
     }
 }
 
+TEST(FilterEigen, CountsNoShareBeyondThoseKept)
+{
+    Owned<matrix> eig = column({3, 1});
+    Owned<matrix> percent = column({7, 7, 1000}); // kept, as it is larger than asked for
+    int kept = 0, selected = 0;
+    FilterEigen(eig, 2, 0, 0.0, 500.0, 0, 0.0, kept, selected, percent);
+    EXPECT_EQ(selected, 2);
+    EXPECT_THAT(cellsOf(percent), SameBits({75, 25, 1000}));
+}
+
 TEST(FilterEigen, TakesSmallEigenvaluesOffTheEnd)
 {
     for (const short drop : {1, -1, 5}) {

@@ -146,6 +146,21 @@ TEST(MCholDecompPrinc, HasThoseBitsWhereManyCellsAreWorkedOnSideBySide)
         }
 }
 
+TEST(MCholDecompPrinc, AFactorThatIsTooSmallIsLost)
+{
+    const std::vector<double> cells{1, 0.5, 0.5, 4};
+    const Owned<matrix> low = filled(1, 4, 77.0), narrow = filled(4, 1, 77.0);
+    for (matrix* const l : {low.get(), narrow.get(), static_cast<matrix*>(nullptr)}) {
+        const Owned<matrix> a = table(2, 2, cells);
+        const Owned<matrixInt> perm = intColumn({9, 9});
+        EXPECT_EQ(M_CholDecompPrinc(a, 2, l, perm, -1), 0);
+        EXPECT_THAT(cellsOf(a), SameBits({4, 0.5, 0.5, 1}));
+        EXPECT_EQ(cellsOf(perm), (std::vector<int>{2, 1}));
+    }
+    EXPECT_THAT(cellsOf(low), testing::Each(77.0));
+    EXPECT_THAT(cellsOf(narrow), testing::Each(77.0));
+}
+
 TEST(MCholDecompPrinc, StartsWithTheLargestOfTheDiagonal)
 {
     const Pivoted factor = pivoted({1, 0.5, 0.5, 4}, 2, -1);
@@ -163,6 +178,9 @@ TEST(MCholDecompPrinc, EstimatesTheNextPivotByTheDivisorNotItsSquare)
     const Pivoted factor = pivoted({100, 10, 0, 10, 5, 0, 0, 0, 3}, 3, 0);
     EXPECT_EQ(factor.status, 0);
     EXPECT_EQ(factor.perm, (std::vector<int>{1, 3, 2}));
+    // The square comes first: rounded otherwise, the other of two that are nearly equal would win.
+    EXPECT_EQ(pivoted({570, 1, 3, 1, 51, 0, 3, 0, 51.33508312663336}, 3, 0).perm, (std::vector<int>{1, 3, 2}));
+    EXPECT_EQ(pivoted({340, 0.3, 2.4, 0.3, 52, 0, 2.4, 0, 52.30749892395795}, 3, 0).perm, (std::vector<int>{1, 2, 3}));
 }
 
 TEST(MCholDecompPrinc, TakesOnlyTheRowBeforeIntoTheEstimate)

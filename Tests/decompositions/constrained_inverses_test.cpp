@@ -83,6 +83,14 @@ TEST(CleanConstraintsAndInvert, PutsTheInverseBackInItsOwnPlaces)
     EXPECT_THAT(inverted(a, 3, {1, 0, 1}).out, SameBits({77, 0, 77, 77, 1.0 / 9, 77, 77, 0, 77}));
 }
 
+TEST(CleanConstraintsAndInvert, LeavesWhatAResultHasBeyond)
+{
+    const Owned<matrix> a = byRows({{2, 0}, {0, 4}});
+    Owned<matrix> out = filled(2, 3, 77.0);
+    EXPECT_EQ(cCleanConstraintsAndInvert(2, intColumn({0, 0}), a, out), 0);
+    EXPECT_THAT(cellsOf(out), SameBits({0.5, 0, 0, 0.25, 77, 77}));
+}
+
 TEST(CleanConstraintsAndInvert, FallsBackOnTheG2InverseOfASingularBlock)
 {
     const Owned<matrix> a = byRows({{4, 9, 4}, {9, 9, 9}, {4, 9, 4}});

@@ -285,6 +285,8 @@ TEST(CorrMatFromSymMat, HasTheSameBitsInEveryStorage)
     Guarded<double> missing({1, M, M, 1});
     EXPECT_EQ(Cpp_M_CorrMatFromSymMat(missing, 2), -1);
     EXPECT_TRUE(missing.untouched());
+    EXPECT_EQ(Cpp_M_CorrMatFromSymMatSPV(nullptr, 0), 0);
+    EXPECT_EQ(Cpp_M_CorrMatFromSymMatSPV_T(nullptr, 0), 0);
 }
 
 // ---- the projections ----
@@ -396,6 +398,15 @@ TEST(RowSumNorm, IsTheLargestRowSumOfMagnitudes)
     Guarded<double> flat(cellsOf(a));
     EXPECT_THAT(Cpp_M_RowSumNorm(flat, 2, 3), SameBits(15));
     EXPECT_TRUE(flat.untouched());
+}
+
+TEST(RowSumNorm, AddsEachRowFromTheLeft)
+{
+    const double large = 1e16; // to which 2 can be added, but not 1
+    EXPECT_THAT(M_RowSumNorm(byRows({{1, -1, large}}), 1, 3), SameBits(large + 2));
+    EXPECT_THAT(M_RowSumNorm(byRows({{large, -1, 1}}), 1, 3), SameBits(large));
+    TableColumns columns(1, 3, {1, 1, -large});
+    EXPECT_THAT(M_RowSumNormSPV(columns, 1, 3), SameBits(large + 2));
 }
 
 TEST(RowSumNorm, SkipsWhatIsNotAboveTheMissingValue)

@@ -150,6 +150,21 @@ TEST(Norm2, OfOneColumnIsTheRootOfItsSumOfSquares)
     EXPECT_THAT(getNorm2(filled(3, 0, 0.0)), SameBits(0)) << "no column, no cell to read";
 }
 
+TEST(Norm2, OfOneColumnAddsTheRoundedSquaresFromTheTop)
+{
+    RandomData data(8111);
+    SCOPED_TRACE(data);
+    for (std::size_t n = 1; n <= 30; ++n) {
+        const std::vector<double> x = data.normals(n);
+        double sum = 0.0;
+        for (const double cell : x) {
+            const double square = cell * cell;
+            sum += square;
+        }
+        EXPECT_THAT(getNorm2(column(x)), SameBits(std::sqrt(sum)));
+    }
+}
+
 TEST(Norm2, IsTheRootOfTheFirstEigenvalueOfTheTableTimesItsTranspose)
 {
     RandomData data(8112);

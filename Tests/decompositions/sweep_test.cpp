@@ -229,6 +229,18 @@ TEST(VBMSweep, SweepsTheCallersArray)
     Guarded<double> none(0, 0.0);
     EXPECT_EQ(VB_M_Sweep(none, 0, 1), 0);
     EXPECT_EQ(VB_M_Sweep(a, 2, 9), 0);
+    Guarded<double> one{4};
+    EXPECT_EQ(VB_M_Sweep(one, 1, 1), 0);
+    EXPECT_THAT(one.values(), SameBits({-0.25}));
+}
+
+TEST(VBMSweep, OpensNoMoreThanTheTriangle)
+{
+    // The row of a pivot beyond the table would be the next cells.
+    const std::vector<double> cells{4, 1, 5, 2, 1, 6, 1, 2, 3, 7};
+    Guarded<double> a(cells);
+    EXPECT_EQ(VB_M_Sweep(a, 4, 5), 0);
+    EXPECT_THAT(a.values(), SameBits(swept(cells, 4, 5)));
 }
 
 } // namespace

@@ -154,6 +154,9 @@ TEST(MCovCorr3, AResultThatIsTooSmallIsLost)
     EXPECT_EQ(M_CovCorr3(rows, 2, 2, small, 0, nullptr, column(data.w), -1, 0, 0), 0);
     EXPECT_EQ(M_CovCorr3SPV(columns, 2, 2, small, 1, nullptr, column(data.w), -1, 0, 0), 0);
     EXPECT_THAT(cellsOf(small), SameBits({9, 9, 9, 9}));
+    Owned<matrix> narrow = filled(4, 1, 9.0);
+    EXPECT_EQ(M_CovCorr3(rows, 2, 2, narrow, 0, nullptr, column(data.w), -1, 0, 0), 0);
+    EXPECT_THAT(cellsOf(narrow), SameBits({9, 9, 9, 9}));
     EXPECT_EQ(M_CovCorr3(rows, 2, 2, nullptr, 0, nullptr, column(data.w), -1, 0, 0), 0);
     // A larger one is kept with its stride.
     Owned<matrix> large = filled(3, 2, 9.0);

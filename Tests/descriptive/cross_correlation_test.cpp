@@ -189,6 +189,10 @@ TEST(VBMCorrMatMat, AreTheComputingFunctions)
     Guarded<double> X{4, 4}, Y{1, 3}, w{1, 1}, C(1, 9.0);
     VB_M_CorrMatMat(X, 2, 1, Y, 1, C, nullptr, w, 1, 0, -1, -1);
     EXPECT_THAT(C.values(), SameBits({M}));
+    ArrayOfColumns constant(std::vector<std::vector<double>>{{4, 4}});
+    Guarded<double> D(1, 9.0);
+    VB_M_CorrMatMatSPV(constant, 2, 1, Y, 1, D, nullptr, w, 1, 0, -1, -1);
+    EXPECT_THAT(D.values(), SameBits({M}));
 }
 
 double pearson(const std::vector<double>& x, const std::vector<double>& y, short zeroForMissing = 0)

@@ -113,6 +113,19 @@ TEST(MMean, TellsMissingByEqualityAndMean2AndMean3ByOrder)
     EXPECT_THAT(means3Of(byColumns({{below, -inf, 4}}), 3, 1), SameBits({4.0}));
 }
 
+TEST(MMean, WritesNoMoreThanItsColumns)
+{
+    RandomData data(63);
+    SCOPED_TRACE(data);
+    for (const int p : {3, 4, 7, 8, 9, 16}) {
+        const int n = 20;
+        const auto cells = data.normals(static_cast<std::size_t>(n * p));
+        Owned<matrix> mean = filled(p + 1, 1, 77.0);
+        M_Mean(table(n, p, cells), n, p, mean, column(std::vector<double>(n, 1.0)));
+        EXPECT_THAT(mean->X[p], SameBits(77.0)) << p;
+    }
+}
+
 TEST(MMean, PreparesItsResultAndTheOthersDoNot)
 {
     Owned<matrix> larger = filled(5, 5, 7.0);

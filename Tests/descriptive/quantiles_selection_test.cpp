@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 
 using namespace vecmat::test;
@@ -108,6 +109,23 @@ TEST_P(QuantileOfManyValues, withWeightsStepsThroughTheSortedCopy)
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, QuantileOfManyValues, testing::ValuesIn(sizesAroundThresholds()));
+
+TEST(QuantileOfZerosOfBothSigns, isTheOneInItsPlace)
+{
+    RandomData data(87);
+    SCOPED_TRACE(data);
+    for (const int n : {5, 9, 17, 33, 65}) // n - 1 is a power of two: every order below is an element's
+        for (int round = 0; round < 40; ++round) {
+            std::vector<double> x;
+            for (int i = 0; i < n; ++i)
+                x.push_back(std::array{-1.0, -0.0, 0.0, 1.0}[static_cast<std::size_t>(data.integer(0, 3))]);
+            const std::vector<double> sorted = sortedCopy(x);
+            for (int k = 0; k < n; ++k) {
+                const double p = k / (n - 1.0);
+                EXPECT_THAT(VB_V_Quantile(x.data(), n, p), SameBits(quantileOfSorted(sorted, p))) << n << " " << k;
+            }
+        }
+}
 
 TEST(QuantileOfAnUnevenSample, isFoundWhereTheSampleMisleads)
 {

@@ -87,6 +87,7 @@ TEST(MNormalize, HasNoGuard)
     auto one = column({-3}); // n / (n - 1) divides by zero
     M_Normalize(one.reference(), 1, 1, norms.reference(), nullptr, nullptr);
     EXPECT_THAT(one->X[0], SameBits(-std::numeric_limits<double>::infinity()));
+    EXPECT_THAT(norms->X[0], SameBits(3.0));
 
     auto none = filled(0, 1, 0.0);
     M_Normalize(none.reference(), 0, 1, norms.reference(), nullptr, nullptr);
@@ -105,6 +106,11 @@ TEST(MNormalizeMatrix, DividesTheCompanionsUntested)
     EXPECT_THAT(cellsOf(X), SameBits(wanted.x));
     EXPECT_THAT(cellsOf(Y), SameBits({c * (M / 5), c * (20.0 / 10)}));
     EXPECT_THAT(cellsOf(V), SameBits({c * (5.0 / 5), 6, c * (7.0 / 10), 8}));
+
+    auto wider = byRows({{5, 20, 30}}); // a column that has no norm stays
+    auto again = table(2, 2, x);
+    M_NormalizeMatrix(again.reference(), 2, 2, wider.reference(), 1, V.reference(), 0);
+    EXPECT_THAT(cellsOf(wider), SameBits({c * (5.0 / 5), c * (20.0 / 10), 30}));
 
     Guarded<double> fx(x), fy({M, 20}), fv(0, 0.0);
     VB_M_NormalizeMatrix(fx, 2, 2, fy, 1, fv, 0);

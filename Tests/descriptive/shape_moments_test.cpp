@@ -77,6 +77,15 @@ TEST(ShapeMoments, FrequencyWeightsStandForRepeatedRows)
     EXPECT_NEAR(s.seKurt, 1.1908743922772955, tolerance);
 }
 
+TEST(ShapeMoments, ThreeMeanWeightsAreRoundedBeforeTheyAreTakenOff)
+{
+    // A third of 1 is rounded down, three of them round to 1: nothing is left for the kurtosis.
+    const Shape s = shape({1, 2, 4}, std::vector<short>(3, 0), {0.25, 0.25, 0.5}, 0, 0);
+    EXPECT_THAT(s.kurtS, SameBits(M));
+    EXPECT_THAT(s.seKurt, SameBits(M));
+    EXPECT_NE(s.skewS, M);
+}
+
 TEST(ShapeMoments, PopulationFormsAreDividedByThePowerOfTheGivenVariance)
 {
     const double tolerance = 1e-13;

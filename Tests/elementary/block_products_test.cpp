@@ -155,6 +155,33 @@ TEST(BlockProductATrBck, FollowsThePlainLoopByBlock)
     });
 }
 
+/// Large enough for tiles, where the result may also be written over the table it comes from.
+TEST(BlockProductATrBck, FollowsThePlainLoopByLargeBlocks)
+{
+    forCases(4, [](Cases& c) {
+        constexpr int size = 14, rows = 15;
+        const auto first = table(size, size, c.numbers(size * size)),
+                   second = table(size, size, c.numbers(size * size));
+        matrix* blocks[] = {first.get(), second.get()};
+        const auto a = table(rows, 2 * size, c.numbers(2 * rows * size));
+        const auto inPlace = copyOf(a), expectedInPlace = copyOf(a), out = filled(rows, 2 * size, 0.0);
+        const auto expected = copyOf(out);
+        const auto plainly = [&](matrix* from, matrix* to) {
+            for (int k = 0; k < 2; ++k)
+                for (int i = 1; i <= rows; ++i)
+                    for (int j = 1; j <= size; ++j)
+                        to->vbset(i, k * size + j,
+                                  sumOf(size, [&](int m) { return at(from, i, k * size + m) * at(blocks[k], j, m); }));
+        };
+        M_BlockProductATrBck(a.get(), rows, blocks, 2, intColumn({size, size}), out.get());
+        plainly(a.get(), expected.get());
+        expectSame(out, expected);
+        M_BlockProductATrBck(inPlace.get(), rows, blocks, 2, intColumn({size, size}), inPlace.get());
+        plainly(expectedInPlace.get(), expectedInPlace.get());
+        expectSame(inPlace, expectedInPlace);
+    });
+}
+
 TEST(BlockProductBckVect, FollowsThePlainLoopByBlock)
 {
     forCases(caseCount, [](Cases& c) {

@@ -164,6 +164,32 @@ TEST(ProductDiagV1ADiagV2, CellMadeMissingIsThenMultiplied)
     EXPECT_THAT(cellsOf(out), SameBits({M * 0.5}));
 }
 
+/// Large enough for tiles, and written over a factor: the order of the results shows.
+TEST(ProductWithDiagonalVector, IsWrittenOverALargeFactorCellByCell)
+{
+    forCases(4, [](Cases& c) {
+        constexpr int n = 20;
+        const auto ofCols = table(n, 1, c.numbers(n)), b = table(n, n, c.numbers(n * n));
+        const auto a = table(n, n, c.numbers(n * n)), expected = copyOf(a);
+        M_ProductADiagVTrB(a.get(), n, n, ofCols.get(), b.get(), n, a.get());
+        for (int i = 1; i <= n; ++i)
+            for (int j = 1; j <= n; ++j)
+                put(expected.get(), i, j, sumOf(n, [&](int k) {
+                        return at(expected.get(), i, k) * at(ofCols.get(), k, 1) * at(b.get(), j, k);
+                    }));
+        expectSame(a, expected);
+
+        // Fewer rows than the result, and many columns: rows run on into the next column.
+        const auto low = filled(5, 90, 7.0), expectedLow = copyOf(low);
+        M_ProductADiagVTrB(b.get(), n, n, ofCols.get(), b.get(), n, low.get());
+        for (int i = 1; i <= n; ++i)
+            for (int j = 1; j <= n; ++j)
+                put(expectedLow.get(), i, j,
+                    sumOf(n, [&](int k) { return at(b.get(), i, k) * at(ofCols.get(), k, 1) * at(b.get(), j, k); }));
+        expectSame(low, expectedLow);
+    });
+}
+
 TEST(ProductWithDiagonalVector, SymmetricFormsAreWrittenInPlace)
 {
     forCases(caseCount, [](Cases& c) {

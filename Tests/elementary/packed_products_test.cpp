@@ -88,6 +88,14 @@ TEST(ProductAsymBsym, OrderIsTheFloorOfTheRoot)
     EXPECT_THAT(cellsOf(out), SameBits({19.0, 31.0, 47.0, 4.0 * 5.0 + -1.0 * 7.0}));
 }
 
+TEST(PackedProductExports, WithoutRowsNeedNoArrays)
+{
+    Guarded<double> out(2, 7.0);
+    VB_M_ProductASymV(nullptr, 0, nullptr, out);
+    VB_M_ProductVASym(nullptr, 0, nullptr, out);
+    EXPECT_TRUE(out.untouched());
+}
+
 TEST(PackedProductExports, WriteTheBitsOfTheirFunctions)
 {
     forCases(150, [](Cases& c) {

@@ -54,6 +54,9 @@ TEST(VectToMat, KeepsTheStrideOfTheTarget)
     auto out = filled(3, 2, 7.0);
     VectToMat(column({1, 2, 3}), column({1, 2}), 2, 2, out);
     EXPECT_THAT(cellsOf(out), SameBits({1, M, 7, 2, 3, 7}));
+    auto wider = filled(2, 3, 7.0);
+    VectToMat(column({1, 2, 3}), column({1, 2}), 2, 2, wider);
+    EXPECT_THAT(cellsOf(wider), SameBits({1, M, 2, 3, 7, 7}));
 }
 
 TEST(MCopySymMatToVector, PacksTheLowerTriangleByRows)

@@ -161,6 +161,9 @@ TEST(VBVMergeVectorsBool2, EveryEntryComesBackAsMinusOneOrZero)
     VB_VMergeVectorsBool2(a, 2, b, 2);
     EXPECT_EQ(a.values(), (std::vector<short>{-1, 0, -1, 0, 9}));
     EXPECT_TRUE(b.untouched());
+    Guarded<short> alone{5, 0, 9};
+    VB_VMergeVectorsBool2(alone, 2, nullptr, 0);
+    EXPECT_EQ(alone.values(), (std::vector<short>{-1, 0, 9}));
 }
 
 } // namespace

@@ -15,7 +15,7 @@ namespace {
 
 // ---- a plain second form --------------------------------------------------------------------------------------------
 
-/// Table by table and cell by cell; no limit on the passes.
+/// Table by table and cell by cell.
 class PlainForm
 {
 public:
@@ -46,6 +46,9 @@ public:
         impute();
         return 0;
     }
+
+    /// Those of the changes in the loadings, pass by pass.
+    const std::vector<double>& variances() const { return variances_; }
 
 private:
     int rows() const { return std::max(n_, 1); }
@@ -85,7 +88,9 @@ private:
     {
         for (int i = 1; i <= n_; ++i)
             T->vbset(i, h, z(i, 1));
-        for (bool first = true, last = false; !last; first = false) {
+        bool first = true;
+        bool last = false;
+        for (int pass = 1; pass <= 100000 && !last; ++pass, first = false) {
             double s = 0.0, norm = 0.0;
             for (int j = 1; j <= p_; ++j) {
                 double sum = 0.0;
@@ -126,6 +131,7 @@ private:
                     sum2 += d * d;
                 }
                 const double v = (sum2 - sum1 * sum1 / p_) / (p_ - 1);
+                variances_.push_back(v);
                 last = !(v > tol);
             }
             for (int j = 1; j <= p_; ++j)
@@ -160,6 +166,7 @@ private:
     matrix *X_, *w_;
     Owned<matrix> Z, T, P, mean, pOld;
     std::vector<int> missing;
+    std::vector<double> variances_;
     int components_;
 };
 
@@ -218,6 +225,32 @@ TEST(NIPALS, FollowsThePlainFormOnFactorialTables)
                       c.data.integer(1, 2), 1.0, 1.0, outcomes);
     });
     EXPECT_GE(outcomes[0], 250);
+}
+
+TEST(NIPALS, EndsAtAVarianceEqualToTheTolerance)
+{
+    std::map<int, int> outcomes;
+    forCases(40, [&](Cases& c) {
+        const int n = c.data.integer(8, 15), p = c.data.integer(3, 7);
+        const auto w = column(std::vector<double>(static_cast<std::size_t>(n), 1.0));
+        const auto X = table(n, p, c.data.withMissing(factorialTable(c.data, n, p), 0.12));
+        Owned<matrix> filledIn = copyOf(X);
+        PlainForm plain(n, p, filledIn, w, 1);
+        plain.run(1e-12, 1.0, 1.0);
+        for (const double variance : plain.variances())
+            expectAsPlain(n, p, copyOf(X), w, variance, 1, 1.0, 1.0, outcomes);
+    });
+    EXPECT_GE(outcomes[0], 150);
+}
+
+// Two components that are nearly as large as each other: every pass still turns the loadings a little.
+TEST(NIPALS, GivesUpAfterAHundredThousandPasses)
+{
+    std::map<int, int> outcomes;
+    const double d = 1e-6;
+    expectAsPlain(5, 2, byColumns({{1, 1, -1, -1, 1e-5}, {1 + d, d - 1, 1 - d, -1 - d, M}}),
+                  column(std::vector<double>(5, 1.0)), 0.0, 1, 1.0, 1.0, outcomes);
+    EXPECT_EQ(outcomes[0], 1);
 }
 
 /// Around the numbers of rows and columns that are worked on side by side; rows without cells, zeros of both signs.

@@ -109,6 +109,14 @@ TEST(PowerKernels, MomentsOfCellsOfAllMagnitudes)
         SCOPED_TRACE(special);
         expectPlainSums(x, std::vector<double>(300, 1.0));
     }
+    // A fourth power that overflows among so many rows that the variance and its square don't, in any of their places.
+    for (std::size_t row = 1100; row < 1100 + 256; ++row) {
+        RandomData data(6);
+        std::vector<double> x = data.normals(2000);
+        x[row] = 1.5e77;
+        SCOPED_TRACE(row);
+        expectPlainSums(x, std::vector<double>(2000, 1.0));
+    }
 }
 
 } // namespace

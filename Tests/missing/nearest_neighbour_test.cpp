@@ -303,6 +303,10 @@ TEST(NearestNeighbour, FlatFormsDoNotLookAtArraysWithoutColumns)
     ArrayOfColumns X2 = numberColumns(3, 2, {M, 20, 30, /**/ 5, 5, 9});
     VB_EstimateRowsWithMissingNNSPV2(X2, 3, 2, mask, nullptr, 0, nullptr, 0, weights);
     EXPECT_THAT(X2.numbers(), SameBits({20, 20, 30, 5, 5, 9}));
+    // What is passed for an array of no columns is not looked at.
+    auto* const nowhere = reinterpret_cast<SAFEARRAY**>(alignof(SAFEARRAY*));
+    VB_EstimateRowsWithMissingNNSPV2(X2, 3, 2, mask, nowhere, 0, nullptr, 0, weights);
+    EXPECT_THAT(X2.numbers(), SameBits({20, 20, 30, 5, 5, 9}));
 
     BstrArray p({L"", L"b", L"c", /**/ L"k", L"z", L"y", /**/ L"m", L"m", L"n"});
     VB_EstimateRowsWithMissingNNStr(p, 3, 3, mask, nullptr, 0, nullptr, 0, weights);

@@ -57,6 +57,14 @@ TEST(IsDisjTable, RowOneIsTheReferenceWhereNothingIsFlagged)
     EXPECT_EQ(verdict(2, 2, {1, 1, 0, 1}, {0, 0}), (Verdict{0, 1}));
 }
 
+TEST(IsDisjTable, RowsAreAddedFromTheLeft)
+{
+    const double large = 0x1p53; // to which 1 can't be added, but to its opposite
+    EXPECT_EQ(verdict(1, 3, {large, 1, -large}, {0}), (Verdict{0, 0}));
+    EXPECT_EQ(verdict(1, 3, {-large, 1, large}, {0}), (Verdict{0, 1}));
+    EXPECT_EQ(verdict(2, 3, {large, 0, 1, 0, -large, 0}, {0, 0}), (Verdict{-1, 0}));
+}
+
 TEST(IsDisjTable, ConstantLastColumn)
 {
     EXPECT_EQ(verdict(3, 3, {1, 0, 1, 0, 1, 0, 1, 1, 1}, {0, 0, 0}), (Verdict{0, 2})) << "all row sums agree";

@@ -224,6 +224,14 @@ TEST(SampleUserDefined, NoRows)
     EXPECT_THAT(cellsOf(ids), SameBits({M}));
 }
 
+TEST(SampleUserDefined, NoRowsAndNoArrays)
+{
+    VB_M_SampleUserDefined(nullptr, 0, 1, nullptr, nullptr, nullptr);
+    Guarded<double> ids(2, 7.0);
+    VB_M_SampleUserDefined(nullptr, 0, 1, nullptr, nullptr, ids);
+    EXPECT_TRUE(ids.untouched());
+}
+
 TEST(SampleUserDefined, NoColumns)
 {
     EXPECT_THAT(counted(population(3, 0), {2, 0, 1}, 3).ids, SameBits({1.0, 1.0, 3.0}));

@@ -80,6 +80,13 @@ TEST(TimeIntervalSize, everyStepIsComparedWithTheFirst)
     EXPECT_THAT(step({0, 1, 2 + d, 3 + 3 * d}), SameBits(M));
 }
 
+TEST(TimeIntervalSize, theStepIsTakenOffTheDifference)
+{
+    // At these times neighbouring doubles are further apart than the tolerance, and the difference of two is exact.
+    EXPECT_THAT(step({52.6, 9885881127.6, 19771762202.6}), SameBits(M));
+    EXPECT_THAT(step({57.3, 7818557579.2, 15637115101.1}), SameBits(7818557579.2 - 57.3));
+}
+
 TEST(TimeIntervalSize, onlyMinusOneSortsFirst)
 {
     EXPECT_THAT(step({3, 1, 2}, -1), SameBits(1.0));

@@ -3,6 +3,7 @@
 
 #include "support/bits.h"
 #include "support/guarded.h"
+#include "support/random_data.h"
 #include "support/tables.h"
 
 #include <gtest/gtest.h>
@@ -113,6 +114,22 @@ TEST(SortMatrixSeqQP1toP2, sortsBySomeColumnsAndMovesAll)
     auto ints = intsByRows({{9, 1, 2}, {8, 1, 1}, {7, 0, 3}});
     EXPECT_EQ(SortMatrixSeqQP1toP2(ints.get(), 3, 3, 2, 2, -1), 0);
     EXPECT_EQ(cellsOf(ints), cellsOf(intsByRows({{7, 0, 3}, {9, 1, 2}, {8, 1, 1}})));
+}
+
+TEST(SortMatrixSeqQP1toP2, rowsBeyondTheTableAreSortedColumnByColumn)
+{
+    RandomData data(3316);
+    SCOPED_TRACE(data);
+    // Fewer rows than sorted: they run on into the next column, and out of the table behind the last.
+    for (int round = 0; round < 60; ++round) {
+        const int rows = data.integer(1, 4), cols = data.integer(2, 5), nRows = data.integer(2, 6), nCols = 2;
+        auto sorted = table(rows, cols, data.wholes(static_cast<std::size_t>(rows * cols), 0, 2));
+        auto expected = tableOf<matrix>(rows, cols, cellsOf(sorted));
+        SortMatrixSeqQP1toP2(sorted.get(), nRows, nCols, 1, 2, -1);
+        for (const int col : {2, 1})
+            SortQMatrixCol(expected.reference(), nRows, nCols, col, 1, nRows, 0);
+        EXPECT_THAT(cellsOf(sorted), SameBits(cellsOf(expected))) << rows << " " << cols << " " << nRows;
+    }
 }
 
 TEST(SortMatrixSeqQP1toP2, noColumnsIsNoWork)

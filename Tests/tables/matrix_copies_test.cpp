@@ -66,7 +66,7 @@ TEST(MatrixCopy, SetsTheShapeOfATableAndKeepsItsBlock)
 TEST(MatrixCopy, TruncatesTowardsATableOfInts)
 {
     auto t = table(3, 3, {2.9, -2.9, M, notANumber, infinity, 2147483647.5, 2147483648.0, -2147483648.5, -0.5});
-    matrixInt ints(9, 1, 7);
+    matrixInt ints(12, 1, 7);
     t->copyMatTo(&ints);
     EXPECT_EQ(ints.nRows, 3);
     EXPECT_EQ(ints.nCols, 3);

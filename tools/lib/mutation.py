@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""mutation.py ROOT [--sample N] [--seed S] [--unit GLOB] [--kind GLOB] [--again] [--list]: see tools/mutation."""
+"""mutation.py ROOT [--sample N] [--seed S] [--unit GLOB] [--kind GLOB] [--only FILE] [--again] [--list]: see tools/mutation."""
 
 import argparse
 import csv
@@ -20,20 +20,23 @@ import mutation_runs
 import mutation_schemata
 
 SOURCES = "Sources/Shared/VecMat"
-# Tests of the programs below Examples, and tests of time and memory, which the switches change.
-LEFT_OUT = re.compile(r"/(examples|reliability)/|memory_test|allocation_failure")
+# Tests of the programs below Examples, tests that take long, and those of time and memory, which the switches change: they
+# run only if --tests names them.
+LEFT_OUT = re.compile(r"/examples/|/reliability/(failures|limits|threads)|memory_test")
 
 
 class Project:
     """Where everything is: the sources, the release build of the tests, and what is written for the mutants."""
 
-    def __init__(self, root):
+    def __init__(self, root, sanitizers=False):
         self.root = root
         self.sources = root / SOURCES
-        self.release = root / "build/test"
+        self.sanitizers = sanitizers
+        suffix = "-sanitizers" if sanitizers else ""
+        self.release = root / f"build/test{suffix}"
         self.folder = root / "build/mutation"
         self.tree = self.folder / "tree"
-        self.build = self.folder / "build"
+        self.build = self.folder / f"build{suffix}"
         self.judged = root / "Tests/mutation/judged.tsv"
         self.commands = {}
         for entry in json.loads((self.release / "compile_commands.json").read_text()):
@@ -165,8 +168,10 @@ def build(project, drawn):
         sample = {number: mutant for number, mutant in enumerate(drawn) if mutant.name not in broken}
         write_tree(project, sample, len(drawn))
         # Precompiled headers halve the time; no other build has these sources, so that no cache would.
-        run_quietly(["cmake", "--preset", "release", "-B", project.build, "-G", "Ninja", "-DVECMAT_NARROWER_INSTRUCTIONS=ON",
-                     "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DCMAKE_CXX_FLAGS=-w"], cwd=project.tree)
+        preset = "sanitizers" if project.sanitizers else "release"
+        run_quietly(["cmake", "--preset", preset, "-B", project.build, "-G", "Ninja", "-DVECMAT_NARROWER_INSTRUCTIONS=ON",
+                     "-DCMAKE_CXX_FLAGS_RELEASE=-O1", "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1", "-DCMAKE_CXX_FLAGS=-w"],
+                    cwd=project.tree)
         result = subprocess.run(["nice", "-n", "5", "cmake", "--build", project.build, "--target", "VecMat",
                                  "VecMatGuarded", "--", "-k", "0"],
                                 capture_output=True, text=True, stdin=subprocess.DEVNULL)
@@ -198,14 +203,15 @@ def includes_of(project, path, known):
     return known[path]
 
 
-def programs(project, sample):
+def programs(project, sample, wanted):
     """The programs of the suite. Those that test a private header with mutants are compiled again. A test of another
     folder includes it to measure by it, for which it had better be as it was."""
     touched = {mutant.file for mutant in sample.values() if private(mutant.file) and mutant.file.endswith(".h")}
     known = {}
     tests = json.loads(run_quietly(["ctest", "--test-dir", project.release, "--show-only=json-v1"]))["tests"]
     sources = {path.stem: str(path) for path in (project.root / "Tests").rglob("*_test.cpp")}
-    names = [test["name"] for test in tests if test["name"] in sources and not LEFT_OUT.search(sources[test["name"]])]
+    names = [test["name"] for test in tests if test["name"] in sources and fnmatch.fnmatch(test["name"], wanted)
+             and (wanted != "*" or not LEFT_OUT.search(sources[test["name"]]))]
 
     def tested(name):
         folder = Path(sources[name]).relative_to(project.root / "Tests").parts[0] + "/"
@@ -221,7 +227,7 @@ def programs(project, sample):
         if not there.exists() or not there.samefile(project.release / "bin" / name):
             there.unlink(missing_ok=True)
             os.link(project.release / "bin" / name, there)
-    return [mutation_runs.Program(folder / name) for name in names]
+    return [mutation_runs.Program(folder / name, sanitized=project.sanitizers) for name in names]
 
 
 # ---- results --------------------------------------------------------------------------------------------------------
@@ -292,11 +298,13 @@ def main():
     parser.add_argument("--all", default="")
     parser.add_argument("--tests", default="*")
     parser.add_argument("--workers", type=int, default=os.cpu_count() or 1)
+    parser.add_argument("--only", type=Path)
     parser.add_argument("--again", action="store_true")
+    parser.add_argument("--sanitizers", action="store_true")
     parser.add_argument("--list", action="store_true")
     given = parser.parse_args()
     started = time.monotonic()
-    project = Project(given.root)
+    project = Project(given.root, given.sanitizers)
 
     mutants = all_mutants(project)
     wanted = {unit: [m for m in rows if fnmatch.fnmatch(m.kind, given.kind)] for unit, rows in mutants.items()
@@ -306,6 +314,11 @@ def main():
     results = Results(project.folder / "results.tsv")
     judged = judgements(project.judged)
     drawn = order[:given.sample] + [mutant for mutant in order[given.sample:] if fnmatch.fnmatch(mutant.kind, given.all)]
+    if given.only:
+        names = {tuple(line.split("\t")[:4]) for line in given.only.read_text().splitlines()}
+        drawn = [mutant for mutant in order if mutant.name in names]
+        for gone in sorted(names - {mutant.name for mutant in drawn}):
+            print(f"{given.only.name}: no such place any more: {' '.join(gone)}")
     sample = build(project, drawn)
     if not given.list:
         run(project, sample, len(drawn), results, judged, given.again, given.tests, given.workers, started)
@@ -331,11 +344,16 @@ def distances(mutant):
 
 def run(project, sample, count, results, judged, again, tests, workers, started):
     """Runs what has no result yet; with `again` also what survived and is not judged."""
-    suite = [program for program in programs(project, sample) if fnmatch.fnmatch(program.name, tests)]
+    suite = programs(project, sample, tests)
     library = project.build / "lib"
-    files = [library / "libVecMat.so"]
-    reach = mutation_runs.Reach(project.folder / "reach", library, mutation_runs.digest_of(*files), count)
-    mutation_runs.in_parallel(reach.learn, suite, workers)
+    plain = Project(project.root)
+    known = mutation_runs.digest_of(plain.build / "lib/libVecMat.so")
+    reach = mutation_runs.Reach(project.folder / "reach", plain.build / "lib", known, count)
+    learnt = [program._replace(path=plain.build / "bin" / program.name, sanitized=False) for program in suite]
+    mutation_runs.in_parallel(reach.learn, learnt, workers)
+    for program, other in zip(learnt, suite):
+        if project.sanitizers:
+            reach.carry_over(program, other)
     print(f"{len(suite)} programs, {sum(map(len, reach.found.values()))} cases, {time.monotonic() - started:.0f} s", flush=True)
     for failing in reach.failing:
         print(f"Left out, as it fails without a mutant: {failing}")
@@ -357,6 +375,10 @@ def run(project, sample, count, results, judged, again, tests, workers, started)
                 results.add(sample[number], (verdict[0], verdict[1] + note))
 
         mutation_runs.in_parallel(judge, numbers, workers, add)
+
+    if project.sanitizers:
+        go_through([number for number in sample if left(number)], suite, " under the sanitizers")
+        return
 
     # The order of operations first.
     go_through(sorted((number for number in sample if not status(number)[0] or (again and left(number))),

@@ -18,6 +18,7 @@ SLOW = 0.5  # seconds: cases that take longer run by themselves, the others of a
 class Program(NamedTuple):
     path: Path
     instructions: str = ""  # the instruction set that the kernels are kept to
+    sanitized: bool = False
 
     @property
     def name(self):
@@ -43,8 +44,9 @@ def execute(program, cases, library, seconds, number=None, marks=None):
     if marks is not None:
         environment["VECMAT_REACHED"] = str(marks)
 
-    command = ["prlimit", f"--cpu={int(seconds) + 1}:{int(seconds) + 2}", "--core=0", f"--as={6 << 30}", "--",
-               str(program.path), f"--gtest_filter={':'.join(cases)}", "--gtest_fail_fast", "--gtest_brief=1"]
+    memory = [] if program.sanitized else [f"--as={6 << 30}"]  # of addresses the sanitizers take any number
+    command = ["prlimit", f"--cpu={int(seconds) + 1}:{int(seconds) + 2}", "--core=0", *memory, "--", str(program.path),
+               f"--gtest_filter={':'.join(cases)}", "--gtest_fail_fast", "--gtest_brief=1"]
     started = time.monotonic()
     with tempfile.TemporaryDirectory() as folder, tempfile.TemporaryFile() as output:
         process = subprocess.Popen(command, cwd=folder, env=environment, stdin=subprocess.DEVNULL, stdout=output,
@@ -112,6 +114,10 @@ class Reach:
         self.found[program] = {case: (seconds, frozenset(reached)) for case, (status, seconds, reached) in cases.items()
                                if status == 0}
 
+    def carry_over(self, program, other):
+        """Lets another build of a program count as reaching the same, in more time."""
+        self.found[other] = {case: (4 * seconds, reached) for case, (seconds, reached) in self.found[program].items()}
+
     def runs(self, number, programs, distance=lambda program: 1):
         """The runs that reach the mutant, the quickest first; one that is further from it counts as slower."""
         runs = []
@@ -130,9 +136,14 @@ def verdict(number, runs, library):
     """`killed` and the case that did it, or `survived` and how many cases saw nothing."""
     for run in runs:
         status, output, _ = execute(run.program, run.cases, library, 3 + 8 * run.seconds, number)
+        if status != 0 and run.program.sanitized:  # what the cases reach was learnt without the sanitizers
+            if execute(run.program, run.cases, library, 3 + 8 * run.seconds)[0] != 0:
+                continue
         if status != 0:
             failed = re.search(r"\[  FAILED  \] ([\w./]+)", output)
-            how = failed[1] if failed else "no end" if status in (-9, -24) else f"status {status}"
+            seen = re.search(r"ERROR: AddressSanitizer: ([\w-]+)|runtime error: ([\w ]+)", output)
+            how = (failed[1] if failed else next(filter(None, seen.groups())) if seen
+                   else "no end" if status in (-9, -24) else f"status {status}")
             return "killed", f"{run.program.name}: {how}"
     cases = sum(len(run.cases) for run in runs)
     return ("survived", f"{cases} cases") if runs else ("unreached", "")

@@ -36,7 +36,8 @@ TEST(Truncated, ReachesBothEndsOfInt)
 
 TEST(Truncated, AnythingElseIsTheLowestInt)
 {
-    for (const double x : {2147483648.0, -2147483649.0, 1e300, -1e300, M, -M, infinity, -infinity, notANumber})
+    for (const double x :
+         {2147483648.0, -2147483649.0, -2147483649.5, 1e300, -1e300, M, -M, infinity, -infinity, notANumber})
         EXPECT_EQ(truncated(x), lowestInt) << x;
 }
 

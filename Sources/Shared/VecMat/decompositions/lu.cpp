@@ -33,8 +33,6 @@ short vecmat::factorInPlace(matrix* a, int n, RowExchanges& exchanges)
 void M_LUDecomp(matrix*& a, int n, matrixInt*& index, double* d, short* status)
 {
     matrixInt::matCheck(index, n, 1, 0.0);
-    *status = 0;
-    *d = 1.0;
     RowExchanges exchanges;
     *status = factorInPlace(a, n, exchanges);
     *d = exchanges.parity;

@@ -33,7 +33,7 @@ template <class Vector>
 bool presentCellsAgree(Vector x, int n)
 {
     const int reference = firstPresent(x, n);
-    if (reference >= n || n < 2)
+    if (reference >= n)
         return true;
     const double value = x.get(reference);
     for (int i = 1; i < n; ++i)
