@@ -25,7 +25,7 @@ constexpr double inf = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 // Around the multiples of 8, 16, 24 and 32, and small ones.
-constexpr std::array orders = {3, 5, 6, 7, 9, 15, 16, 17, 31, 32, 33, 47, 48, 49, 63, 64, 65, 95, 96, 97};
+constexpr std::array orders = {3, 5, 6, 7, 9, 15, 16, 17, 23, 24, 25, 31, 32, 33, 47, 48, 49, 63, 64, 65, 95, 96, 97};
 
 struct Inversion
 {

@@ -18,7 +18,7 @@ namespace vecmat::test {
 namespace {
 
 // Around the least order of the strips and around multiples of 16 and 32.
-constexpr std::array orders = {31, 32, 33, 39, 40, 41, 47, 48, 49, 63, 64, 65, 79, 80, 81, 95, 96, 97, 129};
+constexpr std::array orders = {31, 32, 33, 39, 40, 41, 47, 48, 49, 63, 64, 65, 71, 72, 73, 79, 80, 81, 95, 96, 97, 129};
 
 std::size_t squared(int n)
 {
@@ -78,7 +78,7 @@ TEST(CholeskyByStrips, KeepsTheColumnsBeforeAPivotThatFails)
     RandomData data(1223);
     SCOPED_TRACE(data);
     for (const int n : {40, 70})
-        for (const int failing : {0, 1, 15, 16, 17, 31, 32, 33, 38, n - 1}) {
+        for (const int failing : {0, 1, 15, 16, 17, 23, 24, 25, 31, 32, 33, 38, n - 1}) {
             std::vector<double> cells = positiveDefinite(n, data);
             cells[std::size_t(failing + n * failing)] = -1.0;
             expectPlainSteps(cells, n);

@@ -6,9 +6,10 @@ namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
-// Enough sums side by side to fill the time of one addition.
+// Enough sums side by side to fill the time of one addition, and no more: strips of known solutions as wide as this
+// should stay in the nearest cache.
 #if defined(__AVX512F__)
-constexpr int vectors = 4;
+constexpr int vectors = 3;
 #else
 constexpr int vectors = 8;
 #endif

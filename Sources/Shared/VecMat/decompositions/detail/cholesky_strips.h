@@ -60,8 +60,8 @@ private:
     /// The rows of L one behind the other, each up to its diagonal: half of a table, and with it of the pages to map.
     static std::size_t rowStart(int i) { return std::size_t{countOf(i)} * (std::size_t{countOf(i)} + 1) / 2; }
     double* row(int i) const { return rows_.data() + rowStart(i); }
-    /// The cells of column k in the strip.
-    double* strip(int k) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * k; }
+    /// The cells of column k in the strip. The last column comes first, as the kernel reads them.
+    double* strip(int k) const { return strip_.data() + std::ptrdiff_t{kernels_.width} * (n_ - 1 - k); }
     int endOf(int first) const { return std::min(first + kernels_.width, n_); }
 
     /// Subtracts the columns before i from column i in the strip, from the last one back to the first.
@@ -72,7 +72,7 @@ private:
         for (int j = std::max(first, i); j < endOf(first); ++j)
             cells[j - first] = a_.get(i, j);
         if (i > 0)
-            kernels_.subtract(i, {row(i) + i - 1, -1}, {strip(i - 1), -kernels_.width}, cells);
+            kernels_.subtract(i, {row(i) + i - 1, -1}, {strip(i - 1), kernels_.width}, cells);
     }
 
     /// The columns whose diagonal is in the strip. The values above the diagonal are never read.
