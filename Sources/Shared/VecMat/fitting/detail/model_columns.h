@@ -38,6 +38,7 @@ public:
     struct Cells
     {
         const double* const* columns;
+        const double* column(int j) const { return columns[j]; }
         double get(int i, int j) const { return columns[j][i]; }
     };
     Cells cells() const { return {columns_.data()}; }
