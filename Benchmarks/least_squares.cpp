@@ -6,6 +6,7 @@
 #include "fitting/least_squares.h"
 #include "fitting/nipals.h"
 
+#include <Eigen/Cholesky>
 #include <Eigen/QR>
 
 namespace vecmat::bench {
@@ -59,6 +60,8 @@ struct LeastSquares
                     a.householderQr().solve(Eigen::Map<const Eigen::VectorXd>(response.data(), n));
             },
             coefficients);
+        contest.peer(
+            "Eigen, normal equations", tolerance, [this] { byNormalEquations(); }, coefficients);
     }
 
 private:
@@ -84,6 +87,23 @@ private:
         Cells work(count(length));
         dgels_("N", &n, &p, &one, design.data(), &n, response.data(), &n, work.data(), &length, &info);
         std::copy_n(response.begin(), p, beta.begin());
+    }
+    /// The standard errors and the fitted values, too.
+    void byNormalEquations()
+    {
+        const int p = cols + 1;
+        const Eigen::Map<const Eigen::MatrixXd> a(design.data(), n, p);
+        const Eigen::Map<const Eigen::VectorXd> b(response.data(), n);
+        Eigen::Map<Eigen::VectorXd> solution(beta.data(), p);
+        Eigen::Map<Eigen::VectorXd> line(fitted.data(), n);
+        Eigen::MatrixXd products = Eigen::MatrixXd::Zero(p, p);
+        products.selfadjointView<Eigen::Lower>().rankUpdate(a.transpose());
+        const auto factor = products.selfadjointView<Eigen::Lower>().llt();
+        solution = factor.solve(a.transpose() * b);
+        line = a * solution;
+        const double variance = (b - line).squaredNorm() / (n - p);
+        const Eigen::MatrixXd inverse = factor.solve(Eigen::MatrixXd::Identity(p, p));
+        Eigen::Map<Eigen::VectorXd>(se.data(), p) = (variance * inverse.diagonal()).cwiseSqrt();
     }
 };
 
