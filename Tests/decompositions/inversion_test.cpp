@@ -12,6 +12,7 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
 #include <vector>
 
 namespace vecmat::test {
@@ -224,6 +225,19 @@ TEST(Inverse1SPV, HasTheBitsOfThePlainForm)
         }
         EXPECT_THAT(columns.cells(), SameBits(cells));
     }
+}
+
+TEST(Inverse1SPV, TakesAColumnThatIsMissingForOneWithoutCells)
+{
+    TableColumns all(3, 3, {4, 1, 2, 1, 5, 1, 2, 1, 6}), empty({{4, 1, 2}, {}, {2, 1, 6}});
+    const Owned<matrix> out = filled(3, 3, 77.0), expected = filled(3, 3, 77.0), atTheEnd = filled(3, 3, 77.0);
+    matrix* const middle = std::exchange(all.get()[1], nullptr);
+    EXPECT_EQ(Inverse1SPV(all, out, 3, 3, 3, 1e-12), Inverse1SPV(empty, expected, 3, 3, 3, 1e-12));
+    EXPECT_THAT(cellsOf(out), SameBits(cellsOf(expected)));
+    all.get()[1] = middle;
+    TableColumns two({{4, 1, 2}, {1, 5, 1}, {}});
+    EXPECT_EQ(Inverse1SPV(all, out, 3, 2, 3, 1e-12), Inverse1SPV(two, atTheEnd, 3, 3, 3, 1e-12));
+    EXPECT_THAT(cellsOf(out), SameBits(cellsOf(atTheEnd)));
 }
 
 TEST(Inverse1SPV, FailsWithTheResultAsItWas)

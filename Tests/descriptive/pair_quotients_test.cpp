@@ -142,6 +142,7 @@ TEST(PairQuotients, ACellThatOverflowsTheMean)
     for (const double large : {0x1.8p+1023, -0x1.fffp+1023, HUGE_VAL, -HUGE_VAL, std::nan("")}) {
         Observations data = withMissing(random, 120, 9);
         data.cells[2 * 120 + 110] = large;
+        data.cells[0 * 120 + 60] = large; // in the first lane of all, beside columns that don't overflow
         data.cells[5 * 120 + 3] = -large;
         // An infinite mean becomes NaN one row later.
         data.cells[7 * 120 + 119] = large;

@@ -264,17 +264,27 @@ TEST(OLSBasic3, WorksOnACornerOfLargerTables)
 TEST(OLSBasic3, ReadsMinusOneOutsideTheTables)
 {
     // Row 9 is the head of the second column of X, and outside of its last one, of y and of w.
-    const Problem problem = small();
-    Problem read = problem;
-    read.n = 9;
-    read.X.insert(read.X.begin() + 8, x2[0]);
-    read.X.push_back(-1.0);
-    read.y.push_back(-1.0);
-    read.w.push_back(-1.0);
-    Owned<matrix> beta, values;
-    OLSBasic(9, 2, table(8, 2, problem.X), column(problem.y), column(problem.w), 1, 0, 0, 1e-8, beta, values);
-    EXPECT_THAT(cellsOf(beta), SameBits(fitted(read).beta));
-    EXPECT_THAT(cellsOf(values), SameBits(fitted(read).fitted));
+    for (const double fourth : {7.0, M})
+        for (const short noIntercept : {0, -1}) {
+            Problem problem = small();
+            problem.X[3] = fourth;
+            problem.noIntercept = noIntercept;
+            Problem read = problem;
+            read.n = 9;
+            read.X.insert(read.X.begin() + 8, x2[0]);
+            read.X.push_back(-1.0);
+            read.y.push_back(-1.0);
+            read.w.push_back(-1.0);
+            Owned<matrix> beta, values;
+            OLSBasic(9, 2, table(8, 2, problem.X), column(problem.y), column(problem.w), 1, 0, noIntercept, 1e-8, beta,
+                     values);
+            EXPECT_THAT(cellsOf(beta), SameBits(fitted(read).beta));
+            EXPECT_THAT(cellsOf(values), SameBits(fitted(read).fitted));
+            // Only y and w too short.
+            OLSBasic(9, 2, table(9, 2, read.X), column(problem.y), column(problem.w), 1, 0, noIntercept, 1e-8, beta,
+                     values);
+            EXPECT_THAT(cellsOf(beta), SameBits(fitted(read).beta));
+        }
 }
 
 } // namespace

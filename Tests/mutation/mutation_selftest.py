@@ -41,10 +41,19 @@ int steps(int n)
     }
     return count;
 }
+double largest(const double* x, int n)
+{
+    double best = x[0];
+    for (int i = 1; i < n; ++i)
+        best = x[i] > best ? x[i] : best;
+    return best;
+}
 """
 
 TESTS = """\
 #include <gtest/gtest.h>
+#include <vector>
+double largest(const double*, int);
 double pinned(double, double, double);
 double unpinned(double, double, double);
 double total(const double*, int);
@@ -57,6 +66,7 @@ TEST(Sums, Total)
     EXPECT_EQ(total(x, 4), 0.1);
 }
 TEST(Steps, AreCounted) { EXPECT_EQ(steps(3), 3); }
+TEST(Sums, Largest) { EXPECT_EQ(largest(std::vector<double>(4, 1e300).data(), 4), 1e300); }
 TEST(Steps, Fails) { EXPECT_EQ(1, 2); }
 """
 
@@ -80,11 +90,22 @@ class OnASmallLibrary(unittest.TestCase):
         subprocess.run([*compiler, "-fPIC", "-shared", "-include", "mutants.h", "switched.cpp", "mutants.cpp", "-o", "libsums.so"],
                        cwd=folder, check=True)
         subprocess.run([*compiler, "tests.cpp", "-L.", "-lsums", "-lgtest", "-lgtest_main", "-o", "tests"], cwd=folder, check=True)
+        sanitized = folder / "sanitized"
+        sanitized.mkdir()
+        compiler.append("-fsanitize=address")
+        subprocess.run([*compiler, "-I.", "-fPIC", "-shared", "-include", "mutants.h", "switched.cpp", "mutants.cpp", "-o",
+                        "sanitized/libsums.so"], cwd=folder, check=True)
+        subprocess.run([*compiler, "tests.cpp", "-Lsanitized", "-lsums", "-lgtest", "-lgtest_main", "-o", "sanitized/tests"],
+                       cwd=folder, check=True)
         program = mutation_runs.Program(folder / "tests")
         cls.reach = mutation_runs.Reach(folder / "reach", folder, "", len(cls.mutants))
         cls.reach.learn(program)
         cls.verdicts = {number: mutation_runs.verdict(number, cls.reach.runs(number, [program]), folder)
                         for number in range(len(cls.mutants))}
+        other = mutation_runs.Program(sanitized / "tests", sanitized=True)
+        cls.reach.carry_over(program, other)
+        cls.sanitized_verdicts = {number: mutation_runs.verdict(number, cls.reach.runs(number, [other]), sanitized)
+                                  for number, mutant in enumerate(cls.mutants) if mutant.function in ("largest", "unpinned")}
 
     @classmethod
     def tearDownClass(cls):
@@ -116,6 +137,17 @@ class OnASmallLibrary(unittest.TestCase):
 
     def test_an_edge_that_no_test_sees_survives(self):
         self.assertEqual(self.of("steps", "constant", "[7 =>"), [("survived", "1 cases")])
+
+    def test_the_sanitizers_see_what_is_read_beyond_an_array(self):
+        edge = next(number for number, mutant in enumerate(self.mutants) if "[i < n => i <= n]" in mutant.shown
+                    and mutant.function == "largest")
+        self.assertEqual(self.verdicts[edge], ("survived", "1 cases"))
+        self.assertEqual(self.sanitized_verdicts[edge], ("killed", "tests: heap-buffer-overflow"))
+
+    def test_and_no_order_of_a_sum(self):
+        order = next(number for number, mutant in enumerate(self.mutants)
+                     if (mutant.function, mutant.kind) == ("unpinned", "order"))
+        self.assertEqual(self.sanitized_verdicts[order], ("survived", "1 cases"))
 
     def test_a_case_that_fails_by_itself_kills_nothing(self):
         self.assertEqual(self.reach.failing, ["tests: Steps.Fails"])

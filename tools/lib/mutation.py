@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""mutation.py ROOT [--sample N] [--seed S] [--unit GLOB] [--kind GLOB] [--only FILE] [--again] [--list]: see tools/mutation."""
+"""mutation.py ROOT [--sample N] [--seed S] [--unit GLOB] [--kind GLOB] [--only FILE] [--again] [--sanitizers]
+[--list]: see tools/mutation."""
 
 import argparse
 import csv
@@ -204,9 +205,10 @@ def includes_of(project, path, known):
 
 
 def programs(project, sample, wanted):
-    """The programs of the suite. Those that test a private header with mutants are compiled again. A test of another
-    folder includes it to measure by it, for which it had better be as it was."""
-    touched = {mutant.file for mutant in sample.values() if private(mutant.file) and mutant.file.endswith(".h")}
+    """The programs of the suite. Those that test a private header with mutants, or the inline functions of a table, are
+    compiled again. A test of another folder includes it to measure by it, for which it had better be as it was."""
+    touched = {mutant.file for mutant in sample.values() if mutant.file.endswith(".h")
+               and (private(mutant.file) or floor_of(mutant) == "tables")}
     known = {}
     tests = json.loads(run_quietly(["ctest", "--test-dir", project.release, "--show-only=json-v1"]))["tests"]
     sources = {path.stem: str(path) for path in (project.root / "Tests").rglob("*_test.cpp")}
@@ -215,7 +217,8 @@ def programs(project, sample, wanted):
 
     def tested(name):
         folder = Path(sources[name]).relative_to(project.root / "Tests").parts[0] + "/"
-        return {file for file in includes_of(project, Path(sources[name]), known) if file.startswith(folder)}
+        return {file for file in includes_of(project, Path(sources[name]), known)
+                if file.startswith(folder) or (folder == "tables/" and "/" not in file)}
 
     again = [name for name in names if tested(name) & touched or any("mathematics/" in file for file in tested(name))]
     if again:
