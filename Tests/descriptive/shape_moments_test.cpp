@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <limits>
 #include <vector>
@@ -99,13 +100,21 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
 {
     RandomData data(65);
     SCOPED_TRACE(data);
-    // Many rows: more than are worked on at a time, with some left over.
-    for (int draw = 0; draw < 24; ++draw) {
-        const std::size_t n = draw < 20 ? 12 : 300;
-        const auto x = data.normals(n), w = data.weights(n, 0.2);
+    // Around the numbers of rows that are worked on at a time, in vectors and in blocks; at first with all rows, then
+    // with rows that are masked, missing or without weight.
+    constexpr std::array sizes = {7, 8, 9, 12, 127, 128, 129, 255, 256, 257, 300};
+    for (std::size_t draw = 0; draw < 4 * sizes.size(); ++draw) {
+        const auto n = static_cast<std::size_t>(sizes[draw % sizes.size()]);
+        const double left = draw < sizes.size() ? 0.0 : 0.1;
+        const auto x = data.withMissing(data.normals(n), left), w = data.weights(n, 2 * left);
+        const auto mask = data.mask(n, left);
         double W = 0, mean = 0, M2 = 0, M3 = 0, M4 = 0;
+        int rows = 0;
         for (std::size_t i = 0; i < n; ++i) {
+            if (mask[i] != 0 || x[i] == M)
+                continue;
             W += w[i];
+            ++rows;
             if (w[i] == 0.0)
                 continue;
             const double f = w[i] / W, d = x[i] - mean;
@@ -120,7 +129,7 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
         }
         for (const short sample : {short{0}, short{-1}})
             for (const short freqWeights : {short{0}, short{-1}}) {
-                const double c = freqWeights == -1 ? 1.0 : W / static_cast<int>(n);
+                const double c = freqWeights == -1 ? 1.0 : W / rows;
                 const double D = W - c;
                 Shape e;
                 e.mean = mean;
@@ -131,7 +140,7 @@ TEST(ShapeMoments, FollowTheUpdatesToTheLastBit)
                 e.seSkew = std::sqrt(((W * 6.0) * D) / (((c * 3.0 + W) * (W + c)) * (W - 2 * c)));
                 e.kurtS = (((W + c) * (e.kurtP + 3.0) - D * 3.0) * D) / ((W - 2 * c) * (W - 3 * c));
                 e.seKurt = std::sqrt((((e.seSkew * e.seSkew) * (W * W - c)) * 4.0) / ((c * 5.0 + W) * (W - 3 * c)));
-                EXPECT_THAT(shape(x, std::vector<short>(n, 0), w, sample, freqWeights).all(), SameBits(e.all()));
+                EXPECT_THAT(shape(x, mask, w, sample, freqWeights).all(), SameBits(e.all()));
             }
     }
 }

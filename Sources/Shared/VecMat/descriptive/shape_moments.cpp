@@ -6,61 +6,80 @@
 #include "../base/detail/mathematics/mathematics.h"
 #include "../base/detail/running_moments.h"
 #include "../kernels/power_kernels.h"
+#include "../kernels/shape_kernels.h"
 
 using namespace vecmat;
 
 namespace {
 
-/// Sums of the second to fourth powers of the deviations from the running mean. Rows are processed in blocks: first
-/// their deviations, then all powers, which take most of the time, then the sums.
-class RunningShape : public RunningWeights<ZeroWeight::counted>
+/// The running mean, and the sums of the second to fourth powers of the deviations from it. Rows are processed in
+/// blocks: first their deviations, in order, then what each brings to the sums, side by side, then the sums, in order.
+class RunningShape
 {
 public:
+    double weights = 0.0;
+    int rows = 0;
     double mean = 0.0;
     double m2 = 0.0;
     double m3 = 0.0;
     double m4 = 0.0;
 
-    void add(double x, double w)
+    template <class X, class Weights>
+    void addAll(X x, Weights weight, Mask mask, int n)
     {
-        if (!take(w))
-            return;
-        const double d = x - mean;
-        mean += update::Fractional::mean(d, w, weights);
-        deviation_[pending_] = d;
-        weight_[pending_] = w;
-        weightsSoFar_[pending_] = weights;
-        if (++pending_ == mostPending)
-            finish();
-    }
-
-    /// Adds the pending rows to the sums.
-    void finish()
-    {
-        double cube[mostPending];
-        double fourth[mostPending];
-        cubesAndFourths(pending_, deviation_, cube, fourth);
-        for (int k = 0; k < pending_; ++k)
-            grow(deviation_[k], cube[k], fourth[k], weight_[k], weightsSoFar_[k]);
-        pending_ = 0;
+        for (int next = 0; next < n;) {
+            next = addToMean(x, weight, mask, next, n);
+            addToSums();
+        }
     }
 
 private:
-    /// Each higher sum uses the old lower ones, so they are updated from the highest down.
-    void grow(double d, double d3, double d4, double w, double W)
+    /// Adds rows from `first` on to the mean until a block is full or all are done. Returns the next row.
+    template <class X, class Weights>
+    int addToMean(X x, Weights weight, Mask mask, int first, int n)
     {
-        const double f = w / W;
-        const double t = f * 3.0 * d * m2;
-        m4 += (f + f) * d * (t - (m3 + m3)) + (((f * 6.0 + -4.0) - f * f * 3.0) * f + 1.0) * d4 * w;
-        m3 = (m3 - t) + (f * f + f * f + (1.0 - f * 3.0)) * d3 * w;
-        m2 += update::Fractional::squares(d, w, W);
+        // In locals, which stay in registers: each row waits for the mean and the weights of the one before.
+        RunningWeights<ZeroWeight::counted> sum{weights, rows};
+        double running = mean;
+        int count = 0;
+        for (; first < n && count < ShapeKernels::mostRows; ++first) {
+            if (!mask.keeps(first) || !isPresent(x.get(first)))
+                continue;
+            const double w = weight.get(first);
+            if (!sum.take(w))
+                continue;
+            const double f = w / sum.weights;
+            const double d = x.get(first) - running;
+            running += d * f;
+            block_.d[count] = d;
+            block_.w[count] = w;
+            block_.f[count++] = f;
+        }
+        weights = sum.weights;
+        rows = sum.rows;
+        mean = running;
+        pending_ = count;
+        return first;
     }
 
-    static constexpr int mostPending = 128;
+    void addToSums()
+    {
+        double cube[ShapeKernels::mostRows];
+        double fourth[ShapeKernels::mostRows];
+        ShapeKernels::Terms terms;
+        cubesAndFourths(pending_, block_.d, cube, fourth);
+        shapeKernels().terms(pending_, block_, cube, fourth, terms);
+        for (int k = 0; k < pending_; ++k) {
+            // Each higher sum uses the old lower ones, so they are updated from the highest down.
+            const double t = terms.third[k] * m2;
+            m4 += terms.fourth[k] * (t - (m3 + m3)) + terms.ofFourth[k];
+            m3 = (m3 - t) + terms.ofThird[k];
+            m2 += terms.ofSecond[k];
+        }
+    }
+
     int pending_ = 0;
-    double deviation_[mostPending];
-    double weight_[mostPending];
-    double weightsSoFar_[mostPending];
+    ShapeKernels::Rows block_;
 };
 
 } // namespace
@@ -70,14 +89,8 @@ void V_MeanVarSkewPKurtP(matrix* v, int n, double* mean, double* var, double* sk
                          short freqWeights)
 {
     RunningShape moments;
-    onBlocks(
-        [&](auto cell, auto weight) {
-            for (int i = 0; i < n; ++i)
-                if (const double x = cell.get(i); Mask(mask).keeps(i) && isPresent(x))
-                    moments.add(x, weight.get(i));
-        },
-        block(linear(v), n), block(linear(w), n));
-    moments.finish();
+    onBlocks([&](auto cell, auto weight) { moments.addAll(cell, weight, Mask(mask), n); }, block(linear(v), n),
+             block(linear(w), n));
 
     const double W = moments.weights;
     const double wbar = moments.rows > 0 ? W / moments.rows : 0.0;
