@@ -96,6 +96,23 @@ TEST_P(SortApplyToManyRows, ofInts)
     }
 }
 
+TEST_P(SortApplyToManyRows, ofAColumnThatTheSourceLacks)
+{
+    for (std::vector<double>& order : orders()) {
+        std::vector<double> expected(rows * (cols + 1));
+        applyRowByRow(cells.data(), cells.size(), n, n, cols + 1, order.data(), expected.data(), n, unchanged);
+        Owned<matrix> made, prepared = filled(n, cols + 1, 0.5);
+        SortApply(table(n, cols, cells), n, cols + 1, column(order), made.reference());
+        EXPECT_THAT(cellsOf(made), SameBits(expected));
+        SortApply(table(n, cols, cells), n, cols + 1, column(order), prepared.reference());
+        EXPECT_THAT(cellsOf(prepared), SameBits(expected));
+        const auto inPlace = table(n, cols, cells);
+        SortApply2(inPlace, n, cols + 1, column(order));
+        expected.resize(cells.size());
+        EXPECT_THAT(cellsOf(inPlace), SameBits(expected));
+    }
+}
+
 TEST_P(SortApplyToManyRows, ofOtherHeightsAndTypes)
 {
     // Half of the rows, into a larger table, from ints to doubles and back.
