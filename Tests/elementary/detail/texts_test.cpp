@@ -2,6 +2,7 @@
 
 #include "access/cells.h"
 
+#include "support/callers_texts.h"
 #include "support/random_data.h"
 #include "support/strings.h"
 
@@ -15,38 +16,6 @@
 
 namespace vecmat::test {
 namespace {
-
-/// Texts as a caller may have them: any length around the steps of the hash, few characters, so that many are equal or
-/// differ in the last place only; lone surrogates, pairs, NULs inside.
-std::wstring randomText(RandomData& data)
-{
-    static const std::wstring characters = {L'a', L'b', L'\0', 0xD83D, 0xDE00, 0xFFFF, 0x1F600, L' '};
-    std::wstring text;
-    for (int n = data.integer(0, 9); n > 0; --n)
-        text += characters[static_cast<std::size_t>(data.integer(0, 7))];
-    return text;
-}
-
-struct Caller
-{
-    int rows;
-    int cols;
-    BstrArray bstrs;
-
-    Caller(RandomData& data, int r, int c) : rows(r), cols(c), bstrs(drawn(data, r * c))
-    {
-        for (std::size_t k = 0; k < bstrs.size(); ++k)
-            if (data.integer(0, 9) == 0)
-                bstrs.setNull(k);
-    }
-    static std::vector<std::wstring> drawn(RandomData& data, int n)
-    {
-        std::vector<std::wstring> texts(static_cast<std::size_t>(n));
-        for (std::wstring& text : texts)
-            text = randomText(data);
-        return texts;
-    }
-};
 
 /// Every cell in range, and those outside as far as two places off.
 template <class Body>

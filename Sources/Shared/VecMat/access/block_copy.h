@@ -145,15 +145,15 @@ void copyResized(Table* source, int r, Table* result)
             to.set(i, j, from.get(static_cast<int>(linearIndex(i, j, r))));
 }
 
-/// Prepares a result table of any of the library's types: a numeric table is cleared; a string table is kept as it is
-/// if it has the exact shape.
+/// Prepares a result table of any type: a numeric table is cleared; one of texts is kept as it is if it has the exact
+/// shape.
 template <class Table>
 void prepareResult(Table*& out, int rows, int cols)
 {
-    if constexpr (std::is_same_v<Table, Smatrix>)
-        Smatrix::matCheck(out, rows, cols);
-    else
+    if constexpr (std::is_arithmetic_v<typename CellOf<Table>::Value>)
         Table::matCheck(out, rows, cols, 0.0);
+    else
+        Table::matCheck(out, rows, cols);
 }
 
 } // namespace vecmat

@@ -1,8 +1,9 @@
 #include "array_copies.h"
 
-#include "../Smatrix.h"
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 
 #include <algorithm>
@@ -39,7 +40,7 @@ void Cpp_V_DuplicateBool(short* src, int n, short* dst)
 
 void VB_V_DuplicateStr(wchar_t** src, int n, wchar_t** dst)
 {
-    handBack(copied(src, n, 1), dst);
+    handBack(borrowed(src, n, 1), dst);
 }
 
 void VB_M_DuplicateDbl(double* src, int r, int c, double* dst)
@@ -54,7 +55,7 @@ void VB_M_DuplicateLng(int* src, int r, int c, int* dst)
 
 void VB_M_DuplicateStr(wchar_t** src, int r, int c, wchar_t** dst)
 {
-    handBack(copied(src, r, c), dst);
+    handBack(borrowed(src, r, c), dst);
 }
 
 void VB_V_DuplicateDblToLng(double* src, int n, int* dst)
@@ -78,8 +79,8 @@ void VB_M_CopyResize(double* src, int r, int c, double* dst, int newR, int newC)
 void VB_M_CopyResizeStr(wchar_t** src, int r, int c, wchar_t** dst, int newR, int newC)
 {
     const ResizedColumns cols(c, newC);
-    const auto result = freshStrings(newR, cols.result);
-    copyResized<Smatrix>(copied(src, r, cols.source), r, result);
+    const auto result = freshBorrowed(newR, cols.result);
+    copyResized<BorrowedTexts>(borrowed(src, r, cols.source), r, result);
     handBack(result, dst);
 }
 

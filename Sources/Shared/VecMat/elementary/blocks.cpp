@@ -2,6 +2,8 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 using vecmat::copyCells;
 using vecmat::countFromTo;
@@ -163,4 +165,15 @@ void V_Duplicate(matrixInt* src, int row, int col, int n, matrix* dst, int dstRo
 void V_Duplicate(matrixInt* src, int row, int col, int n, matrixInt* dst, int dstRow, int dstCol)
 {
     copyRun(src, row, col, n, dst, dstRow, dstCol);
+}
+
+void vecmat::M_DuplicateStrSPV(BorrowedTexts** src, int rows, int cols, BorrowedTexts** dst)
+{
+    duplicate(src, rows, cols, dst, 1, 1, 1, 1);
+}
+
+void vecmat::M_CopyPasteBlockStr(BorrowedTexts* src, int r1, int r2, int c1, int c2, BorrowedTexts* dst, int row,
+                                 int col)
+{
+    copyRange(src, r1, r2, c1, c2, window(dst, zeroBased(row), zeroBased(col)));
 }

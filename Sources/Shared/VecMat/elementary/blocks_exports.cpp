@@ -2,8 +2,11 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
+#include "../sorting/detail/borrowed_rows.h"
+#include "detail/borrowed_moves.h"
 
 using namespace vecmat;
 
@@ -16,8 +19,8 @@ void VB_M_CopyBlock(double* src, int rows, int cols, int r1, int r2, int c1, int
 
 void VB_M_CopyBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst)
 {
-    StringTableHandle result = freshStrings(countFromTo(r1, r2), countFromTo(c1, c2));
-    M_CopyBlock(copied(src, rows, cols), r1, r2, c1, c2, result.reference());
+    BorrowedHandle result = freshBorrowed(countFromTo(r1, r2), countFromTo(c1, c2));
+    M_CopyBlock(borrowed(src, rows, cols), r1, r2, c1, c2, result.reference());
     handBack(result, dst);
 }
 
@@ -60,9 +63,9 @@ void Cpp_M_DuplicateDblSPV3(double* src, int rows, int cols, SAFEARRAY** dst)
 
 void VB_M_DuplicateStrSPV(SAFEARRAY** src, int rows, int cols, SAFEARRAY** dst)
 {
-    const auto result = stringColumns(dst, cols, rows);
-    M_DuplicateStrSPV(stringColumns(src, cols, rows), rows, cols, result);
-    SaveSAFEARRAY(result, cols, rows, dst);
+    const auto result = borrowedColumns(dst, cols, rows);
+    M_DuplicateStrSPV(borrowedColumns(src, cols, rows), rows, cols, result);
+    handBack(result, cols, dst);
 }
 
 void Cpp_M_CopyPasteBlock(double* src, int rows, int cols, int r1, int r2, int c1, int c2, double* dst, int dstRows,
@@ -80,8 +83,8 @@ void Cpp_M_CopyPasteBlockSPV(SAFEARRAY** src, int r1, int r2, int c1, int c2, do
 void Cpp_M_CopyPasteBlockStr(wchar_t** src, int rows, int cols, int r1, int r2, int c1, int c2, wchar_t** dst,
                              int dstRows, int dstCols, int row, int col)
 {
-    const auto result = copied(dst, dstRows, dstCols);
-    M_CopyPasteBlockStr(copied(src, rows, cols), r1, r2, c1, c2, result, row, col);
+    const auto result = borrowedCopy(dst, dstRows, dstCols);
+    M_CopyPasteBlockStr(borrowed(src, rows, cols), r1, r2, c1, c2, result, row, col);
     handBack(result, dst);
 }
 

@@ -3,6 +3,8 @@
 #include "../access/block_copy.h"
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 using vecmat::copyCells;
 using vecmat::window;
@@ -56,4 +58,9 @@ void Extractij(matrix* a, int n, int i, int j, matrix* out)
         to.set(k, 0, from.get(k, zeroBased(i)));
         to.set(k, 1, from.get(k, zeroBased(j)));
     }
+}
+
+void vecmat::CopyMatrixColToOneColMatStr(BorrowedTexts* src, int n, int col, BorrowedTexts* out)
+{
+    copyCells(window(src, 0, zeroBased(col)), window(out, 0, 0), n, 1);
 }

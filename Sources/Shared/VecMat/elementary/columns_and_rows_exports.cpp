@@ -2,7 +2,9 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -29,8 +31,8 @@ void VB_CopyMatrixRowToMatrixRow(double* src, int rows, int cols, int row, doubl
 
 void VB_CopyMatrixColToOneColMatStr(wchar_t** src, int n, int col, wchar_t** out)
 {
-    const auto result = freshStrings(n, 1);
-    CopyMatrixColToOneColMatStr(copied(src, n, col), n, col, result);
+    const auto result = freshBorrowed(n, 1);
+    CopyMatrixColToOneColMatStr(borrowed(src, n, col), n, col, result);
     handBack(result, out);
 }
 

@@ -3,6 +3,8 @@
 #include "../access/block_copy.h"
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 #include <cstdint>
 
@@ -34,6 +36,21 @@ void takePattern(std::int64_t n, std::int64_t keep, std::int64_t skip, std::int6
     }
 }
 
+/// `Table` holds strings, or borrowed texts.
+template <class Table>
+void extractPattern(Table** src, int n, int cols, int keep, int skip, int start, Table** dst, matrix* positions)
+{
+    const auto positionCells = vecmat::linear(positions);
+    for (int j = 0; j < cols; ++j) {
+        const auto from = vecmat::linear(src[j]);
+        const auto to = vecmat::linear(dst[j]);
+        takePattern(n, keep, skip, start, [&](std::int64_t position, int index) {
+            to.set(index, from.get(static_cast<int>(static_cast<std::uint32_t>(position - 1))));
+            positionCells.set(index, static_cast<double>(position));
+        });
+    }
+}
+
 } // namespace
 
 void M_ExtractMatToMat(matrix* src, int cols, int from, int to, matrix* out)
@@ -56,13 +73,11 @@ void M_ExtractMatToMatByColDbl(matrix* src, int rows, int from, int to, matrix*&
 void M_ExtractMatNeverySKSPV(Smatrix** src, int n, int cols, int /*nOut*/, int keep, int skip, int start, Smatrix** dst,
                              matrix* positions)
 {
-    const auto positionCells = vecmat::linear(positions);
-    for (int j = 0; j < cols; ++j) {
-        const auto from = vecmat::linear(src[j]);
-        const auto to = vecmat::linear(dst[j]);
-        takePattern(n, keep, skip, start, [&](std::int64_t position, int index) {
-            to.set(index, from.get(static_cast<int>(static_cast<std::uint32_t>(position - 1))));
-            positionCells.set(index, static_cast<double>(position));
-        });
-    }
+    extractPattern(src, n, cols, keep, skip, start, dst, positions);
+}
+
+void vecmat::M_ExtractMatNeverySKSPV(BorrowedTexts** src, int n, int cols, int /*nOut*/, int keep, int skip, int start,
+                                     BorrowedTexts** dst, matrix* positions)
+{
+    extractPattern(src, n, cols, keep, skip, start, dst, positions);
 }

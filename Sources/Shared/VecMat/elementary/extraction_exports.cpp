@@ -2,7 +2,10 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 using namespace vecmat;
 
@@ -19,8 +22,8 @@ template <class Source>
 void extractStrings(Source source, int cols, int from, int to, wchar_t** out)
 {
     const int rows = countFromTo(from, to);
-    const StringTableHandle result = freshStrings(rows, cols);
-    copyCells(source, window<Smatrix>(result, 0, 0), rows, cols);
+    const BorrowedHandle result = freshBorrowed(rows, cols);
+    copyCells(source, window<BorrowedTexts>(result, 0, 0), rows, cols);
     handBack(result, out);
 }
 
@@ -45,15 +48,16 @@ void VB_M_ExtractMatToMatDblSPV(SAFEARRAY** src, int cols, int from, int to, dou
 void VB_M_ExtractMatToMatStr(wchar_t** src, int rows, int cols, int from, int to, wchar_t** out)
 {
     const int width = atLeastAVector(cols);
-    const StringTableHandle table = copied(src, rows, width);
-    extractStrings(window<Smatrix>(table, zeroBased(from), 0), width, from, to, out);
+    const BorrowedHandle table = borrowed(src, rows, width);
+    extractStrings(window<BorrowedTexts>(table, zeroBased(from), 0), width, from, to, out);
 }
 
 void VB_M_ExtractMatToMatStrSPV(SAFEARRAY** src, int cols, int from, int to, wchar_t** out)
 {
     const int width = atLeastAVector(cols);
-    const auto tables = stringColumns(src, width, to);
-    extractStrings(window<Smatrix>(static_cast<Smatrix**>(tables), zeroBased(from), 0), width, from, to, out);
+    const auto tables = borrowedColumns(src, width, to);
+    extractStrings(window<BorrowedTexts>(static_cast<BorrowedTexts**>(tables), zeroBased(from), 0), width, from, to,
+                   out);
 }
 
 void VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, int to, double* out)
@@ -66,9 +70,9 @@ void VB_M_ExtractMatToMatByColDbl(double* src, int rows, int from, int to, doubl
 void Cpp_M_ExtractMatNeverySKSPV(SAFEARRAY** src, int n, int cols, int nOut, int keep, int skip, int start,
                                  SAFEARRAY** dst, double* positions)
 {
-    const auto result = stringColumns(dst, cols, nOut);
+    const auto result = borrowedColumns(dst, cols, nOut);
     const auto taken = copied(positions, nOut, 1);
-    M_ExtractMatNeverySKSPV(stringColumns(src, cols, n), n, cols, nOut, keep, skip, start, result, taken);
-    SaveSAFEARRAY(result, cols, nOut, dst);
+    M_ExtractMatNeverySKSPV(borrowedColumns(src, cols, n), n, cols, nOut, keep, skip, start, result, taken);
+    handBack(result, cols, dst);
     handBack(taken, positions);
 }

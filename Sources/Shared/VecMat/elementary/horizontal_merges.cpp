@@ -2,6 +2,8 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -110,4 +112,9 @@ void HMergeTables(matrix** a, int /*r1*/, int c1, matrix* b, int r2, int c2)
 void HMergeTables(matrix** a, int /*r1*/, int c1, matrix** b, int r2, int c2)
 {
     copyCells(window(b, 0, 0), window(a, 0, c1), r2, c2);
+}
+
+void vecmat::HMergeTables(BorrowedTexts* a, int r1, int c1, BorrowedTexts* b, int r2, int c2, BorrowedTexts*& out)
+{
+    mergeTables(a, r1, c1, b, r2, c2, out);
 }

@@ -2,7 +2,9 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -86,8 +88,8 @@ void VB_HMergeTablesBool2(short* a, int r1, int c1, short* b, int r2, int c2)
 
 void VB_HMergeTablesStr(wchar_t** a, int r1, int c1, wchar_t** b, int r2, int c2, wchar_t** out)
 {
-    StringTableHandle result = freshStrings(std::max(r1, r2), wrappingSum(c1, c2));
-    HMergeTables(copied(a, r1, c1), r1, c1, copied(b, r2, c2), r2, c2, result.reference());
+    BorrowedHandle result = freshBorrowed(std::max(r1, r2), wrappingSum(c1, c2));
+    HMergeTables(borrowed(a, r1, c1), r1, c1, borrowed(b, r2, c2), r2, c2, result.reference());
     handBack(result, out);
 }
 

@@ -3,9 +3,11 @@
 #include "../access/block_copy.h"
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
+#include "detail/borrowed_moves.h"
 #include "detail/line_exchanges.h"
 #include "transposition.h"
 #include "vector_sums.h"
@@ -154,4 +156,9 @@ int M_RemoveColsInList(matrix* a, int rows, int cols, matrixInt* flags, matrix* 
 int M_RemoveColsInList(matrix* a, int rows, int cols, matrix* flags, matrix* out)
 {
     return removeColumns(a, rows, cols, flags, out);
+}
+
+void vecmat::M_RemoveRows2(BorrowedTexts*& a, int rows, int cols, int from, int to)
+{
+    moveRowsUp(a, rows, cols, from, to);
 }

@@ -1,6 +1,8 @@
 #include "removal.h"
 
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -37,7 +39,7 @@ void VB_M_RemoveRows2(double* a, int rows, int cols, int from, int to)
 
 void Cpp_M_RemoveRowsStr2(wchar_t** a, int rows, int cols, int from, int to)
 {
-    StringTableHandle table = copied(a, rows, cols);
+    BorrowedHandle table = borrowedCopy(a, rows, cols);
     M_RemoveRows2(table.reference(), rows, cols, from, to);
     handBack(table, a);
 }

@@ -2,8 +2,11 @@
 
 #include "../access/block_copy.h"
 #include "../access/cells.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
+#include <utility>
 
 using vecmat::prepareResult;
 using vecmat::window;
@@ -90,4 +93,16 @@ void M_Transpose2(Smatrix*& a, int rows, int cols)
     Smatrix transposed(cols, rows);
     transposeCells(window(a, 0, 0), window(&transposed, 0, 0), rows, cols);
     transposed.copyMatTo(a);
+}
+
+void vecmat::M_Transpose(BorrowedTexts*& src, int rows, int cols, BorrowedTexts*& dst)
+{
+    transposeToTable(src, rows, cols, dst);
+}
+
+void vecmat::M_Transpose2(BorrowedTexts*& a, int rows, int cols)
+{
+    BorrowedTexts transposed(cols, rows);
+    transposeCells(window(a, 0, 0), window(&transposed, 0, 0), rows, cols);
+    *a = std::move(transposed);
 }

@@ -1,6 +1,8 @@
 #include "transposition.h"
 
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 using namespace vecmat;
 
@@ -20,8 +22,8 @@ void VB_M_TransposeLng(int* a, int r, int c, int* out)
 
 void VB_M_TransposeStr(wchar_t** a, int r, int c, wchar_t** out)
 {
-    StringTableHandle table = copied(a, r, c);
-    StringTableHandle result = freshStrings(c, r);
+    BorrowedHandle table = borrowed(a, r, c);
+    BorrowedHandle result = freshBorrowed(c, r);
     M_Transpose(table.reference(), r, c, result.reference());
     handBack(result, out);
 }
@@ -38,7 +40,7 @@ void VB_M_Transpose2Lng(int* a, int r, int c)
 
 void VB_M_Transpose2Str(wchar_t** a, int r, int c)
 {
-    StringTableHandle table = copied(a, r, c);
+    BorrowedHandle table = borrowedCopy(a, r, c);
     M_Transpose2(table.reference(), r, c);
     handBack(table, a);
 }

@@ -2,6 +2,8 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -61,4 +63,14 @@ void VMergeTables(matrix* a, int r1, int c1, matrix* b, int r2, int c2, matrix*&
 void VMergeTablesSPV(matrix** a, int r1, int c1, matrix* b, int r2, int c2, matrix*& out)
 {
     stack(a, r1, c1, b, r2, c2, out);
+}
+
+void vecmat::VMergeVectors(BorrowedTexts* a, int nA, BorrowedTexts* b, int nB, BorrowedTexts*& out)
+{
+    stack(a, nA, 1, b, nB, 1, out);
+}
+
+void vecmat::VMergeVectors2(BorrowedTexts* a, int nA, BorrowedTexts* b, int nB)
+{
+    append(a, nA, b, nB);
 }

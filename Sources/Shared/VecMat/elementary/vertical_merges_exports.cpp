@@ -2,7 +2,9 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_moves.h"
 
 #include <algorithm>
 
@@ -25,16 +27,16 @@ void VB_VMergeVectorsDbl2(double* a, int nA, double* b, int nB)
 void VB_VMergeVectorsStr(wchar_t** a, int nA, wchar_t** b, int nB, wchar_t** out)
 {
     // The second table always has a row, but an array without elements is not read for it.
-    const StringTableHandle second = nB > 0 ? copied(b, nB, 1) : freshStrings(1, 1);
-    StringTableHandle result = freshStrings(wrappingSum(nA, nB), 1);
-    VMergeVectors(copied(a, nA, 1), nA, second, nB, result.reference());
+    const BorrowedHandle second = nB > 0 ? borrowed(b, nB, 1) : freshBorrowed(1, 1);
+    BorrowedHandle result = freshBorrowed(wrappingSum(nA, nB), 1);
+    VMergeVectors(borrowed(a, nA, 1), nA, second, nB, result.reference());
     handBack(result, out);
 }
 
 void VB_VMergeVectorsStr2(wchar_t** a, int nA, wchar_t** b, int nB)
 {
-    const StringTableHandle table = copied(a, wrappingSum(nA, nB), 1, nA, 1);
-    VMergeVectors2(table, nA, copied(b, nB, 1), nB);
+    const BorrowedHandle table = borrowedCopy(a, wrappingSum(nA, nB), 1, nA, 1);
+    VMergeVectors2(table, nA, borrowed(b, nB, 1), nB);
     handBack(table, a);
 }
 

@@ -4,6 +4,7 @@
 #include "../base/detail/numbers.h"
 #include "../base/detail/outgoing_texts.h"
 #include "../base/missing_value.h"
+#include "detail/borrowed_texts.h"
 #include "detail/outgoing_columns.h"
 
 #include <algorithm>
@@ -58,7 +59,7 @@ Table** loadColumns(SAFEARRAY** sa, int nCols, int nRows, int width, SAFEARRAY* 
 }
 
 template <class Table>
-void deleteColumns(Table** tables, int nCols)
+void deleteTables(Table** tables, int nCols)
 {
     std::for_each_n(tables, countOf(nCols), [](Table* table) { delete table; });
     delete[] tables;
@@ -109,6 +110,20 @@ Smatrix** LoadSAFEARRAYStr(SAFEARRAY** sa, int nCols, int nRows, int width)
     });
 }
 
+vecmat::BorrowedTexts** vecmat::loadBorrowedColumns(SAFEARRAY** sa, int nCols, int nRows)
+{
+    return loadColumns<BorrowedTexts>(sa, nCols, nRows, 1, &SAFEARRAYColumn::strings, [](int rows, void* data) {
+        auto column = std::make_unique<BorrowedTexts>(rows, 1);
+        std::copy_n(static_cast<wchar_t**>(data), column->nElems, column->X);
+        return column.release();
+    });
+}
+
+void vecmat::deleteColumns(BorrowedTexts** tables, int nCols)
+{
+    deleteTables(tables, nCols);
+}
+
 void SaveSAFEARRAY(Smatrix** tables, int nCols, int /*ignored*/, SAFEARRAY** sa)
 {
     OutgoingTexts texts;
@@ -118,12 +133,12 @@ void SaveSAFEARRAY(Smatrix** tables, int nCols, int /*ignored*/, SAFEARRAY** sa)
 
 void DeleteSAFEARRAY(matrix** tables, int nCols)
 {
-    deleteColumns(tables, nCols);
+    deleteTables(tables, nCols);
 }
 
 void DeleteSAFEARRAYStr(Smatrix** tables, int nCols)
 {
-    deleteColumns(tables, nCols);
+    deleteTables(tables, nCols);
 }
 
 int MySafeArrayAccessData(SAFEARRAY* sa, void** data)

@@ -5,6 +5,9 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
+#include "../elementary/detail/caller_text.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_rows.h"
 
 #include <limits>
 #include <string>
@@ -29,6 +32,11 @@ bool isAbsent(double x)
 bool isAbsent(const std::wstring& text)
 {
     return text.empty();
+}
+
+bool isAbsent(wchar_t* borrowed)
+{
+    return vecmat::Bstr(borrowed).empty();
 }
 
 template <class From, class To>
@@ -124,4 +132,9 @@ void MatToVect_NoMissing(matrix* data, int nRows, int nCols, matrix* counts, dou
             }
         },
         block(cells(data), nRows, nCols), block(linear(counts), nCols));
+}
+
+void vecmat::RemoveRowsWithMissing(BorrowedTexts*& a, int nRows, int nCols, short* mask)
+{
+    removeRows(a, nRows, nCols, Mask(mask));
 }

@@ -4,8 +4,11 @@
 #include "../base/detail/numbers.h"
 #include "../base/detail/outgoing_texts.h"
 #include "../elementary/array_copies.h"
+#include "../frame/detail/borrowed_handles.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/outgoing_columns.h"
+#include "detail/borrowed_rows.h"
 
 using vecmat::copied;
 using vecmat::viewed;
@@ -30,10 +33,10 @@ void VB_RemoveRowsWithMissing(double* data, int nRows, int nCols, int nRemoved, 
 void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemoved, short* mask, wchar_t** out)
 {
     const int cols = nCols == 0 ? 1 : nCols;
-    auto table = copied(data, nRows, cols);
+    auto table = vecmat::borrowedCopy(data, nRows, cols);
     RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
-    const auto complete = vecmat::freshStrings(rowsLeft(nRows, nRemoved), cols);
-    vecmat::copyResized<Smatrix>(table, nRows, complete);
+    const auto complete = vecmat::freshBorrowed(rowsLeft(nRows, nRemoved), cols);
+    vecmat::copyResized<vecmat::BorrowedTexts>(table, nRows, complete);
     vecmat::OutgoingTexts texts;
     vecmat::addTexts(texts, table, data);
     vecmat::addTexts(texts, complete, out);

@@ -2,7 +2,7 @@
 
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
-#include "../elementary/detail/texts.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "detail/random_series.h"
 #include "detail/sampled_rows.h"
@@ -44,8 +44,8 @@ constexpr bool isMultiple(long long distance, int step)
 }
 
 /// Takes at most `n` rows, from row `start` on.
-template <class Population, class Rows>
-void sampleSystematically(Population S, int N, int p, int n, Rows Z, matrix* ids, int step, long long start)
+template <class Rows>
+void sampleSystematically(Rows S, int N, int p, int n, Rows Z, matrix* ids, int step, long long start)
 {
     const auto id = linear(ids);
     int taken = 0;
@@ -58,25 +58,28 @@ void sampleSystematically(Population S, int N, int p, int n, Rows Z, matrix* ids
     }
 }
 
-template <class Population, class Rows>
-void sampleFromRandomStart(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
-                           int* seedOut)
+} // namespace
+
+template <class Rows>
+void vecmat::takeFromRandomStart(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
+                                 int* seedOut)
 {
     const Interval interval(N, n);
     const int rowsBefore = interval.offset(GenerateRandom01(seed, seedFlag, seedOut));
     sampleSystematically(S, N, p, n, Z, ids, interval.step, rowsBefore + 1LL);
 }
 
-template <class Population, class Rows>
-void sampleFromMiddle(Population S, int N, int p, int n, Rows Z, matrix* ids)
+template <class Rows>
+void vecmat::takeFromMiddle(Rows S, int N, int p, int n, Rows Z, matrix* ids)
 {
     const Interval interval(N, n);
     sampleSystematically(S, N, p, n, Z, ids, interval.step, interval.middle());
 }
 
 /// One row per interval. Stops at the end of the population, or after `n` rows if it would never get there.
-template <class Population, class Rows>
-void sampleIntervals(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut)
+template <class Rows>
+void vecmat::drawOnePerInterval(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
+                                int* seedOut)
 {
     const Interval interval(N, n);
     const TableHandle taken = fresh(N, 1);
@@ -99,55 +102,43 @@ void sampleIntervals(Population S, int N, int p, int n, Rows Z, matrix* ids, int
         label.set(i, takenLabel.get(i));
 }
 
-} // namespace
-
-void vecmat::takeFromRandomStart(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
-                                 short seedFlag, int* seedOut)
-{
-    sampleFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
-}
-
-void vecmat::takeFromMiddle(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids)
-{
-    sampleFromMiddle(S, N, p, n, Z, ids);
-}
-
-void vecmat::drawOnePerInterval(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
-                                short seedFlag, int* seedOut)
-{
-    sampleIntervals(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
-}
+template void vecmat::takeFromRandomStart(BorrowedTexts*, int, int, int, BorrowedTexts*, matrix*, int*, short, int*);
+template void vecmat::takeFromRandomStart(BorrowedTexts**, int, int, int, BorrowedTexts**, matrix*, int*, short, int*);
+template void vecmat::takeFromMiddle(BorrowedTexts*, int, int, int, BorrowedTexts*, matrix*);
+template void vecmat::takeFromMiddle(BorrowedTexts**, int, int, int, BorrowedTexts**, matrix*);
+template void vecmat::drawOnePerInterval(BorrowedTexts*, int, int, int, BorrowedTexts*, matrix*, int*, short, int*);
+template void vecmat::drawOnePerInterval(BorrowedTexts**, int, int, int, BorrowedTexts**, matrix*, int*, short, int*);
 
 void M_SamplingSystematicRdStart(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
                                  int* seedOut)
 {
-    sampleFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    takeFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }
 
 void M_SamplingSystematicRdStartSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,
                                     short seedFlag, int* seedOut)
 {
-    sampleFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    takeFromRandomStart(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }
 
 void M_SamplingSystematicCentered(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids)
 {
-    sampleFromMiddle(S, N, p, n, Z, ids);
+    takeFromMiddle(S, N, p, n, Z, ids);
 }
 
 void M_SamplingSystematicCenteredSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids)
 {
-    sampleFromMiddle(S, N, p, n, Z, ids);
+    takeFromMiddle(S, N, p, n, Z, ids);
 }
 
 void M_SamplingRandomStratified(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
                                 int* seedOut)
 {
-    sampleIntervals(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    drawOnePerInterval(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }
 
 void M_SamplingRandomStratifiedSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed,
                                    short seedFlag, int* seedOut)
 {
-    sampleIntervals(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    drawOnePerInterval(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }

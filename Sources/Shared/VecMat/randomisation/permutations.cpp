@@ -3,9 +3,12 @@
 #include "../access/cells.h"
 #include "../base/detail/checked_cells.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/copy_block.h"
+#include "../sorting/detail/borrowed_rows.h"
 #include "../sorting/sort.h"
+#include "detail/borrowed_shuffles.h"
 #include "detail/random_series.h"
 
 #include <algorithm>
@@ -161,4 +164,15 @@ void GenerateIndicator(matrix*& out, int n, int first, int last)
     const long long end = std::min<long long>(last, out->nElems);
     for (long long i = std::max(first, 1); i <= end; ++i)
         out->X[i - 1] = 1.0;
+}
+
+void vecmat::M_Shuffle(BorrowedTexts* X, int n, int p, BorrowedTexts* Z, int& seed, short seedFlag, int& seedOut)
+{
+    M_CopyBlock(X, 1, n, 1, p, Z);
+    shuffleRows(Z, n, p, seed, seedFlag, seedOut);
+}
+
+void vecmat::M_Shuffle2(BorrowedTexts* X, int n, int p, int& seed, short seedFlag, int& seedOut)
+{
+    shuffleRows(X, n, p, seed, seedFlag, seedOut);
 }

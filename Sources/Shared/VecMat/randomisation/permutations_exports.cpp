@@ -1,13 +1,17 @@
 #include "permutations.h"
 
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_shuffles.h"
 #include "detail/callers_seeds.h"
 
+using vecmat::borrowed;
+using vecmat::borrowedCopy;
+using vecmat::BorrowedHandle;
 using vecmat::copied;
 using vecmat::fresh;
-using vecmat::freshStrings;
+using vecmat::freshBorrowed;
 using vecmat::handBack;
-using vecmat::StringTableHandle;
 using vecmat::TableHandle;
 using vecmat::viewed;
 using vecmat::withSeeds;
@@ -37,16 +41,16 @@ void Cpp_M_ShuffleDbl2(double* X, int n, int p, int* seed, short seedFlag, int* 
 
 void Cpp_M_ShuffleStr(wchar_t** X, int n, int p, wchar_t** Z, int* seed, short seedFlag, int* seedOut)
 {
-    const StringTableHandle shuffled = freshStrings(n, p);
+    const BorrowedHandle shuffled = freshBorrowed(n, p);
     withSeeds(seed, seedOut, [&](int& start, int& next) {
-        M_Shuffle(copied(X, n, p), n, p, shuffled, start, seedFlag, next);
+        M_Shuffle(borrowed(X, n, p), n, p, shuffled, start, seedFlag, next);
         handBack(shuffled, Z);
     });
 }
 
 void Cpp_M_ShuffleStr2(wchar_t** X, int n, int p, int* seed, short seedFlag, int* seedOut)
 {
-    const StringTableHandle rows = copied(X, n, p);
+    const BorrowedHandle rows = borrowedCopy(X, n, p);
     withSeeds(seed, seedOut, [&](int& start, int& next) {
         M_Shuffle2(rows, n, p, start, seedFlag, next);
         handBack(rows, X);

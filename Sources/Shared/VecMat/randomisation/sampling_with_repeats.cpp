@@ -3,7 +3,7 @@
 #include "../access/cells.h"
 #include "../base/detail/memory_ranges.h"
 #include "../base/detail/numbers.h"
-#include "../elementary/detail/texts.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../sorting/sort.h"
 #include "detail/sampled_rows.h"
@@ -16,15 +16,13 @@ using namespace vecmat;
 
 namespace {
 
-void addMemory(Smatrix* table, int /*cols*/, MemoryRanges& ranges)
+template <class Table>
+void addMemory(Table* table, int /*cols*/, MemoryRanges& ranges)
 {
     ranges.add(memoryOf(table->X, table->nElems));
 }
-void addMemory(const CallerTexts& /*population*/, int /*cols*/, MemoryRanges& /*ranges*/)
-{
-    // No text lies in a table.
-}
-void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
+template <class Table>
+void addMemory(Table** columns, int cols, MemoryRanges& ranges)
 {
     for (int j = 0; j < cols; ++j)
         ranges.add(memoryOf(columns[j]->X, columns[j]->nElems));
@@ -32,8 +30,8 @@ void addMemory(Smatrix** columns, int cols, MemoryRanges& ranges)
 
 /// Does each row of the sample have cells of its own, none of them in the population? Then everything read is the
 /// population's original contents, and the order in which the rows are written does not matter.
-template <class Population, class Rows>
-bool rowsAreApart(Population S, Rows Z, int n, int p)
+template <class Rows>
+bool rowsAreApart(Rows S, Rows Z, int n, int p)
 {
     if (p < 1 || n < 1 || !cells(Z).covers(n, p) || cells(Z).plain().folds(n, p))
         return false;
@@ -43,10 +41,11 @@ bool rowsAreApart(Population S, Rows Z, int n, int p)
     return ranges.areApart();
 }
 
-/// `Rows` is a table, or an array of columns; the population may be the texts of a caller.
-template <class Population, class Rows>
-void sampleWithReplacement(Population S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
-                           int* seedOut)
+} // namespace
+
+template <class Rows>
+void vecmat::drawWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag,
+                                 int* seedOut)
 {
     TableHandle keys;
     M_GenerateRandom01(keys.reference(), n, 1, seed, seedFlag, seedOut);
@@ -68,8 +67,8 @@ void sampleWithReplacement(Population S, int N, int p, int n, Rows Z, matrix* id
     sortRowsByKey(Z, n, p, ids, keys);
 }
 
-template <class Population, class Rows>
-void sampleByCounts(Population S, int N, int p, Rows Z, matrix* freq, matrix* ids)
+template <class Rows>
+void vecmat::takeByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* ids)
 {
     const auto count = linear(freq);
     const auto id = linear(ids);
@@ -82,37 +81,29 @@ void sampleByCounts(Population S, int N, int p, Rows Z, matrix* freq, matrix* id
         }
 }
 
-} // namespace
-
-void vecmat::drawWithReplacement(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed,
-                                 short seedFlag, int* seedOut)
-{
-    sampleWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
-}
-
-void vecmat::takeByCounts(const CallerTexts& S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids)
-{
-    sampleByCounts(S, N, p, Z, freq, ids);
-}
+template void vecmat::drawWithReplacement(BorrowedTexts*, int, int, int, BorrowedTexts*, matrix*, int*, short, int*);
+template void vecmat::drawWithReplacement(BorrowedTexts**, int, int, int, BorrowedTexts**, matrix*, int*, short, int*);
+template void vecmat::takeByCounts(BorrowedTexts*, int, int, BorrowedTexts*, matrix*, matrix*);
+template void vecmat::takeByCounts(BorrowedTexts**, int, int, BorrowedTexts**, matrix*, matrix*);
 
 void M_SamplingWithReplacement(Smatrix* S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
                                int* seedOut)
 {
-    sampleWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    drawWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }
 
 void M_SamplingWithReplacementSPV(Smatrix** S, int N, int p, int n, Smatrix** Z, matrix* ids, int* seed, short seedFlag,
                                   int* seedOut)
 {
-    sampleWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
+    drawWithReplacement(S, N, p, n, Z, ids, seed, seedFlag, seedOut);
 }
 
 void M_SampleUserDefined(Smatrix* S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids)
 {
-    sampleByCounts(S, N, p, Z, freq, ids);
+    takeByCounts(S, N, p, Z, freq, ids);
 }
 
 void M_SampleUserDefinedSPV(Smatrix** S, int N, int p, Smatrix** Z, matrix* freq, matrix* ids)
 {
-    sampleByCounts(S, N, p, Z, freq, ids);
+    takeByCounts(S, N, p, Z, freq, ids);
 }

@@ -2,6 +2,8 @@
 
 #include "../access/block_copy.h"
 #include "../base/detail/numbers.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_rows.h"
 
 namespace {
 
@@ -27,6 +29,11 @@ int M_CopyBlock(matrixInt* src, int r1, int r2, int c1, int c2, matrixInt*& dst)
 }
 
 int M_CopyBlock(Smatrix* src, int r1, int r2, int c1, int c2, Smatrix*& dst)
+{
+    return copyBlock(src, r1, r2, c1, c2, dst);
+}
+
+int vecmat::M_CopyBlock(BorrowedTexts* src, int r1, int r2, int c1, int c2, BorrowedTexts*& dst)
 {
     return copyBlock(src, r1, r2, c1, c2, dst);
 }

@@ -4,6 +4,8 @@
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/detail/scratch.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "detail/borrowed_rows.h"
 #include "detail/column_moves.h"
 #include "detail/digit_passes.h"
 #include "detail/key_order.h"
@@ -191,6 +193,20 @@ int SortQ(Smatrix*& data, int /*nRows*/, int nCols, int first, int last, matrix*
 
 int SortQ(Smatrix** data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
           int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), stringColumnCount(nCols), {first, last}, key, cells(companion), nCompanionCols,
+                    descending, writeKeys);
+}
+
+int vecmat::SortQ(BorrowedTexts*& data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+                  int nCompanionCols, short descending, short writeKeys)
+{
+    return sortRows(cells(data), stringColumnCount(nCols), {first, last}, key, cells(companion), nCompanionCols,
+                    descending, writeKeys);
+}
+
+int vecmat::SortQ(BorrowedTexts** data, int /*nRows*/, int nCols, int first, int last, matrix*& key, matrix*& companion,
+                  int nCompanionCols, short descending, short writeKeys)
 {
     return sortRows(cells(data), stringColumnCount(nCols), {first, last}, key, cells(companion), nCompanionCols,
                     descending, writeKeys);

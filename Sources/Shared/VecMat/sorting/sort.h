@@ -9,9 +9,9 @@
 //     locale. With NaN keys the rows come in an unspecified order, each of them once.
 //   - Nothing is tested and no error is reported: beyond a table a cell, or a cell of the key, reads -1.0 (-1, empty)
 //     and takes part in the sort, and is not written. The result is 0.
-//   - Numbers are sorted by the bits of their keys and moved column by column. A merge of records serves for strings,
-//     for NaN and where memory is short; rows beyond a table, and columns that share memory, are written row by row
-//     from a copy.
+//   - Numbers are sorted by the bits of their keys and moved column by column; so are, in the flat forms, rows of
+//     strings by a key. A merge of records serves for tables of strings, for NaN and where memory is short; rows beyond
+//     a table, and columns that share memory, are written row by row from a copy.
 //
 // @missing the smallest key, as the empty string is: first ascending, last descending; data moves like any other
 // @empty a `last` below `first` changes nothing. Counts of 0 are 1 in the flat forms

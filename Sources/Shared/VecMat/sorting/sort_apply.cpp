@@ -5,7 +5,9 @@
 #include "../base/detail/memory_ranges.h"
 #include "../base/detail/numbers.h"
 #include "../base/detail/scratch.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "copy_block.h"
+#include "detail/borrowed_rows.h"
 #include "detail/column_moves.h"
 #include "detail/key_order.h"
 
@@ -39,6 +41,11 @@ int convertedTo(matrixInt*, int cell)
 }
 
 const std::wstring& convertedTo(Smatrix*, const std::wstring& cell)
+{
+    return cell;
+}
+
+wchar_t* convertedTo(BorrowedTexts*, wchar_t* cell)
 {
     return cell;
 }
@@ -182,6 +189,11 @@ void SortApply2(matrixInt* table, int nRows, int nCols, matrix* order)
 }
 
 void SortApplyStr(Smatrix* source, int nRows, int nCols, matrix* order, Smatrix* out)
+{
+    applyOrderByRows(source, nRows, nCols, order, out);
+}
+
+void vecmat::SortApplyStr(BorrowedTexts* source, int nRows, int nCols, matrix* order, BorrowedTexts* out)
 {
     applyOrderByRows(source, nRows, nCols, order, out);
 }

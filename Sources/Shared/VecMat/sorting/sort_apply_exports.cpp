@@ -1,7 +1,9 @@
 #include "sort_apply.h"
 
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/in_place.h"
+#include "detail/borrowed_rows.h"
 
 using namespace vecmat;
 
@@ -43,8 +45,8 @@ void VB_SortApply2Lng(int* table, int nRows, int nCols, double* order)
 
 void VB_SortApplyStr(wchar_t** source, int nRows, int nCols, double* order, wchar_t** out)
 {
-    const auto result = freshStrings(nRows, nCols);
-    SortApplyStr(copied(source, nRows, nCols), nRows, nCols, View(order, nRows, 1), result);
+    const auto result = freshBorrowed(nRows, nCols);
+    SortApplyStr(borrowed(source, nRows, nCols), nRows, nCols, View(order, nRows, 1), result);
     handBack(result, out);
 }
 

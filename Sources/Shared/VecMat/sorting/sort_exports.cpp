@@ -2,9 +2,12 @@
 
 #include "../access/cells.h"
 #include "../base/detail/outgoing_texts.h"
+#include "../frame/detail/borrowed_handles.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../frame/detail/in_place.h"
 #include "../frame/detail/outgoing_columns.h"
+#include "detail/borrowed_rows.h"
 #include "detail/column_moves.h"
 #include "detail/digit_passes.h"
 #include "detail/sort_by_key.h"
@@ -93,12 +96,13 @@ struct RowSort
                 },
                 keys, companions, table);
         } else {
-            auto table = copied(data, nRows, nCols);
             if constexpr (std::is_same_v<Element, wchar_t*>) {
+                auto table = borrowedCopy(data, nRows, nCols);
                 OutgoingTexts texts;
                 run(table.reference(), key, companion, [&] { addTexts(texts, table, data); });
                 texts.store();
             } else {
+                auto table = copied(data, nRows, nCols);
                 run(table.reference(), key, companion, [] {});
                 handBack(table, data);
             }
@@ -223,9 +227,9 @@ int VB_SortQStrSPV(SAFEARRAY** data, int nRows, int nCols, int first, int last, 
                    int nCompanionCols, short descending, short writeKeys)
 {
     const RowSort sort(nRows, nCols, first, last, nCompanionCols, descending, writeKeys);
-    const auto tables = stringColumns(data, sort.nCols, nRows);
+    const auto tables = borrowedColumns(data, sort.nCols, nRows);
     OutgoingTexts texts;
-    sort.run(static_cast<Smatrix**>(tables), key, companion, [&] { addTexts(texts, tables, sort.nCols, data); });
+    sort.run(static_cast<BorrowedTexts**>(tables), key, companion, [&] { addTexts(texts, tables, sort.nCols, data); });
     texts.store();
     return 0;
 }

@@ -150,37 +150,37 @@ using IntTableHandle = Handle<matrixInt>;
 
 // ---- tables of strings ----------------------------------------------------------------------------------------------
 
-/// Owns a table of strings for the duration of a call.
-template <>
-class Handle<Smatrix>
+/// Owns a table of strings, or of borrowed texts, for the duration of a call.
+template <class Table>
+class TextHandle
 {
 public:
-    Handle() = default;
-    explicit Handle(Smatrix* table) : table_(table), opened_(table) {}
-    Handle(Handle&& other) noexcept
+    TextHandle() = default;
+    explicit TextHandle(Table* table) : table_(table), opened_(table) {}
+    TextHandle(TextHandle&& other) noexcept
         : table_(std::exchange(other.table_, nullptr)), opened_(std::exchange(other.opened_, nullptr))
     {
     }
-    Handle& operator=(Handle&&) = delete;
-    ~Handle()
+    TextHandle& operator=(TextHandle&&) = delete;
+    ~TextHandle()
     {
         if (opened_ != table_) // a table that was replaced is left to its owner
             delete opened_;
         delete table_;
     }
 
-    operator Smatrix*() const { return table_; }
-    Smatrix* operator->() const { return table_; }
+    operator Table*() const { return table_; }
+    Table* operator->() const { return table_; }
 
     /// For a result argument: the callee may replace the table by another.
-    Smatrix*& reference() { return table_; }
+    Table*& reference() { return table_; }
 
 private:
-    Smatrix* table_ = nullptr;
-    Smatrix* opened_ = nullptr;
+    Table* table_ = nullptr;
+    Table* opened_ = nullptr;
 };
 
-using StringTableHandle = Handle<Smatrix>;
+using StringTableHandle = TextHandle<Smatrix>;
 
 // ---- wrap -----------------------------------------------------------------------------------------------------------
 
@@ -245,6 +245,15 @@ void handBack(const Tables& table, Element* out)
 
 // ---- arrays of arrays -----------------------------------------------------------------------------------------------
 
+inline void deleteColumns(matrix** tables, int nCols)
+{
+    DeleteSAFEARRAY(tables, nCols);
+}
+inline void deleteColumns(Smatrix** tables, int nCols)
+{
+    DeleteSAFEARRAYStr(tables, nCols);
+}
+
 /// Owns the tables over a caller's array of arrays for the duration of a call.
 template <class Table>
 class ColumnsHandle
@@ -258,12 +267,8 @@ public:
     ColumnsHandle& operator=(ColumnsHandle&&) = delete;
     ~ColumnsHandle()
     {
-        if (tables_ == nullptr)
-            return;
-        if constexpr (std::is_same_v<Table, Smatrix>)
-            DeleteSAFEARRAYStr(tables_, nCols_);
-        else
-            DeleteSAFEARRAY(tables_, nCols_);
+        if (tables_ != nullptr)
+            deleteColumns(tables_, nCols_);
     }
 
     operator Table**() const { return tables_; }

@@ -1,21 +1,22 @@
 // The strings of tables on their way to the caller's arrays.
 #pragma once
 
-#include "../../Smatrix.h"
 #include "../../base/detail/outgoing_texts.h"
 #include "../super_matrices.h"
 
 namespace vecmat {
 
-/// All cells of a table; nothing if either is null.
-inline void addTexts(OutgoingTexts& texts, const Smatrix* table, wchar_t** out)
+/// All cells of a table of strings or of borrowed texts; nothing if either is null.
+template <class Table>
+void addTexts(OutgoingTexts& texts, const Table& table, wchar_t** out)
 {
     if (table != nullptr && out != nullptr)
         texts.add(table->X, table->nElems, out);
 }
 
 /// The cells of each table, to the string column of the same number, if there is one.
-inline void addTexts(OutgoingTexts& texts, Smatrix* const* tables, int nCols, SAFEARRAY** out)
+template <class Tables>
+void addTexts(OutgoingTexts& texts, const Tables& tables, int nCols, SAFEARRAY** out)
 {
     if (*out == nullptr)
         return;

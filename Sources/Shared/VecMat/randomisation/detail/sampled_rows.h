@@ -1,9 +1,9 @@
 // Shared by the sampling designs: how a row gets from the population into the sample, and how rows are sorted.
 #pragma once
 
-#include "../../Smatrix.h"
 #include "../../base/detail/numbers.h"
 #include "../../matrix.h"
+#include "../../sorting/detail/borrowed_rows.h"
 #include "../../sorting/sort.h"
 
 namespace vecmat {
@@ -23,12 +23,14 @@ constexpr short writeSortedKeys = -1;
 
 /// Sorts rows 1 to `n` by their keys, ascending and stably; the keys come back sorted, and `carried`, of one column,
 /// moves with the rows.
-inline void sortRowsByKey(Smatrix* rows, int n, int p, matrix* key, matrix* carried)
+template <class Table>
+void sortRowsByKey(Table* rows, int n, int p, matrix* key, matrix* carried)
 {
     SortQ(rows, n, p, 1, n, key, carried, 1, sortAscending, writeSortedKeys);
 }
 
-inline void sortRowsByKey(Smatrix** rows, int n, int p, matrix* key, matrix* carried)
+template <class Table>
+void sortRowsByKey(Table** rows, int n, int p, matrix* key, matrix* carried)
 {
     // To the sort, 0 columns of strings mean one. An array of none has no first table to read.
     constexpr int noColumns = -1;

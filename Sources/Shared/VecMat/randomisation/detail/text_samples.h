@@ -1,20 +1,27 @@
-// The sampling designs over a caller's texts where they lie: the flat forms call these, so that only the texts of the
-// sample are kept. The contracts are those of the exported functions over tables. Internal to the library.
+// The sampling designs over tables of strings, or over borrowed texts: the exported functions and the flat forms. The
+// contracts are those of the exported functions. Internal to the library.
+//
+// `Rows` is a table, or an array of columns: `Smatrix*`, `Smatrix**`, `BorrowedTexts*`, `BorrowedTexts**`.
 #pragma once
 
 #include "../../Smatrix.h"
-#include "../../elementary/detail/texts.h"
+#include "../../frame/detail/borrowed_texts.h"
 #include "../../matrix.h"
 
 namespace vecmat {
 
-void drawWithReplacement(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
-                         int* seedOut);
-void takeByCounts(const CallerTexts& S, int N, int p, Smatrix* Z, matrix* freq, matrix* ids);
-void takeFromRandomStart(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
-                         int* seedOut);
-void takeFromMiddle(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids);
-void drawOnePerInterval(const CallerTexts& S, int N, int p, int n, Smatrix* Z, matrix* ids, int* seed, short seedFlag,
-                        int* seedOut);
+template <class Rows>
+void drawWithReplacement(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut);
+template <class Rows>
+void takeByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* ids);
+template <class Rows>
+void takeFromRandomStart(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut);
+template <class Rows>
+void takeFromMiddle(Rows S, int N, int p, int n, Rows Z, matrix* ids);
+template <class Rows>
+void drawOnePerInterval(Rows S, int N, int p, int n, Rows Z, matrix* ids, int* seed, short seedFlag, int* seedOut);
+template <class Rows>
+void drawByStrata(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, matrix* outIds, matrix* strata, matrix* quota,
+                  matrix* sizes, int nStrata, int* seed, short seedFlag, int* seedOut);
 
 } // namespace vecmat

@@ -1,4 +1,4 @@
-// Numbers rearranged by a sort, column by column: each column is read in the new order and written back on its own, so
+// Numbers, or pointers, rearranged by a sort, column by column: each column is read in the new order and written back on its own, so
 // that the scratch memory is one column however many there are.
 //
 // The rows of a table can also be placed one after another (`placeInStableOrder`), as is required when the order of the
@@ -95,9 +95,9 @@ bool sortInColumns(const RowRange& range, Direction direction, Number* key, Sort
     return true;
 }
 
-/// Storage that holds numbers in columns.
+/// Storage that holds numbers in columns, or pointers to texts.
 template <class Cells>
-concept HasColumnsOfNumbers = std::is_arithmetic_v<typename Cells::Value> && requires(const Cells& cells)
+concept HasPlainColumns = std::is_scalar_v<typename Cells::Value> && requires(const Cells& cells)
 {
     cells.plain().column(0);
 };

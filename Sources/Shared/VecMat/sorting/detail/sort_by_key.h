@@ -21,7 +21,7 @@ template <class KeyCells, class... Cells>
 bool sortedInColumns(const RowRange& range, Direction direction, KeyCells key, SortedKeys keys,
                      const Following<Cells>&... tables)
 {
-    if constexpr (std::is_arithmetic_v<typename KeyCells::Value> && (HasColumnsOfNumbers<Cells> && ...))
+    if constexpr (std::is_arithmetic_v<typename KeyCells::Value> && (HasPlainColumns<Cells> && ...))
         return range.first >= 1 && range.count() > 1 &&
                onBlocksOrElse(
                    [&](auto plainKey, auto... plain) {
