@@ -47,6 +47,25 @@ TEST(MCovCorr, FollowsThePlainPassToTheLastBit)
         }
 }
 
+// Complete tables are worked on row by row, until a missing cell is found: here none, or the very last.
+TEST(MCovCorr, FollowsThePlainPassOverCompleteTables)
+{
+    RandomData random(635);
+    SCOPED_TRACE(random);
+    for (const int n : {1, 2, 3, 11, 30})
+        for (const int p : {1, 2, 3, 7, 8, 9}) {
+            Observations data = randomObservations(random, n, p);
+            data.cells = random.normals(data.cells.size());
+            data.w[0] = -data.w[0];
+            data.mask.back() = 0;
+            for (const double last : {data.cells.back(), M}) {
+                data.cells.back() = last;
+                EXPECT_THAT(covCorr(data, 0, {-1, 0}), SameBits(plainCovariances(data, {-1, 0}, M)));
+                EXPECT_THAT(covCorr(data, 1, {0, -1}), SameBits(plainCorrelations(data, {0, -1}, M)));
+            }
+        }
+}
+
 TEST(MCovCorr, TakesSpecialValuesAsTheyAre)
 {
     RandomData random(632);

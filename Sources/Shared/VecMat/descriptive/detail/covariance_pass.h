@@ -21,18 +21,80 @@
 
 namespace vecmat {
 
+/// Covariances of a few columns over complete rows: row by row, without memory of its own.
+template <RowFactor form>
+class FewCovariances
+{
+public:
+    /// A single column is left to the pass over pairs, which keeps its sums in registers.
+    static bool fits(int p) { return p > 1 && p <= mostColumns; }
+
+    /// False if a cell is missing.
+    template <class X, class Weight>
+    bool run(X x, int p, Weight weight, const PairOptions& options)
+    {
+        const Mask mask(options.mask);
+        for (int i = 0; i < options.n; ++i) {
+            if (!mask.keeps(i))
+                continue;
+            std::array<double, mostColumns> row;
+            for (int j = 0; j < p; ++j)
+                if (row[countOf(j)] = x.get(i, j); isMissing(row[countOf(j)]))
+                    return false;
+            if (const double w = weight.get(i); sum_.take(w))
+                add(row, p, w);
+        }
+        return true;
+    }
+
+    /// j is at most k.
+    RunningCovariance<form> pair(int j, int k) const
+    {
+        RunningCovariance<form> sums;
+        sums.weights = sum_.weights;
+        sums.rows = sum_.rows;
+        sums.meanX = mean_[countOf(j)];
+        sums.meanY = mean_[countOf(k)];
+        sums.products = products_[countOf(j)][countOf(k)];
+        return sums;
+    }
+
+private:
+    static constexpr int mostColumns = 8;
+
+    void add(const std::array<double, mostColumns>& row, int p, double w)
+    {
+        const double factor = rowFactor<form>(w, sum_.weights);
+        std::array<double, mostColumns> d;
+        for (unsigned k = 0; k < countOf(p); ++k) {
+            d[k] = row[k] - mean_[k];
+            for (unsigned j = 0; j <= k; ++j)
+                products_[j][k] += factor * d[j] * d[k];
+            mean_[k] += update::Weighted::mean(d[k], w, sum_.weights);
+        }
+    }
+
+    RunningWeights<ZeroWeight::counted> sum_;
+    std::array<double, mostColumns> mean_{};
+    std::array<std::array<double, mostColumns>, mostColumns> products_{};
+};
+
 /// Covariances over complete rows, all computed at once.
 template <RowFactor form>
 class CompleteCovariances
 {
 public:
-    /// Computes nothing if a cell is missing, allocation fails, the table is small, or its cells have to be read in
-    /// turn; `operator bool` reports this.
+    /// Computes nothing if a cell is missing, allocation fails, the table is small but not narrow, or its cells have to
+    /// be read in turn; `operator bool` reports this.
     template <class X, class Weight>
     CompleteCovariances(X x, int p, Weight weight, const PairOptions& options)
     {
-        if (options.reading == Reading::inTurn || !ColumnPanels::payFor(options.n, p))
+        if (options.reading == Reading::inTurn)
             return;
+        if (!ColumnPanels::payFor(options.n, p)) {
+            complete_ = FewCovariances<form>::fits(p) && few_.emplace().run(x, p, weight, options);
+            return;
+        }
         panels_.emplace(options.n, p);
         means_.emplace(countOf(panels_->paddedColumns()));
         complete_ = *panels_ && *means_ && run(x, p, weight, options);
@@ -43,6 +105,8 @@ public:
     /// j is at most k.
     RunningCovariance<form> pair(int j, int k) const
     {
+        if (few_)
+            return few_->pair(j, k);
         RunningCovariance<form> sums;
         sums.weights = weights_;
         sums.rows = rows_;
@@ -128,6 +192,7 @@ private:
     bool complete_ = false;
     int rows_ = 0;
     double weights_ = 0.0;
+    std::optional<FewCovariances<form>> few_;
     std::optional<ColumnPanels> panels_;
     std::optional<Scratch> means_;
 };
