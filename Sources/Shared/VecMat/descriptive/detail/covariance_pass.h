@@ -7,6 +7,7 @@
 
 #include "../../base/detail/masks.h"
 #include "../../base/detail/numbers.h"
+#include "../../base/detail/running_moments.h"
 #include "../../base/detail/scratch.h"
 #include "../../base/missing_value.h"
 #include "../../kernels/moment_kernels.h"
