@@ -30,7 +30,7 @@ struct Case
     Doubles weights;
 
     explicit Case(RandomData& random)
-        : rows(random.integer(0, 14)), cols(random.integer(1, 4)),
+        : rows(random.chance(0.03) ? random.integer(100, 900) : random.integer(0, 14)), cols(random.integer(1, 4)),
           nRows(random.chance(0.7) ? rows : random.integer(0, rows)),
           nCols(random.chance(0.7) ? cols : random.integer(1, cols)), keyCol(random.integer(1, nCols)),
           aggregate(random.integer(-1, 9)),
@@ -38,6 +38,8 @@ struct Case
           weights(random.withMissing(random.weights(static_cast<std::size_t>(nRows), random.uniform(0.0, 0.5)),
                                      random.chance(0.5) ? 0.0 : 0.1))
     {
+        if (random.chance(0.3)) // then the flat form may write straight to the caller's array
+            colTypes.assign(static_cast<std::size_t>(cols), 0);
         if (random.chance(0.2)) // equal weights, among which the median interpolates
             std::fill(weights.begin(), weights.end(), 2.0);
         for (int j = 1; j <= cols; ++j) {
@@ -111,6 +113,29 @@ void checkFlat(const Case& c, bool weighted)
     EXPECT_THAT(weights.values(), SameBits(expectedWeights));
     EXPECT_TRUE(data.untouched());
     EXPECT_TRUE(types.untouched());
+}
+
+TEST(GroupByRandom, ArraysThatOverlapGiveTheSame)
+{
+    for (std::uint64_t seed = 1; seed <= 300; ++seed) {
+        RandomData random(seed);
+        SCOPED_TRACE(random);
+        const Case c(random);
+        const std::size_t cells = count(c.rows, c.cols);
+        Ints types(static_cast<std::size_t>(c.cols), 0);
+        Doubles apart(cells);
+        Doubles data = c.data;
+        int expected = -7;
+        VB_M_GroupBy(data.data(), c.rows, c.cols, types.data(), c.keyCol, c.aggregate, &expected, apart.data());
+
+        const auto shift = static_cast<std::size_t>(random.integer(0, static_cast<int>(cells)));
+        Doubles both = c.data;
+        both.resize(cells + shift);
+        int groups = -7;
+        VB_M_GroupBy(both.data(), c.rows, c.cols, types.data(), c.keyCol, c.aggregate, &groups, both.data() + shift);
+        ASSERT_EQ(groups, expected);
+        ASSERT_THAT(Doubles(both.begin() + static_cast<std::ptrdiff_t>(shift), both.end()), SameBits(apart));
+    }
 }
 
 TEST(GroupByRandom, IsThePlainWalk)

@@ -1,14 +1,19 @@
 #include "group_by.h"
 
 #include "../access/cells.h"
+#include "../access/overlap.h"
 #include "../base/detail/numbers.h"
+#include "../base/detail/scratch.h"
 #include "../descriptive/means.h"
 #include "../descriptive/quantiles.h"
 #include "../elementary/extremes.h"
 #include "../elementary/vector_sums.h"
 #include "../sorting/copy_block.h"
+#include "../sorting/detail/digit_passes.h"
+#include "../sorting/detail/key_order.h"
 #include "../sorting/sort.h"
 #include "../sorting/sort_apply.h"
+#include "detail/groups_in_place.h"
 #include "modes.h"
 
 #include <vector>
@@ -51,6 +56,29 @@ struct WeightedByPosition
     double mean(matrix* values, int n) const { return V_Mean(values, n, nullptr, weights); }
     double median(matrix* values, int n) const { return V_QuantileW(values, n, weights, 0.5); }
 };
+
+/// Copies `data` to `out` with its rows sorted, each column read once, in the order of the keys. Returns false, having
+/// done nothing, if that takes a merge, if a cell lies beyond its table, or if the two share memory.
+bool sortedOnTheWay(matrix* data, int nRows, int nCols, int keyCol, matrix* out)
+{
+    const auto from = cells(data);
+    const auto to = cells(out);
+    if (nRows < 1 || keyCol < 0 || keyCol >= nCols || !from.covers(nRows, nCols) || !to.covers(nRows, nCols) ||
+        to.plain().folds(nRows, nCols) ||
+        !areApart(storageOf(from.plain(), nRows, nCols), storageOf(to.plain(), nRows, nCols)))
+        return false;
+    const Scratch spare(countOf(nRows));
+    const RowOrder order = stableOrder(from.plain().column(keyCol), countOf(nRows), Direction::ascending, spare.data());
+    if (!order)
+        return false;
+    for (int j = 0; j < nCols; ++j) {
+        const double* const column = from.plain().column(j);
+        double* const sorted = to.plain().column(j);
+        for (unsigned i = 0; i < countOf(nRows); ++i)
+            sorted[i] = column[order[i]];
+    }
+    return true;
+}
 
 /// Copies `data` to `out` and sorts its rows, along with those of a companion of `nCompanionCols` columns.
 void sortRows(matrix* data, int nRows, int nCols, int keyCol, matrix*& out, matrix* companion, int nCompanionCols)
@@ -146,10 +174,26 @@ private:
 
 } // namespace
 
+bool vecmat::groupInPlace(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate,
+                          int* nGroups, matrix* out)
+{
+    if (nRows < 1)
+        return false;
+    // A median or a mode may fail for want of memory, once the rows are written.
+    for (int j = 0; j < nCols; ++j)
+        if (j != zeroBased(keyCol) && linear(colTypes).get(j) != 0)
+            return false;
+    if (aggregate == Aggregate::median || !sortedOnTheWay(data, nRows, nCols, zeroBased(keyCol), out))
+        return false;
+    *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, Unweighted{}).run(zeroBased(keyCol));
+    return true;
+}
+
 void M_GroupBy(matrix* data, int nRows, int nCols, matrixInt* colTypes, int keyCol, int aggregate, int* nGroups,
                matrix*& out)
 {
-    sortRows(data, nRows, nCols, keyCol, out, nullptr, 0);
+    if (!sortedOnTheWay(data, nRows, nCols, zeroBased(keyCol), out))
+        sortRows(data, nRows, nCols, keyCol, out, nullptr, 0);
     *nGroups = Grouping(out, nRows, nCols, colTypes, aggregate, Unweighted{}).run(zeroBased(keyCol));
 }
 
