@@ -3,7 +3,7 @@ import { bytesLoaded } from "./loaded.js";
 import { save, reportPage } from "./downloads.js";
 import { allDrawn, drawNoMore } from "./drawing.js";
 import { element, grouped } from "./elements.js";
-import { Run } from "./run.js";
+import { fetched, Run } from "./run.js";
 import { overviewElement, sectionElement } from "./sections.js";
 import { messageParts, openName, overallShare, readingWords, suggestedGrouping, surveyWords } from "./words.js";
 
@@ -11,7 +11,7 @@ const part = (id) => document.getElementById(id);
 const field = (option) => part(`option-${option}`);
 const optionNames = ["grouping", "weights", "missing", "delimiter", "decimal", "encoding", "correction", "seed"];
 
-let file; // what is surveyed, and its name
+let file; // what is surveyed, or a promise of it, and its name
 let name;
 let columnsAre; // the reading words with which the choices of columns were made, for this file
 let run;
@@ -185,9 +185,8 @@ async function downloadTable(table) {
 
 // ---- wiring ----
 
-async function surveyPenguins() {
-  const response = await fetch("penguins.csv");
-  surveyFile(await response.blob(), "penguins.csv");
+function surveyPenguins() {
+  surveyFile(fetched("penguins.csv").then((response) => response.blob()), "penguins.csv");
 }
 
 part("controls").addEventListener("submit", (event) => {

@@ -2,10 +2,16 @@
 
 let compiled; // the module, once for all workers
 
+/** What lies beside the page. */
+export async function fetched(path) {
+  const response = await fetch(path);
+  if (!response.ok) throw new Error(`${path} can't be loaded (${response.status})`);
+  return response;
+}
+
 function compiledModule() {
   compiled ??= (async () => {
-    const response = await fetch("survey.wasm");
-    if (!response.ok) throw new Error(`survey.wasm can't be loaded (${response.status})`);
+    const response = await fetched("survey.wasm");
     return WebAssembly.compile(await response.arrayBuffer()); // whatever type the server gives it
   })();
   compiled.catch(() => (compiled = undefined));
@@ -17,7 +23,7 @@ export class Run {
   #stopped = false;
   #waiting = new Map(); // of what is asked for once, by the kind of the answer
 
-  /** `take` gets what the worker tells: `columns`, `part`, `progress`, `done`, `failed`. */
+  /** `file` may be on its way still; `take` gets what the worker tells: `columns`, `part`, `progress`, `done`, `failed`. */
   constructor(file, name, take) {
     this.name = name;
     this.#worker.addEventListener("message", ({ data }) => this.#receive(data, take));
@@ -25,8 +31,8 @@ export class Run {
       event.preventDefault();
       this.#receive({ kind: "failed", message: `the survey ended unexpectedly (${event.message ?? "no reason given"})` }, take);
     });
-    this.opened = compiledModule().then(
-      (module) => this.#post({ task: "open", compiled: module, file, name }),
+    this.opened = Promise.all([compiledModule(), file]).then(
+      ([module, content]) => this.#post({ task: "open", compiled: module, file: content, name }),
       (error) => this.#receive({ kind: "failed", message: error.message }, take),
     );
   }

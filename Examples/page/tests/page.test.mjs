@@ -163,10 +163,42 @@ describe("the page", () => {
     assert.equal(await page.evaluate(() => document.activeElement.id), "start");
     for (let tries = 0; page.workers().length > 0 && tries < 100; ++tries) await page.waitForTimeout(100);
     assert.equal(page.workers().length, 0);
-    await page.locator("#penguins").click(); // which fetches them first
-    await page.waitForFunction(() => document.querySelector(".file")?.textContent === "penguins.csv");
+    await page.locator("#penguins").click();
     assert.ok(await ended(page));
     assert.equal((await shown(page)).title, "penguins.csv");
+  });
+
+  test("runs while the penguins are on their way, and can be stopped", async () => {
+    const other = await browser.page();
+    assert.ok(await ended(other));
+    let release;
+    await other.route("**/penguins.csv", (route) => new Promise((resolve) => (release = () => resolve(route.continue()))));
+    await survey(other, birds, "birds.csv");
+    await other.locator("#penguins").click();
+    assert.ok(await other.locator("#stop").isVisible());
+    for (let tries = 0; !release && tries < 100; ++tries) await other.waitForTimeout(50);
+    release();
+    assert.ok(await ended(other));
+    assert.equal((await shown(other)).title, "penguins.csv");
+    release = undefined;
+    await other.locator("#penguins").click();
+    for (let tries = 0; !release && tries < 100; ++tries) await other.waitForTimeout(50);
+    assert.ok(await survey(other, birds, "birds.csv"));
+    release();
+    await other.waitForTimeout(300);
+    assert.ok(await ended(other));
+    assert.equal((await shown(other)).title, "birds.csv");
+    await other.context().close();
+  });
+
+  test("says what it can't load", async () => {
+    const other = await browser.page();
+    assert.ok(await ended(other));
+    await other.route("**/penguins.csv", (route) => route.fulfill({ status: 404 }));
+    await other.locator("#penguins").click();
+    assert.equal(await ended(other), false);
+    assert.equal(await problem(other), "penguins.csv can't be loaded (404)");
+    await other.context().close();
   });
 
   test("sends nothing, and couldn't", async () => {
