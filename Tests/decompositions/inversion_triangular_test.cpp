@@ -56,6 +56,16 @@ TEST(MInverseTriang, TakesAnythingButZeroForLower)
     }
 }
 
+TEST(MInverseTriang, HasNothingToDoWithoutRows)
+{
+    for (const int n : {0, -1, std::numeric_limits<int>::min()})
+        for (const short lower : {-1, 0}) {
+            double a = 7.0, out = 8.0;
+            EXPECT_EQ(VB_M_InverseTriang(&a, n, lower, &out, 1e-12), 0) << n << ' ' << lower;
+            EXPECT_EQ(out, 8.0);
+        }
+}
+
 TEST(MInverseTriang, PassesADiagonalCellEqualToTheTolerance)
 {
     Owned<matrix> out = filled(1, 1, 0.0);

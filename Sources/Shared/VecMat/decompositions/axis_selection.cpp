@@ -59,8 +59,8 @@ int FilterEigen(matrix*& eig, int n, short drop, double floor, double cumPercent
     const int byCount = maxCount >= 1 ? maxCount : left;
     if (minValue > 0.0)
         // Over all kept entries, not only the tail: an earlier missing one counts too.
-        for (int k = kept - 1; k >= 0; --k)
-            if (values.get(k) < minValue + zeroTolerance)
+        for (int k = kept; k > 0; --k)
+            if (values.get(k - 1) < minValue + zeroTolerance)
                 --left;
     selected = std::min({left, byPercent, byCount, kept});
     return 0;

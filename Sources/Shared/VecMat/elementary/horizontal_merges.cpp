@@ -9,8 +9,8 @@
 
 using vecmat::copyCells;
 using vecmat::prepareResult;
+using vecmat::sumOfCounts;
 using vecmat::window;
-using vecmat::wrappingSum;
 using vecmat::zeroBased;
 
 namespace {
@@ -18,7 +18,7 @@ namespace {
 template <class Left, class Right, class Table>
 void mergeSideBySide(Left left, int r1, int c1, Right right, int r2, int c2, Table*& out)
 {
-    prepareResult(out, std::max(r1, r2), wrappingSum(c1, c2));
+    prepareResult(out, std::max(r1, r2), sumOfCounts(c1, c2));
     copyCells(left, window(out, 0, 0), r1, c1);
     copyCells(right, window(out, 0, c1), r2, c2);
 }

@@ -12,13 +12,13 @@ using vecmat::cells;
 using vecmat::ColumnOf;
 using vecmat::columns;
 using vecmat::countOf;
+using vecmat::differenceOfCounts;
 using vecmat::equalsFirst;
 using vecmat::firstPresent;
 using vecmat::isMissing;
 using vecmat::PlainVector;
 using vecmat::presentCellsAgree;
 using vecmat::viewed;
-using vecmat::wrappingDifference;
 
 namespace {
 
@@ -79,7 +79,7 @@ int VB_M_IsColConstant(double* a, int rows, int cols)
 int VB_M_IsColConstantSPV(SAFEARRAY** a, int rows, int cols)
 {
     // The scan ends one row early, deliberately.
-    return firstConstantColumn(cells<matrix>(columns(a, cols, rows)), rows, cols, wrappingDifference(rows, 1));
+    return firstConstantColumn(cells<matrix>(columns(a, cols, rows)), rows, cols, differenceOfCounts(rows, 1));
 }
 
 short VB_M_IsDiagConstant(double* a, int n)

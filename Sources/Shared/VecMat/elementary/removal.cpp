@@ -16,10 +16,10 @@
 
 using vecmat::copyCells;
 using vecmat::countFromTo;
+using vecmat::differenceOfCounts;
 using vecmat::fresh;
 using vecmat::TableHandle;
 using vecmat::window;
-using vecmat::wrappingDifference;
 using vecmat::wrappingSum;
 using vecmat::zeroBased;
 
@@ -83,7 +83,7 @@ int removeRows(matrix* a, int rows, int cols, Flags* flags, matrix* out)
     M_CopyBlock(a, 1, rows, 1, cols, sorted.reference());
     sortByFlags(sorted.reference(), rows, cols, flags);
     if (removed < rows)
-        M_CopyBlock(sorted, 1, wrappingDifference(rows, removed), 1, cols, out);
+        M_CopyBlock(sorted, 1, differenceOfCounts(rows, removed), 1, cols, out);
     return removed;
 }
 
@@ -97,7 +97,7 @@ int removeColumns(matrix* a, int rows, int cols, Flags* flags, matrix* out)
     TableHandle sorted = fresh(rows, cols);
     M_Transpose(transposed.reference(), cols, rows, sorted.reference());
     if (removed < cols)
-        M_CopyBlock(sorted, 1, rows, 1, wrappingDifference(cols, removed), out);
+        M_CopyBlock(sorted, 1, rows, 1, differenceOfCounts(cols, removed), out);
     return removed;
 }
 

@@ -9,15 +9,15 @@
 
 using vecmat::copyCells;
 using vecmat::prepareResult;
+using vecmat::sumOfCounts;
 using vecmat::window;
-using vecmat::wrappingSum;
 
 namespace {
 
 template <class Top, class Bottom, class Table>
 void stack(Top* a, int r1, int c1, Bottom* b, int r2, int c2, Table*& out)
 {
-    prepareResult(out, wrappingSum(r1, r2), std::max(c1, c2));
+    prepareResult(out, sumOfCounts(r1, r2), std::max(c1, c2));
     copyCells(window(a, 0, 0), window(out, 0, 0), r1, c1);
     copyCells(window(b, 0, 0), window(out, r1, 0), r2, c2);
 }

@@ -106,12 +106,12 @@ void RemoveRowsWithMissing(Smatrix*& a, int nRows, int nCols, short* mask)
 
 void M_InsertMissing(matrix* data, int nRows, int nCols, short* mask, int nInsert, matrix* out)
 {
-    insertRows(data, vecmat::wrappingSum(nRows, nInsert), nCols, Mask(mask), out, missingValue);
+    insertRows(data, vecmat::sumOfCounts(nRows, nInsert), nCols, Mask(mask), out, missingValue);
 }
 
 void M_InsertMissingLng(matrixInt* data, int nRows, int nCols, short* mask, int nInsert, matrixInt* out)
 {
-    insertRows(data, vecmat::wrappingSum(nRows, nInsert), nCols, Mask(mask), out, missingInt);
+    insertRows(data, vecmat::sumOfCounts(nRows, nInsert), nCols, Mask(mask), out, missingInt);
 }
 
 void MatToVect_NoMissing(matrix* data, int nRows, int nCols, matrix* counts, double* emptyCols, matrix* out)

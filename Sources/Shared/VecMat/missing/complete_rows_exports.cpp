@@ -11,23 +11,15 @@
 #include "detail/borrowed_rows.h"
 
 using vecmat::copied;
+using vecmat::differenceOfCounts;
+using vecmat::sumOfCounts;
 using vecmat::viewed;
-
-namespace {
-
-/// It wraps if the numbers make no sense.
-int rowsLeft(int rows, int removed)
-{
-    return static_cast<int>(static_cast<unsigned>(rows) - static_cast<unsigned>(removed));
-}
-
-} // namespace
 
 void VB_RemoveRowsWithMissing(double* data, int nRows, int nCols, int nRemoved, short* mask, double* out)
 {
     const int cols = nCols == 0 ? 1 : nCols;
     RemoveRowsWithMissing(viewed(data, nRows, cols).reference(), nRows, cols, mask);
-    VB_M_CopyResize(data, nRows, cols, out, rowsLeft(nRows, nRemoved), cols);
+    VB_M_CopyResize(data, nRows, cols, out, differenceOfCounts(nRows, nRemoved), cols);
 }
 
 void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemoved, short* mask, wchar_t** out)
@@ -35,7 +27,7 @@ void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemo
     const int cols = nCols == 0 ? 1 : nCols;
     auto table = vecmat::borrowedCopy(data, nRows, cols);
     RemoveRowsWithMissing(table.reference(), nRows, cols, mask);
-    const auto complete = vecmat::freshBorrowed(rowsLeft(nRows, nRemoved), cols);
+    const auto complete = vecmat::freshBorrowed(differenceOfCounts(nRows, nRemoved), cols);
     vecmat::copyResized<vecmat::BorrowedTexts>(table, nRows, complete);
     vecmat::OutgoingTexts texts;
     vecmat::addTexts(texts, table, data);
@@ -46,13 +38,13 @@ void VB_RemoveRowsWithMissingStr(wchar_t** data, int nRows, int nCols, int nRemo
 void Cpp_M_InsertMissingDbl(double* data, int nRows, int nCols, short* mask, int nInsert, double* out)
 {
     M_InsertMissing(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
-                    viewed(out, vecmat::wrappingSum(nRows, nInsert), nCols));
+                    viewed(out, sumOfCounts(nRows, nInsert), nCols));
 }
 
 void Cpp_M_InsertMissingLng(int* data, int nRows, int nCols, short* mask, int nInsert, int* out)
 {
     M_InsertMissingLng(viewed(data, nRows, nCols), nRows, nCols, mask, nInsert,
-                       viewed(out, vecmat::wrappingSum(nRows, nInsert), nCols));
+                       viewed(out, sumOfCounts(nRows, nInsert), nCols));
 }
 
 void Cpp_MatToVect_NoMissing(double* data, int nRows, int nCols, double* counts, double* emptyCols, double* out)

@@ -95,10 +95,11 @@ void M_MergeStringsByRow(Smatrix* table, int nRows, int nCols, std::wstring sepa
 {
     for (int i = 0; i < nRows; ++i) {
         std::wstring joined;
-        for (int j = 0; j < nCols - 1; ++j)
-            joined += cells(table).get(i, j) + separator;
-        if (nCols > 0)
-            joined += cells(table).get(i, nCols - 1);
+        for (int j = 0; j < nCols; ++j) {
+            if (j > 0)
+                joined += separator;
+            joined += cells(table).get(i, j);
+        }
         linear(out).set(i, joined);
     }
 }

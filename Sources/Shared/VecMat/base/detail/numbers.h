@@ -30,21 +30,33 @@ constexpr unsigned linearIndex(int i, int j, int nRows)
     return static_cast<unsigned>(i) + static_cast<unsigned>(j) * static_cast<unsigned>(nRows);
 }
 
-/// Sums, differences and products of numbers of rows or columns. They wrap: a nonsensical number then fails the table's
-/// bound check.
+/// The sum of two positions. Wraps likewise.
 constexpr int wrappingSum(int a, int b)
 {
     return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
 }
 
-constexpr int wrappingDifference(int a, int b)
-{
-    return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
-}
-
+/// A product of numbers of columns. Wraps: a nonsensical number then fails the table's bound check.
 constexpr int wrappingProduct(int a, int b)
 {
     return static_cast<int>(static_cast<unsigned>(a) * static_cast<unsigned>(b));
+}
+
+/// A number of rows or columns; the lowest int, which has no cells, if it doesn't fit.
+constexpr int countWithin(long long count)
+{
+    constexpr int lowest = std::numeric_limits<int>::min();
+    return count >= lowest && count <= std::numeric_limits<int>::max() ? static_cast<int>(count) : lowest;
+}
+
+constexpr int sumOfCounts(int a, int b)
+{
+    return countWithin(static_cast<long long>(a) + b);
+}
+
+constexpr int differenceOfCounts(int a, int b)
+{
+    return countWithin(static_cast<long long>(a) - b);
 }
 
 /// How many numbers the range contains, both ends included; 0 if it ends before it starts.

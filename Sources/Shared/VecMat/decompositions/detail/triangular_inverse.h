@@ -15,8 +15,7 @@ namespace vecmat {
 
 enum class Triangle { lower, upper };
 
-// ---- one cell at a time
-// ----------------------------------------------------------------------------------------------
+// ---- one cell at a time ---------------------------------------------------------------------------------------------
 
 template <class Cells, class Out>
 void invertCellByCell(Cells a, Out out, int n, Triangle triangle)

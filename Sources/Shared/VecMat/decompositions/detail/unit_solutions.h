@@ -16,8 +16,7 @@
 
 namespace vecmat {
 
-// ---- one unit vector at a time
-// ---------------------------------------------------------------------------------------
+// ---- one unit vector at a time --------------------------------------------------------------------------------------
 
 /// Solves P' L U x = b in place of b, starting at the first non-zero element of P b.
 template <class Cells>
