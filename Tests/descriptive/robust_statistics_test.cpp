@@ -145,6 +145,13 @@ TEST(VWinsorize2, ClipsToTheQuantiles)
     EXPECT_THAT(winsorized({}, 0.1, 0.9), SameBits(std::vector<double>{}));
 }
 
+TEST(VWinsorize2, LeavesZerosOfEitherSignThatEqualALimit)
+{
+    const auto v = column({-0.0, 0.0, -0.0});
+    V_Winsorize2(v.get(), 3, 0.0, 1.0);
+    EXPECT_THAT(cellsOf(v), SameBits({-0.0, 0.0, -0.0}));
+}
+
 TEST(VWinsorize2, LeavesMissingCellsButCountsThemInBothLimits)
 {
     // Sorted M, 1, 2, 3, 4: limits 1 and 3, where 1, 2, 3, 4 alone have 1.75 and 3.25.

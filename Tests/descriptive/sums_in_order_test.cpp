@@ -27,16 +27,6 @@ constexpr int turns = 200;
 constexpr int n = 12;
 using Cells = std::vector<double>;
 
-/// Numbers of many sizes that fill their 53 bits. Those of `RandomData::normal` lie on one grid, on which sums of a few
-/// are exact, in whatever order.
-Cells numbers(RandomData& data, std::size_t count)
-{
-    Cells cells;
-    for (std::size_t i = 0; i < count; ++i)
-        cells.push_back(data.normal() * data.uniform(0.01, 3.0));
-    return cells;
-}
-
 // A product is stored before it is added, so that no compiler fuses the two.
 
 TEST(VMeanIfW, AddsRoundedProductsInTheOrderOfTheRows)
@@ -44,7 +34,7 @@ TEST(VMeanIfW, AddsRoundedProductsInTheOrderOfTheRows)
     RandomData data(20611);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells v = data.withMissing(numbers(data, n), 0.1);
+        const Cells v = data.withMissing(data.ofManySizes(n), 0.1);
         const Cells g = data.wholes(n, 1, 2);
         const Cells w = data.weights(n, 0.1);
         double sum = 0.0, weighted = 0.0, W = 0.0;
@@ -70,7 +60,7 @@ TEST(VMeanAbsDev, AddsRoundedProductsInTheOrderOfTheRows)
     RandomData data(20612);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells v = data.withMissing(numbers(data, n), 0.1);
+        const Cells v = data.withMissing(data.ofManySizes(n), 0.1);
         const Cells w = data.weights(n, 0.1);
         const double centre = data.normal();
         double sum = 0.0, W = 0.0;
@@ -91,7 +81,7 @@ TEST(MColSum2, AddsInTheOrderOfTheRows)
     RandomData data(20613);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = data.withMissing(numbers(data, n), 0.1);
+        const Cells x = data.withMissing(data.ofManySizes(n), 0.1);
         double sum = 0.0;
         for (const double cell : x)
             if (cell != M)
@@ -105,7 +95,7 @@ TEST(RMSE, AddsRoundedSquaresInTheOrderOfTheRows)
     RandomData data(20614);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells y = numbers(data, n), f = numbers(data, n);
+        const Cells y = data.ofManySizes(n), f = data.ofManySizes(n);
         double sum = 0.0;
         for (std::size_t i = 0; i < y.size(); ++i) {
             const double square = (y[i] - f[i]) * (y[i] - f[i]);
@@ -120,7 +110,7 @@ TEST(MNormalize, AddsRoundedProductsInTheOrderOfTheRows)
     RandomData data(20615);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), w = data.weights(n);
+        const Cells x = data.ofManySizes(n), w = data.weights(n);
         double sum = 0.0;
         for (std::size_t i = 0; i < x.size(); ++i) {
             const double product = x[i] * x[i] * w[i];
@@ -139,7 +129,7 @@ TEST(VMeanVarSkewPKurtP, UpdatesTheThirdPowersByRoundedProducts)
     RandomData data(20616);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < 10 * turns; ++turn) {
-        const Cells x = numbers(data, 3), w = data.weights(3);
+        const Cells x = data.ofManySizes(3), w = data.weights(3);
         double W = 0, mean = 0, M2 = 0, M3 = 0;
         for (std::size_t i = 0; i < x.size(); ++i) {
             W += w[i];
@@ -166,7 +156,7 @@ TEST(VHarmonicMean, AddsQuotientsInTheOrderOfTheRows)
     RandomData data(20617);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), w = data.weights(n);
+        const Cells x = data.ofManySizes(n), w = data.weights(n);
         double W = 0.0, quotients = 0.0;
         for (std::size_t i = 0; i < x.size(); ++i) {
             W += w[i];
@@ -182,7 +172,7 @@ TEST(TriangularFuncDeriv, RoundsEachProductAndAddsFromLeftToRight)
     RandomData data(20618);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, 4);
+        const Cells x = data.ofManySizes(4);
         const double b = x[0], x1 = x[1], m = x[2], x2 = x[3];
         const double p1 = data.uniform(0.05, 0.45), p2 = data.uniform(0.55, 0.95);
         const double r = 1.0 - p2, d = m - b;

@@ -309,6 +309,8 @@ TEST(MIsColConstant, WithoutRowsTheFirstColumnIs)
     EXPECT_EQ(arrayColumn(0, 2, {}), 1);
     EXPECT_EQ(flatColumn(2, 0, {}), 0);
     EXPECT_EQ(arrayColumn(2, 0, {}), 0);
+    ArrayOfColumns a = numberColumns(1, 2, {5, 5});
+    EXPECT_EQ(VB_M_IsColConstantSPV(a, lowestInt, 2), 1);
 }
 
 TEST(MIsColConstant, FormsAgreeWhereTheLastRowRepeats)

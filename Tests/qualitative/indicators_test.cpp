@@ -116,7 +116,9 @@ TEST(IndicatorsSPV, AllColumnsTogether)
 {
     EXPECT_EQ(ofColumns(2, 2, {0, 1, 1, 0}), -1);
     EXPECT_EQ(ofColumns(2, 2, {0, 0, 1, 0}), -1) << "a column may be without a 1";
+    EXPECT_EQ(ofColumns(2, 2, {0, 1, 0, 0}), -1);
     EXPECT_EQ(ofColumns(2, 2, {0, 0, 0, 0}), 0);
+    EXPECT_EQ(ofColumns(2, 2, {0, 2, 1, 0}), 0);
     EXPECT_EQ(ofColumns(2, 2, {0, 1, 2, 0}), 0);
     EXPECT_EQ(ofColumns(2, 2, {0, 1, M, 0}), 0);
     EXPECT_EQ(ofColumns(2, 2, {0, 1, NaN, 0}), 0);

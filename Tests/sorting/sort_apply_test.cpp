@@ -168,4 +168,12 @@ TEST(VBSortApply, noRowsIsNoWork)
     EXPECT_TRUE(cell.untouched());
 }
 
+TEST(SortApply, noCellsNeedNoTable)
+{
+    const auto order = column({1, 2});
+    matrix* none = nullptr;
+    SortApply2(none, 0, 3, order);
+    SortApply2(none, 2, 0, order);
+}
+
 } // namespace

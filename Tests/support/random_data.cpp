@@ -68,6 +68,14 @@ std::vector<double> RandomData::normals(std::size_t count)
     return drawn<double>(count, [&] { return normal(); });
 }
 
+std::vector<double> RandomData::ofManySizes(std::size_t count)
+{
+    return drawn<double>(count, [&] {
+        const double number = normal();
+        return number * uniform(0.01, 3.0);
+    });
+}
+
 std::vector<double> RandomData::wholes(std::size_t count, int low, int high)
 {
     return drawn<double>(count, [&] { return integer(low, high); });

@@ -29,6 +29,8 @@ public:
 
     std::vector<double> uniforms(std::size_t count, double low = 0.0, double high = 1.0);
     std::vector<double> normals(std::size_t count);
+    /// Numbers of either sign whose sizes differ, so that a sum of a few tells the order of its terms.
+    std::vector<double> ofManySizes(std::size_t count);
     /// Small whole numbers, as doubles, so that ties abound.
     std::vector<double> wholes(std::size_t count, int low, int high);
     std::vector<int> integers(std::size_t count, int low, int high);

@@ -18,16 +18,6 @@ constexpr int turns = 50;
 constexpr int n = 12;
 using Cells = std::vector<double>;
 
-/// Numbers of many sizes that fill their 53 bits. Those of `RandomData::normal` lie on one grid, on which sums of a few
-/// are exact, in whatever order.
-Cells numbers(RandomData& data, std::size_t count)
-{
-    Cells cells;
-    for (std::size_t i = 0; i < count; ++i)
-        cells.push_back(data.normal() * data.uniform(0.01, 3.0));
-    return cells;
-}
-
 // A product is stored before it is added, so that no compiler fuses the two.
 
 TEST(VSProd, AddsRoundedProductsInTheOrderOfTheRows)
@@ -35,7 +25,7 @@ TEST(VSProd, AddsRoundedProductsInTheOrderOfTheRows)
     RandomData data(20621);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), y = numbers(data, n);
+        const Cells x = data.ofManySizes(n), y = data.ofManySizes(n);
         Cells w = data.weights(n, 0.1);
         double sum = 0.0;
         for (std::size_t i = 0; i < x.size(); ++i) {
@@ -55,7 +45,8 @@ TEST(PredictLine, AddsComponentByComponentAndInEachInTheOrderOfTheColumns)
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
         constexpr std::size_t columns = 5, components = 3;
-        const Cells x = numbers(data, columns), t = numbers(data, components), p = numbers(data, columns * components);
+        const Cells x = data.ofManySizes(columns), t = data.ofManySizes(components),
+                    p = data.ofManySizes(columns * components);
         double sum = 0.0;
         for (std::size_t k = 0; k < components; ++k)
             for (std::size_t j = 0; j < columns; ++j) {
@@ -73,7 +64,7 @@ TEST(CalcMu, AddsInTheOrderOfTheRows)
     RandomData data(20623);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n);
+        const Cells x = data.ofManySizes(n);
         double sum = 0.0;
         for (const double cell : x)
             sum += cell;
@@ -99,7 +90,7 @@ TEST(InnerProducts, AddRoundedProductsInOrder)
     RandomData data(20624);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), y = numbers(data, n);
+        const Cells x = data.ofManySizes(n), y = data.ofManySizes(n);
         Cells w = data.weights(n), differences;
         for (std::size_t i = 0; i < x.size(); ++i)
             differences.push_back(x[i] - y[i]);
@@ -119,7 +110,7 @@ TEST(MatrixProducts, AddRoundedProductsInOrder)
     RandomData data(20625);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), y = numbers(data, n);
+        const Cells x = data.ofManySizes(n), y = data.ofManySizes(n);
         const auto square = filled(n, n, 0.0); // as many columns as the factors' sum has terms
         square->matVecProd(table(n, n,
                                  [&] {
@@ -143,7 +134,7 @@ TEST(Projections, AddRoundedProductsInOrder)
     RandomData data(20626);
     SCOPED_TRACE(data);
     for (int turn = 0; turn < turns; ++turn) {
-        const Cells x = numbers(data, n), y = numbers(data, n);
+        const Cells x = data.ofManySizes(n), y = data.ofManySizes(n);
         Cells w = data.weights(n);
         const Cells rowWeight(n, w[0]);
         const auto out = filled(1, 1, 0.0);
@@ -167,7 +158,7 @@ TEST(SubtractResidual, SubtractsTheRoundedProduct)
 {
     RandomData data(20627);
     SCOPED_TRACE(data);
-    const Cells x = numbers(data, n), scores = numbers(data, n);
+    const Cells x = data.ofManySizes(n), scores = data.ofManySizes(n);
     const double loading = data.normal();
     Cells expected;
     for (std::size_t i = 0; i < x.size(); ++i) {
