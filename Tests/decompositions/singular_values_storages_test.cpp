@@ -69,6 +69,25 @@ TEST(SVDecompOfColumns, ReachesForNoLeftVectorBeyondTheLast)
     }
 }
 
+// The last value lies where the first left vector begins: each step shows to the next. Without a full table for the right
+// vectors the steps are taken cell by cell, which leads to the same values and left vectors.
+TEST(SVDecomp, ValuesMayShareTheirLastCellWithAVector)
+{
+    constexpr int n = 12;
+    RandomData data(8401);
+    SCOPED_TRACE(data);
+    const std::vector<double> cells = data.normals(n * n);
+    const auto valuesAndVectors = [&](int columnsOfV) {
+        std::vector<double> shared(n - 1 + n * n, 0.5);
+        matrix s(n, 1, shared.data(), true), u(n, n, shared.data() + n - 1, true);
+        const Owned<matrix> v = filled(n, columnsOfV, 0.0);
+        int info = 0;
+        M_SVDecomp(table(n, n, cells), n, n, &s, &u, v, 21, &info);
+        return shared;
+    };
+    EXPECT_THAT(valuesAndVectors(n), SameBits(valuesAndVectors(n - 1)));
+}
+
 TEST(SVDecompOfColumns, NeedsNoArraysForWhatIsNotWanted)
 {
     TableColumns x(2, 2, {3, 0, 0, 4});

@@ -23,7 +23,7 @@ import mutation_schemata
 SOURCES = "Sources/Shared/VecMat"
 # Tests of the programs below Examples, tests that take long, and those of time and memory, which the switches change: they
 # run only if --tests names them.
-LEFT_OUT = re.compile(r"/examples/|/reliability/(failures|limits|threads)|memory_test")
+LEFT_OUT = re.compile(r"/examples/|/reliability/(limits|threads)|memory_test")
 
 
 class Project:
