@@ -26,7 +26,7 @@ public:
     /// All cells empty.
     BorrowedTexts(int rows, int cols) : BorrowedTexts(rows, cols, nullptr)
     {
-        own_.reset(new wchar_t* [nElems] {});
+        own_ = std::make_unique<wchar_t*[]>(nElems);
         X = own_.get();
     }
     /// The caller's array itself, to be read only.
