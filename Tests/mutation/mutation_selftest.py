@@ -187,6 +187,16 @@ class Samples(unittest.TestCase):
         self.assertNotIn("[1 => x]", printed.getvalue())
         self.assertRegex(printed.getvalue(), r"sorting +4 +1 +1 +1 +0 +1 +50.0 %\n")
 
+    def test_a_judgement_is_stale_when_its_place_is_gone_whatever_the_constant(self):
+        def name(kind, shown):
+            return "a.cpp", "f", kind, shown
+
+        mutants = [self.mutant("a.cpp", 1)._replace(kind="constant", shown="g(x, [1 => 0] );"),
+                   self.mutant("a.cpp", 2)._replace(shown="[a + b => a - b]")]
+        stale = [name("constant", "h(x, [1 => 2] );"), name("operator", "[a + b => a * b]")]
+        judged = [name("constant", "g(x, [1 => 2] );"), name("operator", "[a + b => a - b]"), *stale]
+        self.assertEqual(mutation.stale_judgements(dict.fromkeys(judged), mutants), stale)
+
     def test_a_judgement_that_a_test_contradicts_is_told(self):
         mutant = self.mutant("sorting/a.cpp", 1)
         results = mutation.Results(Path("none"))

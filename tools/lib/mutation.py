@@ -260,6 +260,18 @@ def judgements(path):
     return {tuple(row[:4]): row[4] for row in rows}
 
 
+def place_of(name):
+    """A mutant's name without the constant that is put in: which of two that is depends on where in its file the place
+    stands, and so changes with what is written above it."""
+    file, function, kind, shown = name
+    return file, function, kind, re.sub(r" => [^\[\]]*\]", "]", shown) if kind == "constant" else shown
+
+
+def stale_judgements(judged, mutants):
+    places = {place_of(mutant.name) for mutant in mutants}
+    return sorted(name for name in judged if place_of(name) not in places)
+
+
 def floor_of(mutant):
     return mutant.file.split("/")[0] if "/" in mutant.file else "tables"
 
@@ -330,8 +342,8 @@ def main():
         print(f"all of kind {given.all}:")
         every = {number for number, mutant in sample.items() if fnmatch.fnmatch(mutant.kind, given.all)}
         report([sample[number] for number in every], results, judged, [sample[n] for n in every if n >= given.sample])
-    stale = set(judged) - {mutant.name for rows in mutants.values() for mutant in rows}
-    for name in sorted(stale):
+    stale = stale_judgements(judged, (mutant for rows in mutants.values() for mutant in rows))
+    for name in stale:
         print(f"{project.judged.name}: no such place any more: {' '.join(name)}")
     print(f"{len(sample)} mutants, seed {given.seed}: {survivors} to judge, {time.monotonic() - started:.0f} s")
     return 1 if survivors or stale else 0
