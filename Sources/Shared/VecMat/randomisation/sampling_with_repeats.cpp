@@ -81,6 +81,7 @@ void vecmat::takeByCounts(Rows S, int N, int p, Rows Z, matrix* freq, matrix* id
         }
 }
 
+template void vecmat::drawWithReplacement(Smatrix*, int, int, int, Smatrix*, matrix*, int*, short, int*);
 template void vecmat::drawWithReplacement(BorrowedTexts*, int, int, int, BorrowedTexts*, matrix*, int*, short, int*);
 template void vecmat::drawWithReplacement(BorrowedTexts**, int, int, int, BorrowedTexts**, matrix*, int*, short, int*);
 template void vecmat::takeByCounts(BorrowedTexts*, int, int, BorrowedTexts*, matrix*, matrix*);
