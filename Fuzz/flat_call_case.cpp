@@ -56,6 +56,12 @@ std::optional<std::size_t> shareAnArray(Arguments& arguments, Steps& steps)
         return {};
     const std::size_t one = steps.below(count);
     const std::size_t other = steps.below(count);
+    // Of two texts for one place the second would stay, and the first be nobody's.
+    const auto isWrittenText = [&](const flat::Argument& each) {
+        return each.type == flat::Type::strings && each.role != Role::in;
+    };
+    if (isWrittenText(arguments.call().arguments[one]) && isWrittenText(arguments.call().arguments[other]))
+        return {};
     return arguments.shareArray(one, other) ? std::optional(one) : std::nullopt;
 }
 

@@ -42,7 +42,7 @@ function(vecmat_shared_library name)
     # Calls inside a library stay inside, whatever else of the same name (`ddot`, `dscal`) the process has loaded; calls
     # to the companions go through the loader and can be taken over by another build.
     target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions)
-    if(NOT VECMAT_SANITIZE) # the sanitizers' runtime is in the program, not in the library
+    if(NOT VECMAT_SANITIZE AND NOT VECMAT_COUNT_STEPS) # whose runtime is in the program, not in the library
         target_link_options(${name} PRIVATE -Wl,--no-undefined)
     endif()
 endfunction()

@@ -1,6 +1,6 @@
-// Dimensions at the lowest ints, from which nothing or just 1 can be taken away: each flat function with every mixture of
-// them and of small ones. A negative dimension has no cells, so there is nothing to do; the sanitizers see what overflows on the way
-// there, and the memory beyond the arrays shows what was taken for a number of cells.
+// Dimensions at the lowest ints, from which nothing or just 1 can be taken away: each flat function with every mixture
+// of them and of small ones. A negative dimension has no cells, so there is nothing to do. The sanitizers see what
+// overflows on the way there, and what is read or written beyond the arrays.
 #include "arguments/all_calls.h"
 
 #include "support/flat_calls/snapshots.h"

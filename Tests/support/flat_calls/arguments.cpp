@@ -120,7 +120,7 @@ Arguments::Holder Arguments::makeColumns(const Argument& argument, Steps& steps,
 
 Arguments::Holder Arguments::makeSingle(const Argument& argument, Steps& steps, Placement placement) const
 {
-    const std::wstring text = plan_.style == Style::any ? anyText(steps) : drawText(steps);
+    const std::wstring text = repeated(plan_.style == Style::any ? anyText(steps) : drawText(steps), plan_.textRepeats);
     if (argument.type == Type::text) {
         Block block((text.size() + 1) * sizeof(wchar_t), placement, std::string(argument.name));
         std::copy(text.begin(), text.end(), block.as<wchar_t>());

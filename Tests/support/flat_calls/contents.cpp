@@ -180,8 +180,18 @@ std::vector<Text> drawTexts(Steps& steps, const Filling& filling)
             cell = steps.onceIn(4) ? std::nullopt : Text(anyText(steps));
         else
             cell = words[steps.below(known)];
+        if (cell)
+            cell = repeated(*cell, filling.plan.textRepeats);
     }
     return cells;
+}
+
+std::wstring repeated(const std::wstring& text, int times)
+{
+    std::wstring all;
+    for (int k = 0; k < times; ++k)
+        all += text;
+    return all;
 }
 
 std::wstring drawText(Steps& steps)

@@ -27,6 +27,7 @@ std::vector<Text> drawTexts(Steps& steps, const Filling& filling);
 
 /// One string for a list, a separator or a value.
 std::wstring drawText(Steps& steps);
+std::wstring repeated(const std::wstring& text, int times);
 
 /// What stands in a result before the call: each cell another number.
 double prefilledNumber(Steps& steps, long long cell);

@@ -36,6 +36,7 @@ struct Plan
     Size size;
     std::uint64_t seed = 1;
     Style style = Style::plain;
+    int textRepeats = 1;              // each text is so many times what it would be
     bool outside = false;             // positions and codes leave their range now and then
     std::size_t null = noArgument;    // a null pointer here, if it may stand
     std::size_t altered = noArgument; // other contents here, and nowhere else

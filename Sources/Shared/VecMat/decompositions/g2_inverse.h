@@ -11,7 +11,7 @@
 // @empty nothing is written
 // @source Goodnight, J. H. (1979), A tutorial on the SWEEP operator, The American Statistician 33, 149-158
 // @weak `tol` is absolute: what counts as dependent changes with the scale of the table
-// @cost of the order n^2 for each pivot
+// @cost of the order n^3: n^2 for each pivot
 #pragma once
 
 #include "../base/api.h"

@@ -1,6 +1,7 @@
 // Linear equations by elimination.
 //
 // @missing an ordinary number, a large one
+// @cost of the order n^3 for the inverse, and n^2 for each right-hand side
 // @divisor the pivot; singular where it is exactly 0.0 or none is found
 // @empty 0, nothing changed
 // @failure -2 for a singular table; a and b are then left as the steps so far have made them

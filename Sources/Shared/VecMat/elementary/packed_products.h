@@ -17,6 +17,7 @@ VECMAT_API void M_ProductVASym(matrix* v, int n, matrix* s, matrix* out);
 
 /// The lower triangle of a b, packed, for two packed tables of `len` cells. The sums run over the order floor(sqrt(2
 /// len)), which is what the formula gives and not always the inverse of n(n+1)/2.
+/// @cost of the order n^3 for tables of order n
 VECMAT_API void MV_ProductAsymBsym(matrix* a, int len, matrix* b, matrix* out);
 
 // Flat forms: views of arrays of n(n+1)/2, `n` and `len` cells. The last one multiplies the table by itself; its third

@@ -19,6 +19,7 @@ VECMAT_API void GetKForVectFromIJSymMat(int i, int j, int& k);
 
 /// Row and column of position `k` in the strict upper triangle of order `n`. Neither is written where `k` is beyond its
 /// last cell; a `k` below 1 counts back from (1, 2).
+/// @cost of the order n at most
 /// @empty nothing is written
 VECMAT_API void V_GetPositionInMatNNm1o2(int k, int n, int* i, int* j);
 VECMAT_API void VB_V_GetPositionInMatNNm1o2(int k, int n, int* i, int* j);

@@ -4,6 +4,7 @@
 // @missing an ordinary number
 // @divisor the inverse of the Hessian, a g2 inverse where that is singular
 // @empty converged: 1
+// @cost of the order n^3
 #pragma once
 
 #include "../base/api.h"

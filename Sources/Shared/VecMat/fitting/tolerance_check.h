@@ -6,6 +6,7 @@
 //
 // @missing an ordinary number
 // @empty no status is written
+// @cost of the order p^3: p^2 for each variable that is swept
 // @source Marquardt, D. W. (1970), Generalized inverses, ridge regression, biased linear estimation, and nonlinear
 //     estimation, Technometrics 12 (3), 591-612
 #pragma once

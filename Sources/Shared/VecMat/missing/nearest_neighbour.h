@@ -44,7 +44,7 @@
 // @empty without rows nothing happens; a block without columns, or a null Y or S, takes no part
 // @memory with 50 rows or more a copy of the numbers of the unflagged rows, to skip those that are too far away; where
 //     that is short the search does without, with the same result
-// @cost flagged rows times candidates times columns, at most
+// @cost of the order n^2 m at most, for n rows and m columns in all: each flagged row is compared with each candidate
 #pragma once
 
 #include "../Smatrix.h"

@@ -22,6 +22,7 @@ extern "C" {
 /// 2.220446049250313e-16 is skipped with its cross terms; as the k of a later j it counts. So the last bits differ from
 /// those of a product of tables.
 /// @formula Q C Q^{\top}
+/// @cost of the order nRows^2 nCols^2
 VECMAT_API void ComputeNewVar(matrix* Q, int nRows, int nCols, matrix* C, matrix* variances, matrix*& covariances);
 
 /// C is `nCols` by `nCols`; `variances` has `nRows` elements and `covariances` `nRows` by `nRows`.

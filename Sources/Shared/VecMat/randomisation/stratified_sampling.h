@@ -29,8 +29,8 @@ extern "C" {
 ///
 /// If the strata before the last already give `n` rows or more, none is taken of the last, and the rows beyond the
 /// sample are treated as any beyond their table.
-/// @cost memory, a draw and a place in a sort for each row that `sizes` or `quota` tells of, also where the population has
-///     fewer
+/// @cost a sort of the population; then memory, a draw and a place in a sort for each row that `sizes` or `quota` tells of,
+///     also where the population has fewer: of the order nStrata m, if they tell of m rows each
 /// @seed each stratum has a series of its own, also where it draws nothing: the first with the caller's `seed` and
 ///     `seedFlag`, and what the generator makes of this `seed` is returned to the caller; each later one with what the
 ///     series before stored, and the flag -1. `seedOut` receives what the last one stored. The generator's series is

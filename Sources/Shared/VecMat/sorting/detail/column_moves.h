@@ -1,5 +1,5 @@
-// Numbers, or pointers, rearranged by a sort, column by column: each column is read in the new order and written back on its own, so
-// that the scratch memory is one column however many there are.
+// Numbers, or pointers, rearranged by a sort, column by column: each column is read in the new order and written back
+// on its own, so that the scratch memory is one column however many there are.
 //
 // The rows of a table can also be placed one after another (`placeInStableOrder`), as is required when the order of the
 // writes is observable: when rows lie beyond a table, or two columns share memory.
