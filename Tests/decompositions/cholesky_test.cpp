@@ -145,6 +145,22 @@ TEST(VBMCholDecomp, WritesTheCallersArray)
     EXPECT_THAT(l.values(), SameBits({2, 1, 0, 0}));
 }
 
+TEST(VBMCholDecomp, TheFactorMayOverlapTheTable)
+{
+    RandomData data(784);
+    SCOPED_TRACE(data);
+    for (const int n : {3, 50}) { // cell by cell, and by strips
+        const std::vector<double> cells = gramMatrix(randomMatrix(n, data), 0.05).cells;
+        const std::vector<double> expected = factorOf(cells, n).l;
+        for (const std::ptrdiff_t shift : {0, 1, n}) {
+            std::vector<double> both = cells;
+            both.resize(cells.size() + static_cast<std::size_t>(shift));
+            EXPECT_EQ(VB_M_CholDecomp(both.data(), n, both.data() + shift), 0);
+            EXPECT_THAT(std::vector<double>(both.begin() + shift, both.end()), SameBits(expected)) << n << ' ' << shift;
+        }
+    }
+}
+
 // ---- retained blocks ------------------------------------------------------------------------------------------------
 
 Factor retainedFactorOf(matrix* a, int n, const std::vector<int>& mask)

@@ -1,6 +1,7 @@
 // Dimensions at the lowest ints, from which nothing or just 1 can be taken away: each flat function with every mixture
 // of them and of small ones. A negative dimension has no cells, so there is nothing to do. The sanitizers see what
-// overflows on the way there, and what is read or written beyond the arrays.
+// overflows on the way there, and what is read or written beyond the arrays; a call that takes one for many cells runs
+// out of memory, and fails.
 #include "arguments/all_calls.h"
 
 #include "support/flat_calls/snapshots.h"
@@ -8,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <new>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -59,10 +59,7 @@ TEST_P(LowestDimensions, AreNoCells)
             if (!arguments)
                 continue;
             const std::vector<flat::Cells> before = flat::snapshotOf(*arguments);
-            try {
-                arguments->invoke();
-            } catch (const std::bad_alloc&) { // a result of nonsensical dimensions
-            }
+            arguments->invoke();
             for (std::size_t a = 0; a < call.arguments.size(); ++a)
                 if (call.arguments[a].role == flat::Role::in) {
                     EXPECT_TRUE(flat::cellsOf(*arguments, a) == before[a]) << call.arguments[a].name;

@@ -23,6 +23,7 @@ ALLOWANCE = 0.35
 ALLOWANCE_FOR_ALL = 0.6
 LEAST_STEPS = 2000  # below that, chance decides
 PRODUCT = "for each cell of the result and each step of the inner index"
+GROWING = {"count": "counts", "rows": "rows", "columns": "columns", "all": "dimensions", "texts": "texts"}
 ORDER = re.compile(r"of the order ((?:\w+(?:\^\d)? ?)+)")
 WORD = re.compile(r"(\w+?)(?:\^(\d))?$")
 
@@ -88,7 +89,8 @@ def main():
     kinds = {call.name: {argument.name: argument.domain.kind for argument in call.arguments} for call in read_calls().values()}
     found = judge(measured, costs, kinds)
     for name, growth, style, reached, allowed in found:
-        print(f"{name}: with the {growth} of {style} data it grows by the power {reached:.2f}; {allowed:.2f} is stated")
+        print(f"{name}: as its {GROWING[growth]} grow, the steps grow by the power {reached:.2f}, where {allowed:.2f} is "
+              f"stated (data: {style})")
     names = {name for name, _, _ in measured}
     print(f"{len(names)} functions, {sum(len(rows) for rows in measured.values())} calls measured, {len(found)} too steep")
     sys.exit(1 if found or not names else 0)

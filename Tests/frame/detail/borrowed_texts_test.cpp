@@ -9,6 +9,7 @@
 #include "elementary/transposition.h"
 #include "elementary/vertical_merges.h"
 #include "missing/complete_rows.h"
+#include "randomisation/interval_sampling.h"
 #include "randomisation/permutations.h"
 #include "randomisation/sampling_with_repeats.h"
 #include "randomisation/stratified_sampling.h"
@@ -159,6 +160,112 @@ TEST(BorrowedTexts, AreMovedByOrdersAndKeys)
             [&](Smatrix*& x) { SortQ(x, n, p, 1, n, key, numbers, 1, descending, -1); });
         EXPECT_THAT(flatKeys, SameBits(tableKeys));
         EXPECT_THAT(flatNumbers, SameBits(tableNumbers));
+    });
+}
+
+TEST(BorrowedTexts, AreMovedInPlace)
+{
+    forRandomTexts([](RandomData& data, Case& texts) {
+        const int n = texts.rows;
+        const int p = texts.cols;
+        const int first = data.integer(1, n);
+        Cells order = data.uniforms(static_cast<std::size_t>(n), -1.0, n + 2.0);
+        matrix orderTable(n, 1, order.data(), true);
+        expectInPlace(
+            texts, [&](auto x) { VB_SortApply2Str(x, n, p, order.data()); },
+            [&](Smatrix*& x) {
+                Smatrix source(*x);
+                SortApplyStr(&source, n, p, &orderTable, x);
+            });
+        int seed = start;
+        int next = 0;
+        expectInPlace(
+            texts, [&](auto x) { Cpp_M_ShuffleStr2(x, n, p, &seed, fromSeed, &next); },
+            [&](Smatrix*& x) {
+                int again = start;
+                M_Shuffle2(x, n, p, again, fromSeed, next);
+            });
+        expectInPlace(
+            texts, [&](auto x) { Cpp_M_CopyPasteBlockStr(x, n, p, first, n, 1, p, x, n, p, 1, 1); },
+            [&](Smatrix*& x) {
+                Smatrix source(*x);
+                M_CopyPasteBlockStr(&source, first, n, 1, p, x, 1, 1);
+            });
+        expectResult(
+            texts, n + 1, p + 1, [&](auto x, auto out) { VB_M_CopyResizeStr(x, n, p, out, n + 1, p + 1); },
+            [&](Smatrix* x, Smatrix* out) { // the source's stride: the last row of a column is the first of the next
+                for (int j = 0; j < p + 1; ++j)
+                    for (int i = 0; i < n + 1; ++i)
+                        if (const int k = i + j * n; k < n * p)
+                            out->X[j * (n + 1) + i] = x->X[k];
+            });
+    });
+}
+
+TEST(BorrowedTexts, AreAppended)
+{
+    forRandomTexts([](RandomData& data, Case& texts) {
+        const int n = texts.rows;
+        const int last = data.integer(1, n);
+        const Texts all = texts.bstrs.texts();
+        Texts expected(all.begin(), all.begin() + n);
+        expected.resize(static_cast<std::size_t>(n + last));
+        BstrArray longer(expected);
+        const auto table = texts.table();
+        std::copy_n(table->X, n, expected.begin());
+        std::copy_n(table->X, last, expected.begin() + n);
+        VB_VMergeVectorsStr2(longer, n, texts.bstrs, last);
+        EXPECT_EQ(longer.texts(), expected);
+        EXPECT_EQ(longer.countNew(), longer.size());
+    });
+}
+
+TEST(BorrowedTexts, AreTakenInIntervalsAndByCounts)
+{
+    forRandomTexts([](RandomData& data, Case& texts) {
+        const int n = texts.rows;
+        const int p = texts.cols;
+        if (n < 2)
+            return;
+        const int drawn = data.integer(2, n);
+        int next = 0;
+        const auto expectSample = [&](int rows, auto flat, auto overTable) {
+            Cells flatIds(static_cast<std::size_t>(n));
+            matrix ids(n, 1, 0.0);
+            expectResult(
+                texts, rows, p, [&](auto x, auto out) { flat(x, out, flatIds.data()); },
+                [&](Smatrix* x, Smatrix* out) { overTable(x, out, &ids); });
+            EXPECT_THAT(flatIds, SameBits(Cells(ids.X, ids.X + n)));
+        };
+        int seed = start;
+        int again = start;
+        expectSample(
+            drawn,
+            [&](auto x, auto out, double* ids) {
+                VB_M_SamplingSystematicRdStart(x, n, p, drawn, out, ids, &seed, fromSeed, &next);
+            },
+            [&](Smatrix* x, Smatrix* out, matrix* ids) {
+                M_SamplingSystematicRdStart(x, n, p, drawn, out, ids, &again, fromSeed, &next);
+            });
+        expectSample(
+            drawn, [&](auto x, auto out, double* ids) { VB_M_SamplingSystematicCentered(x, n, p, drawn, out, ids); },
+            [&](Smatrix* x, Smatrix* out, matrix* ids) { M_SamplingSystematicCentered(x, n, p, drawn, out, ids); });
+        seed = again = start;
+        expectSample(
+            drawn,
+            [&](auto x, auto out, double* ids) {
+                VB_M_SamplingRandomStratified(x, n, p, drawn, out, ids, &seed, fromSeed, &next);
+            },
+            [&](Smatrix* x, Smatrix* out, matrix* ids) {
+                M_SamplingRandomStratified(x, n, p, drawn, out, ids, &again, fromSeed, &next);
+            });
+        Cells counts(static_cast<std::size_t>(n), 1.0); // n in all
+        counts.front() = 0.0;
+        counts.back() = 2.0;
+        matrix countTable(n, 1, counts.data(), true);
+        expectSample(
+            n, [&](auto x, auto out, double* ids) { VB_M_SampleUserDefined(x, n, p, out, counts.data(), ids); },
+            [&](Smatrix* x, Smatrix* out, matrix* ids) { M_SampleUserDefined(x, n, p, out, &countTable, ids); });
     });
 }
 

@@ -55,7 +55,7 @@ Neighbours neighboursInOrder(matrix* v, int n, int place)
             return *found;
     Work sorted(v, n);
     SortQVector(sorted.reference(), n, 1, n, 0);
-    return {sorted.at(place), sorted.at(static_cast<int>(static_cast<unsigned>(place) + 1u))};
+    return {sorted.at(place), sorted.at(wrappingSum(place, 1))};
 }
 
 /// The positions of the kept rows whose value is not missing.

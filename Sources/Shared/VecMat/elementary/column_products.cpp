@@ -15,7 +15,7 @@ namespace {
 /// The new column, from 0, for column i of the first and column j of the second table.
 int pairedColumn(int i, int j, int colsB)
 {
-    return static_cast<int>(static_cast<unsigned>(wrappingProduct(i, colsB)) + static_cast<unsigned>(j));
+    return wrappingSum(wrappingProduct(i, colsB), j);
 }
 
 // The counts are multiplied without an overflow check, so these loops stay with checked access.

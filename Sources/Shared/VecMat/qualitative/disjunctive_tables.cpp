@@ -121,7 +121,7 @@ void vecmat::buildDisjunctiveTable(const Texts& table, int nRows, int nCols, int
                     target.set(i, offset + place, 1.0);
         };
         forEachText(0, nRows, chains.table(), columnOf(table, j), code);
-        offset = static_cast<int>(static_cast<unsigned>(offset) + static_cast<unsigned>(count));
+        offset = wrappingSum(offset, count);
     }
 }
 

@@ -19,16 +19,6 @@ using namespace vecmat;
 
 namespace {
 
-/// Sums that wrap if a caller's sizes are out of bounds.
-constexpr int sum(int a, int b)
-{
-    return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
-}
-constexpr int difference(int a, int b)
-{
-    return static_cast<int>(static_cast<unsigned>(a) - static_cast<unsigned>(b));
-}
-
 /// The seed of the next series. Each continues from the one before.
 struct SeedChain
 {
@@ -57,8 +47,8 @@ template <class Rows>
 Block<TableOf<Rows>> blockOf(Rows S, matrix* rowIds, int rowsBefore, int size, int room, int p)
 {
     Block<TableOf<Rows>> block(size, room, p);
-    const int first = sum(rowsBefore, 1);
-    const int last = sum(rowsBefore, size);
+    const int first = wrappingSum(rowsBefore, 1);
+    const int last = wrappingSum(rowsBefore, size);
     copyCells(window(S, rowsBefore, 0), window<TableOf<Rows>>(block.rows, 0, 0), countFromTo(first, last), p);
     M_CopyBlock(rowIds, first, last, 1, 1, block.labels.reference());
     return block;
@@ -108,7 +98,7 @@ void vecmat::drawByStrata(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, m
     for (int k = 0; k < nStrata; ++k) {
         const int size = truncated(sizeOf.get(k));
         const bool last = k == nStrata - 1;
-        const int wanted = last ? difference(n, done) : truncated(std::floor(quotaOf.get(k) + 0.5));
+        const int wanted = last ? differenceOfCounts(n, done) : truncated(std::floor(quotaOf.get(k) + 0.5));
         auto block = blockOf(S, rowIds, rowsBefore, size, std::max(size, wanted), p);
         // The quota and the size as given, possibly fractions, and then the numbers of rows.
         const bool repeats = quotaOf.get(k) > sizeOf.get(k) || size < wanted;
@@ -118,8 +108,8 @@ void vecmat::drawByStrata(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, m
         const auto label = linear<matrix>(drawn.labels);
         const auto outLabel = linear(outIds);
         for (int i = 1; i <= wanted; ++i) {
-            copyRow(cells<TableOf<Rows>>(drawn.rows), i, cells(Z), sum(done, i), p);
-            outLabel.set(zeroBased(sum(done, i)), label.get(zeroBased(i)));
+            copyRow(cells<TableOf<Rows>>(drawn.rows), i, cells(Z), wrappingSum(done, i), p);
+            outLabel.set(zeroBased(wrappingSum(done, i)), label.get(zeroBased(i)));
         }
 
         if (k == 0) {
@@ -127,8 +117,8 @@ void vecmat::drawByStrata(Rows S, int N, int p, int n, Rows Z, matrix* rowIds, m
             series.flag = goOnFromSeed;
         }
         series.goOn();
-        done = sum(done, wanted);
-        rowsBefore = sum(rowsBefore, size);
+        done = wrappingSum(done, wanted);
+        rowsBefore = wrappingSum(rowsBefore, size);
     }
     *seedOut = series.seed;
 }
