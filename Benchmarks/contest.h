@@ -63,6 +63,13 @@ struct Contender
     double tolerance; // largest deviation, in units of the largest number in the library's result
 };
 
+/// Whether OpenBLAS, LAPACK and GSL are there for the processor that the program is built for.
+#ifdef VECMAT_HEADER_PEERS_ONLY
+inline constexpr bool hasCompiledPeers = false;
+#else
+inline constexpr bool hasCompiledPeers = true;
+#endif
+
 /// For a peer whose rules give a different result.
 inline constexpr double incomparable = -1.0;
 /// The tolerance of contenders that must be bit-identical to the library.
@@ -83,6 +90,13 @@ public:
     void peer(const std::string& name, double tolerance, Action run, Result result = {})
     {
         add(name, tolerance, run, result);
+    }
+    /// A peer out of a library that is linked. Where there is none, the peer stays out, and nothing refers to its library.
+    template <class Run>
+    void compiledPeer(const std::string& name, double tolerance, Run run, Result result = {})
+    {
+        if constexpr (hasCompiledPeers)
+            add(name, tolerance, run, result);
     }
 
     /// Data for contenders outside this program.

@@ -50,9 +50,9 @@ struct Eigenvalues
         contest.ours([this] { VB_M_Eigen(a.data(), values.data(), vectors.data(), n, -1); }, eigenvalues);
         contest.plain([this] { plain::eigen(a.data(), values.data(), vectors.data(), n); },
                       [this] { return agreement(); });
-        contest.peer(
+        contest.compiledPeer(
             "LAPACK dsyev", tolerance, [this] { byLapack(); }, eigenvalues);
-        contest.peer(
+        contest.compiledPeer(
             "GSL", tolerance, [this] { byGsl(); }, eigenvalues);
         contest.peer(
             "Eigen", tolerance, [this] { byEigen(); }, eigenvalues);

@@ -50,7 +50,7 @@ struct LeastSquares
                 plain::leastSquares(n, cols, x.data(), y.data(), w.data(), tol, beta.data(), se.data(), fitted.data());
             },
             [this] { return agreement(); });
-        contest.peer(
+        contest.compiledPeer(
             "LAPACK dgels", tolerance, [this] { byLapack(); }, coefficients);
         contest.peer(
             "Eigen, Householder QR", tolerance,

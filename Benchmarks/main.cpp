@@ -9,13 +9,11 @@
 // A benchmark is named workload/contender/size. Its counter "best" is the shortest run, in seconds of processor time:
 // "min" is the aggregate to read. "deviation" is the distance of the result from the library's.
 #include "contest.h"
+#include "judged.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
-#include <cstdint>
 #include <iostream>
 #include <limits>
 #include <optional>
@@ -66,81 +64,6 @@ Options taken(int& argc, char** argv)
     return options;
 }
 
-// ---- are the results the same ---------------------------------------------------------------------------------------
-
-bool haveSameBits(const Cells& left, const Cells& right)
-{
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](double a, double b) {
-        return (std::isnan(a) && std::isnan(b)) || std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
-    });
-}
-
-/// The largest difference in units of the largest number; infinite if the shapes differ or a number is NaN.
-double deviation(const Cells& expected, const Cells& actual)
-{
-    if (expected.size() != actual.size())
-        return std::numeric_limits<double>::infinity();
-    double largest = 0.0;
-    double difference = 0.0;
-    for (std::size_t k = 0; k < expected.size(); ++k) {
-        if (expected[k] == actual[k])
-            continue;
-        const double apart = std::fabs(expected[k] - actual[k]);
-        if (std::isnan(apart))
-            return std::numeric_limits<double>::infinity();
-        difference = std::max(difference, apart);
-    }
-    for (const double cell : expected)
-        if (cell != M)
-            largest = std::max(largest, std::fabs(cell));
-    return difference == 0.0 ? 0.0 : difference / largest;
-}
-
-/// A stage with the verdict on each contender.
-class Judged
-{
-public:
-    struct Verdict
-    {
-        double deviation = 0.0;
-        std::string error;
-    };
-
-    Judged(const Entry& entry, int size, const Options& options) : stage_(entry.stage(size))
-    {
-        const auto& contenders = stage_->contest().contenders();
-        const Cells expected = stage_->contest().resultOf(contenders.front());
-        for (const Contender& contender : contenders) {
-            Verdict verdict;
-            const bool exact = contender.tolerance == sameBits;
-            if (exact || options.takes(contender, verdicts_.size()))
-                verdict = judged(contender, expected);
-            // If the library and the plain loop differ, either may be wrong.
-            if (exact && !verdict.error.empty() && !verdicts_.empty())
-                verdicts_.front().error = verdict.error + " (" + contender.name + ")";
-            verdicts_.push_back(verdict);
-        }
-    }
-
-    const Contest& contest() const { return stage_->contest(); }
-    const Verdict& verdict(std::size_t contender) const { return verdicts_[contender]; }
-
-private:
-    Verdict judged(const Contender& contender, const Cells& expected) const
-    {
-        const Cells actual = contest().resultOf(contender);
-        Verdict verdict{deviation(expected, actual), {}};
-        if (contender.tolerance == sameBits && !haveSameBits(expected, actual))
-            verdict.error = "other bits";
-        else if (contender.tolerance > sameBits && !(verdict.deviation <= contender.tolerance))
-            verdict.error = "deviates by " + std::to_string(verdict.deviation);
-        return verdict;
-    }
-
-    std::unique_ptr<Stage> stage_;
-    std::vector<Verdict> verdicts_;
-};
-
 /// The stage of the current benchmark. They come workload by workload, so only one is kept at a time.
 const Judged& judgedStage(const Entry& entry, int size, const Options& options)
 {
@@ -149,7 +72,9 @@ const Judged& judgedStage(const Entry& entry, int size, const Options& options)
     static int currentSize = 0;
     if (currentEntry != &entry || currentSize != size) {
         current.reset();
-        current.emplace(entry, size, options);
+        current.emplace(entry, size, [&options](const Contender& contender, std::size_t number) {
+            return options.takes(contender, number);
+        });
         currentEntry = &entry;
         currentSize = size;
     }

@@ -77,7 +77,7 @@ struct ColumnMeans : WeightedColumns
         contest.outputs({&mean});
         contest.ours([this] { VB_M_Mean(x.data(), n, cols, mean.data(), 0, w.data()); });
         contest.plain([this] { plain::columnMeans(x.data(), n, cols, mean.data(), w.data()); });
-        contest.peer("GSL", 1e-9, [this] { gslMeans(); });
+        contest.compiledPeer("GSL", 1e-9, [this] { gslMeans(); });
     }
 };
 
@@ -94,7 +94,7 @@ struct ColumnDeviations : WeightedColumns
             VB_M_MeanStDev(x.data(), n, cols, mean.data(), deviation.data(), mask.data(), w.data(), -1, 0, 0);
         });
         contest.plain([this] { plain::columnDeviations(x.data(), n, cols, mean.data(), deviation.data(), w.data()); });
-        contest.peer(
+        contest.compiledPeer(
             "GSL", onePass,
             [this] {
                 gslVariances(deviation);
@@ -120,7 +120,7 @@ struct ColumnVariances : WeightedColumns
         contest.plain([this] {
             plain::columnVariances(x.data(), n, cols, mean.data(), deviation.data(), variance.data(), w.data());
         });
-        contest.peer(
+        contest.compiledPeer(
             "GSL", onePass, [this] { gslVariances(variance); },
             [this] { return together(mean, variance, divisorRatio()); });
     }
@@ -145,7 +145,7 @@ struct FourMoments
                                    &sample[0], &sample[1], &sample[2], &sample[3], nullptr, w.data(), -1, 0);
         });
         contest.plain([this] { plain::fourMoments(x.data(), lengthOf(x), w.data(), moments.data()); });
-        contest.peer("GSL", onePass, [this] {
+        contest.compiledPeer("GSL", onePass, [this] {
             const std::size_t n = x.size();
             moments[0] = gsl_stats_mean(x.data(), 1, n);
             moments[1] = gsl_stats_variance_m(x.data(), 1, n, moments[0]);

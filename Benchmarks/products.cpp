@@ -33,7 +33,7 @@ struct Product
         contest.share("b", b);
         contest.ours([this] { VB_M_ProductAB(a.data(), n, n, b.data(), n, out.data()); });
         contest.plain([this] { plain::product(a.data(), n, n, b.data(), n, out.data()); });
-        contest.peer("OpenBLAS dgemm", reordered, [this] {
+        contest.compiledPeer("OpenBLAS dgemm", reordered, [this] {
             cblas_dgemm(CblasColMajor, CblasNoTrans, CblasNoTrans, n, n, n, 1.0, a.data(), n, b.data(), n, 0.0,
                         out.data(), n);
         });
@@ -55,7 +55,7 @@ struct CrossProduct
         contest.share("a", a);
         contest.ours([this] { VB_M_ProductTrAA(a.data(), n, n, out.data()); });
         contest.plain([this] { plain::crossProduct(a.data(), n, n, out.data()); });
-        contest.peer("OpenBLAS dsyrk", reordered, [this] {
+        contest.compiledPeer("OpenBLAS dsyrk", reordered, [this] {
             cblas_dsyrk(CblasColMajor, CblasUpper, CblasTrans, n, n, 1.0, a.data(), n, 0.0, out.data(), n);
             for (int j = 0; j < n; ++j)
                 for (int i = j + 1; i < n; ++i)
@@ -97,7 +97,7 @@ protected:
         contest.share("v", v);
         contest.ours(std::move(ours));
         contest.plain(std::move(plain));
-        contest.peer("OpenBLAS dgemv", reordered, [this, transposition] {
+        contest.compiledPeer("OpenBLAS dgemv", reordered, [this, transposition] {
             cblas_dgemv(CblasColMajor, transposition, n, n, 1.0, b.data(), n, v.data(), 1, 0.0, out.data(), 1);
         });
     }

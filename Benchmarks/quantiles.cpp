@@ -37,7 +37,7 @@ struct Quantile
             const double next = *std::min_element(place + 1, cells.end());
             result[0] = (1.0 - (position - below)) * *place + (position - below) * next;
         });
-        contest.peer("GSL", 1e-15, [this] {
+        contest.compiledPeer("GSL", 1e-15, [this] {
             Cells cells = x;
             gsl_sort(cells.data(), 1, cells.size());
             result[0] = gsl_stats_quantile_from_sorted_data(cells.data(), 1, cells.size(), p);

@@ -267,8 +267,8 @@ def machine():
             f"{' '.join(sets)}; {platform.system()} {platform.release()}")
 
 
-def record(page, tables):
-    text, count = RECORDED.subn(lambda match: f"{match[1]}\n{tables}\n{match[2]}", page.read_text(encoding="utf-8"))
+def record(page, tables, place=RECORDED):
+    text, count = place.subn(lambda match: f"{match[1]}\n{tables}\n{match[2]}", page.read_text(encoding="utf-8"))
     if count != 1:
         sys.exit(f"{page} has no place for the tables")
     page.write_text(text, encoding="utf-8")

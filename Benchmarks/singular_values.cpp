@@ -38,9 +38,9 @@ struct SingularValues
                      values);
         contest.plain([this] { plain::singularValues(x.data(), n, p, s.data(), u.data(), v.data()); },
                       [this] { return agreement(); });
-        contest.peer(
+        contest.compiledPeer(
             "LAPACK dgesvd", tolerance, [this] { byLapack(); }, values);
-        contest.peer(
+        contest.compiledPeer(
             "GSL", tolerance, [this] { byGsl(); }, values);
         contest.peer(
             "Eigen", tolerance, [this] { byEigen(); }, values);
