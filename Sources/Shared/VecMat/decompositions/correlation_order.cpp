@@ -5,11 +5,14 @@
 #include "../descriptive/moments.h"
 #include "../elementary/extremes.h"
 #include "../elementary/transposition.h"
+#include "../frame/detail/borrowed_texts.h"
 #include "../frame/detail/handles.h"
 #include "../missing/missing_counts.h"
 #include "../sorting/copy_block.h"
+#include "../sorting/detail/borrowed_rows.h"
 #include "../sorting/sort.h"
 #include "../sorting/sort_apply.h"
+#include "detail/borrowed_labels.h"
 #include "eigen.h"
 
 #include <memory>
@@ -95,16 +98,16 @@ void reorderBothAxes(Table* table, int n, matrix* order)
     M_CopyBlock(result, 1, n, 1, n, table);
 }
 
-void reorderLabels(Smatrix* labels, int n, matrix* order)
+template <class Texts>
+void reorderLabels(Texts* labels, int n, matrix* order)
 {
-    StringTableHandle result = freshStrings(n, 1);
+    const TextHandle<Texts> result(new Texts(n, 1));
     SortApplyStr(labels, n, 1, order, result);
     M_CopyBlock(result, 1, n, 1, 1, labels);
 }
 
-} // namespace
-
-int ReOrderCorrelations(matrix* R, int n, int mode, Smatrix* labels, matrix* second, matrixInt* third)
+template <class Texts>
+int reorder(matrix* R, int n, int mode, Texts* labels, matrix* second, matrixInt* third)
 {
     const TableHandle order = descendingOrder(scores(R, n, mode), n);
     reorderLabels(labels, n, order);
@@ -112,4 +115,16 @@ int ReOrderCorrelations(matrix* R, int n, int mode, Smatrix* labels, matrix* sec
     reorderBothAxes(second, n, order);
     reorderBothAxes(third, n, order);
     return 0;
+}
+
+} // namespace
+
+int ReOrderCorrelations(matrix* R, int n, int mode, Smatrix* labels, matrix* second, matrixInt* third)
+{
+    return reorder(R, n, mode, labels, second, third);
+}
+
+int vecmat::ReOrderCorrelations(matrix* R, int n, int mode, BorrowedTexts* labels, matrix* second, matrixInt* third)
+{
+    return reorder(R, n, mode, labels, second, third);
 }

@@ -1,13 +1,15 @@
 #include "correlation_order.h"
 
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_labels.h"
 
 using namespace vecmat;
 
 int Cpp_ReOrderCorrelations(double* R, int n, int mode, wchar_t** labels, double* second, int* third)
 {
     const TableHandle correlations = copied(R, n, n);
-    const StringTableHandle texts = copied(labels, n, 1);
+    const BorrowedHandle texts = borrowedCopy(labels, n, 1);
     const TableHandle companion = copied(second, n, n);
     const IntTableHandle intCompanion = copied(third, n, n);
     const int status = ReOrderCorrelations(correlations, n, mode, texts, companion, intCompanion);

@@ -1,10 +1,11 @@
 #include "filling.h"
 
 #include "../base/detail/numbers.h"
-#include "../frame/detail/handles.h"
+#include "../base/detail/outgoing_texts.h"
 
 #include <algorithm>
 #include <numeric>
+#include <string>
 
 using vecmat::countOf;
 
@@ -30,9 +31,13 @@ void VB_V_SetToValueLng(int* v, int n, int value)
 
 void VB_V_SetToValueStr(wchar_t** v, int n, const wchar_t* value)
 {
-    const auto strings = vecmat::freshStrings(n, 1);
-    V_SetToValueStr(strings, n, value);
-    vecmat::handBack(strings, v);
+    if (v == nullptr)
+        return;
+    const std::wstring text = value;
+    vecmat::OutgoingTexts texts;
+    for (int i = 0; i < n; ++i)
+        texts.add(text, v + i);
+    texts.store();
 }
 
 void VB_V_Set1toNDbl(double* v, int n)

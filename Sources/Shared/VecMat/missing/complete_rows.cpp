@@ -5,8 +5,8 @@
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
-#include "../elementary/detail/caller_text.h"
 #include "../frame/detail/borrowed_texts.h"
+#include "../frame/detail/caller_text.h"
 #include "detail/borrowed_rows.h"
 
 #include <limits>

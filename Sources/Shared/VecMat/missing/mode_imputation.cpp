@@ -1,41 +1,51 @@
 #include "mode_imputation.h"
 
 #include "../access/cells.h"
-#include "../frame/detail/handles.h"
-#include "../qualitative/categories.h"
+#include "../elementary/detail/texts.h"
+#include "../frame/detail/borrowed_texts.h"
+#include "../frame/detail/caller_text.h"
+#include "../qualitative/detail/text_calls.h"
+#include "detail/borrowed_rows.h"
 
-using vecmat::block;
-using vecmat::cells;
-using vecmat::linear;
-using vecmat::onBlocks;
-using vecmat::StringTableHandle;
+#include <cstddef>
+#include <string>
+#include <vector>
+
+using namespace vecmat;
 
 namespace {
 
-StringTableHandle modesOfColumns(Smatrix* table, int rows, int cols, matrix* weights)
+bool isEmptyText(const std::wstring& text)
 {
-    StringTableHandle modes;
-    vecmat::TableHandle modeWeights;
-    vecmat::IntTableHandle nCats;
-    StringTableHandle categories;
-    vecmat::TableHandle catWeights;
-    int total = 0;
-    M_InfoQuali(table, rows, cols, modes.reference(), modeWeights.reference(), nCats.reference(),
-                categories.reference(), catWeights.reference(), weights, &total, 0);
-    return modes;
+    return text.empty();
+}
+bool isEmptyText(const wchar_t* bstr)
+{
+    return Bstr(bstr).empty();
+}
+
+template <class Table, class Text>
+void fillWith(const std::vector<Text>& modes, Table* table, int nRows, int nCols)
+{
+    onBlocks(
+        [&](auto x) {
+            for (int j = 0; j < nCols; ++j)
+                for (int i = 0; i < nRows; ++i)
+                    if (isEmptyText(x.get(i, j)))
+                        x.set(i, j, modes[static_cast<std::size_t>(j)]);
+        },
+        block(cells(table), nRows, nCols));
 }
 
 } // namespace
 
 void EstimateRowsWithMissingMode(Smatrix* statS, int nStat, Smatrix*& S, int nRows, int nCols, matrix* weights)
 {
-    const StringTableHandle modes = modesOfColumns(statS, nStat, nCols, weights);
-    onBlocks(
-        [&](auto x) {
-            for (int j = 0; j < nCols; ++j)
-                for (int i = 0; i < nRows; ++i)
-                    if (x.get(i, j).empty())
-                        x.set(i, j, linear<Smatrix>(modes).get(j));
-        },
-        block(cells(S), nRows, nCols));
+    fillWith(modesOfColumns(TableTexts(statS), nStat, nCols, weights), S, nRows, nCols);
+}
+
+void vecmat::EstimateRowsWithMissingMode(const CallerTexts& statS, int nStat, BorrowedTexts* S, int nRows, int nCols,
+                                         matrix* weights)
+{
+    fillWith(modesOfColumns(statS, nStat, nCols, weights), S, nRows, nCols);
 }

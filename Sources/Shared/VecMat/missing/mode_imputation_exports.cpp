@@ -1,23 +1,25 @@
 #include "mode_imputation.h"
 
+#include "../elementary/detail/texts.h"
+#include "../frame/detail/borrowed_handles.h"
 #include "../frame/detail/handles.h"
+#include "detail/borrowed_rows.h"
 
-using vecmat::copied;
+using vecmat::borrowedCopy;
+using vecmat::CallerTexts;
 using vecmat::handBack;
 using vecmat::viewed;
 
-void VB_EstimateRowsWithMissingMode(wchar_t** S, int n, int nCols, short* /*mask*/, double* weights)
+void VB_EstimateRowsWithMissingMode(wchar_t** S, int n, int nCols, short* mask, double* weights)
 {
-    auto table = copied(S, n, nCols);
-    EstimateRowsWithMissingMode(table, n, table.reference(), n, nCols, viewed(weights, n, 1));
-    handBack(table, S);
+    VB_EstimateRowsWithMissingModePred(S, n, S, n, nCols, mask, weights);
 }
 
 void VB_EstimateRowsWithMissingModePred(wchar_t** statS, int nStat, wchar_t** S, int nRows, int nCols, short* /*mask*/,
                                         double* weights)
 {
-    auto table = copied(S, nRows, nCols);
-    EstimateRowsWithMissingMode(copied(statS, nStat, nCols), nStat, table.reference(), nRows, nCols,
-                                viewed(weights, nStat, 1));
+    const auto table = borrowedCopy(S, nRows, nCols);
+    vecmat::EstimateRowsWithMissingMode(CallerTexts(statS, nStat, nCols), nStat, table, nRows, nCols,
+                                        viewed(weights, nStat, 1));
     handBack(table, S);
 }

@@ -3,11 +3,15 @@
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
 #include "../descriptive/moments.h"
+#include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
-#include "../qualitative/categories.h"
+#include "../qualitative/detail/text_calls.h"
 #include "detail/neighbour_search.h"
+#include "detail/neighbour_texts.h"
+#include "detail/numbered_texts.h"
 
 #include <algorithm>
+#include <vector>
 
 using namespace vecmat;
 
@@ -33,17 +37,18 @@ struct Numbers
     }
 };
 
-/// The same for a block of strings.
+/// The same for a block of strings, or of their numbers.
+template <class Table>
 struct Texts
 {
-    Smatrix* table;
+    Table* table;
     int cols;
-    StringTableHandle modes;
+    std::vector<typename CellOf<Table>::Value> modes;
 
     template <class Cells>
     StringBlock<Cells> over(Cells cells) const
     {
-        return {cells, cols, cols > 0 ? modes->X : nullptr};
+        return {cells, cols, modes.data()};
     }
 };
 
@@ -75,23 +80,23 @@ Numbers<Storage> numbers(Storage statistics, int nStat, Storage target, int cols
     return block;
 }
 
-Texts texts(Smatrix* statistics, int nStat, Smatrix* target, int cols, matrix* weights)
+Texts<Smatrix> texts(Smatrix* statistics, int nStat, Smatrix* target, int cols, matrix* weights)
 {
-    Texts block{target, columnsPresent(target, cols), {}};
-    if (block.cols == 0)
-        return block;
-    TableHandle modeWeights;
-    IntTableHandle nCats;
-    StringTableHandle categories;
-    TableHandle catWeights;
-    int total = 0;
-    M_InfoQuali(statistics, nStat, block.cols, block.modes.reference(), modeWeights.reference(), nCats.reference(),
-                categories.reference(), catWeights.reference(), weights, &total, 0);
-    return block;
+    const int present = columnsPresent(target, cols);
+    return {target, present, modesOfColumns(TableTexts(statistics), nStat, present, weights)};
 }
 
-template <class Primary, class Second>
-void fillFromNeighbours(const Primary& primary, const Second& second, const Texts& strings, int nRows,
+Texts<NumberedTexts> texts(const TextBlock& block, int nStat, matrix* weights)
+{
+    const int present = columnsPresent(block.target, block.cols);
+    Texts<NumberedTexts> numbered{block.target, present, {}};
+    for (const wchar_t* mode : modesOfColumns(block.statistics, nStat, present, weights))
+        numbered.modes.push_back(block.numbers.of(mode));
+    return numbered;
+}
+
+template <class Primary, class Second, class Strings>
+void fillFromNeighbours(const Primary& primary, const Second& second, const Strings& strings, int nRows,
                         const short* mask)
 {
     onBlocks(
@@ -104,12 +109,22 @@ void fillFromNeighbours(const Primary& primary, const Second& second, const Text
 
 } // namespace
 
+// Over tables of strings, and over a caller's texts.
+
 void EstimateRowsWithMissingNN(matrix* statX, int nStat, matrix*& X, int nRows, int nColsX, short* mask, matrix* statY,
                                matrix*& Y, int nColsY, Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
 {
     fillFromNeighbours(numbers<matrix*>(statX, nStat, X, nColsX, weights, Divisor::frequencies),
                        numbers<matrix*>(statY, nStat, Y, nColsY, weights, Divisor::meanWeight),
                        texts(statS, nStat, S, nColsS, weights), nRows, mask);
+}
+
+void vecmat::EstimateRowsWithMissingNN(matrix* statX, int nStat, matrix* X, int nRows, int nColsX, const short* mask,
+                                       matrix* statY, matrix* Y, int nColsY, const TextBlock& S, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix*>(statX, nStat, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix*>(statY, nStat, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(S, nStat, weights), nRows, mask);
 }
 
 void EstimateRowsWithMissingNNStr(Smatrix* statX, int nStat, Smatrix*& X, int nRows, int nColsX, short* mask,
@@ -121,6 +136,14 @@ void EstimateRowsWithMissingNNStr(Smatrix* statX, int nStat, Smatrix*& X, int nR
                        texts(statS, nStat, S, nColsS, weights), nRows, mask);
 }
 
+void vecmat::EstimateRowsWithMissingNN(const TextBlock& X, int nStat, int nRows, const short* mask, matrix* statY,
+                                       matrix* Y, int nColsY, const TextBlock& S, matrix* weights)
+{
+    fillFromNeighbours(texts(X, nStat, weights),
+                       numbers<matrix*>(statY, nStat, Y, nColsY, weights, Divisor::meanWeight),
+                       texts(S, nStat, weights), nRows, mask);
+}
+
 void EstimateRowsWithMissingNNSPV(matrix** X, int nRows, int nColsX, short* mask, matrix* statY, matrix*& Y, int nColsY,
                                   Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
 {
@@ -129,10 +152,26 @@ void EstimateRowsWithMissingNNSPV(matrix** X, int nRows, int nColsX, short* mask
                        texts(statS, nRows, S, nColsS, weights), nRows, mask);
 }
 
+void vecmat::EstimateRowsWithMissingNN(matrix** X, int nRows, int nColsX, const short* mask, matrix* Y, int nColsY,
+                                       const TextBlock& S, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix**>(X, nRows, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix*>(Y, nRows, Y, nColsY, weights, Divisor::meanWeight), texts(S, nRows, weights),
+                       nRows, mask);
+}
+
 void EstimateRowsWithMissingNNSPV2(matrix** X, int nRows, int nColsX, short* mask, matrix** statY, matrix** Y,
                                    int nColsY, Smatrix* statS, Smatrix*& S, int nColsS, matrix* weights)
 {
     fillFromNeighbours(numbers<matrix**>(X, nRows, X, nColsX, weights, Divisor::frequencies),
                        numbers<matrix**>(statY, nRows, Y, nColsY, weights, Divisor::meanWeight),
                        texts(statS, nRows, S, nColsS, weights), nRows, mask);
+}
+
+void vecmat::EstimateRowsWithMissingNN(matrix** X, int nRows, int nColsX, const short* mask, matrix** Y, int nColsY,
+                                       const TextBlock& S, matrix* weights)
+{
+    fillFromNeighbours(numbers<matrix**>(X, nRows, X, nColsX, weights, Divisor::frequencies),
+                       numbers<matrix**>(Y, nRows, Y, nColsY, weights, Divisor::meanWeight), texts(S, nRows, weights),
+                       nRows, mask);
 }

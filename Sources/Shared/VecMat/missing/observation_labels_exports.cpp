@@ -1,16 +1,19 @@
 #include "observation_labels.h"
 
 #include "../base/detail/numbers.h"
-#include "../frame/detail/handles.h"
+#include "../base/detail/outgoing_texts.h"
+#include "detail/text_calls.h"
 
 #include <algorithm>
 #include <vector>
 
 void VB_ReplaceMissingObsLabels(wchar_t** labels, int n, short* mask, const wchar_t* prefix)
 {
-    auto table = vecmat::copied(labels, n, 1);
+    if (labels == nullptr)
+        return;
     std::vector<short> open(mask, mask + vecmat::countOf(n));
-    ReplaceMissingObsLabels(table.reference(), n, open.data(), prefix);
-    vecmat::handBack(table, labels);
+    vecmat::OutgoingTexts texts;
+    vecmat::replaceMissingObsLabels(labels, n, open.data(), prefix, texts);
+    texts.store();
     std::copy(open.begin(), open.end(), mask);
 }

@@ -1,6 +1,11 @@
 #include "replacement.h"
 
+#include "../base/detail/numbers.h"
+#include "../base/detail/outgoing_texts.h"
+#include "../frame/detail/caller_text.h"
 #include "../frame/detail/handles.h"
+
+#include <string>
 
 using vecmat::viewed;
 
@@ -16,9 +21,17 @@ void VB_M_ReplaceMissingByValSPV(SAFEARRAY** a, int nRows, int nCols, double val
 
 void VB_M_ReplaceMissingByStr(wchar_t** a, int nRows, int nCols, const wchar_t* value)
 {
-    const auto table = vecmat::copied(a, nRows, nCols);
-    M_ReplaceMissingByStr(table, nRows, nCols, value);
-    vecmat::handBack(table, a);
+    if (a == nullptr)
+        return;
+    const std::wstring text = value;
+    vecmat::OutgoingTexts texts;
+    const unsigned cells = vecmat::elementCount(nRows, nCols);
+    for (unsigned k = 0; k < cells; ++k)
+        if (vecmat::Bstr(a[k]).empty())
+            texts.add(text, a + k);
+        else
+            texts.add(a + k, 1, a + k);
+    texts.store();
 }
 
 void Cpp_M_ReplaceByMissing(double* a, int nRows, int nCols, int* mask, int nMaskCols, short wholeRow)

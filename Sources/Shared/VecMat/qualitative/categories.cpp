@@ -1,15 +1,19 @@
 #include "categories.h"
 
 #include "../access/cells.h"
-#include "../elementary/detail/caller_text.h"
-#include "../elementary/detail/text_table.h"
+#include "../base/detail/numbers.h"
 #include "../elementary/detail/texts.h"
+#include "../frame/detail/caller_text.h"
+#include "../frame/detail/text_table.h"
 #include "detail/category_lists.h"
 #include "detail/category_order.h"
 #include "detail/text_calls.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
+#include <string_view>
+#include <vector>
 
 using namespace vecmat;
 
@@ -87,6 +91,32 @@ void summarize(const Texts& table, int nRows, int nCols, int places, matrix* wei
     *total = static_cast<int>(sum);
 }
 
+std::wstring ownText(std::wstring_view text)
+{
+    return std::wstring(text);
+}
+wchar_t* ownText(const CallerText::Characters& text)
+{
+    return text.bstr().cell();
+}
+
+/// `Own` is what a mode is kept as: its column may change before it is used.
+template <class Own, class Texts>
+std::vector<Own> modes(const Texts& table, int nRows, int nCols, matrix* weights)
+{
+    std::vector<Own> found(countOf(nCols));
+    if (nRows < 1) // a list without places
+        return found;
+    WeightedCategories<typename Texts::Text> list(nRows);
+    for (int j = 0; j < nCols; ++j) {
+        list.clear();
+        collect(table, nRows, j, weights, list);
+        const int mode = heaviest(list.size(), [&list](int place) { return list.weight(place); });
+        found[static_cast<std::size_t>(j)] = ownText(list.text(mode));
+    }
+    return found;
+}
+
 void sortLists(const Summary& result, int nCols, matrixInt* nCats)
 {
     for (int j = 0; j < nCols; ++j)
@@ -108,6 +138,16 @@ void vecmat::infoQuali(const Texts& table, int nRows, int nCols, Smatrix*& modes
     });
     if (sortCats != 0)
         sortLists(result, nCols, nCats);
+}
+
+std::vector<std::wstring> vecmat::modesOfColumns(const TableTexts& table, int nRows, int nCols, matrix* weights)
+{
+    return modes<std::wstring>(table, nRows, nCols, weights);
+}
+
+std::vector<wchar_t*> vecmat::modesOfColumns(const CallerTexts& table, int nRows, int nCols, matrix* weights)
+{
+    return modes<wchar_t*>(table, nRows, nCols, weights);
 }
 
 template <class Texts>

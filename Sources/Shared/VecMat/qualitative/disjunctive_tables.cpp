@@ -3,8 +3,8 @@
 #include "../access/cells.h"
 #include "../base/detail/masks.h"
 #include "../base/detail/numbers.h"
-#include "../elementary/detail/text_table.h"
 #include "../elementary/detail/texts.h"
+#include "../frame/detail/text_table.h"
 #include "detail/category_lists.h"
 #include "detail/text_calls.h"
 

@@ -1,9 +1,9 @@
 #include "distinct.h"
 
 #include "../access/cells.h"
-#include "../elementary/detail/text_table.h"
 #include "../elementary/detail/texts.h"
 #include "../frame/detail/handles.h"
+#include "../frame/detail/text_table.h"
 #include "../sorting/copy_block.h"
 #include "../sorting/sort.h"
 #include "detail/text_calls.h"

@@ -1,22 +1,29 @@
 #include "labels.h"
 
 #include "../base/detail/companions.h"
-#include "../frame/detail/handles.h"
+#include "../base/detail/outgoing_texts.h"
+#include "../elementary/detail/texts.h"
+#include "../frame/detail/borrowed_handles.h"
+#include "detail/text_calls.h"
 
-using vecmat::copied;
-using vecmat::freshStrings;
-using vecmat::handBack;
+using vecmat::CallerTexts;
+using vecmat::OutgoingTexts;
 
 void VB_V_ReplaceDoubles(wchar_t** x, int n)
 {
-    const auto labels = copied(x, n, 1);
-    V_ReplaceDoubles(labels, n);
-    handBack(labels, x);
+    if (x == nullptr)
+        return;
+    const auto labels = vecmat::borrowedCopy(x, n, 1);
+    OutgoingTexts texts;
+    vecmat::replaceDoubles(labels->X, n, texts, x);
+    texts.store();
 }
 
 void Cpp_M_MergeStringsByRow(wchar_t** table, int nRows, int nCols, const void* separator, wchar_t** out)
 {
-    const auto joined = freshStrings(nRows, 1);
-    M_MergeStringsByRow(copied(table, nRows, nCols), nRows, nCols, convToWstring(separator), joined);
-    handBack(joined, out);
+    if (out == nullptr)
+        return;
+    OutgoingTexts texts;
+    vecmat::mergeStringsByRow(CallerTexts(table, nRows, nCols), nRows, nCols, convToWstring(separator), texts, out);
+    texts.store();
 }

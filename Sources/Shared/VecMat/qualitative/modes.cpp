@@ -3,9 +3,9 @@
 #include "../access/cells.h"
 #include "../base/detail/numbers.h"
 #include "../base/missing_value.h"
-#include "../elementary/detail/caller_text.h"
-#include "../elementary/detail/text_table.h"
 #include "../elementary/detail/texts.h"
+#include "../frame/detail/caller_text.h"
+#include "../frame/detail/text_table.h"
 #include "detail/category_lists.h"
 #include "detail/text_calls.h"
 

@@ -11,6 +11,7 @@
 #include "detail/key_order.h"
 #include "detail/sort_by_key.h"
 #include "detail/stable_order.h"
+#include "detail/text_keys.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -44,15 +45,28 @@ int sortByIndicator(Data data, int n, int nCols, matrix* key)
     return 0;
 }
 
-/// A column compares as doubles or as strings.
+/// A column compares as doubles, as strings or as a caller's texts.
 template <class Table>
-using ColumnKey = std::conditional_t<std::is_same_v<Table, Smatrix>, std::wstring, double>;
+struct ColumnKeyOf
+{
+    using Key = double;
+};
+template <>
+struct ColumnKeyOf<Smatrix>
+{
+    using Key = std::wstring;
+};
+template <>
+struct ColumnKeyOf<BorrowedTexts>
+{
+    using Key = TextKey;
+};
 
 /// Sorts numbers by one of their columns, column by column. Returns false if that has to be done row by row.
 template <class Table>
 bool sortedByOwnColumn(Table* table, int nCols, int col, const RowRange& range, Direction direction)
 {
-    if constexpr (std::is_same_v<Table, Smatrix>)
+    if constexpr (!std::is_same_v<typename ColumnKeyOf<Table>::Key, double>)
         return false;
     else {
         const auto rows = cells(table);
@@ -69,14 +83,15 @@ int sortByOwnColumn(Table* table, int nCols, int col, const RowRange& range, sho
 {
     if (sortedByOwnColumn(table, nCols, col, range, directionOf(descending)))
         return 0;
-    using Record = KeyedPosition<ColumnKey<Table>>;
+    using Key = typename ColumnKeyOf<Table>::Key;
+    using Record = KeyedPosition<Key>;
     const auto rows = cells(table);
     MovedRows moved(rows, range, nCols);
     // The key column is written from the record: it may not be among the columns that move.
     placeInStableOrder(
         range, directionOf(descending),
         [&](int row) {
-            return Record{row, ColumnKey<Table>(rows.get(zeroBased(row), zeroBased(col)))};
+            return Record{row, Key(rows.get(zeroBased(row), zeroBased(col)))};
         },
         [&](int row, Record& record) {
             using Value = typename CellOf<Table>::Value;
@@ -249,6 +264,12 @@ int SortQMatrixCol(Smatrix*& table, int /*nRows*/, int nCols, int col, int first
     return sortByOwnColumn(table, nCols, col, {first, last}, descending);
 }
 
+int vecmat::SortQMatrixCol(BorrowedTexts*& table, int /*nRows*/, int nCols, int col, int first, int last,
+                           short descending)
+{
+    return sortByOwnColumn(table, nCols, col, {first, last}, descending);
+}
+
 int SortMatrixSeqQ(matrix*& table, int nRows, int nCols, short lastToFirst)
 {
     return sortByColumnsInTurn(table, nRows, nCols, {1, nCols}, lastToFirst);
@@ -292,6 +313,11 @@ int SortQVector(matrixInt*& x, int /*n*/, int first, int last, short descending)
 }
 
 int SortQVector(Smatrix* x, int first, int last, short descending)
+{
+    return sortVector(x, {first, last}, descending != 0 ? Direction::descending : Direction::ascending);
+}
+
+int vecmat::SortQVector(BorrowedTexts* x, int first, int last, short descending)
 {
     return sortVector(x, {first, last}, descending != 0 ? Direction::descending : Direction::ascending);
 }

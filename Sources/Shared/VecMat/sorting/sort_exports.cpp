@@ -140,8 +140,8 @@ int VB_SortQVectorLng(int* x, int n, int first, int last, short descending)
 
 int VB_SortQVectorStr(wchar_t** x, int n, int first, int last, short descending)
 {
-    auto vector = copied(x, n, 1);
-    SortQVector(static_cast<Smatrix*>(vector), first, last, descending);
+    const auto vector = borrowedCopy(x, n, 1);
+    SortQVector(static_cast<BorrowedTexts*>(vector), first, last, descending);
     handBack(vector, x);
     return 0;
 }
@@ -153,7 +153,7 @@ int VB_SortQMatrixCol(double* table, int nRows, int nCols, int col, int first, i
 
 int VB_SortQMatrixColStr(wchar_t** table, int nRows, int nCols, int col, int first, int last, short descending)
 {
-    auto copy = copied(table, nRows, nCols);
+    auto copy = borrowedCopy(table, nRows, nCols);
     SortQMatrixCol(copy.reference(), nRows, nCols, col, first, last, descending);
     handBack(copy, table);
     return 0;

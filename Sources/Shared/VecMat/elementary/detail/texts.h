@@ -12,8 +12,8 @@
 #include "../../Smatrix.h"
 #include "../../base/detail/checked_cells.h"
 #include "../../base/detail/numbers.h"
-#include "caller_text.h"
-#include "text_table.h"
+#include "../../frame/detail/caller_text.h"
+#include "../../frame/detail/text_table.h"
 
 #include <string_view>
 

@@ -7,6 +7,7 @@
 #include "../../base/detail/memory_ranges.h"
 #include "../../base/missing_value.h"
 #include "distance_bounds.h"
+#include "numbered_texts.h"
 
 #include <cstddef>
 #include <optional>
@@ -94,7 +95,7 @@ struct NumericBlock
     }
 };
 
-/// A block of strings, with the most frequent category of each column.
+/// A block of strings, or of their numbers, with the most frequent category of each column.
 template <class Cells>
 struct StringBlock
 {
@@ -102,11 +103,14 @@ struct StringBlock
 
     Cells cells;
     int cols;
-    const std::wstring* modes;
+    const typename Cells::Value* modes;
 
     static constexpr double mismatch = 1.0;
 
-    bool lacks(int i, int j) const { return cells.get(i, j).empty(); }
+    static bool isEmpty(const std::wstring& text) { return text.empty(); }
+    static bool isEmpty(int number) { return number == TextNumbers::empty; }
+
+    bool lacks(int i, int j) const { return isEmpty(cells.get(i, j)); }
     void copy(int from, int to, int j) const { cells.set(to, j, cells.get(from, j)); }
     void fillWithoutNeighbour(int i, int j) const { cells.set(i, j, modes[j]); }
 

@@ -5,8 +5,8 @@
 
 #include "../../Smatrix.h"
 #include "../../access/cells.h"
-#include "../../elementary/detail/text_table.h"
 #include "../../elementary/detail/texts.h"
+#include "../../frame/detail/text_table.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -12,6 +12,9 @@ int SortQ(BorrowedTexts*& data, int nRows, int nCols, int first, int last, matri
 int SortQ(BorrowedTexts** data, int nRows, int nCols, int first, int last, matrix*& key, matrix*& companion,
           int nCompanionCols, short descending, short writeKeys);
 
+int SortQVector(BorrowedTexts* x, int first, int last, short descending);
+int SortQMatrixCol(BorrowedTexts*& table, int nRows, int nCols, int col, int first, int last, short descending);
+
 int M_CopyBlock(BorrowedTexts* src, int r1, int r2, int c1, int c2, BorrowedTexts*& dst);
 
 void SortApplyStr(BorrowedTexts* source, int nRows, int nCols, matrix* order, BorrowedTexts* out);

@@ -7,6 +7,7 @@
 #include "digit_passes.h"
 #include "key_order.h"
 #include "stable_order.h"
+#include "text_keys.h"
 
 #include <cstddef>
 #include <type_traits>
@@ -46,6 +47,10 @@ void sortByKey(const RowRange& range, Direction direction, KeyCells key, SortedK
         placeByKey(range, direction, key, keys, MovedRows(tables.cells, range, tables.nCols)...);
 }
 
+/// What the elements of a vector are sorted as: a caller's texts by their order, all others by themselves.
+template <class Value>
+using ElementKey = std::conditional_t<std::is_same_v<Value, wchar_t*>, TextKey, Value>;
+
 /// Sorts the elements of the range themselves.
 template <class Vector>
 void sortElements(const RowRange& range, Direction direction, Vector x)
@@ -60,8 +65,8 @@ void sortElements(const RowRange& range, Direction direction, Vector x)
             return;
     }
     placeInStableOrder(
-        range, direction, [&](int number) { return Value(x.get(zeroBased(number))); },
-        [&](int number, auto& element) { x.set(zeroBased(number), std::move(element)); });
+        range, direction, [&](int number) { return ElementKey<Value>(x.get(zeroBased(number))); },
+        [&](int number, auto& element) { x.set(zeroBased(number), static_cast<Value>(std::move(element))); });
 }
 
 } // namespace vecmat

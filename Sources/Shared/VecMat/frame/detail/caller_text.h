@@ -30,6 +30,11 @@ public:
     explicit Bstr(const void* bstr = nullptr) : first_(static_cast<const char*>(bstr)) {}
 
     const char* data() const { return first_; }
+    /// As it stands in an array of the caller's.
+    wchar_t* cell() const
+    {
+        return reinterpret_cast<wchar_t*>(const_cast<char*>(first_)); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+    }
     bool empty() const { return first_ == nullptr || charactersAt<std::uint16_t>(first_) == 0; }
     /// The length that stands before the text, in bytes. The text may end earlier, at a NUL.
     std::uint32_t length() const { return charactersAt<std::uint32_t>(first_ - sizeof(std::uint32_t)); }
@@ -58,6 +63,8 @@ public:
         Bstr bstr() const { return bstr_; }
         const char* data() const { return bstr_.data(); }
         bool empty() const { return bytes_ == 0; }
+        /// In bytes.
+        std::uint32_t size() const { return bytes_; }
 
         friend bool operator==(const Characters& a, const Characters& b)
         {

@@ -1,4 +1,4 @@
-#include "elementary/detail/text_table.h"
+#include "frame/detail/text_table.h"
 
 #include "support/random_data.h"
 
