@@ -1,8 +1,9 @@
-"""fuzz_flat.py SEED [--seconds S | --calls N] [--first K]: calls of flat functions in which several arguments at once do
-not fit, drawn from the seed. Case k is the same whatever came before it, so `--first k --calls 1` repeats one.
+"""fuzz_flat.py SEED [--seconds S | --calls N] [--first K] [--note FILE]: calls of flat functions in which several
+arguments at once do not fit, drawn from the seed. Case k is the same whatever came before it, so `--first k --calls 1`
+repeats one.
 
-The process has to survive: what is no error that a caller expects is printed, and the exit status is 1. If it does not
-survive, `fault.log` in the current directory names the case, and so does the last line of standard output."""
+The process has to survive: what is no error that a caller expects is printed, and the exit status is 1. FILE holds the
+number of the case that runs, as it may not survive."""
 
 import argparse
 import faulthandler
@@ -10,6 +11,7 @@ import random
 import signal
 import sys
 import time
+import warnings
 from pathlib import Path
 
 import numpy as np
@@ -170,17 +172,18 @@ def main():
     parser.add_argument("--seconds", type=float, default=float("inf"))
     parser.add_argument("--calls", type=int, default=sys.maxsize)
     parser.add_argument("--first", type=int, default=0)
+    parser.add_argument("--note", type=Path)
     options = parser.parse_args()
 
+    warnings.simplefilter("ignore")  # of NumPy, about odd arguments that are made here
     faulthandler.enable()
     signal.alarm(int(min(options.seconds, 3600)) + 300)  # a call that does not come back
     names = sorted(CALLS)
     end = time.monotonic() + options.seconds
     complaints, k = [], options.first
-    running = Path("build/fuzz/python_arguments.case") if Path("build/fuzz").is_dir() else None
     while k < options.first + options.calls and time.monotonic() < end:
-        if running:
-            running.write_text(f"seed {options.seed}, case {k}\n")
+        if options.note:
+            options.note.write_text(f"seed {options.seed}, case {k}\n")
         if complaint := attempt(options.seed, k, names):
             complaints.append(complaint)
         k += 1
