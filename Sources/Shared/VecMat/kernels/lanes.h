@@ -6,8 +6,6 @@
 
 #if defined(__AVX__)
 #include <immintrin.h>
-#elif defined(__aarch64__)
-#include <arm_neon.h>
 #endif
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
@@ -64,14 +62,16 @@ inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
     return _mm256_fnmadd_pd(x, y, sum);
 }
 #elif defined(__aarch64__)
+// Lane by lane, which becomes one instruction. The intrinsics look to the compiler as if they read memory: sums in a loop
+// would be stored in every step.
 #define VECMAT_FUSES_LANES
 inline Lanes fusedSum(Lanes sum, Lanes x, Lanes y)
 {
-    return Lanes(vfmaq_f64(float64x2_t(sum), float64x2_t(x), float64x2_t(y)));
+    return Lanes{__builtin_fma(x[0], y[0], sum[0]), __builtin_fma(x[1], y[1], sum[1])};
 }
 inline Lanes fusedDifference(Lanes sum, Lanes x, Lanes y)
 {
-    return Lanes(vfmsq_f64(float64x2_t(sum), float64x2_t(x), float64x2_t(y)));
+    return Lanes{__builtin_fma(-x[0], y[0], sum[0]), __builtin_fma(-x[1], y[1], sum[1])};
 }
 #endif
 

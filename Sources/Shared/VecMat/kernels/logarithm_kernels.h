@@ -7,7 +7,7 @@ namespace vecmat {
 
 struct LogarithmKernels
 {
-    /// What follows is null where vectors are too short for it to pay off.
+    /// What follows is null where it doesn't pay off: with two numbers in a vector and few registers.
     ///
     /// out[k] = log(x[k]), rounded to nearest. False where the quick phase leaves the rounding of one of them in doubt, or
     /// an x[k] is not a positive normal number: then none of the results counts. `x` and `out` do not overlap.

@@ -7,7 +7,7 @@
 
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
-#if defined(__AVX__)
+#if defined(__AVX__) || defined(__aarch64__)
 
 namespace {
 

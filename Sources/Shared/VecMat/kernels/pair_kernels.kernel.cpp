@@ -4,12 +4,18 @@
 #include "lanes.h"
 #include "quotients.h"
 
+#include <type_traits>
+
 namespace vecmat::VECMAT_INSTRUCTION_SET {
 
 namespace {
 
 constexpr int lanes = PairKernels::lanes;
-constexpr int vectors = lanes / laneCount;
+/// Vectors worked on at once. Of two lanes each, the sums of more than two don't stay in the registers; where quotients are
+/// divisions, all the same, as a row waits long for the previous one.
+constexpr bool quotientsAreQuick = !std::is_same_v<QuickDivision, Division>;
+constexpr int vectors = laneCount == 2 && quotientsAreQuick ? 2 : lanes / laneCount;
+constexpr int lanesAtOnce = vectors * laneCount;
 
 /// `value` in the lanes where the comparison `where` holds, otherwise `otherwise`.
 template <class Where>
@@ -99,17 +105,18 @@ void addRow(PairLanes& sums, Lanes x, Lanes y, double w, typename Divide::Numera
     sums.meanY = select(present, sums.meanY + byWeights.of(dy * w), sums.meanY);
 }
 
-/// Returns false, having done nothing, if a quotient may be wrong.
+/// Takes the lanes from `first` on. Returns false, having done nothing, if a quotient may be wrong.
 template <class Rule, class Divide, int strips>
 bool addRows(int count, const double* x, const double* y, std::ptrdiff_t strip, const double* w,
-             PairKernels::Pairs* pairs)
+             PairKernels::Pairs* pairs, int first)
 {
     if (!Divide::admitsWeights(count, w))
         return false;
     PairLanes sums[strips][vectors];
     for (int s = 0; s < strips; ++s)
         for (int v = 0; v < vectors; ++v)
-            sums[s][v] = PairLanes(pairs[s], v * laneCount);
+            sums[s][v] = PairLanes(pairs[s], first + v * laneCount);
+    y += first;
     typename Divide::Numerators numerators;
     for (int i = 0; i < count; ++i, y += lanes) {
         if (x[i] == missingValue)
@@ -129,7 +136,7 @@ bool addRows(int count, const double* x, const double* y, std::ptrdiff_t strip, 
                 return false;
     for (int s = 0; s < strips; ++s)
         for (int v = 0; v < vectors; ++v)
-            sums[s][v].writeTo(pairs[s], v * laneCount);
+            sums[s][v].writeTo(pairs[s], first + v * laneCount);
     return true;
 }
 
@@ -137,8 +144,9 @@ template <class Rule, int strips>
 void addPairs(int count, const double* x, const double* y, std::ptrdiff_t strip, const double* w,
               PairKernels::Pairs* pairs)
 {
-    if (!addRows<Rule, QuickDivision, strips>(count, x, y, strip, w, pairs))
-        addRows<Rule, Division, strips>(count, x, y, strip, w, pairs);
+    for (int first = 0; first < lanes; first += lanesAtOnce)
+        if (!addRows<Rule, QuickDivision, strips>(count, x, y, strip, w, pairs, first))
+            addRows<Rule, Division, strips>(count, x, y, strip, w, pairs, first);
 }
 
 /// Two strips at once if one is not enough to fill the time that a row waits for the previous one.
