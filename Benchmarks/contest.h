@@ -137,11 +137,11 @@ private:
 class Stage
 {
 public:
-    template <class Workload>
-    static std::unique_ptr<Stage> of(int size)
+    template <class Workload, class... Arguments>
+    static std::unique_ptr<Stage> of(int size, const Arguments&... arguments)
     {
         auto stage = std::make_unique<Stage>();
-        auto workload = std::make_shared<Workload>(size);
+        auto workload = std::make_shared<Workload>(size, arguments...);
         workload->enter(stage->contest_);
         stage->workload_ = workload;
         return stage;
@@ -164,6 +164,7 @@ struct Entry
     Timing timing;
     std::function<std::unique_ptr<Stage>(int)> stage;
     std::vector<int> largeSizes = {}; // on demand, the library alone
+    bool brief = false;               // one of so many that each is timed for less long
 
     void alsoAt(std::vector<int> large) { largeSizes = std::move(large); }
 };
@@ -174,7 +175,13 @@ public:
     template <class Workload>
     Entry& add(const std::string& name, std::vector<int> sizes, Timing timing = Timing::eachRun)
     {
-        return entries_.emplace_back(Entry{name, std::move(sizes), timing, Stage::of<Workload>});
+        return entries_.emplace_back(
+            Entry{name, std::move(sizes), timing, [](int size) { return Stage::of<Workload>(size); }});
+    }
+    /// One of many of a kind.
+    Entry& add(const std::string& name, std::vector<int> sizes, std::function<std::unique_ptr<Stage>(int)> stage)
+    {
+        return entries_.emplace_back(Entry{name, std::move(sizes), Timing::eachRun, std::move(stage)});
     }
     const std::vector<Entry>& entries() const { return entries_; }
 
@@ -186,6 +193,8 @@ private:
 double secondsOfThread();
 
 Suite allWorkloads();
+/// Beside them: each flat form that takes strings. They are timed on this machine with its own instructions only.
+void addTextForms(Suite& suite);
 
 // One function per source.
 void addSorting(Suite& suite);

@@ -29,6 +29,7 @@ struct Options
     std::regex only{""};
     bool quick = false;
     std::regex beside{""};
+    bool someContenders = false;
 
     bool takes(const Contender& contender, std::size_t number) const
     {
@@ -55,9 +56,10 @@ Options taken(int& argc, char** argv)
             options.exportTo = *directory;
         else if (argument == "--quick")
             options.quick = true;
-        else if (const auto beside = valueOf(argument, "--beside="))
+        else if (const auto beside = valueOf(argument, "--beside=")) {
             options.beside = *beside;
-        else
+            options.someContenders = true;
+        } else
             argv[kept++] = argv[k];
     }
     argc = kept;
@@ -152,7 +154,7 @@ void registerBenchmarks(const Suite& suite, const Options& options)
                                              })
                     ->UseManualTime()
                     ->Unit(benchmark::kMillisecond)
-                    ->MinTime(options.quick ? 0.02 : 0.1)
+                    ->MinTime(options.quick || entry.brief ? 0.02 : 0.1)
                     ->Repetitions(options.quick ? 2 : 5)
                     ->ComputeStatistics("min", leastOf)
                     ->ReportAggregatesOnly(true);
@@ -169,7 +171,9 @@ int main(int argc, char** argv)
 {
     using namespace vecmat::bench;
     const Options options = taken(argc, argv);
-    const Suite suite = allWorkloads();
+    Suite suite = allWorkloads();
+    if (!options.someContenders && options.exportTo.empty())
+        addTextForms(suite);
 
     if (!options.exportTo.empty()) {
         for (const Entry& entry : suite.entries())
