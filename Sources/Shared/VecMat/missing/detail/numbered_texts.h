@@ -26,14 +26,16 @@ public:
     /// Those of n cells of a caller's.
     void store(wchar_t* const* cells, unsigned n, int* numbers)
     {
-        constexpr unsigned most = 1U << 30;
-        for (unsigned start = 0; start < n; start += most)
+        constexpr unsigned most = 1U << 30; // at once, as an int
+        while (n > 0) {
+            const unsigned count = std::min(n, most);
             forEachText(
-                0, static_cast<int>(std::min(n - start, most)), texts_,
-                [&](int k) { return Bstr(cells[start + static_cast<unsigned>(k)]); },
-                [&](int k, const CallerText& text) {
-                    numbers[start + static_cast<unsigned>(k)] = texts_.add(text, {}).first;
-                });
+                0, static_cast<int>(count), texts_, [cells](int k) { return Bstr(cells[k]); },
+                [&](int k, const CallerText& text) { numbers[k] = texts_.add(text, {}).first; });
+            cells += count;
+            numbers += count;
+            n -= count;
+        }
     }
     /// A text of this number, or null.
     const wchar_t* text(int number) const { return texts_.text(number).bstr().cell(); }

@@ -1,5 +1,5 @@
-// The functions that look for empty texts, or replace some, over a caller's where they lie. The contracts are those of the exported
-// functions over tables. Internal to the library.
+// The functions that look for empty texts, or replace some, over a caller's where they lie. The contracts are those of the
+// exported functions over tables. Internal to the library.
 #pragma once
 
 #include "../../base/detail/outgoing_texts.h"

@@ -77,43 +77,76 @@ std::size_t commonStart(const WideTexts& texts)
     return common.size();
 }
 
-/// The first two characters of a text in one number, which never orders two texts the other way round.
-std::uint64_t windowOf(std::wstring_view text)
+/// Sorts the numbers of texts by windows of two characters: those that tie in one go by the next.
+class WindowSort
 {
-    constexpr int bits = 32;
-    std::uint64_t window = 0;
-    for (std::size_t k = 0; k < 2; ++k) {
-        const auto character = k < text.size() ? text[k] : std::numeric_limits<wchar_t>::min();
-        window = window << bits |
-                 static_cast<std::uint64_t>(static_cast<std::int64_t>(character) - std::numeric_limits<wchar_t>::min());
+public:
+    explicit WindowSort(const WideTexts& texts) : texts_(texts)
+    {
+        entries_.reserve(static_cast<std::size_t>(texts.size()));
+        for (int number = 0; number < texts.size(); ++number) {
+            entries_.push_back({0, number});
+            longest_ = std::max(longest_, texts[number].size());
+        }
+        sort(entries_.data(), entries_.data() + entries_.size(), commonStart(texts));
     }
-    return window;
-}
 
-/// For the number of each text its place in their order.
-std::vector<int> ranksOf(const DistinctTexts& distinct)
-{
-    const WideTexts texts(distinct);
-    const std::size_t common = commonStart(texts);
-    const auto rest = [&](int number) { return texts[number].substr(std::min(common, texts[number].size())); };
+    /// For the number of each text its place.
+    std::vector<int> ranks() const
+    {
+        std::vector<int> ranks(entries_.size());
+        int rank = 0;
+        for (const Entry& entry : entries_)
+            ranks[static_cast<std::size_t>(entry.number)] = rank++;
+        return ranks;
+    }
+
+private:
     struct Entry
     {
         std::uint64_t window;
         int number;
     };
-    std::vector<Entry> entries;
-    entries.reserve(static_cast<std::size_t>(texts.size()));
-    for (int number = 0; number < texts.size(); ++number)
-        entries.push_back({windowOf(rest(number)), number});
-    std::sort(entries.begin(), entries.end(), [&](const Entry& left, const Entry& right) {
-        return left.window != right.window ? left.window < right.window : texts[left.number] < texts[right.number];
-    });
-    std::vector<int> ranks(entries.size());
-    int rank = 0;
-    for (const Entry& entry : entries)
-        ranks[static_cast<std::size_t>(entry.number)] = rank++;
-    return ranks;
-}
+    static constexpr std::size_t charactersAtOnce = 2;
+    static constexpr std::ptrdiff_t mostToCompare = 8;
+
+    /// Texts that agree in the characters before `start`, or have none there.
+    void sort(Entry* first, Entry* last, std::size_t start) const
+    {
+        if (last - first <= mostToCompare || start > longest_) {
+            std::sort(first, last, [this](const Entry& left, const Entry& right) {
+                return texts_[left.number] < texts_[right.number];
+            });
+            return;
+        }
+        for (Entry* entry = first; entry != last; ++entry)
+            entry->window = windowOf(texts_[entry->number], start);
+        std::sort(first, last, [](const Entry& left, const Entry& right) { return left.window < right.window; });
+        while (first != last) {
+            Entry* const end =
+                std::find_if(first, last, [first](const Entry& entry) { return entry.window != first->window; });
+            if (end - first > 1)
+                sort(first, end, start + charactersAtOnce);
+            first = end;
+        }
+    }
+
+    /// Characters in one number, which never orders two texts the other way round. Where there is none it is the least.
+    static std::uint64_t windowOf(std::wstring_view text, std::size_t start)
+    {
+        constexpr int bits = 32;
+        constexpr wchar_t least = std::numeric_limits<wchar_t>::min();
+        std::uint64_t window = 0;
+        for (std::size_t k = start; k < start + charactersAtOnce; ++k)
+            window = window << bits |
+                     static_cast<std::uint64_t>(static_cast<std::int64_t>(k < text.size() ? text[k] : least) - least);
+        return window;
+    }
+
+    const WideTexts& texts_;
+    std::size_t longest_ = 0;
+    std::vector<Entry> entries_;
+};
 
 template <class Record>
 void rank(std::vector<Record>& records)
@@ -126,7 +159,8 @@ void rank(std::vector<Record>& records)
     forEachText(
         0, n, texts, [&](int k) { return Bstr(keyAt(k).text); },
         [&](int k, const CallerText& text) { keyAt(k).rank = texts.add(text, {}).first; });
-    const std::vector<int> ranks = ranksOf(texts);
+    const WideTexts wide(texts);
+    const std::vector<int> ranks = WindowSort(wide).ranks();
     for (int k = 0; k < n; ++k)
         keyAt(k).rank = ranks[static_cast<std::size_t>(keyAt(k).rank)];
 }
