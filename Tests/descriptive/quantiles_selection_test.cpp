@@ -3,6 +3,7 @@
 
 #include "sorting/many_keys.h"
 #include "support/bits.h"
+#include "support/tables.h"
 
 #include <gtest/gtest.h>
 
@@ -109,6 +110,30 @@ TEST_P(QuantileOfManyValues, withWeightsStepsThroughTheSortedCopy)
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, QuantileOfManyValues, testing::ValuesIn(sizesAroundThresholds()));
+
+/// Numbers are first selected between two of a sample: every sixteenth of 4,096. Here the upper one is the number asked
+/// for, and the next lies above it.
+TEST(QuantilesSelection, TheNextNumberLiesBeyondTheSampledBound)
+{
+    constexpr std::size_t n = 4096, step = 16, sampled = n / step, place = 1605;
+    constexpr double upper = 100 + 2 * 16; // 2 standard deviations above the place in the sample
+    std::vector<double> x(n, 1000.0);
+    std::size_t notAbove = 0;
+    for (std::size_t k = 0; k < sampled; ++k) {
+        x[k * step] = static_cast<double>(k);
+        notAbove += static_cast<std::size_t>(static_cast<double>(k) <= upper);
+    }
+    for (std::size_t k = 1; notAbove <= place; ++k)
+        if (k % step != 0) {
+            x[k] = 100.5;
+            ++notAbove;
+        }
+    const std::vector<double> sorted = sortedCopy(x);
+    ASSERT_EQ(sorted[place], upper);
+    ASSERT_EQ(sorted[place + 1], upper + 1.0);
+    const double p = (place + 0.25) / (n - 1.0);
+    EXPECT_EQ(V_Quantile(column(x), static_cast<int>(n), p), quantileOfSorted(sorted, p));
+}
 
 TEST(QuantileOfZerosOfBothSigns, isTheOneInItsPlace)
 {

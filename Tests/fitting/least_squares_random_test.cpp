@@ -64,6 +64,22 @@ TEST(OLSBasic3, FollowsThePlainStepsBitByBit)
     EXPECT_GT(entered, 5000);
 }
 
+/// A cell beyond the table of weights reads as -1.0.
+TEST(OLSBasic3, ReadsWeightsBeyondTheirTable)
+{
+    for (std::uint64_t seed = 1; seed <= 200 && !HasFailure(); ++seed) {
+        RandomData data(seed);
+        SCOPED_TRACE(data);
+        Problem problem = drawn(data);
+        if (problem.n < 2)
+            continue;
+        problem.w.back() = -1.0;
+        const Solution expected = fitted(problem);
+        problem.w.pop_back();
+        expectSameFit(fitted(problem), expected);
+    }
+}
+
 TEST(OLSBasic3, IsTheFitOfTheShorterForms)
 {
     for (std::uint64_t seed = 1; seed <= 300 && !HasFailure(); ++seed) {

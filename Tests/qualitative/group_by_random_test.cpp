@@ -31,7 +31,7 @@ struct Case
 
     explicit Case(RandomData& random)
         : rows(random.chance(0.03) ? random.integer(100, 900) : random.integer(0, 14)), cols(random.integer(1, 4)),
-          nRows(random.chance(0.7) ? rows : random.integer(0, rows)),
+          nRows(random.chance(0.7) ? rows : random.integer(0, rows + 2)),
           nCols(random.chance(0.7) ? cols : random.integer(1, cols)), keyCol(random.integer(1, nCols)),
           aggregate(random.integer(-1, 9)),
           colTypes(random.integers(static_cast<std::size_t>(random.integer(0, 5)), -1, 1)),

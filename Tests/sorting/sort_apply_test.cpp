@@ -7,7 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 using namespace vecmat::test;
 
@@ -50,6 +52,13 @@ TEST(SortApply, subtractsOneAndThenTruncates)
     EXPECT_THAT(cellsOf(out), SameBits({2, 3, 1, 1, 1}));
 }
 
+TEST(SortApply, widensAResultOfTheSameHeight)
+{
+    auto out = column({7, 8, 9});
+    SortApply(byRows({{1, 4}, {2, 5}, {3, 6}}).get(), 3, 2, column({3, 1, 2}), out.reference());
+    EXPECT_THAT(cellsOf(out), SameBits({3, 1, 2, 6, 4, 5}));
+}
+
 TEST(SortApply, readsMinusOneBeyondTheTable)
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
@@ -90,6 +99,23 @@ TEST(SortApply, preparesItsResultAndKeepsALargerOne)
     auto small = filled(1, 1, 0.5);
     SortApply(column({1, 2}), 2, 1, column({2, 1}), small.reference());
     EXPECT_THAT(cellsOf(small), SameBits({2, 1}));
+}
+
+TEST(SortApply2, takesRowsBeyondTheHeightFromTheNextColumn)
+{
+    constexpr int height = 20, rows = 40;
+    std::vector<double> cells(2 * rows), order(rows);
+    for (std::size_t k = 0; k < cells.size(); ++k)
+        cells[k] = static_cast<double>(k + 1);
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = static_cast<double>(rows - i);
+    auto expected = cells;
+    std::reverse(expected.begin(), expected.begin() + rows);
+    auto x = table(height, 4, cells);
+    SortApply2(x.get(), rows, 1, column(order));
+    EXPECT_THAT(cellsOf(x), SameBits(expected));
+    SortApply2(x.get(), rows, 0, column(order));
+    EXPECT_THAT(cellsOf(x), SameBits(expected));
 }
 
 TEST(SortApply2, worksInPlaceOnTheGivenCorner)

@@ -114,6 +114,17 @@ TEST(BorrowedColumns, AreCopiedAndExtracted)
     });
 }
 
+TEST(BorrowedColumns, MayBeNone)
+{
+    RandomData data(1);
+    Case texts(data, 3, 2);
+    VB_M_DuplicateStrSPV(nullptr, 3, 0, texts.columns);
+    Texts kept = texts.columns.strings(0);
+    const Texts more = texts.columns.strings(1);
+    kept.insert(kept.end(), more.begin(), more.end());
+    EXPECT_EQ(kept, texts.whole.texts());
+}
+
 TEST(BorrowedColumns, AreDrawn)
 {
     forRandomTexts([](RandomData& data, Case& texts) {
