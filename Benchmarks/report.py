@@ -267,7 +267,8 @@ def form_table(results):
     for (workload, size), times in results.seconds.items():
         if workload.startswith(FORM) and "a table first" in times:
             ours, table = times["ours"], times["a table first"]
-            lines.append(row(f"`{workload.removeprefix(FORM)}`", f"{size:,}", shown_time(ours), shown_time(table),
+            title = re.sub(r"^\w+", r"`\g<0>`", workload.removeprefix(FORM))
+            lines.append(row(title, f"{size:,}", shown_time(ours), shown_time(table),
                              marked(f"{ours / table:.2f}", ours <= table)))
     return lines
 

@@ -2,16 +2,21 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <numeric>
+#include <string_view>
 
 namespace vecmat::bench {
 
 namespace {
 
-Texts textsWithGaps(int n)
+Texts textsWithGaps(int n, bool allDiffer)
 {
-    Texts texts = drawnTexts(count(n), TextData::categories, 150);
+    Texts texts = allDiffer ? categoryNames(n) : drawnTexts(count(n), TextData::categories, 150);
     RandomData random(151);
+    if (allDiffer)
+        for (int k = n - 1; k > 0; --k)
+            std::swap(texts[count(k)], texts[count(random.integer(0, k))]);
     for (std::wstring& text : texts)
         if (random.chance(0.02))
             text.clear();
@@ -39,7 +44,7 @@ double numberOf(const wchar_t* bstr)
 class TextContest
 {
 public:
-    TextContest(int rows, const TextForm& form) : form_(form), data_(rows) {}
+    TextContest(int rows, const TextForm& form) : form_(form), data_(rows, form.allDiffer) {}
     void enter(Contest& contest)
     {
         contest.reset([this] { data_.restore(); });
@@ -55,10 +60,11 @@ private:
 
 } // namespace
 
-TextData::TextData(int n)
-    : rows(n), cells(n * cols), texts(textsWithGaps(cells)), callers(texts), x(callers.data(), callers.data() + cells),
-      out(2 * count(cells), nullptr), drawn(RandomData(152).withMissing(RandomData(153).normals(2 * count(n)), 0.05)),
-      numbers(drawn), key(RandomData(154).wholes(count(n), 0, 1)), order(count(n)), ids(count(n)),
+TextData::TextData(int n, bool allDiffer)
+    : rows(n), cells(n * cols), texts(textsWithGaps(cells, allDiffer)), callers(texts),
+      x(callers.data(), callers.data() + cells), out(2 * count(cells), nullptr),
+      drawn(RandomData(152).withMissing(RandomData(153).normals(2 * count(n)), 0.05)), numbers(drawn),
+      key(RandomData(154).wholes(count(n), 0, 1)), order(count(n)), ids(count(n)),
       weights(RandomData(155).uniforms(count(cells))), frequencies(RandomData(156).wholes(count(n), 0, 2)),
       mask(RandomData(157).mask(count(n), 0.02)), flags(count(n)), allFlags(count(cells)), counts(cols, categories),
       names(categoryNames(categories)), namesByColumn(forEachColumn(categoryNames(categories)))
@@ -107,10 +113,19 @@ std::unique_ptr<Stage> stageOf(const TextForm& form, int rows)
 
 void addTextForms(Suite& suite)
 {
+    const auto add = [&suite](const TextForm& form, const std::string& name) {
+        suite.add("form:" + name, {form.rows}, [form](int rows) { return stageOf(form, rows); }).brief = true;
+    };
+    constexpr std::string_view alsoDiffering[] = {"VB_SortQVectorStr", "VB_SortQMatrixColStr", "Cpp_V_NbDistinctStr",
+                                                  "VB_V_ReplaceDoubles"};
     for (const auto forms : {formsThatMove, formsThatSort, formsThatCompare, formsThatFill, formsThatSample})
-        for (const TextForm& form : forms())
-            suite.add("form:" + std::string(form.name), {form.rows}, [form](int rows) { return stageOf(form, rows); })
-                .brief = true;
+        for (TextForm form : forms()) {
+            add(form, form.name);
+            if (std::find(std::begin(alsoDiffering), std::end(alsoDiffering), form.name) == std::end(alsoDiffering))
+                continue;
+            form.allDiffer = true;
+            add(form, form.name + std::string(", all different"));
+        }
 }
 
 } // namespace vecmat::bench

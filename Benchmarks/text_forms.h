@@ -41,7 +41,7 @@ struct TextData
     int seed = 0;
     int seedOut = 0;
 
-    explicit TextData(int n);
+    TextData(int n, bool allDiffer);
     TextData(const TextData&) = delete;
     TextData& operator=(const TextData&) = delete;
     ~TextData() { restore(); }
@@ -100,6 +100,7 @@ struct TextForm
     std::function<void(TextData&)> flat;
     std::function<void(TextData&)> overTable;
     int rows = 25'000;
+    bool allDiffer = false; ///< the texts, instead of being drawn from the categories
 };
 
 // ---- the way over a table -------------------------------------------------------------------------------------------
