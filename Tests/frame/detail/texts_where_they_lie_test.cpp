@@ -149,6 +149,23 @@ TEST(TextsWhereTheyLie, SortByTheNumbersOfTheirCharacters)
         }
 }
 
+/// Of two kinds, so that not all begin alike.
+TEST(TextsWhereTheyLie, SortWhereLongBeginningsAreAlike)
+{
+    constexpr std::size_t longBeginning = 500000;
+    Texts sorted;
+    for (const wchar_t first : {L'a', L'b'})
+        for (int k = 10; k < 30; ++k)
+            sorted.push_back(std::wstring(longBeginning, first) + std::to_wstring(k));
+    Texts shuffled;
+    for (std::size_t k = 0; k < sorted.size(); ++k)
+        shuffled.push_back(sorted[k * 11 % sorted.size()]);
+    BstrArray texts(shuffled);
+    const int n = static_cast<int>(sorted.size());
+    VB_SortQVectorStr(texts, n, 1, n, 0);
+    EXPECT_TRUE(texts.texts() == sorted); // without a print of all of them
+}
+
 TEST(TextsWhereTheyLie, FollowAnOrderOfCorrelations)
 {
     forRandomTexts([](RandomData& data, Case& drawn) {

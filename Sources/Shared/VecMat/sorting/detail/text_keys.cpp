@@ -15,6 +15,8 @@
 #include <new>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 
 namespace vecmat {
 
@@ -113,22 +115,32 @@ private:
     /// Texts that agree in the characters before `start`, or have none there.
     void sort(Entry* first, Entry* last, std::size_t start) const
     {
-        if (last - first <= mostToCompare || start > longest_) {
-            std::sort(first, last, [this](const Entry& left, const Entry& right) {
-                return texts_[left.number] < texts_[right.number];
-            });
-            return;
+        while (last - first > mostToCompare && start <= longest_) {
+            for (Entry* entry = first; entry != last; ++entry)
+                entry->window = windowOf(texts_[entry->number], start);
+            std::sort(first, last, [](const Entry& left, const Entry& right) { return left.window < right.window; });
+            start += charactersAtOnce;
+            std::tie(first, last) = sortAllButTheLargest(first, last, start);
         }
-        for (Entry* entry = first; entry != last; ++entry)
-            entry->window = windowOf(texts_[entry->number], start);
-        std::sort(first, last, [](const Entry& left, const Entry& right) { return left.window < right.window; });
+        std::sort(first, last,
+                  [this](const Entry& left, const Entry& right) { return texts_[left.number] < texts_[right.number]; });
+    }
+
+    /// Returns the largest group of those that tie, with which the caller goes on: so calls don't nest deeper than groups
+    /// can be halved, however long their beginnings are alike.
+    std::pair<Entry*, Entry*> sortAllButTheLargest(Entry* first, Entry* last, std::size_t start) const
+    {
+        std::pair<Entry*, Entry*> largest(first, first);
         while (first != last) {
             Entry* const end =
                 std::find_if(first, last, [first](const Entry& entry) { return entry.window != first->window; });
-            if (end - first > 1)
-                sort(first, end, start + charactersAtOnce);
+            std::pair<Entry*, Entry*> group(first, end);
+            if (end - first > largest.second - largest.first)
+                std::swap(group, largest);
+            sort(group.first, group.second, start);
             first = end;
         }
+        return largest;
     }
 
     /// Characters in one number, which never orders two texts the other way round. Where there is none it is the least.
