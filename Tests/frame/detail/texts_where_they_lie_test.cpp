@@ -155,7 +155,7 @@ TEST(TextsWhereTheyLie, SortWhereLongBeginningsAreAlike)
     constexpr std::size_t longBeginning = 500000;
     Texts sorted;
     for (const wchar_t first : {L'a', L'b'})
-        for (int k = 10; k < 30; ++k)
+        for (int k = 0; k < 10; ++k) // more than are simply compared
             sorted.push_back(std::wstring(longBeginning, first) + std::to_wstring(k));
     Texts shuffled;
     for (std::size_t k = 0; k < sorted.size(); ++k)

@@ -61,24 +61,6 @@ private:
     std::vector<std::size_t> ends_;
 };
 
-/// The number of characters with which all texts begin that are not empty.
-std::size_t commonStart(const WideTexts& texts)
-{
-    std::wstring_view common;
-    for (int number = 0; number < texts.size(); ++number) {
-        const std::wstring_view text = texts[number];
-        if (common.empty() && !text.empty())
-            common = text;
-        else if (!text.empty()) {
-            const auto differ = std::mismatch(common.begin(), common.end(), text.begin(), text.end());
-            common = common.substr(0, static_cast<std::size_t>(differ.first - common.begin()));
-            if (common.empty())
-                break;
-        }
-    }
-    return common.size();
-}
-
 /// Sorts the numbers of texts by windows of two characters: those that tie in one go by the next.
 class WindowSort
 {
@@ -90,7 +72,7 @@ public:
             entries_.push_back({0, number});
             longest_ = std::max(longest_, texts[number].size());
         }
-        sort(entries_.data(), entries_.data() + entries_.size(), commonStart(texts));
+        sort(entries_.data(), entries_.data() + entries_.size(), 0);
     }
 
     /// For the number of each text its place.
@@ -116,6 +98,7 @@ private:
     void sort(Entry* first, Entry* last, std::size_t start) const
     {
         while (last - first > mostToCompare && start <= longest_) {
+            start = commonEnd(first, last, start);
             for (Entry* entry = first; entry != last; ++entry)
                 entry->window = windowOf(texts_[entry->number], start);
             std::sort(first, last, [](const Entry& left, const Entry& right) { return left.window < right.window; });
@@ -124,6 +107,26 @@ private:
         }
         std::sort(first, last,
                   [this](const Entry& left, const Entry& right) { return texts_[left.number] < texts_[right.number]; });
+    }
+
+    /// Where those texts cease to be alike that have characters from `start` on. The others have ended, and come first
+    /// wherever the window opens.
+    std::size_t commonEnd(const Entry* first, const Entry* last, std::size_t start) const
+    {
+        std::wstring_view common;
+        for (const Entry* entry = first; entry != last; ++entry) {
+            const std::wstring_view text = texts_[entry->number];
+            if (text.size() <= start)
+                continue;
+            const std::wstring_view rest = text.substr(start);
+            if (common.empty())
+                common = rest;
+            const auto differ = std::mismatch(common.begin(), common.end(), rest.begin(), rest.end());
+            common = common.substr(0, static_cast<std::size_t>(differ.first - common.begin()));
+            if (common.empty())
+                break;
+        }
+        return start + common.size();
     }
 
     /// Returns the largest group of those that tie, with which the caller goes on: so calls don't nest deeper than groups
