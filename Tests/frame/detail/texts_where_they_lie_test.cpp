@@ -166,6 +166,24 @@ TEST(TextsWhereTheyLie, SortWhereLongBeginningsAreAlike)
     EXPECT_TRUE(texts.texts() == sorted); // without a print of all of them
 }
 
+/// What all others begin with must not be passed over for its sake.
+TEST(TextsWhereTheyLie, SortOneThatDiffersBeforeTheOthersDo)
+{
+    Texts alike;
+    for (wchar_t letter = L'z'; letter > L'k'; --letter)
+        alike.push_back(std::wstring(L"the same start, ") + letter);
+    for (const wchar_t* other : {L"the", L"the sAme start, zz", L"the sbme start, a"})
+        for (std::size_t place = 0; place <= alike.size(); ++place) {
+            Texts expected = alike;
+            expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(place), other);
+            BstrArray texts(expected);
+            const int n = static_cast<int>(expected.size());
+            VB_SortQVectorStr(texts, n, 1, n, 0);
+            std::sort(expected.begin(), expected.end());
+            EXPECT_EQ(texts.texts(), expected);
+        }
+}
+
 TEST(TextsWhereTheyLie, FollowAnOrderOfCorrelations)
 {
     forRandomTexts([](RandomData& data, Case& drawn) {
