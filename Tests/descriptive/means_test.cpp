@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -81,6 +82,25 @@ TEST(VMean, ReadsMinusOnePastTheEndOfTheTables)
     EXPECT_THAT(V_Mean(column({5, 7}), 3, mask.data(), column({1, 1, 2})), SameBits(10.0 / 4.0));
     EXPECT_THAT(V_Mean(column({5, 7, 6}), 3, mask.data(), column({2, 2})), SameBits(18.0 / 3.0));
     EXPECT_THAT(V_Mean(column({5, 7, 6}), 2, mask.data(), column({1, 1, 9})), SameBits(6.0));
+}
+
+TEST(Means, ReadMinusOnePastTheEndOfEitherTable)
+{
+    constexpr int n = 9, beyond = 2;
+    for (std::uint64_t seed = 1; seed <= 200; ++seed) {
+        RandomData data(seed);
+        SCOPED_TRACE(data);
+        auto x = data.withMissing(data.normals(n), 0.3), w = data.weights(n, 0.3);
+        auto mask = data.mask(n, 0.3);
+        std::fill(x.end() - beyond, x.end(), -1.0);
+        std::fill(w.end() - beyond, w.end(), -1.0);
+        const std::vector<double> shortX(x.begin(), x.end() - beyond), shortW(w.begin(), w.end() - beyond);
+        const double expected = mean(x, mask, w), expectedAbs = meanAbs(x, mask, w);
+        EXPECT_THAT(V_Mean(column(shortX), n, mask.data(), column(w)), SameBits(expected));
+        EXPECT_THAT(V_Mean(column(x), n, mask.data(), column(shortW)), SameBits(expected));
+        EXPECT_THAT(V_MeanAbs(column(shortX), n, mask.data(), column(w)), SameBits(expectedAbs));
+        EXPECT_THAT(V_MeanAbs(column(x), n, mask.data(), column(shortW)), SameBits(expectedAbs));
+    }
 }
 
 TEST(Means, ANullMaskKeepsEveryRow)

@@ -6,6 +6,9 @@
 #include "support/special_values.h"
 #include "support/tables.h"
 
+#include <algorithm>
+#include <vector>
+
 using namespace vecmat::test;
 
 namespace {
@@ -228,6 +231,47 @@ TEST(ConditionalAggregates, AgreeWithThePlainLoop)
     // One visit beyond the tables, whose keys are -1.0 there: the same cells, now through checked accesses.
     EXPECT_THAT(V_SumIf(column(x), n + 1, column(key), 2.0), SameBits(sum));
     EXPECT_THAT(V_SumIfW(column(x), n + 1, column(key), column(w), 2.0), SameBits(weighted));
+}
+
+TEST(ConditionalAggregates, ReadMinusOneBeyondTheTables)
+{
+    constexpr int n = 12, beyond = 3;
+    for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+        RandomData data(seed);
+        SCOPED_TRACE(data);
+        const auto endingInMinusOne = [](std::vector<double> cells) {
+            std::fill(cells.end() - beyond, cells.end(), -1.0);
+            return cells;
+        };
+        const auto x = endingInMinusOne(data.withMissing(data.wholes(n, -1, 3), 0.3));
+        const auto key = endingInMinusOne(data.withMissing(data.wholes(n, -1, 1), 0.2));
+        const std::vector<double> shortX(x.begin(), x.end() - beyond), shortKey(key.begin(), key.end() - beyond);
+        std::vector<int> codes(n, -1);
+        std::transform(key.begin(), key.end() - beyond, codes.begin(),
+                       [](double cell) { return cell == M ? lowestInt : static_cast<int>(cell); });
+        const std::vector<int> shortCodes(codes.begin(), codes.end() - beyond);
+        for (const double val : {-1.0, 0.0, 1.0, M}) {
+            const auto expectSame = [val](auto function, const auto& whole, const auto& wholeKey, const auto& cells,
+                                          const auto& keys) {
+                EXPECT_THAT(function(cells, n, keys, val), SameBits(function(whole, n, wholeKey, val)));
+            };
+            const auto ofDoubles = [&](auto function) {
+                expectSame(function, column(x), column(key), column(shortX), column(shortKey));
+                expectSame(function, column(x), column(key), column(x), column(shortKey));
+            };
+            const auto ofInts = [&](auto function) {
+                expectSame(function, column(x), intColumn(codes), column(shortX), intColumn(shortCodes));
+                expectSame(function, column(x), intColumn(codes), column(shortX), intColumn(codes));
+            };
+            ofDoubles([](matrix* v, int m, matrix* k, double value) { return V_SumIf(v, m, k, value); });
+            ofDoubles([](matrix* v, int m, matrix* k, double value) { return V_MaxIf(v, m, k, value); });
+            ofDoubles([](matrix* v, int m, matrix* k, double value) { return V_MinIf(v, m, k, value); });
+            ofDoubles([](matrix* v, int m, matrix* k, double value) { return V_SumIfW(v, m, k, k, value); });
+            ofInts([](matrix* v, int m, matrixInt* k, double value) { return V_SumIf(v, m, k, value); });
+            ofInts([](matrix* v, int m, matrixInt* k, double value) { return V_MaxIf(v, m, k, value); });
+            ofInts([](matrix* v, int m, matrixInt* k, double value) { return V_MinIf(v, m, k, value); });
+        }
+    }
 }
 
 } // namespace

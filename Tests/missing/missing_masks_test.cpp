@@ -311,6 +311,24 @@ short missingOffDiagonalOfTriangle(int n, const std::vector<double>& cells)
     return answer;
 }
 
+/// The last column lies beyond the table: its cells are present.
+TEST(MissingOffDiagonal, ReadsMinusOneBeyondTheTable)
+{
+    constexpr int n = 4;
+    int found = 0;
+    for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+        RandomData data(seed);
+        SCOPED_TRACE(data);
+        std::vector<double> cells = data.withMissing(data.normals(n * (n - 1)), 0.4);
+        const short narrow = M_IsMissingOutOfDiagonalAndNotOnDiags(table(n, n - 1, cells), n);
+        cells.insert(cells.end(), n, -1.0);
+        EXPECT_EQ(narrow, missingOffDiagonal(n, cells));
+        found += narrow != 0 ? 1 : 0;
+    }
+    EXPECT_GT(found, 10);
+    EXPECT_LT(found, 90);
+}
+
 TEST(MissingOffDiagonal, NeedsBothDiagonalCells)
 {
     // By columns: (1,1), (2,1), (1,2), (2,2).
