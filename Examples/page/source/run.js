@@ -33,7 +33,10 @@ export class Run {
     });
     this.opened = Promise.all([compiledModule(), file]).then(
       ([module, content]) => this.#post({ task: "open", compiled: module, file: content, name }),
-      (error) => this.#receive({ kind: "failed", message: error.message }, take),
+      (error) => {
+        this.#receive({ kind: "failed", message: error.message }, take);
+        this.stop(); // what is asked for later would fail, too
+      },
     );
   }
 

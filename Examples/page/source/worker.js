@@ -9,6 +9,7 @@ const report = "/report"; // of text and data
 
 let module;
 let opened; // the file's name
+let isOpen = false;
 
 function post(kind, content = {}, transferred = []) {
   self.postMessage({ kind, ...content }, transferred);
@@ -27,6 +28,7 @@ const tasks = {
     FS.mkdir(directory);
     FS.mount(WORKERFS, { blobs: [{ name: opened.replace(/^\.\//, ""), data: file }] }, directory);
     FS.chdir(directory); // messages name the file without it
+    isOpen = true;
   },
 
   look({ words }) {
@@ -71,6 +73,6 @@ let last = Promise.resolve(); // tasks wait for each other
 
 self.addEventListener("message", ({ data }) => {
   last = last
-    .then(() => tasks[data.task](data))
+    .then(() => (isOpen || data.task === "open" ? tasks[data.task](data) : undefined)) // else what failed has been told
     .catch((error) => post("failed", { message: `the survey ended unexpectedly (${error.message ?? error})` }));
 });

@@ -197,6 +197,7 @@ describe("the page", () => {
     await other.route("**/penguins.csv", (route) => route.fulfill({ status: 404 }));
     await other.locator("#penguins").click();
     assert.equal(await ended(other), false);
+    await other.waitForTimeout(300); // nothing comes after it
     assert.equal(await problem(other), "penguins.csv can't be loaded (404)");
     await other.context().close();
   });
