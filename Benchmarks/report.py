@@ -289,13 +289,18 @@ def record(page, tables, place=RECORDED):
     page.write_text(text, encoding="utf-8")
 
 
-def main():
+def given_arguments():
+    """[--record PAGE.md] RESULT.md FOLDER NOTE..."""
     parser = argparse.ArgumentParser(allow_abbrev=False)
     parser.add_argument("--record", type=Path)
     parser.add_argument("output", type=Path)
     parser.add_argument("folder", type=Path)
     parser.add_argument("notes", nargs="*")
-    arguments = parser.parse_args()
+    return parser.parse_args()
+
+
+def main():
+    arguments = given_arguments()
 
     results = Results(arguments.folder)
     text = [f"Machine: {machine()}; {date.today()}.", "", *(f"- {note}" for note in arguments.notes), ""]

@@ -5,6 +5,8 @@
 #include "contest.h"
 #include "texts.h"
 
+#include "calls/column_descriptor.h"
+
 #include "frame/super_matrices.h"
 #include "matrix.h"
 #include "matrixInt.h"
@@ -67,10 +69,11 @@ public:
     StringColumns(wchar_t** texts, int rows, int cols) : elements_(count(cols)), inner_(count(cols))
     {
         for (int j = 0; j < cols; ++j) {
-            inner_[count(j)] = described(texts + static_cast<std::ptrdiff_t>(rows) * j, sizeof(wchar_t*), rows);
+            inner_[count(j)] =
+                binding::columnDescriptor(texts + static_cast<std::ptrdiff_t>(rows) * j, count(rows), sizeof(wchar_t*));
             elements_[count(j)] = {nullptr, &inner_[count(j)]};
         }
-        outer_ = described(elements_.data(), sizeof(SAFEARRAYColumn), cols);
+        outer_ = binding::columnDescriptor(elements_.data(), count(cols), sizeof(SAFEARRAYColumn));
     }
     StringColumns(const StringColumns&) = delete;
     StringColumns& operator=(const StringColumns&) = delete;
@@ -78,16 +81,6 @@ public:
     operator SAFEARRAY**() { return &address_; }
 
 private:
-    static SAFEARRAY described(void* cells, std::size_t size, int n)
-    {
-        SAFEARRAY array{};
-        array.cDims = 1;
-        array.cbElements = static_cast<std::uint32_t>(size);
-        array.pvData = cells;
-        array.rgsabound[0].cElements = static_cast<std::uint32_t>(n);
-        return array;
-    }
-
     std::vector<SAFEARRAYColumn> elements_;
     std::vector<SAFEARRAY> inner_;
     SAFEARRAY outer_;

@@ -33,6 +33,21 @@ void sampleColumns(TextData& d, Draw draw)
     out.save();
 }
 
+/// A design that draws in one series: its flat form, and the function over tables. Their arguments are alike.
+template <class Flat, class OverTable>
+TextForm drawnForm(const char* name, Flat flat, OverTable overTable)
+{
+    return {name,
+            [flat](TextData& d) {
+                flat(d.x.data(), d.rows, p, d.rows / 2, d.out.data(), d.ids.data(), &d.seed, fromSeed, &d.seedOut);
+            },
+            [overTable](TextData& d) {
+                sampleTable(d, [&](Smatrix* x, Smatrix* out, matrix* ids) {
+                    overTable(x, d.rows, p, d.rows / 2, out, ids, &d.seed, fromSeed, &d.seedOut);
+                });
+            }};
+}
+
 /// Each row's stratum, and how large each is and how much of it is drawn.
 struct Strata
 {
@@ -67,16 +82,7 @@ std::vector<TextForm> formsThatSample()
          [](D d) {
              changeTable(d, d.rows, p, [&](Smatrix* x) { M_Shuffle2(x, d.rows, p, d.seed, fromSeed, d.seedOut); });
          }},
-        {"VB_M_SamplingWithReplacement",
-         [](D d) {
-             VB_M_SamplingWithReplacement(d.x.data(), d.rows, p, d.rows / 2, d.out.data(), d.ids.data(), &d.seed,
-                                          fromSeed, &d.seedOut);
-         },
-         [](D d) {
-             sampleTable(d, [&](Smatrix* x, Smatrix* out, matrix* ids) {
-                 M_SamplingWithReplacement(x, d.rows, p, d.rows / 2, out, ids, &d.seed, fromSeed, &d.seedOut);
-             });
-         }},
+        drawnForm("VB_M_SamplingWithReplacement", VB_M_SamplingWithReplacement, M_SamplingWithReplacement),
         {"VB_M_SamplingWithReplacementSPV",
          [](D d) {
              StringColumns x(d.x.data(), d.rows, p), out(d.out.data(), d.rows / 2, p);
@@ -88,16 +94,7 @@ std::vector<TextForm> formsThatSample()
                  M_SamplingWithReplacementSPV(x, d.rows, p, d.rows / 2, out, ids, &d.seed, fromSeed, &d.seedOut);
              });
          }},
-        {"VB_M_SamplingSystematicRdStart",
-         [](D d) {
-             VB_M_SamplingSystematicRdStart(d.x.data(), d.rows, p, d.rows / 2, d.out.data(), d.ids.data(), &d.seed,
-                                            fromSeed, &d.seedOut);
-         },
-         [](D d) {
-             sampleTable(d, [&](Smatrix* x, Smatrix* out, matrix* ids) {
-                 M_SamplingSystematicRdStart(x, d.rows, p, d.rows / 2, out, ids, &d.seed, fromSeed, &d.seedOut);
-             });
-         }},
+        drawnForm("VB_M_SamplingSystematicRdStart", VB_M_SamplingSystematicRdStart, M_SamplingSystematicRdStart),
         {"VB_M_SamplingSystematicCentered",
          [](D d) { VB_M_SamplingSystematicCentered(d.x.data(), d.rows, p, d.rows / 2, d.out.data(), d.ids.data()); },
          [](D d) {
@@ -105,16 +102,7 @@ std::vector<TextForm> formsThatSample()
                  M_SamplingSystematicCentered(x, d.rows, p, d.rows / 2, out, ids);
              });
          }},
-        {"VB_M_SamplingRandomStratified",
-         [](D d) {
-             VB_M_SamplingRandomStratified(d.x.data(), d.rows, p, d.rows / 2, d.out.data(), d.ids.data(), &d.seed,
-                                           fromSeed, &d.seedOut);
-         },
-         [](D d) {
-             sampleTable(d, [&](Smatrix* x, Smatrix* out, matrix* ids) {
-                 M_SamplingRandomStratified(x, d.rows, p, d.rows / 2, out, ids, &d.seed, fromSeed, &d.seedOut);
-             });
-         }},
+        drawnForm("VB_M_SamplingRandomStratified", VB_M_SamplingRandomStratified, M_SamplingRandomStratified),
         {"Cpp_M_SamplingRandomStratifiedByStr",
          [](D d) {
              Strata strata(d);

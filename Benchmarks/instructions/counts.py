@@ -7,7 +7,6 @@ with 1 where a result is not what it should be, or where the counter has miscoun
 place of those between the two comments in PAGE.md.
 """
 
-import argparse
 import re
 import sys
 from collections import defaultdict
@@ -83,12 +82,7 @@ def small_table(table):
 
 
 def main():
-    parser = argparse.ArgumentParser(allow_abbrev=False)
-    parser.add_argument("--record", type=Path)
-    parser.add_argument("output", type=Path)
-    parser.add_argument("folder", type=Path)
-    parser.add_argument("notes", nargs="*")
-    arguments = parser.parse_args()
+    arguments = report.given_arguments()
 
     table, faults = without_frame(report.rows_of(arguments.folder / "runs.csv"),
                                   report.rows_of(arguments.folder / "counts.csv"))

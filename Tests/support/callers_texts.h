@@ -1,8 +1,11 @@
 // A caller's texts at their worst.
 #pragma once
 
+#include "Smatrix.h"
 #include "support/random_data.h"
 #include "support/strings.h"
+
+#include <gtest/gtest.h>
 
 #include <cstddef>
 #include <string>
@@ -41,5 +44,24 @@ struct Caller
         return texts;
     }
 };
+
+/// The array holds the texts of the table, each of them a new one.
+inline void expectTexts(const BstrArray& actual, const Smatrix& expected)
+{
+    ASSERT_EQ(actual.texts(), std::vector<std::wstring>(expected.X, expected.X + expected.nElems));
+    ASSERT_EQ(actual.countNew(), actual.size());
+}
+
+/// `flat(array)` over the caller's own array against `overTable(table)`.
+template <class Case, class Flat, class OverTable>
+void expectInPlace(Case& texts, Flat flat, OverTable overTable)
+{
+    const auto table = texts.table();
+    Smatrix* expected = table.get();
+    overTable(expected);
+    flat(texts.bstrs.get());
+    expectTexts(texts.bstrs, *expected);
+    texts.bstrs.takeTexts();
+}
 
 } // namespace vecmat::test

@@ -59,26 +59,7 @@ void forRandomTexts(Body body)
     }
 }
 
-/// The array holds the texts of the table, each of them a new one.
-void expectTexts(const BstrArray& actual, const Smatrix& expected)
-{
-    ASSERT_EQ(actual.texts(), Texts(expected.X, expected.X + expected.nElems));
-    ASSERT_EQ(actual.countNew(), actual.size());
-}
-
-/// The same over the caller's own array: `flat(array)` against `overTable(table)`.
-template <class Flat, class OverTable>
-void expectInPlace(Case& texts, Flat flat, OverTable overTable)
-{
-    const auto table = texts.table();
-    Smatrix* expected = table.get();
-    overTable(expected);
-    flat(texts.bstrs.get());
-    expectTexts(texts.bstrs, *expected);
-    texts.bstrs.takeTexts();
-}
-
-/// And into another: `flat(array, out)` against `overTable(table, result)`, a table of `rows` by `cols`.
+/// `flat(array, out)` against `overTable(table, result)`, a table of `rows` by `cols`.
 template <class Flat, class OverTable>
 void expectResult(Case& texts, int rows, int cols, Flat flat, OverTable overTable)
 {
@@ -237,28 +218,20 @@ TEST(BorrowedTexts, AreTakenInIntervalsAndByCounts)
                 [&](Smatrix* x, Smatrix* out) { overTable(x, out, &ids); });
             EXPECT_THAT(flatIds, SameBits(Cells(ids.X, ids.X + n)));
         };
-        int seed = start;
-        int again = start;
-        expectSample(
-            drawn,
-            [&](auto x, auto out, double* ids) {
-                VB_M_SamplingSystematicRdStart(x, n, p, drawn, out, ids, &seed, fromSeed, &next);
-            },
-            [&](Smatrix* x, Smatrix* out, matrix* ids) {
-                M_SamplingSystematicRdStart(x, n, p, drawn, out, ids, &again, fromSeed, &next);
-            });
+        const auto expectSeries = [&](auto flat, auto overTable) {
+            int seed = start;
+            int again = start;
+            expectSample(
+                drawn, [&](auto x, auto out, double* ids) { flat(x, n, p, drawn, out, ids, &seed, fromSeed, &next); },
+                [&](Smatrix* x, Smatrix* out, matrix* ids) {
+                    overTable(x, n, p, drawn, out, ids, &again, fromSeed, &next);
+                });
+        };
+        expectSeries(VB_M_SamplingSystematicRdStart, M_SamplingSystematicRdStart);
+        expectSeries(VB_M_SamplingRandomStratified, M_SamplingRandomStratified);
         expectSample(
             drawn, [&](auto x, auto out, double* ids) { VB_M_SamplingSystematicCentered(x, n, p, drawn, out, ids); },
             [&](Smatrix* x, Smatrix* out, matrix* ids) { M_SamplingSystematicCentered(x, n, p, drawn, out, ids); });
-        seed = again = start;
-        expectSample(
-            drawn,
-            [&](auto x, auto out, double* ids) {
-                VB_M_SamplingRandomStratified(x, n, p, drawn, out, ids, &seed, fromSeed, &next);
-            },
-            [&](Smatrix* x, Smatrix* out, matrix* ids) {
-                M_SamplingRandomStratified(x, n, p, drawn, out, ids, &again, fromSeed, &next);
-            });
         Cells counts(static_cast<std::size_t>(n), 1.0); // n in all
         counts.front() = 0.0;
         counts.back() = 2.0;

@@ -66,19 +66,6 @@ void forRandomTexts(Body body)
     }
 }
 
-/// `flat(array)` against `overTable(table)`: the same texts, each of them a new one.
-template <class Flat, class OverTable>
-void expectInPlace(Case& texts, Flat flat, OverTable overTable)
-{
-    const auto table = texts.table();
-    Smatrix* expected = table.get();
-    overTable(expected);
-    flat(texts.bstrs.get());
-    ASSERT_EQ(texts.bstrs.texts(), Texts(expected->X, expected->X + expected->nElems));
-    ASSERT_EQ(texts.bstrs.countNew(), texts.bstrs.size());
-    texts.bstrs.takeTexts();
-}
-
 /// Any of the three ways in which callers ask for a direction.
 short drawnDirection(RandomData& data)
 {

@@ -61,7 +61,7 @@ private:
     std::vector<std::size_t> ends_;
 };
 
-/// Sorts the numbers of texts by windows of two characters: those that tie in one go by the next.
+/// Sorts the numbers of texts by windows of two characters; ties are broken by the next window.
 class WindowSort
 {
 public:
@@ -109,8 +109,8 @@ private:
                   [this](const Entry& left, const Entry& right) { return texts_[left.number] < texts_[right.number]; });
     }
 
-    /// Where those texts cease to be alike that have characters from `start` on. The others have ended, and come first
-    /// wherever the window opens.
+    /// The end of what all texts that reach beyond `start` have in common. The others have ended, and come first wherever
+    /// the window opens.
     std::size_t commonEnd(const Entry* first, const Entry* last, std::size_t start) const
     {
         std::wstring_view common;
