@@ -40,7 +40,8 @@ class Results:
     def read_benchmarks(self, file, instruction_set):
         if not file.exists():
             return
-        for entry in json.loads(file.read_text())["benchmarks"]:
+        text = file.read_text()
+        for entry in json.loads(text)["benchmarks"] if text else []:  # there may be no such workload
             workload, contender, size = entry["run_name"].split("/min_time")[0].rsplit("/", 2)[-3:]
             key = (workload, int(size))
             if entry.get("error_occurred"):
